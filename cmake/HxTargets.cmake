@@ -1,0 +1,30 @@
+include(GoogleTest)
+
+option(HX_SANITIZE "Build with the address and undefined-behaviour sanitizers" OFF)
+
+add_library(hx_flags INTERFACE)
+target_include_directories(hx_flags INTERFACE ${CMAKE_SOURCE_DIR}/src)
+target_compile_options(hx_flags INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror)
+if(HX_SANITIZE)
+  target_compile_options(hx_flags INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_link_options(hx_flags INTERFACE -fsanitize=address,undefined)
+endif()
+
+# hx_library(NAME DEPENDS...): the folder's sources as one target that sees only the folders it may use.
+function(hx_library name)
+  cmake_parse_arguments(ARG "" "" "DEPENDS" ${ARGN})
+  file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp ${CMAKE_CURRENT_SOURCE_DIR}/*.h)
+  add_library(${name} STATIC ${sources})
+  set_target_properties(${name} PROPERTIES LINKER_LANGUAGE CXX)
+  target_link_libraries(${name} PUBLIC hx_flags ${ARG_DEPENDS})
+endfunction()
+
+# hx_test(NAME DEPENDS...): every *_test.cpp of the folder as one GoogleTest program, a CTest test for each case.
+function(hx_test name)
+  cmake_parse_arguments(ARG "" "" "DEPENDS" ${ARGN})
+  file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp ${CMAKE_CURRENT_SOURCE_DIR}/*.h)
+  add_executable(${name} ${sources})
+  target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
+  target_link_libraries(${name} PRIVATE hx_flags ${ARG_DEPENDS} GTest::gtest GTest::gmock GTest::gtest_main)
+  gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60)
+endfunction()
