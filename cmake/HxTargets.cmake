@@ -1,6 +1,9 @@
 include(GoogleTest)
 
-option(HX_SANITIZE "Build with the address and undefined-behaviour sanitizers" OFF)
+find_program(HX_CCACHE ccache)
+if(HX_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
+  set(CMAKE_CXX_COMPILER_LAUNCHER ${HX_CCACHE})
+endif()
 
 add_library(hx_flags INTERFACE)
 target_include_directories(hx_flags INTERFACE ${CMAKE_SOURCE_DIR}/src)
@@ -10,7 +13,7 @@ if(HX_SANITIZE)
   target_link_options(hx_flags INTERFACE -fsanitize=address,undefined)
 endif()
 
-# hx_library(NAME DEPENDS...): the folder's sources as one target that sees only the folders it may use.
+# hx_library(NAME [DEPENDS target...]): the folder's sources as one target that sees only the folders it may use.
 function(hx_library name)
   cmake_parse_arguments(ARG "" "" "DEPENDS" ${ARGN})
   file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp ${CMAKE_CURRENT_SOURCE_DIR}/*.h)
@@ -19,12 +22,14 @@ function(hx_library name)
   target_link_libraries(${name} PUBLIC hx_flags ${ARG_DEPENDS})
 endfunction()
 
-# hx_test(NAME DEPENDS...): every *_test.cpp of the folder as one GoogleTest program, a CTest test for each case.
+# hx_test(NAME [DEPENDS target...] [LABELS label...]): the folder's sources as one GoogleTest program, a CTest test for
+# each case. The label "gui" is for programs that need Qt's windows: the sanitizer run leaves them out.
 function(hx_test name)
-  cmake_parse_arguments(ARG "" "" "DEPENDS" ${ARGN})
+  cmake_parse_arguments(ARG "" "" "DEPENDS;LABELS" ${ARGN})
   file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp ${CMAKE_CURRENT_SOURCE_DIR}/*.h)
   add_executable(${name} ${sources})
   target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
   target_link_libraries(${name} PRIVATE hx_flags ${ARG_DEPENDS} GTest::gtest GTest::gmock GTest::gtest_main)
-  gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60)
+  string(REPLACE ";" "\\;" labels "${ARG_LABELS}")
+  gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60 PROPERTIES LABELS "${labels}" TIMEOUT 300)
 endfunction()
