@@ -1,0 +1,82 @@
+#include "layers/layer_rules.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace hx::layers {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+TEST(LayerRules, AFolderIncludesItselfAndTheFoldersBelowIt) {
+    EXPECT_THAT(wrongIncludes("recipe/schema.cpp", "#include \"recipe/schema.h\"\n#include \"ado/recordset.h\"\n"),
+                IsEmpty());
+}
+
+TEST(LayerRules, AFolderThatIncludesALaterOneIsNamedWithFileAndLine) {
+    EXPECT_THAT(wrongIncludes("recipe/schema.cpp", "#include <string>\n\n#include \"editor/frmtabgrid.h\"\n"),
+                ElementsAre("recipe/schema.cpp:3: includes editor/frmtabgrid.h: recipe may not include editor"));
+}
+
+TEST(LayerRules, AngleBracketsDoNotHideALaterFolder) {
+    EXPECT_THAT(wrongIncludes("ado/field.h", "#include <forms/form.h>\n"),
+                ElementsAre("ado/field.h:1: includes forms/form.h: ado may not include forms"));
+}
+
+TEST(LayerRules, TheEditorsFoldersStandOnTheStandardLibraryAlone) {
+    EXPECT_THAT(wrongIncludes("forms/grid.cpp",
+                              "#include <QString>\n#include <vector>\n#include <windows.h>\n#include <string.h>\n"),
+                ElementsAre("forms/grid.cpp:1: includes QString: forms stands on the standard library alone",
+                            "forms/grid.cpp:3: includes windows.h: forms stands on the standard library alone",
+                            "forms/grid.cpp:4: includes string.h: forms stands on the standard library alone"));
+}
+
+TEST(LayerRules, AnAdapterIncludesWhatIsInstalledAndTheContracts) {
+    EXPECT_THAT(
+        wrongIncludes("adapters/qt/grid_view.cpp",
+                      "#include <QTableView>\n#include \"adapters/qt/grid_view.h\"\n#include \"forms/grid.h\"\n"),
+        IsEmpty());
+}
+
+TEST(LayerRules, NoAdapterIncludesAnother) {
+    EXPECT_THAT(
+        wrongIncludes("adapters/qt/screen.cpp", "#include \"adapters/headless/screen.h\"\n"),
+        ElementsAre("adapters/qt/screen.cpp:1: includes adapters/headless/screen.h: adapters/qt may not include "
+                    "adapters/headless"));
+}
+
+TEST(LayerRules, NothingIncludesAProgram) {
+    EXPECT_THAT(
+        wrongIncludes("adapters/sqlite/rowset.cpp", "#include \"cli/progress.h\"\n"),
+        ElementsAre("adapters/sqlite/rowset.cpp:1: includes cli/progress.h: adapters/sqlite may not include cli"));
+}
+
+TEST(LayerRules, AProgramIncludesAnything) {
+    EXPECT_THAT(wrongIncludes(
+                    "cli/main.cpp",
+                    "#include <CLI/CLI.hpp>\n#include \"adapters/sqlite/provider.h\"\n#include \"addin/connect.h\"\n"),
+                IsEmpty());
+}
+
+TEST(LayerRules, AHeaderOfTheTreeIsNamedByItsFolder) {
+    EXPECT_THAT(
+        wrongIncludes("ado/field.cpp", "#include \"field.h\"\n"),
+        ElementsAre(
+            "ado/field.cpp:1: includes field.h: the path of a header of this tree begins with its folder below src"));
+}
+
+TEST(LayerRules, AFolderWithoutAPlaceIsAFinding) {
+    EXPECT_THAT(wrongIncludes("misc/tools.cpp", ""),
+                ElementsAre("misc/tools.cpp:1: this folder has no place in the layers"));
+}
+
+TEST(LayerRules, FourHundredLinesAreAllowedAndOneMoreIsNot) {
+    const std::string lines(400, '\n');
+    EXPECT_THAT(tooManyLines("ado/field.cpp", lines), IsEmpty());
+    EXPECT_THAT(tooManyLines("ado/field.cpp", lines + "x"),
+                ElementsAre("ado/field.cpp:401: 401 lines, 400 are allowed"));
+}
+
+}  // namespace
+}  // namespace hx::layers
