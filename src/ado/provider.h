@@ -1,0 +1,91 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <deque>
+#include <memory>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "ado/key_set.h"
+#include "ado/types.h"
+#include "automation/variant.h"
+
+/// What a database offers below ADO. Everything throws automation::Error with the provider's HRESULT number
+/// (types.h) and a description that says what and where. One thread.
+namespace hx::ado {
+
+/// One column of a rowset, as the database reports it.
+struct Column {
+    std::string name;
+    DataType type = adEmpty;
+    std::int32_t definedSize = 0;  ///< characters for text, bytes otherwise
+    bool isKey = false;            ///< the integer that identifies a row and is assigned by the database
+    bool updatable = true;         ///< false for the key and for computed columns
+};
+
+/// A set of column numbers of one rowset, as bits. Rowsets have at most 64 columns that can be told apart; a
+/// column from number 63 on is covered by bit 63.
+using ColumnMask = std::uint64_t;
+[[nodiscard]] constexpr ColumnMask columnBit(std::size_t column) noexcept {
+    return ColumnMask{1} << (column < 63 ? column : 63);
+}
+
+/// A value for one column, by number.
+struct ColumnValue {
+    std::size_t column;
+    automation::Variant value;
+};
+
+/// Receives the rows that Rowset::read finds.
+class RowSink {
+  public:
+    virtual ~RowSink() = default;
+    /// `values` has one entry a column; entries outside the mask are empty. The sink may move them out.
+    /// `index` is the position of the key in the keys that were asked for; indices come in any order.
+    virtual void row(std::size_t index, std::span<automation::Variant> values) = 0;
+};
+
+/// An opened command that returns rows. Rows are identified by key; it holds no row.
+class Rowset {
+  public:
+    virtual ~Rowset() = default;
+    [[nodiscard]] virtual const std::vector<Column>& columns() const = 0;
+
+    /// The keys of all rows in the order of the command, restricted to `criterion` (a condition of ADO's Filter
+    /// syntax translated by criterion.h; empty for none). Runs the command afresh at each call.
+    [[nodiscard]] virtual KeySet keys(std::string_view criterion) = 0;
+
+    /// Reads the rows with these keys, only the columns of the mask. A key without a row is left out silently.
+    virtual void read(std::span<const Key> keys, ColumnMask mask, RowSink& sink) = 0;
+
+    // Each is durable when it returns, unless a transaction is open. A refused duplicate is dbErrDuplicate; a row
+    // that is gone is dbErrDeletedRow. Columns that are not named keep their value, or get the table's default.
+    virtual Key insert(std::span<const ColumnValue> values) = 0;
+    virtual void update(Key key, std::span<const ColumnValue> values) = 0;
+    virtual void remove(Key key) = 0;
+};
+
+/// An open connection to one database.
+class Session {
+  public:
+    virtual ~Session() = default;
+    /// Opens a table (adCmdTable, adCmdTableDirect) or a SELECT in Jet SQL. Null when the command returns no rows
+    /// (DELETE, UPDATE, INSERT): it has then been carried out, durably.
+    [[nodiscard]] virtual std::unique_ptr<Rowset> open(std::string_view command, CommandType type) = 0;
+    virtual void beginTransaction() = 0;
+    virtual void commit() = 0;
+    virtual void rollback() = 0;
+};
+
+/// A kind of database.
+class Provider {
+  public:
+    virtual ~Provider() = default;
+    /// Opens the database of an ADO connection string ("Provider=...;Data Source=...;Mode=..."). Never creates it.
+    [[nodiscard]] virtual std::unique_ptr<Session> connect(std::string_view connectionString) = 0;
+};
+
+}  // namespace hx::ado

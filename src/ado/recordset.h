@@ -1,0 +1,109 @@
+#pragma once
+
+#include <memory>
+#include <span>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "ado/bookmark.h"
+#include "ado/connection.h"
+#include "ado/field.h"
+
+namespace hx::ado {
+
+class Keyset;  // the shared keys and page cache of a recordset and its clones
+
+/// ADO's Recordset as a keyset cursor: it knows the keys of its rows (read when first needed) and reads pages of
+/// rows when asked; it never holds all rows. Writes wait in one row buffer until update(). Leaving an edited
+/// row (move, find, requery, clone positions excepted) writes it, as ADO does; closing with a pending edit is
+/// adErrIllegalOperation. Moving past a row that somebody deleted skips it.
+class Recordset : public automation::Dispatch {
+  public:
+    Recordset();
+    ~Recordset() override;
+
+    // --- source: preset before open, kept after close
+    [[nodiscard]] const std::string& source() const noexcept { return source_; }
+    void setSource(std::string source);  ///< adErrObjectOpen while open
+    void setActiveConnection(std::shared_ptr<Connection> connection);
+    [[nodiscard]] const std::shared_ptr<Connection>& activeConnection() const noexcept { return connection_; }
+    void setCommandType(CommandType type) { commandType_ = type; }
+
+    // --- state
+    /// Opens the preset source on the preset connection and stands on the first row. A source that returns no
+    /// rows (DELETE ...) is carried out and leaves the recordset closed.
+    void open();
+    /// Presets the source, then opens. adCmdUnknown: a text that begins with SELECT, DELETE, ... is SQL, else a table.
+    void open(const std::string& source, std::shared_ptr<Connection> connection = nullptr,
+              CursorType cursor = adOpenKeyset, LockType lock = adLockOptimistic, CommandType type = adCmdUnknown);
+    void close();
+    void requery();  ///< runs the source again; first row
+    [[nodiscard]] ObjectState state() const noexcept;
+
+    // --- position
+    [[nodiscard]] bool bof() const;
+    [[nodiscard]] bool eof() const;
+    /// Exact number of rows under the filter.
+    [[nodiscard]] std::int32_t recordCount() const;
+    void moveFirst();
+    void moveLast();
+    void moveNext();      ///< adErrNoCurrentRecord at EOF
+    void movePrevious();  ///< adErrNoCurrentRecord at BOF
+    /// 1-based number of the current row; -1 when there is none.
+    [[nodiscard]] std::int32_t absolutePosition() const;
+    void setAbsolutePosition(std::int32_t position);
+    /// Null bookmark at BOF, EOF or on a new row that has not been stored.
+    [[nodiscard]] Bookmark bookmark() const;
+    void setBookmark(const Bookmark& bookmark);  ///< adErrInvalidArgument when the row is not in the recordset
+    /// Searches for one comparison ("Name='x'", "ID=7", operators = <> < > <= >= LIKE) from the current row on,
+    /// without it when skip is 1; EOF (BOF backwards) when nothing matches. Text compares ignoring case, a
+    /// doubled quote inside quotes is one; bad quotes or an unknown column are adErrInvalidArgument.
+    void find(const std::string& criterion, std::int32_t skip = 0, SearchDirection direction = adSearchForward);
+    /// A condition with comparisons joined by AND and OR, or "" for none; first matching row becomes current.
+    void setFilter(const std::string& filter);
+    [[nodiscard]] const std::string& filter() const noexcept { return filter_; }
+
+    // --- rows
+    [[nodiscard]] std::size_t fieldCount() const;
+    /// By name ignoring case or by number from 0; adErrItemNotFound. adErrObjectClosed while closed.
+    [[nodiscard]] Field& field(std::string_view name);
+    [[nodiscard]] Field& field(std::size_t index);
+    [[nodiscard]] automation::ObjectRef fields(const automation::Variant& nameOrIndex);
+    [[nodiscard]] const std::vector<Column>& columns() const;
+
+    // --- edits
+    [[nodiscard]] EditMode editMode() const noexcept;
+    void addNew();  ///< an empty row to be filled and stored by update()
+    /// Stores one row at once; it becomes current.
+    void addNew(std::span<const std::pair<std::string, automation::Variant>> values);
+    void update();
+    void cancelUpdate();
+    void remove();  ///< ADO's Delete: the current row; it stays "current but deleted" until a move
+    /// Reads the current row, or all rows, again; a pending edit is dropped for the affected rows.
+    void resync(Affect affect = adAffectAll);
+
+    /// A second cursor over the same rows; bookmarks serve both. It stands on the first row.
+    [[nodiscard]] std::shared_ptr<Recordset> clone() const;
+
+    // --- reading by position without moving, for views
+    /// The bookmark of row `index` (0-based), null beyond the end.
+    [[nodiscard]] Bookmark bookmarkAt(std::size_t index) const;
+    /// 0-based row of a bookmark, -1 when it is not in the recordset.
+    [[nodiscard]] std::ptrdiff_t indexOf(const Bookmark& bookmark) const;
+    /// Stored value of a column in row `index`; Null when the row has been deleted by somebody else.
+    [[nodiscard]] automation::Variant valueAt(std::size_t index, std::size_t column) const;
+
+    [[nodiscard]] const automation::MemberTable& members() const override;
+
+  private:
+    friend class Field;
+    // Private part is the implementer's.
+    std::string source_;
+    std::string filter_;
+    std::shared_ptr<Connection> connection_;
+    CommandType commandType_ = adCmdUnknown;
+};
+
+}  // namespace hx::ado

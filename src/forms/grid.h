@@ -1,0 +1,171 @@
+#pragma once
+
+#include <cstddef>
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "ado/recordset.h"
+#include "forms/control.h"
+#include "forms/grid_column.h"
+
+namespace hx::forms {
+
+/// What lies under a point of the grid.
+enum class GridHit : std::int16_t {
+    nowhere = 0,
+    caption = 1,
+    recordSelector = 2,
+    columnHeader = 3,
+    cell = 4,
+    splitBar = 5
+};
+
+/// Which rows a user can select.
+enum class MultiSelect : std::int16_t { none = 0, simple = 1, extended = 2 };
+
+/// The bookmarks of the selected rows, in the order of selection, each once.
+class SelectedRows : public automation::Dispatch {
+  public:
+    [[nodiscard]] std::int32_t count() const noexcept { return static_cast<std::int32_t>(bookmarks_.size()); }
+    [[nodiscard]] const std::vector<ado::Bookmark>& bookmarks() const noexcept { return bookmarks_; }
+    [[nodiscard]] bool contains(const ado::Bookmark& bookmark) const;
+    void add(const ado::Bookmark& bookmark);  ///< a null bookmark is ignored
+    void remove(const ado::Bookmark& bookmark);
+    void set(std::vector<ado::Bookmark> bookmarks);
+    void clear();
+    Event<> changed;
+    [[nodiscard]] const automation::MemberTable& members() const override;
+
+  private:
+    std::vector<ado::Bookmark> bookmarks_;
+};
+
+/// An error that the grid reports. A handler sets `response` to 0 when the grid shall show no message of its own.
+struct GridError {
+    std::int32_t code = 0;
+    std::string description;
+    std::int16_t response = 1;
+};
+
+/// Codes of GridError and of the Error that Grid::update throws.
+inline constexpr std::int32_t gridErrStaleRow = 32;      ///< the row was deleted or is unreachable
+inline constexpr std::int32_t gridErrBadValue = 13;      ///< the typed text does not fit the column
+inline constexpr std::int32_t gridErrRowRefused = 6160;  ///< the database refused the row's values
+
+/// A grid bound to a recordset. It is virtual: rows are read when they are shown. The current row of the grid and of
+/// the recordset are the same; rows and columns count from 0 in recordset and column order (not display order).
+///
+/// Editing: typed text waits in the recordset's row buffer (dataChanged). Leaving the row raises leavingRowEvent;
+/// without a handler the grid calls update() and reports an error by reportError. A row that cannot be left stays
+/// current.
+class Grid : public Control {
+  public:
+    explicit Grid(std::string name);
+    ~Grid() override;
+
+    // --- data
+    void setDataSource(std::shared_ptr<ado::Recordset> recordset);  ///< does not touch the columns; reload() follows
+    [[nodiscard]] const std::shared_ptr<ado::Recordset>& dataSource() const noexcept { return recordset_; }
+    [[nodiscard]] const std::string& dataMember() const noexcept { return dataMember_; }
+    void setDataMember(const std::string& member) { dataMember_ = member; }
+    /// Shows the rows of the reopened recordset: drops selection, pending text and add-new mode; current row is the
+    /// recordset's.
+    void reload();
+    void refetchRow();                            ///< reads the current row again
+    void refetch();                               ///< reads the rows in view again; selection and current row stay
+    [[nodiscard]] std::int32_t rowCount() const;  ///< 0 without an open recordset
+    [[nodiscard]] std::string text(std::int32_t row, std::int32_t column) const;  ///< as shown, pending text included
+    [[nodiscard]] automation::Variant value(std::int32_t row, std::int32_t column) const;
+
+    // --- columns
+    [[nodiscard]] const std::vector<std::shared_ptr<Column>>& columns() const noexcept { return columns_; }
+    [[nodiscard]] Column& column(const automation::Variant& fieldOrNumber) const;  ///< errBadIndex
+    [[nodiscard]] Column* findColumn(std::string_view dataField) const;
+    Column& addColumn(const std::string& dataField);  ///< order = its number
+    void clearColumns();
+    [[nodiscard]] std::vector<Column*> columnsInDisplayOrder()
+        const;                                             ///< by order, ties in list order; hidden ones too
+    [[nodiscard]] Split& split(std::int32_t index) const;  ///< errBadIndex; there are two
+
+    // --- current cell
+    [[nodiscard]] std::int32_t row() const;  ///< -1 at BOF, EOF, on a new row, or without rows
+    /// Leaves the current row (which may refuse) and moves; true when the row is current now. errBadIndex outside.
+    bool setRow(std::int32_t row);
+    [[nodiscard]] std::int32_t col() const noexcept { return col_; }
+    void setCol(std::int32_t column);              ///< errBadIndex
+    [[nodiscard]] ado::Bookmark bookmark() const;  ///< of the current row; null when there is none
+    [[nodiscard]] bool atBofOrEof() const;
+
+    // --- selection
+    [[nodiscard]] SelectedRows& selectedRows() noexcept { return *selectedRows_; }
+    [[nodiscard]] MultiSelect multiSelect() const noexcept { return multiSelect_; }
+    void setMultiSelect(MultiSelect mode) { assign(multiSelect_, mode, "MultiSelect"); }
+
+    // --- editing
+    [[nodiscard]] bool allowUpdate() const noexcept { return allowUpdate_; }
+    void setAllowUpdate(bool allow) { assign(allowUpdate_, allow, "AllowUpdate"); }
+    [[nodiscard]] bool allowAddNew() const noexcept { return allowAddNew_; }
+    void setAllowAddNew(bool allow) { assign(allowAddNew_, allow, "AllowAddNew"); }
+    [[nodiscard]] bool addNewMode() const noexcept { return addNewMode_; }
+    void setAddNewMode(bool on);  ///< on: a new row that update() stores
+    [[nodiscard]] bool editable(std::int32_t column) const;
+    /// Puts text into a cell of the row, which becomes current, and marks the row as changed. Text that does not fit
+    /// the column's type is reported as gridErrBadValue and changes nothing. A locked column throws errMemberNotFound.
+    void setText(std::int32_t row, std::int32_t column, const std::string& text);
+    [[nodiscard]] bool dataChanged() const noexcept { return dataChanged_; }
+    void setDataChanged(bool changed);
+    /// Writes the current row. Throws gridErrRowRefused when the database refused its values (dbErrDuplicate,
+    /// dbErrCannotConvert), gridErrStaleRow when the row is gone, any other failure as the provider reports it. The
+    /// edit then stays pending.
+    void update();
+    void cancelUpdate();  ///< drops the pending row; the stored values show again
+    /// Raises errorEvent; when its response stays 1, shows "code: description" in a message box of the form's screen.
+    void reportError(std::int32_t code, const std::string& description);
+
+    // --- sorting: the text is appended to ORDER BY
+    [[nodiscard]] const std::string& sortText() const noexcept { return sortText_; }
+    void setSortText(const std::string& text) { assign(sortText_, text, "SortText"); }
+    /// The user's click on a column's header: the sort text becomes its field, then field + " DESC", then empty; raises
+    /// headClickEvent.
+    void headClick(std::int32_t column);
+
+    // --- what a view reports
+    void buttonClick(std::int32_t row, std::int32_t column);  ///< makes the cell current, then raises buttonClickEvent
+    /// The cell editor's text and caret while it is open, so that key handlers can ask; closed by editorClosed.
+    void editorReported(const std::string& text, std::int32_t caret);
+    void editorClosed();
+    [[nodiscard]] bool editorOpen() const noexcept { return editorOpen_; }
+    /// Whether the caret stands behind the last character of the current cell's text (an unopened editor counts as
+    /// behind).
+    [[nodiscard]] bool caretAtEnd() const;
+    void columnResized(std::int32_t column, double twips);         ///< by the user, where AllowSizing
+    void columnMoved(std::int32_t column, std::int16_t newOrder);  ///< by the user; the others close up
+    [[nodiscard]] GridHit hitTest(double x, double y) const;
+    void setHitTester(std::function<GridHit(double, double)> tester) { hitTester_ = std::move(tester); }
+
+    // --- events
+    Event<> rowsChanged;             ///< row set or contents are new: read everything in view again
+    Event<std::int32_t> rowChanged;  ///< contents of one row are new
+    Event<> columnsChanged;          ///< columns were added, removed or reordered
+    Event<> currentCellChanged;
+    Event<bool&> leavingRowEvent;  ///< the current row has changed data; set true to stay
+    Event<GridError&> errorEvent;
+    Event<std::int32_t> headClickEvent, buttonClickEvent;  ///< column number
+
+    [[nodiscard]] const automation::MemberTable& members() const override;
+
+  private:
+    std::shared_ptr<ado::Recordset> recordset_;
+    std::string dataMember_, sortText_, editorText_;
+    std::vector<std::shared_ptr<Column>> columns_;
+    std::vector<std::shared_ptr<Split>> splits_;
+    std::shared_ptr<SelectedRows> selectedRows_;
+    std::function<GridHit(double, double)> hitTester_;
+    std::int32_t col_ = 0, editorCaret_ = 0;
+    MultiSelect multiSelect_ = MultiSelect::simple;
+    bool allowUpdate_ = true, allowAddNew_ = false, addNewMode_ = false, dataChanged_ = false, editorOpen_ = false;
+};
+
+}  // namespace hx::forms
