@@ -1,0 +1,54 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "host/project_explorer.h"
+#include "host/services.h"
+#include "recipe/hierarchy.h"
+#include "resources/help.h"
+#include "resources/resource_table.h"
+
+namespace hx::editor {
+
+/// True while the editor shows a message box or a selection of its own: the window's activation then does nothing.
+class BusyFlag {
+  public:
+    [[nodiscard]] bool isSet() const noexcept { return set_; }
+    void set(bool busy) noexcept { set_ = busy; }
+
+  private:
+    bool set_ = false;
+};
+
+/// Sets the flag while it lives.
+class Busy {
+  public:
+    explicit Busy(BusyFlag& flag) : flag_(flag) { flag_.set(true); }
+    ~Busy() { flag_.set(false); }
+    Busy(const Busy&) = delete;
+    Busy& operator=(const Busy&) = delete;
+
+  private:
+    BusyFlag& flag_;
+};
+
+/// What the editor window needs of the add-in that created it.
+class AddIn {
+  public:
+    virtual ~AddIn() = default;
+    /// Closes and reopens the editor with its connection and nodes. The calling window ends with it.
+    virtual void RefreshView() = 0;
+    /// Null before Initialize and after Terminate.
+    [[nodiscard]] virtual host::ProjectExplorer* explorer() const = 0;
+    [[nodiscard]] virtual const host::Services& services() const = 0;
+    [[nodiscard]] virtual const resources::ResourceTable& texts() const = 0;
+    [[nodiscard]] virtual resources::Help& help() = 0;
+    [[nodiscard]] virtual recipe::StatusCounters& counters() = 0;
+    [[nodiscard]] virtual BusyFlag& busy() = 0;
+};
+
+/// "number: description" under the procedure's name: the box of every trapped error.
+void showError(forms::Screen& screen, const automation::Error& error, std::string_view procedure);
+
+}  // namespace hx::editor

@@ -1,0 +1,64 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "ado/recordset.h"
+#include "forms/grid.h"
+#include "forms/screen.h"
+#include "forms/status_bar.h"
+#include "resources/resource_table.h"
+
+/// Shared data-access routines of the editor.
+namespace hx::recipe {
+
+/// What RefreshMemberView needs of the editor window.
+class MemberView {
+  public:
+    virtual ~MemberView() = default;
+    [[nodiscard]] virtual forms::Grid& memberGrid() = 0;
+    [[nodiscard]] virtual ado::Recordset& memberRecordset() = 0;
+    [[nodiscard]] virtual const std::string& nodeKey() const = 0;
+    /// Whether a pending edit is saved when the query changes.
+    [[nodiscard]] virtual bool saveFirst() const = 0;
+    virtual void setSubRecipeView(bool subRecipes) = 0;
+};
+
+/// The numbers of recipes and members that the status line shows; one for the whole add-in.
+class StatusCounters {
+  public:
+    enum class Mode : std::int16_t { add = 0, reset = 1, set = 2, get = 3 };
+    /// Adding beyond 32 bits throws errOverflow. Panels are written only when their text differs.
+    void UpdateStatusCounters(forms::StatusBar& bar, const resources::ResourceTable& texts, const std::string& function,
+                              Mode mode, std::int32_t& recipes, std::int32_t& members);
+
+  private:
+    std::int32_t recipes_ = 0;
+    std::int32_t members_ = 0;
+};
+
+/// Shows the members of the view's node; database errors reach the caller.
+void RefreshMemberView(MemberView& view, const resources::ResourceTable& texts);
+/// "SELECT ..." for a node key without the order; empty for an unknown type.
+[[nodiscard]] std::string memberQuery(std::string_view nodeKey);
+
+bool OpenAndMoveFirst(ado::Recordset& recordset);
+bool OpenAndMoveLast(ado::Recordset& recordset);
+/// Never throws. True when the recordset is closed at the end.
+bool CloseRecordset(ado::Recordset& recordset, bool saveFirst) noexcept;
+void ShowWaitCursor(forms::Screen& screen);
+void RestoreCursor(forms::Screen& screen);
+/// Shows the wait cursor while it lives.
+class WaitCursor {
+  public:
+    explicit WaitCursor(forms::Screen& screen) : screen_(screen) { ShowWaitCursor(screen_); }
+    ~WaitCursor() { RestoreCursor(screen_); }
+    WaitCursor(const WaitCursor&) = delete;
+    WaitCursor& operator=(const WaitCursor&) = delete;
+
+  private:
+    forms::Screen& screen_;
+};
+void RenameRecipe(ado::Recordset& recipes, const std::string& oldName, const std::string& newName);
+
+}  // namespace hx::recipe
