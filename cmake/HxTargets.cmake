@@ -22,14 +22,20 @@ function(hx_library name)
   target_link_libraries(${name} PUBLIC hx_flags ${ARG_DEPENDS})
 endfunction()
 
-# hx_test(NAME [DEPENDS target...] [LABELS label...]): the folder's sources as one GoogleTest program, a CTest test for
-# each case. The label "gui" is for programs that need Qt's windows: the sanitizer run leaves them out.
+# hx_test(NAME [DEPENDS target...] [LABELS label]): the folder's sources as one GoogleTest program, a CTest test for each
+# case. The label "gui" is for programs that need Qt's windows: the sanitizer run leaves them out.
 function(hx_test name)
-  cmake_parse_arguments(ARG "" "" "DEPENDS;LABELS" ${ARGN})
+  cmake_parse_arguments(ARG "" "LABELS" "DEPENDS" ${ARGN})
+  if(ARG_UNPARSED_ARGUMENTS)
+    message(FATAL_ERROR "hx_test ${name}: what is ${ARG_UNPARSED_ARGUMENTS}? One label is all that test discovery passes on")
+  endif()
   file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp ${CMAKE_CURRENT_SOURCE_DIR}/*.h)
   add_executable(${name} ${sources})
   target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
   target_link_libraries(${name} PRIVATE hx_flags ${ARG_DEPENDS} GTest::gtest GTest::gmock GTest::gtest_main)
-  string(REPLACE ";" "\\;" labels "${ARG_LABELS}")
-  gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60 PROPERTIES LABELS "${labels}" TIMEOUT 300)
+  set(properties TIMEOUT 300)
+  if(ARG_LABELS)
+    list(APPEND properties LABELS ${ARG_LABELS})
+  endif()
+  gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60 PROPERTIES ${properties})
 endfunction()
