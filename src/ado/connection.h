@@ -17,10 +17,20 @@ struct ProviderError {
     std::string description;
 };
 
-/// ADO's Connection over one provider. Recordsets opened on it must be closed before it is.
+/// Something that lives on an open connection and ends with it.
+class ConnectionClient {
+  public:
+    virtual ~ConnectionClient() = default;
+    /// Gives up what it holds of the session; called before the session ends.
+    virtual void connectionCloses() noexcept = 0;
+};
+
+/// ADO's Connection over one provider. Closing it closes the recordsets that are open on it; their pending edits are
+/// lost.
 class Connection : public automation::Dispatch {
   public:
     explicit Connection(Provider& provider) : provider_(provider) {}
+    ~Connection() override;
 
     /// Throws adErrObjectOpen when open already, else what the provider says; the connection then stays closed.
     /// User, password and options are accepted as ADO's; no provider here uses them.
@@ -46,6 +56,15 @@ class Connection : public automation::Dispatch {
     template <class Action>
     decltype(auto) withSession(Action&& action);
 
+    /// Counts what this connection has written, so that what was read before can be told from what is stored now.
+    [[nodiscard]] std::uint64_t writes() const noexcept { return writes_; }
+    void noteWrite() noexcept { ++writes_; }
+    /// Counts the transactions that were rolled back: rows may have come and gone.
+    [[nodiscard]] std::uint64_t rollbacks() const noexcept { return rollbacks_; }
+
+    void attach(ConnectionClient& client) { clients_.push_back(&client); }
+    void detach(ConnectionClient& client) noexcept { std::erase(clients_, &client); }
+
     [[nodiscard]] const automation::MemberTable& members() const override;
 
   private:
@@ -56,6 +75,9 @@ class Connection : public automation::Dispatch {
     std::unique_ptr<Session> session_;
     std::string connectionString_;
     std::vector<ProviderError> errors_;
+    std::vector<ConnectionClient*> clients_;
+    std::uint64_t writes_ = 0;
+    std::uint64_t rollbacks_ = 0;
     bool inTransaction_ = false;
 };
 

@@ -33,6 +33,8 @@ using ColumnMask = std::uint64_t;
     return ColumnMask{1} << (column < 63 ? column : 63);
 }
 
+struct Criterion;
+
 /// A value for one column, by number.
 struct ColumnValue {
     std::size_t column;
@@ -54,11 +56,13 @@ class Rowset {
     virtual ~Rowset() = default;
     [[nodiscard]] virtual const std::vector<Column>& columns() const = 0;
 
-    /// The keys of all rows in the order of the command, restricted to `criterion` (a condition of ADO's Filter
-    /// syntax translated by criterion.h; empty for none). Runs the command afresh at each call.
-    [[nodiscard]] virtual KeySet keys(std::string_view criterion) = 0;
+    /// The keys of all rows in the order of the command, restricted to `criterion` when there is one (criterion.h
+    /// says what matches). Runs the command afresh at each call.
+    [[nodiscard]] virtual KeySet keys(const Criterion* criterion) = 0;
 
-    /// Reads the rows with these keys, only the columns of the mask. A key without a row is left out silently.
+    /// Reads the rows with these keys, only the columns of the mask; the key column need not be filled. A key without
+    /// a row is left out silently. Integer columns give a 32-bit integer (a double when the number is too large),
+    /// adDouble a double, adBoolean a boolean, text a string, a missing value Null.
     virtual void read(std::span<const Key> keys, ColumnMask mask, RowSink& sink) = 0;
 
     // Each is durable when it returns, unless a transaction is open. A refused duplicate is dbErrDuplicate; a row

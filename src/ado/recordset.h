@@ -13,7 +13,10 @@
 
 namespace hx::ado {
 
-class Keyset;  // the shared keys and page cache of a recordset and its clones
+class Keyset;
+class KeyList;
+class RowEdit;
+struct Cursor;
 
 /// ADO's Recordset as a keyset cursor: it knows the keys of its rows (read when first needed) and reads pages of
 /// rows when asked; it never holds all rows. Writes wait in one row buffer until update(). Leaving an edited
@@ -47,7 +50,7 @@ class Recordset : public automation::Dispatch {
     [[nodiscard]] bool eof() const;
     /// Exact number of rows under the filter.
     [[nodiscard]] std::int32_t recordCount() const;
-    void moveFirst();
+    void moveFirst();  ///< adErrNoCurrentRecord when there is no row, as moveLast
     void moveLast();
     void moveNext();      ///< adErrNoCurrentRecord at EOF
     void movePrevious();  ///< adErrNoCurrentRecord at BOF
@@ -59,7 +62,8 @@ class Recordset : public automation::Dispatch {
     void setBookmark(const Bookmark& bookmark);  ///< adErrInvalidArgument when the row is not in the recordset
     /// Searches for one comparison ("Name='x'", "ID=7", operators = <> < > <= >= LIKE) from the current row on,
     /// without it when skip is 1; EOF (BOF backwards) when nothing matches. Text compares ignoring case, a
-    /// doubled quote inside quotes is one; bad quotes or an unknown column are adErrInvalidArgument.
+    /// doubled quote inside quotes is one; bad quotes or an unknown column are adErrInvalidArgument. From BOF it begins
+    /// with the first row; at EOF there is nothing ahead and it stays there.
     void find(const std::string& criterion, std::int32_t skip = 0, SearchDirection direction = adSearchForward);
     /// A condition with comparisons joined by AND and OR, or "" for none; first matching row becomes current.
     void setFilter(const std::string& filter);
@@ -99,11 +103,32 @@ class Recordset : public automation::Dispatch {
 
   private:
     friend class Field;
-    // Private part is the implementer's.
+
+    Keyset& requireOpen() const;
+    void start(std::unique_ptr<Rowset> rowset);
+    void useList(std::shared_ptr<KeyList> list);
+    void settle() const;
+    void leaveRow();
+    void placeForward(std::size_t position);
+    void placeBackward(std::size_t count);
+    void requireRow() const;
+    void requireWritable() const;
+    void storeNew();
+    [[nodiscard]] std::size_t columnNumber(std::string_view name) const;
+    [[nodiscard]] automation::Variant storedValue(std::size_t position, std::size_t column) const;
+    [[nodiscard]] automation::Variant currentValue(std::size_t column) const;
+    void setCurrentValue(std::size_t column, const automation::Variant& value);
+
     std::string source_;
     std::string filter_;
     std::shared_ptr<Connection> connection_;
     CommandType commandType_ = adCmdUnknown;
+    bool readOnly_ = false;
+    std::shared_ptr<Keyset> keyset_;  // null while closed
+    std::shared_ptr<KeyList> list_;   // the keyset's rows under the filter
+    std::unique_ptr<Cursor> cursor_;
+    std::unique_ptr<RowEdit> edit_;
+    std::vector<std::unique_ptr<Field>> fields_;  // by column; kept while closed, so that a reference never dangles
 };
 
 }  // namespace hx::ado

@@ -1,0 +1,51 @@
+#include "ado/key_set.h"
+
+#include <algorithm>
+
+namespace hx::ado {
+
+void KeySet::appendWide(Key key) {
+    if (wide_.empty()) {
+        wide_.assign(narrow_.begin(), narrow_.end());
+        std::deque<std::int32_t>().swap(narrow_);
+    }
+    ascending_ = ascending_ && (wide_.empty() || key > last_);
+    last_ = key;
+    wide_.push_back(key);
+}
+
+void KeySet::erase(std::size_t position) {
+    const auto offset = static_cast<std::ptrdiff_t>(position);
+    if (wide_.empty()) {
+        narrow_.erase(narrow_.begin() + offset);
+    } else {
+        wide_.erase(wide_.begin() + offset);
+    }
+    if (!empty()) last_ = (*this)[size() - 1];
+}
+
+std::size_t KeySet::lowerBound(Key key) const {
+    const auto below = [&](const auto& keys) {
+        return static_cast<std::size_t>(std::lower_bound(keys.begin(), keys.end(), key) - keys.begin());
+    };
+    return wide_.empty() ? below(narrow_) : below(wide_);
+}
+
+std::optional<std::size_t> KeySet::find(Key key, std::size_t hint) const {
+    if (ascending_) {
+        const std::size_t position = lowerBound(key);
+        if (position < size() && (*this)[position] == key) return position;
+        return std::nullopt;
+    }
+    std::size_t up = std::min(hint, size());
+    std::size_t down = up;
+    while (up < size() || down > 0) {
+        if (up < size() && (*this)[up] == key) return up;
+        if (down > 0 && (*this)[down - 1] == key) return down - 1;
+        if (up < size()) ++up;
+        if (down > 0) --down;
+    }
+    return std::nullopt;
+}
+
+}  // namespace hx::ado

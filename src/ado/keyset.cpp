@@ -1,0 +1,111 @@
+#include "ado/keyset.h"
+
+#include "ado/errors.h"
+
+namespace hx::ado {
+
+namespace {
+
+// A loop asks for a few columns; whoever asks for more than these walks the whole row.
+constexpr int columnsBeforeAll = 4;
+
+}  // namespace
+
+Keyset::Keyset(std::shared_ptr<Connection> connection, std::unique_ptr<Rowset> rowset)
+    : connection_(std::move(connection)),
+      rowset_(std::move(rowset)),
+      columns_(rowset_->columns()),
+      all_(std::make_shared<KeyList>(*this, std::nullopt)),
+      seenWrites_(connection_->writes()),
+      seenRollbacks_(connection_->rollbacks()) {
+    connection_->attach(*this);
+}
+
+Keyset::~Keyset() { connection_->detach(*this); }
+
+std::shared_ptr<KeyList> Keyset::filtered(Criterion filter) {
+    std::erase_if(filtered_, [](const auto& list) { return list.expired(); });
+    auto list = std::make_shared<KeyList>(*this, std::move(filter));
+    filtered_.push_back(list);
+    return list;
+}
+
+template <class Action>
+void Keyset::forEachList(Action&& action) {
+    action(*all_);
+    for (const auto& weak : filtered_) {
+        if (const auto list = weak.lock()) action(*list);
+    }
+}
+
+template <class Action>
+void Keyset::write(Action&& action) {
+    Rowset& open = rowset();
+    refresh();
+    try {
+        connection_->withSession([&](Session&) { action(open); });
+    } catch (const automation::Error&) {
+        dropPages();  // a refused write often means that somebody else changed the row
+        throw;
+    }
+    connection_->noteWrite();
+    seenWrites_ = connection_->writes();
+}
+
+Key Keyset::insert(std::span<const ColumnValue> values, KeyList& storing) {
+    Key key = 0;
+    write([&](Rowset& open) { key = open.insert(values); });
+    all_->added(key);
+    if (&storing != all_.get()) storing.added(key);
+    return key;
+}
+
+void Keyset::update(Key key, std::span<const ColumnValue> values) {
+    write([&](Rowset& open) { open.update(key, values); });
+    forEachList([&](KeyList& list) { list.changed(key); });
+}
+
+void Keyset::remove(Key key) {
+    write([&](Rowset& open) { open.remove(key); });
+    forEachList([&](KeyList& list) { list.erased(key); });
+}
+
+void Keyset::requery() {
+    forEachList([](KeyList& list) { list.dropKeys(); });
+}
+
+void Keyset::dropPages() noexcept {
+    forEachList([](KeyList& list) { list.dropPages(); });
+}
+
+void Keyset::forgetOld() {
+    seenWrites_ = connection_->writes();
+    if (seenRollbacks_ == connection_->rollbacks()) return dropPages();
+    seenRollbacks_ = connection_->rollbacks();
+    requery();
+}
+
+KeySet Keyset::readKeys(const Criterion* filter) {
+    Rowset& open = rowset();
+    return connection_->withSession([&](Session&) { return open.keys(filter); });
+}
+
+void Keyset::readRows(std::span<const Key> keys, ColumnMask mask, RowSink& sink) {
+    Rowset& open = rowset();
+    connection_->withSession([&](Session&) { open.read(keys, mask, sink); });
+}
+
+void Keyset::want(ColumnMask columns) noexcept {
+    if ((columns & ~wanted_) == 0) return;
+    wanted_ |= columns;
+    if (++timesWidened_ >= columnsBeforeAll) wanted_ = ~ColumnMask{0};
+}
+
+void Keyset::connectionCloses() noexcept { rowset_.reset(); }
+
+Rowset& Keyset::rowset() {
+    if (!rowset_) throwObjectClosed();
+    return *rowset_;
+}
+
+}  // namespace hx::ado

@@ -1,0 +1,71 @@
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <span>
+#include <vector>
+
+#include "ado/connection.h"
+#include "ado/criterion.h"
+#include "ado/key_list.h"
+
+namespace hx::ado {
+
+/// What a recordset and its clones share: the rowset, the list of all keys, and the knowledge of each other's writes.
+class Keyset : public ConnectionClient {
+  public:
+    Keyset(std::shared_ptr<Connection> connection, std::unique_ptr<Rowset> rowset);
+    ~Keyset() override;
+    Keyset(const Keyset&) = delete;
+    Keyset& operator=(const Keyset&) = delete;
+
+    /// False once the connection has been closed.
+    [[nodiscard]] bool isOpen() const noexcept { return rowset_ != nullptr; }
+    [[nodiscard]] const std::vector<Column>& columns() const noexcept { return columns_; }
+
+    [[nodiscard]] const std::shared_ptr<KeyList>& all() const noexcept { return all_; }
+    [[nodiscard]] std::shared_ptr<KeyList> filtered(Criterion filter);
+
+    // Writes, at once; every list learns of them. A new row is appended to the list that stored it and to all().
+    Key insert(std::span<const ColumnValue> values, KeyList& storing);
+    void update(Key key, std::span<const ColumnValue> values);
+    void remove(Key key);
+
+    /// Keys and rows are read afresh when next needed.
+    void requery();
+    /// Rows are read afresh when next needed.
+    void dropPages() noexcept;
+
+    // For the lists.
+    [[nodiscard]] KeySet readKeys(const Criterion* filter);
+    void readRows(std::span<const Key> keys, ColumnMask mask, RowSink& sink);
+    /// Forgets what other writes on the connection have made old.
+    void refresh() {
+        if (seenWrites_ != connection_->writes()) forgetOld();
+    }
+    /// The columns that somebody has asked for: pages are read with all of them.
+    [[nodiscard]] ColumnMask wanted() const noexcept { return wanted_; }
+    void want(ColumnMask columns) noexcept;
+
+    void connectionCloses() noexcept override;
+
+  private:
+    Rowset& rowset();
+    void forgetOld();
+    template <class Action>
+    void write(Action&& action);
+    template <class Action>
+    void forEachList(Action&& action);
+
+    std::shared_ptr<Connection> connection_;
+    std::unique_ptr<Rowset> rowset_;
+    std::vector<Column> columns_;
+    std::shared_ptr<KeyList> all_;
+    std::vector<std::weak_ptr<KeyList>> filtered_;
+    ColumnMask wanted_ = 0;
+    int timesWidened_ = 0;
+    std::uint64_t seenWrites_;
+    std::uint64_t seenRollbacks_;
+};
+
+}  // namespace hx::ado

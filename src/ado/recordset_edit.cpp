@@ -1,0 +1,132 @@
+#include <limits>
+
+#include "ado/errors.h"
+#include "ado/keyset.h"
+#include "ado/recordset.h"
+#include "ado/row_edit.h"
+
+namespace hx::ado {
+
+using automation::Null;
+using automation::Variant;
+using Place = Cursor::Place;
+
+namespace {
+
+Variant keyValue(Key key) {
+    using Limits = std::numeric_limits<std::int32_t>;
+    if (key >= Limits::min() && key <= Limits::max()) return static_cast<std::int32_t>(key);
+    return static_cast<double>(key);
+}
+
+}  // namespace
+
+EditMode Recordset::editMode() const noexcept {
+    if (edit_->pending()) return edit_->mode();
+    return cursor_->deleted ? adEditDelete : adEditNone;
+}
+
+void Recordset::requireRow() const {
+    settle();
+    if (edit_->mode() == adEditAdd) return;
+    if (cursor_->place != Place::row) throwNoCurrentRecord();
+    if (cursor_->deleted) throwDeletedRow();
+}
+
+void Recordset::requireWritable() const {
+    requireOpen();
+    if (readOnly_) {
+        throw automation::Error(adErrIllegalOperation, "The recordset was opened for reading only.");
+    }
+}
+
+Variant Recordset::storedValue(std::size_t position, std::size_t column) const {
+    if (keyset_->columns()[column].isKey) return keyValue(list_->key(position));
+    const Variant* value = list_->value(position, column);
+    if (value == nullptr) throwDeletedRow();
+    return *value;
+}
+
+Variant Recordset::currentValue(std::size_t column) const {
+    requireRow();
+    if (edit_->pending()) {
+        if (const Variant* pending = edit_->value(column)) return *pending;
+        if (edit_->mode() == adEditAdd) return Null{};
+    }
+    return storedValue(cursor_->position, column);
+}
+
+Variant Recordset::valueAt(std::size_t index, std::size_t column) const {
+    requireOpen();
+    if (column >= keyset_->columns().size()) throwItemNotFound();
+    if (index >= list_->size() || !list_->exists(index)) return Null{};
+    return storedValue(index, column);
+}
+
+void Recordset::setCurrentValue(std::size_t column, const Variant& value) {
+    requireWritable();
+    requireRow();
+    Variant converted = convertFor(keyset_->columns()[column], value);
+    if (!edit_->pending()) {
+        if (!list_->exists(cursor_->position)) throwDeletedRow();
+        edit_->begin(adEditInProgress, keyset_->columns().size());
+    }
+    edit_->set(column, std::move(converted));
+}
+
+void Recordset::addNew() {
+    requireWritable();
+    leaveRow();
+    edit_->begin(adEditAdd, keyset_->columns().size());
+}
+
+void Recordset::addNew(std::span<const std::pair<std::string, Variant>> values) {
+    requireWritable();
+    leaveRow();
+    std::vector<ColumnValue> row;
+    for (const auto& [name, value] : values) {
+        const std::size_t column = columnNumber(name);
+        row.push_back({column, convertFor(keyset_->columns()[column], value)});
+    }
+    const Key key = keyset_->insert(row, *list_);
+    cursor_->set(Place::key, 0, key);
+}
+
+void Recordset::update() {
+    requireOpen();
+    if (edit_->mode() == adEditAdd) return storeNew();
+    if (edit_->mode() != adEditInProgress) return;
+    keyset_->update(cursor_->key, edit_->assigned());
+    edit_->end();
+}
+
+void Recordset::storeNew() {
+    const Key key = keyset_->insert(edit_->assigned(), *list_);
+    edit_->end();
+    cursor_->set(Place::key, 0, key);
+}
+
+void Recordset::cancelUpdate() {
+    requireOpen();
+    edit_->end();
+}
+
+void Recordset::remove() {
+    requireWritable();
+    if (edit_->mode() == adEditAdd) return cancelUpdate();
+    requireRow();
+    edit_->end();
+    keyset_->remove(cursor_->key);
+}
+
+void Recordset::resync(Affect affect) {
+    requireOpen();
+    if (affect == adAffectCurrent) requireRow();
+    edit_->end();
+    keyset_->dropPages();
+    if (affect == adAffectCurrent && cursor_->place == Place::row && !list_->exists(cursor_->position)) {
+        throwDeletedRow();
+    }
+}
+
+}  // namespace hx::ado

@@ -1,0 +1,74 @@
+#include "ado/row_edit.h"
+
+#include <string>
+
+#include "ado/errors.h"
+#include "automation/convert.h"
+#include "automation/text.h"
+
+namespace hx::ado {
+
+using automation::Error;
+using automation::Variant;
+
+void RowEdit::begin(EditMode mode, std::size_t columns) {
+    mode_ = mode;
+    values_.assign(columns, std::nullopt);
+}
+
+void RowEdit::end() noexcept {
+    mode_ = adEditNone;
+    values_.clear();
+}
+
+const Variant* RowEdit::value(std::size_t column) const noexcept {
+    return column < values_.size() && values_[column] ? &*values_[column] : nullptr;
+}
+
+std::vector<ColumnValue> RowEdit::assigned() const {
+    std::vector<ColumnValue> assigned;
+    for (std::size_t i = 0; i < values_.size(); ++i) {
+        if (values_[i]) assigned.push_back({i, *values_[i]});
+    }
+    return assigned;
+}
+
+namespace {
+
+std::string fittingText(const Column& column, const Variant& value) {
+    if (value.isObject()) throw Error(automation::errTypeMismatch, "text expected");
+    std::string text = automation::toText(value);
+    const bool limited = column.type == adVarWChar && column.definedSize > 0;
+    if (limited && automation::characterCount(text) > static_cast<std::size_t>(column.definedSize)) {
+        throw Error(automation::errOverflow,
+                    "the text is longer than " + std::to_string(column.definedSize) + " characters");
+    }
+    return text;
+}
+
+Variant convert(const Column& column, const Variant& value) {
+    if (value.isNull()) return value;
+    switch (column.type) {
+        case adSmallInt: return automation::toInt32(Variant(automation::toInt16(value)));
+        case adInteger: return automation::toInt32(value);
+        case adDouble: return automation::toDouble(value);
+        case adBoolean: return automation::toBoolean(value);
+        default: return fittingText(column, value);
+    }
+}
+
+}  // namespace
+
+Variant convertFor(const Column& column, const Variant& value) {
+    if (column.isKey || !column.updatable) {
+        throw Error(adErrIllegalOperation, "Column \"" + column.name + "\" cannot be assigned.");
+    }
+    try {
+        return convert(column, value);
+    } catch (const Error& error) {
+        throw Error(dbErrCannotConvert,
+                    "The value does not fit the column \"" + column.name + "\": " + error.description() + ".");
+    }
+}
+
+}  // namespace hx::ado
