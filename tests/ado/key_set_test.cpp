@@ -1,0 +1,74 @@
+#include "ado/key_set.h"
+
+#include <gtest/gtest.h>
+
+namespace hx::ado {
+
+namespace {
+
+KeySet keysOf(std::initializer_list<Key> keys) {
+    KeySet set;
+    for (const Key key : keys) set.append(key);
+    return set;
+}
+
+TEST(KeySet, KeepsTheOrderInWhichKeysWereAppended) {
+    const KeySet keys = keysOf({7, 3, 9});
+    ASSERT_EQ(keys.size(), 3U);
+    EXPECT_EQ(keys[0], 7);
+    EXPECT_EQ(keys[1], 3);
+    EXPECT_EQ(keys[2], 9);
+    EXPECT_FALSE(keys.ascending());
+}
+
+TEST(KeySet, FindsAKeyAmongAscendingOnes) {
+    KeySet keys;
+    for (Key key = 10; key < 3000; key += 10) keys.append(key);
+    EXPECT_TRUE(keys.ascending());
+    EXPECT_EQ(keys.find(1500), 149U);
+    EXPECT_EQ(keys.find(1505), std::nullopt);
+    EXPECT_EQ(keys.find(5000), std::nullopt);
+}
+
+TEST(KeySet, FindsAKeyAmongUnorderedOnesFromAnyHint) {
+    const KeySet keys = keysOf({5, 1, 4, 2, 3});
+    for (std::size_t hint = 0; hint < 8; ++hint) {
+        EXPECT_EQ(keys.find(5, hint), 0U) << hint;
+        EXPECT_EQ(keys.find(2, hint), 3U) << hint;
+        EXPECT_EQ(keys.find(3, hint), 4U) << hint;
+        EXPECT_EQ(keys.find(6, hint), std::nullopt) << hint;
+    }
+}
+
+TEST(KeySet, FindsNothingWhenEmpty) {
+    EXPECT_TRUE(KeySet().empty());
+    EXPECT_EQ(KeySet().find(1), std::nullopt);
+}
+
+TEST(KeySet, WidensWhenAKeyDoesNotFitInto32Bits) {
+    KeySet keys = keysOf({1, 2});
+    keys.append(Key{1} << 40);
+    keys.append(5);
+    ASSERT_EQ(keys.size(), 4U);
+    EXPECT_EQ(keys[0], 1);
+    EXPECT_EQ(keys[2], Key{1} << 40);
+    EXPECT_EQ(keys[3], 5);
+    EXPECT_EQ(keys.find(Key{1} << 40), 2U);
+    EXPECT_FALSE(keys.ascending());
+}
+
+TEST(KeySet, ErasesByPosition) {
+    KeySet keys = keysOf({1, 2, 3, 4});
+    keys.erase(1);
+    ASSERT_EQ(keys.size(), 3U);
+    EXPECT_EQ(keys[1], 3);
+    EXPECT_EQ(keys.find(2), std::nullopt);
+    keys.erase(2);
+    keys.append(4);
+    EXPECT_TRUE(keys.ascending());
+    EXPECT_EQ(keys.find(4), 2U);
+}
+
+}  // namespace
+
+}  // namespace hx::ado

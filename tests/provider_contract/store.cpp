@@ -1,0 +1,92 @@
+#include "store.h"
+
+#include "automation/convert.h"
+#include "support/faulty_provider.h"
+#include "support/memory_provider.h"
+
+namespace hx::contract {
+
+namespace {
+
+constexpr const char* memoryPath = "plant.hxs";
+
+class MemoryStore : public Store {
+  public:
+    MemoryStore() { provider_.add(memoryPath); }
+    ado::Provider& provider() override { return provider_; }
+    std::string path() const override { return memoryPath; }
+
+  private:
+    support::MemoryProvider provider_;
+};
+
+/// A store whose faults never fire: passing everything on must change nothing.
+template <class Inner>
+class WrappedStore : public Store {
+  public:
+    ado::Provider& provider() override { return provider_; }
+    std::string path() const override { return inner_.path(); }
+
+  private:
+    Inner inner_;
+    support::FaultPlan plan_;
+    support::FaultyProvider provider_{inner_.provider(), plan_};
+};
+
+}  // namespace
+
+const std::vector<StoreKind>& storeKinds() {
+    static const std::vector<StoreKind> kinds = {
+        {"Memory", [] { return std::make_unique<MemoryStore>(); }},
+        {"FaultyMemory", [] { return std::make_unique<WrappedStore<MemoryStore>>(); }},
+    };
+    return kinds;
+}
+
+std::string ProviderContract::connectionString() const {
+    return "Provider=Microsoft.Jet.OLEDB.4.0;Data Source=" + store_->path() + ";Mode=Read|Write|Share Deny None;";
+}
+
+std::shared_ptr<ado::Connection> ProviderContract::connect() const {
+    auto connection = std::make_shared<ado::Connection>(store_->provider());
+    connection->open(connectionString(), "", "", -1);
+    return connection;
+}
+
+std::shared_ptr<Recordset> ProviderContract::open(const std::string& source) const {
+    auto recordset = std::make_shared<Recordset>();
+    recordset->open(source, connection_);
+    return recordset;
+}
+
+void ProviderContract::addRecipes(const std::vector<std::string>& names) const {
+    const auto recordset = recipes();
+    for (const std::string& name : names) recordset->addNew(Values{{"Name", name}});
+}
+
+void ProviderContract::addVariables(std::int32_t recipe, std::int32_t count) const {
+    connection_->beginTrans();
+    const auto recordset = members();
+    for (std::int32_t i = 1; i <= count; ++i) {
+        recordset->addNew(Values{{"VarRecipe", "V" + std::to_string(i)}, {"ParentID", recipe}, {"ChildID", 0}});
+    }
+    connection_->commitTrans();
+}
+
+std::string ProviderContract::stored(const std::string& source, const std::string& name) const {
+    Recordset recordset;
+    recordset.open(source, connect());
+    return column(recordset, name);
+}
+
+std::string column(Recordset& recordset, const std::string& name) {
+    std::string text;
+    if (recordset.recordCount() > 0) recordset.moveFirst();
+    while (!recordset.eof()) {
+        text += (text.empty() ? "" : ",") + automation::toText(recordset.field(name).value());
+        recordset.moveNext();
+    }
+    return text;
+}
+
+}  // namespace hx::contract

@@ -1,0 +1,82 @@
+#pragma once
+
+#include <functional>
+#include <gtest/gtest.h>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "ado/connection.h"
+#include "ado/recordset.h"
+
+namespace hx::contract {
+
+using ado::Recordset;
+using automation::Variant;
+
+/// One database with both recipe tables, empty, behind one provider.
+class Store {
+  public:
+    virtual ~Store() = default;
+    [[nodiscard]] virtual ado::Provider& provider() = 0;
+    [[nodiscard]] virtual std::string path() const = 0;
+};
+
+/// A kind of store that the suite runs against.
+struct StoreKind {
+    std::string name;
+    std::function<std::unique_ptr<Store>()> make;
+};
+
+[[nodiscard]] const std::vector<StoreKind>& storeKinds();
+
+using Values = std::vector<std::pair<std::string, Variant>>;
+
+/// A test over one store with one open connection.
+class ProviderContract : public testing::TestWithParam<StoreKind> {
+  protected:
+    ProviderContract() : store_(GetParam().make()), connection_(connect()) {}
+
+    [[nodiscard]] std::shared_ptr<ado::Connection> connect() const;
+    [[nodiscard]] std::string connectionString() const;
+    [[nodiscard]] std::shared_ptr<Recordset> open(const std::string& source) const;
+    [[nodiscard]] std::shared_ptr<Recordset> recipes() const { return open("TrcpRecipe"); }
+    [[nodiscard]] std::shared_ptr<Recordset> members() const { return open("TrcpRecipeMember"); }
+
+    /// Stores recipes with these names.
+    void addRecipes(const std::vector<std::string>& names) const;
+    /// Stores `count` variables "V1", "V2", ... of one recipe, in one transaction.
+    void addVariables(std::int32_t recipe, std::int32_t count) const;
+    /// What a connection of its own reads of one column, row by row, as text.
+    [[nodiscard]] std::string stored(const std::string& source, const std::string& column) const;
+
+    std::unique_ptr<Store> store_;
+    std::shared_ptr<ado::Connection> connection_;
+};
+
+/// One column of all rows from the first on, joined by commas.
+[[nodiscard]] std::string column(Recordset& recordset, const std::string& name);
+
+/// The number of the error that the action throws, 0 for none.
+template <class Action>
+std::int32_t errorOf(Action&& action) {
+    try {
+        action();
+    } catch (const automation::Error& error) {
+        return error.number();
+    }
+    return 0;
+}
+
+/// The description of the error that the action throws.
+template <class Action>
+std::string descriptionOf(Action&& action) {
+    try {
+        action();
+    } catch (const automation::Error& error) {
+        return error.description();
+    }
+    return "no error";
+}
+
+}  // namespace hx::contract
