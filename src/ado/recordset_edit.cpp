@@ -27,8 +27,8 @@ EditMode Recordset::editMode() const noexcept {
 }
 
 void Recordset::requireRow() const {
+    if (edit_->mode() == adEditAdd) return;  // a new row needs no position
     settle();
-    if (edit_->mode() == adEditAdd) return;
     if (cursor_->place != Place::row) throwNoCurrentRecord();
     if (cursor_->deleted) throwDeletedRow();
 }

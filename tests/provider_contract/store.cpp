@@ -82,9 +82,10 @@ std::string ProviderContract::stored(const std::string& source, const std::strin
 std::string column(Recordset& recordset, const std::string& name) {
     std::string text;
     if (recordset.recordCount() > 0) recordset.moveFirst();
-    while (!recordset.eof()) {
-        text += (text.empty() ? "" : ",") + automation::toText(recordset.field(name).value());
-        recordset.moveNext();
+    for (bool first = true; !recordset.eof(); recordset.moveNext()) {
+        if (!first) text += ",";
+        first = false;
+        text += automation::toText(recordset.field(name).value());
     }
     return text;
 }

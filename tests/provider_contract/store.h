@@ -3,6 +3,7 @@
 #include <functional>
 #include <gtest/gtest.h>
 #include <memory>
+#include <ostream>
 #include <string>
 #include <vector>
 
@@ -26,6 +27,8 @@ class Store {
 struct StoreKind {
     std::string name;
     std::function<std::unique_ptr<Store>()> make;
+
+    friend void PrintTo(const StoreKind& kind, std::ostream* stream) { *stream << kind.name; }
 };
 
 [[nodiscard]] const std::vector<StoreKind>& storeKinds();
