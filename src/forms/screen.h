@@ -17,10 +17,10 @@ using WindowHandle = std::int32_t;
 
 /// Message box styles and answers, with OLE Automation's numbers; a style is a sum of them.
 namespace message {
+enum class Answer : std::int32_t { ok = 1, cancel = 2, yes = 6, no = 7 };  // first: GCC 12 sees `ok` shadowed otherwise
 inline constexpr std::int32_t ok = 0, okCancel = 1, yesNoCancel = 3, yesNo = 4;
 inline constexpr std::int32_t critical = 16, question = 32, exclamation = 48, information = 64;
 inline constexpr std::int32_t defaultButton2 = 256;
-enum class Answer : std::int32_t { ok = 1, cancel = 2, yes = 6, no = 7 };
 /// The title of a box that names none.
 inline constexpr std::string_view defaultTitle = "HXRecipeEditor";
 }  // namespace message
