@@ -1,0 +1,52 @@
+#include "recipe/hierarchy.h"
+#include "recipe/node_key.h"
+#include "recipe/schema.h"
+
+namespace hx::recipe {
+
+namespace {
+
+namespace text {
+constexpr std::int32_t variable = 301, fileName = 303;
+}
+
+std::string orderClause(const std::string& sortText) {
+    return " ORDER BY " + (sortText.empty() ? std::string(schema::member::id) : sortText);
+}
+
+// A grid that has not been bound yet has no columns to set.
+void setColumns(forms::Grid& grid, const resources::ResourceTable& texts, bool subRecipes) {
+    if (forms::Column* child = grid.findColumn(schema::member::childId)) child->setVisible(subRecipes);
+    if (forms::Column* variable = grid.findColumn(schema::member::varRecipe)) {
+        variable->setCaption(texts.GetResource(subRecipes ? text::fileName : text::variable));
+    }
+}
+
+}  // namespace
+
+std::string memberQuery(std::string_view nodeKey) {
+    const std::string_view prefix = KeyPrefix(nodeKey);
+    const auto membersOf = [](std::int32_t recipe) {
+        return "SELECT * FROM " + std::string(schema::memberTable) + " WHERE ParentID = " + std::to_string(recipe);
+    };
+    if (prefix == prefixRecipe) return membersOf(KeyId(nodeKey)) + " And ChildID = 0";
+    if (prefix == prefixSubRecipes) return membersOf(KeyId(nodeKey)) + " And ChildID <> 0";
+    if (prefix == prefixRoot) return membersOf(schema::noRecipe);
+    return {};
+}
+
+void RefreshMemberView(MemberView& view, const resources::ResourceTable& texts) {
+    forms::Grid& grid = view.memberGrid();
+    ado::Recordset& members = view.memberRecordset();
+    const std::string order = orderClause(grid.sortText());
+    CloseRecordset(members, view.saveFirst());
+    members.setSource(memberQuery(view.nodeKey()) + order);
+    members.setCommandType(ado::adCmdText);
+    members.open();
+    grid.reload();
+    const bool subRecipes = KeyPrefix(view.nodeKey()) == prefixSubRecipes;
+    view.setSubRecipeView(subRecipes);
+    setColumns(grid, texts, subRecipes);
+}
+
+}  // namespace hx::recipe

@@ -1,0 +1,52 @@
+#include <limits>
+
+#include "recipe/hierarchy.h"
+
+namespace hx::recipe {
+
+namespace {
+
+namespace text {
+constexpr std::int32_t function = 421, recipes = 422, members = 423;
+}
+
+std::int32_t sum(std::int32_t a, std::int32_t b) {
+    using Limits = std::numeric_limits<std::int32_t>;
+    const std::int64_t wide = std::int64_t{a} + b;
+    if (wide < Limits::min() || wide > Limits::max()) throw automation::Error(automation::errOverflow, "Overflow");
+    return static_cast<std::int32_t>(wide);
+}
+
+}  // namespace
+
+void StatusCounters::UpdateStatusCounters(forms::StatusBar& bar, const resources::ResourceTable& texts,
+                                          const std::string& function, Mode mode, std::int32_t& recipes,
+                                          std::int32_t& members) {
+    switch (mode) {
+        case Mode::add: {
+            const std::int32_t allRecipes = sum(recipes_, recipes);
+            members_ = sum(members_, members);
+            recipes_ = allRecipes;
+            break;
+        }
+        case Mode::reset: recipes_ = members_ = 0; break;
+        case Mode::set:
+            recipes_ = recipes;
+            members_ = members;
+            break;
+        case Mode::get:
+            recipes = recipes_;
+            members = members_;
+            break;
+    }
+    // A panel whose text stays is not touched, so that the line does not flicker.
+    const auto show = [&](std::int32_t number, const std::string& content) {
+        forms::Panel& panel = bar.panel(number);
+        if (panel.text() != content) panel.setText(content);
+    };
+    show(1, texts.GetResource(text::function) + function);
+    show(2, texts.GetResource(text::recipes) + std::to_string(recipes_));
+    show(3, texts.GetResource(text::members) + std::to_string(members_));
+}
+
+}  // namespace hx::recipe

@@ -1,0 +1,9 @@
+#include "recipe/hierarchy.h"
+
+namespace hx::recipe {
+
+void ShowWaitCursor(forms::Screen& screen) { screen.setPointer(forms::Pointer::hourglass); }
+
+void RestoreCursor(forms::Screen& screen) { screen.setPointer(forms::Pointer::standard); }
+
+}  // namespace hx::recipe
