@@ -1,0 +1,55 @@
+#include "adapters/qt/combo_box_view.h"
+
+#include <QLineEdit>
+#include <QSignalBlocker>
+
+#include "adapters/qt/text.h"
+
+namespace hx::qt {
+
+ComboBoxView::ComboBoxView(forms::ComboBox& box, FormView& form, QWidget& area)
+    : ControlView(box, form), combo_(&area) {
+    combo_.setEditable(box.style() == forms::ComboBox::Style::dropDownCombo);
+    combo_.setInsertPolicy(QComboBox::NoInsert);
+    combo_.setMaxVisibleItems(20);
+    watch(combo_);
+    if (QLineEdit* line = combo_.lineEdit()) {
+        watch(*line);
+        connect(line, &QLineEdit::textEdited, this, &ComboBoxView::typed);
+    }
+    connect(&combo_, &QComboBox::activated, this, &ComboBoxView::chosen);
+}
+
+void ComboBoxView::chosen(int index) {
+    const auto keep = model()->share();
+    modelOf<forms::ComboBox>(*this)->setListIndex(index);
+}
+
+void ComboBoxView::typed(const QString& text) {
+    const auto keep = model()->share();
+    modelOf<forms::ComboBox>(*this)->setText(fromQt(text));
+}
+
+void ComboBoxView::showList() {
+    const auto& box = *modelOf<forms::ComboBox>(*this);
+    const QSignalBlocker quiet(combo_);
+    combo_.clear();
+    for (std::int32_t i = 0; i < box.listCount(); ++i) combo_.addItem(toQt(box.list(i)));
+    showChoice();
+}
+
+void ComboBoxView::showChoice() {
+    const auto& box = *modelOf<forms::ComboBox>(*this);
+    const QSignalBlocker quiet(combo_);
+    if (box.listIndex() < combo_.count()) combo_.setCurrentIndex(box.listIndex());
+    const QString text = toQt(box.text());
+    if (combo_.isEditable() && combo_.currentText() != text) combo_.setEditText(text);
+}
+
+void ComboBoxView::show(std::string_view property) {
+    if (property == "List") showList();
+    else if (property == "ListIndex" || property == "Text") showChoice();
+    else ControlView::show(property);
+}
+
+}  // namespace hx::qt

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QComboBox>
+
+#include "adapters/qt/control_view.h"
+#include "forms/simple_controls.h"
+
+namespace hx::qt {
+
+class ComboBoxView : public ControlView {
+  public:
+    ComboBoxView(forms::ComboBox& box, FormView& form, QWidget& area);
+    [[nodiscard]] QWidget& widget() override { return combo_; }
+
+  protected:
+    void show(std::string_view property) override;
+    [[nodiscard]] std::vector<std::string_view> ownProperties() const override { return {"List"}; }
+
+  private:
+    void showList();
+    void showChoice();
+    void chosen(int index);
+    void typed(const QString& text);
+    QComboBox combo_;
+};
+
+}  // namespace hx::qt

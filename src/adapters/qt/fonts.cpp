@@ -1,0 +1,30 @@
+#include "adapters/qt/fonts.h"
+
+#include <algorithm>
+
+#include "adapters/qt/text.h"
+
+namespace hx::qt {
+
+QFont toQt(const forms::Font::Values& font) {
+    QFont result(toQt(font.name));
+    result.setPointSizeF(font.size);
+    result.setWeight(static_cast<QFont::Weight>(std::clamp<int>(font.weight, 1, 1000)));
+    result.setItalic(font.italic);
+    result.setStrikeOut(font.strikethrough);
+    result.setUnderline(font.underline);
+    return result;
+}
+
+forms::Font::Values fromQt(const QFont& font, const forms::Font::Values& previous) {
+    forms::Font::Values result = previous;
+    result.name = fromQt(font.family());
+    if (font.pointSizeF() > 0) result.size = font.pointSizeF();
+    result.weight = static_cast<std::int16_t>(font.weight());
+    result.italic = font.italic();
+    result.strikethrough = font.strikeOut();
+    result.underline = font.underline();
+    return result;
+}
+
+}  // namespace hx::qt

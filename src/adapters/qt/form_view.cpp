@@ -1,0 +1,287 @@
+#include "adapters/qt/form_view.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QEventLoop>
+#include <QScopedValueRollback>
+#include <algorithm>
+
+#include "adapters/qt/fonts.h"
+#include "adapters/qt/keys.h"
+#include "adapters/qt/label_view.h"
+#include "adapters/qt/status_bar_view.h"
+#include "adapters/qt/text.h"
+#include "adapters/qt/view_factory.h"
+#include "forms/simple_controls.h"
+
+namespace hx::qt {
+
+FormView::FormView(forms::Form& form, const Units& units, PopUpPlace& popUps)
+    : form_(&form), units_(units), popUps_(popUps) {
+    widget_.setObjectName(toQt(form.name()));
+    widget_.installEventFilter(this);
+    for (const auto property : {"Caption", "Font", "Enabled", "Bounds"}) apply(property);
+    build();
+    orderTabs();
+    changed_ = form.changed.subscribe([this](std::string_view property) { apply(property); });
+    reportClientArea();
+}
+
+FormView::~FormView() {
+    if (document_) document_->removeEventFilter(this);
+    widget_.removeEventFilter(this);
+    while (!views_.empty()) views_.pop_back();
+}
+
+QWidget& FormView::frame() noexcept { return document_ ? *document_ : widget_; }
+
+void FormView::build() {
+    auto waiting = form_->controls();
+    while (!waiting.empty()) {
+        const auto known = std::stable_partition(waiting.begin(), waiting.end(), [this](const auto& control) {
+            return areaFor(*control) != nullptr;
+        });
+        const bool stuck = known == waiting.begin();
+        const auto end = stuck ? waiting.end() : known;
+        for (auto control = waiting.begin(); control != end; ++control) {
+            QWidget* area = areaFor(**control);
+            views_.push_back(makeView(**control, *this, area == nullptr ? widget_ : *area));
+            views_.back()->start();
+        }
+        waiting.erase(waiting.begin(), end);
+    }
+    for (const auto& view : views_) view->containerResized();
+}
+
+QWidget* FormView::areaFor(const forms::Control& control) {
+    const forms::Control* container = control.container();
+    if (container == nullptr || container == form_) return &widget_;
+    for (const auto& view : views_) {
+        if (QWidget* area = view->areaOf(*container)) return area;
+    }
+    return nullptr;
+}
+
+void FormView::orderTabs() {
+    std::vector<ControlView*> order;
+    for (const auto& view : views_) order.push_back(view.get());
+    std::ranges::stable_sort(order, {}, [](const ControlView* view) { return view->model()->tabIndex(); });
+    QWidget* previous = nullptr;
+    LabelView* label = nullptr;
+    for (ControlView* view : order) {
+        if (auto* next = dynamic_cast<LabelView*>(view)) label = next;
+        if (view->widget().focusPolicy() == Qt::NoFocus) continue;
+        if (previous != nullptr) QWidget::setTabOrder(previous, &view->widget());
+        if (label != nullptr) label->setBuddy(view->widget());
+        previous = &view->widget();
+        label = nullptr;
+    }
+}
+
+void FormView::apply(std::string_view property) {
+    if (form_ == nullptr) return;
+    if (property == "Caption") widget_.setWindowTitle(toQt(form_->caption()));
+    else if (property == "Font") widget_.setFont(toQt(form_->font().values()));
+    else if (property == "Enabled") widget_.setEnabled(form_->enabled());
+    else if (property == "Visible" || property == "WindowState") applyVisible();
+    else if (property == "SetFocus") widget_.setFocus();
+    else applyBounds();
+}
+
+void FormView::applyBounds() {
+    const QScopedValueRollback applying(applying_, true);
+    const QSize size(units_.pixels(form_->width()), units_.pixels(form_->height()));
+    const QPoint place(units_.pixels(form_->left()), units_.pixels(form_->top()));
+    if (frame().isMaximized() || frame().isMinimized()) return;
+    if (!size.isEmpty()) frame().resize(size);
+    if (document_) document_->move(place);
+    reportClientArea();
+}
+
+void FormView::applyVisible() {
+    const QScopedValueRollback applying(applying_, true);
+    if (!form_->visible()) {
+        frame().hide();
+        if (modal_ != nullptr) modal_->quit();
+        return;
+    }
+    switch (form_->windowState()) {
+        case forms::WindowState::maximised: frame().showMaximized(); break;
+        case forms::WindowState::minimised: frame().showMinimized(); break;
+        default: frame().showNormal(); break;
+    }
+    reportClientArea();
+}
+
+void FormView::embedIn(QMdiArea& area) {
+    widget_.hide();
+    document_ = area.addSubWindow(&widget_);
+    document_->setAttribute(Qt::WA_DeleteOnClose, false);
+    document_->setObjectName(widget_.objectName() + QStringLiteral("Document"));
+    document_->installEventFilter(this);
+    widget_.show();
+    applyBounds();
+    applyVisible();
+}
+
+void FormView::takeOut() {
+    const QScopedValueRollback applying(applying_, true);
+    if (document_) {
+        document_->removeEventFilter(this);
+        document_->hide();
+        if (QMdiArea* area = document_->mdiArea()) area->removeSubWindow(document_);
+        document_->setWidget(nullptr);
+        document_->deleteLater();
+        document_.clear();
+    }
+    widget_.hide();
+    widget_.setParent(nullptr);
+}
+
+void FormView::bringToFront() {
+    QWidget& outer = frame();
+    if (form_->windowState() == forms::WindowState::minimised) form_->setWindowState(forms::WindowState::normal);
+    applyVisible();
+    outer.raise();
+    if (document_ && document_->mdiArea() != nullptr) document_->mdiArea()->setActiveSubWindow(document_);
+    outer.window()->activateWindow();
+    if (!widget_.isAncestorOf(QApplication::focusWidget())) {
+        QWidget* inside = widget_.focusWidget();
+        (inside == nullptr ? widget_ : *inside).setFocus(Qt::OtherFocusReason);
+    }
+}
+
+void FormView::runModal(QWidget* owner) {
+    widget_.setParent(owner == nullptr ? nullptr : owner->window(), Qt::Dialog);
+    widget_.setWindowModality(Qt::ApplicationModal);
+    QEventLoop loop;
+    const QScopedValueRollback modal(modal_, &loop);
+    if (!form_->visible()) form_->setVisible(true);
+    applyVisible();
+    if (form_->visible()) loop.exec(QEventLoop::DialogExec);
+    if (form_ != nullptr) widget_.hide();
+}
+
+void FormView::settle() {
+    for (const auto& view : views_) {
+        if (view->model() != nullptr) view->settle();
+    }
+}
+
+void FormView::sendKeys(std::string_view keys) {
+    for (const Stroke& stroke : strokes(keys)) {
+        QWidget* inside = widget_.focusWidget();
+        QWidget& target = inside == nullptr ? widget_ : *inside;
+        for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+            QKeyEvent event(type, stroke.key, stroke.modifiers, stroke.text);
+            QApplication::sendEvent(&target, &event);
+        }
+    }
+}
+
+void FormView::detach() {
+    if (form_ == nullptr) return;
+    changed_.reset();
+    for (const auto& view : views_) view->detach();
+    form_ = nullptr;
+    takeOut();
+    if (modal_ != nullptr) modal_->quit();
+}
+
+bool FormView::reportKey(QKeyEvent& event, forms::Control& control) {
+    const auto keep = control.share();
+    const auto keepForm = form_->share();
+    const bool down = event.type() == QEvent::KeyPress;
+    const bool previews = form_->keyPreview() && &control != form_;
+    if (forms::KeyEvent key{virtualKey(event), shiftState(event.modifiers())}; key.code != 0) {
+        const auto report = [&](forms::Control& to) { down ? to.keyDown(key) : to.keyUp(key); };
+        if (previews) report(*form_);
+        if (form_ != nullptr && !key.swallowed()) report(control);
+        if (form_ == nullptr || key.swallowed()) return true;
+    }
+    forms::KeyPress typed{down ? typedCharacter(event) : 0};
+    if (typed.swallowed()) return false;
+    if (previews) form_->keyPress(typed);
+    if (form_ != nullptr && !typed.swallowed()) control.keyPress(typed);
+    return form_ == nullptr || typed.swallowed();
+}
+
+int FormView::freeBottom(const QWidget& area, int bottom) const {
+    for (const auto& view : views_) {
+        const QWidget& bar = view->widget();
+        if (dynamic_cast<const StatusBarView*>(view.get()) == nullptr || bar.parentWidget() != &area) continue;
+        if (!bar.isHidden() && bar.y() > 0) bottom = std::min(bottom, bar.y());
+    }
+    return bottom;
+}
+
+bool FormView::eventFilter(QObject* watched, QEvent* event) {
+    if (form_ == nullptr) return false;
+    const bool inner = watched == &widget_;
+    switch (event->type()) {
+        case QEvent::Close:
+            if (!inner) return false;
+            event->ignore();
+            closed();
+            return true;
+        case QEvent::Resize:
+            if (inner) reportClientArea();
+            if (watched == &frame()) reportBounds();
+            return false;
+        case QEvent::Move:
+        case QEvent::WindowStateChange:
+            if (watched == &frame()) reportBounds();
+            return false;
+        case QEvent::KeyPress:
+        case QEvent::KeyRelease:
+            if (!inner) return false;
+            if (widget_.hasFocus() && reportKey(static_cast<QKeyEvent&>(*event), *form_)) return true;
+            if (event->type() == QEvent::KeyPress) pressButton(static_cast<QKeyEvent&>(*event));
+            return form_ == nullptr;
+        default: return false;
+    }
+}
+
+void FormView::closed() {
+    settle();
+    const auto keep = form_->share();
+    form_->closeByFrame();
+}
+
+void FormView::reportClientArea() {
+    if (widget_.size() == reported_) return;
+    reported_ = widget_.size();
+    const auto keep = form_->share();
+    form_->clientAreaChanged(units_.twips(reported_.width()), units_.twips(reported_.height()));
+    for (const auto& view : views_) {
+        if (view->model() != nullptr) view->containerResized();
+    }
+}
+
+void FormView::reportBounds() {
+    if (applying_ || form_ == nullptr || !frame().isVisible()) return;
+    const QWidget& outer = frame();
+    if (outer.isMaximized() || outer.isMinimized()) {
+        const auto state = outer.isMinimized() ? forms::WindowState::minimised : forms::WindowState::maximised;
+        form_->boundsReported(form_->left(), form_->top(), form_->width(), form_->height(), state);
+    } else {
+        form_->boundsReported(units_.twips(outer.x()), units_.twips(outer.y()), units_.twips(outer.width()),
+                              units_.twips(outer.height()), forms::WindowState::normal);
+    }
+}
+
+void FormView::pressButton(QKeyEvent& event) {
+    const bool enter = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+    if (!enter && event.key() != Qt::Key_Escape) return;
+    const auto controls = form_->controls();
+    for (const auto& control : controls) {
+        auto* button = dynamic_cast<forms::CommandButton*>(control.get());
+        if (button == nullptr || !button->visible() || !(enter ? button->isDefault() : button->isCancel())) continue;
+        event.accept();
+        settle();
+        button->click();
+        return;
+    }
+}
+
+}  // namespace hx::qt

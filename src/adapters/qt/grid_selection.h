@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QItemSelectionModel>
+
+#include "adapters/qt/grid_model.h"
+
+namespace hx::qt {
+
+/// Keeps the views' current cell and selected rows and the grid's the same. The grid decides whether its current row
+/// can be left.
+class GridSelection : public QItemSelectionModel {
+  public:
+    explicit GridSelection(GridModel& model);
+
+    void setCurrentIndex(const QModelIndex& index, QItemSelectionModel::SelectionFlags command) override;
+    /// Takes the current cell, or the selected rows, from the grid.
+    void followCurrentCell();
+    void followSelectedRows();
+
+  private:
+    void report();
+    GridModel& model_;
+    bool following_ = false;
+    bool reporting_ = false;
+};
+
+}  // namespace hx::qt

@@ -1,0 +1,250 @@
+#include "adapters/qt/grid_view.h"
+
+#include <QHeaderView>
+#include <QLineEdit>
+#include <QMouseEvent>
+#include <QScrollBar>
+#include <algorithm>
+
+#include "adapters/qt/form_view.h"
+#include "adapters/qt/keys.h"
+#include "adapters/qt/text.h"
+
+namespace hx::qt {
+
+GridView::GridView(forms::Grid& grid, FormView& form, QWidget& area)
+    : ControlView(grid, form), box_(&area), model_(grid), selection_(model_) {
+    addPane(right_, 1);
+    box_.setFocusPolicy(Qt::StrongFocus);
+    box_.setFocusProxy(right_.get());
+    box_.installEventFilter(this);
+    grid.setHitTester([this](double x, double y) { return hitTest(x, y); });
+    subscribe();
+    followColumns();
+    rowsChanged();
+}
+
+void GridView::addPane(std::unique_ptr<GridPane>& pane, int split) {
+    pane = std::make_unique<GridPane>(*this, model_, &box_);
+    pane->setObjectName(QStringLiteral("%1.Splits(%2)").arg(objectNameOf(*model())).arg(split));
+    pane->setAccessibleName(accessibleName());
+    pane->setSelectionModel(&selection_);
+    pane->fitRows();
+    watch(*pane);
+    watch(*pane->horizontalHeader()->viewport());
+    watch(*pane->verticalHeader()->viewport());
+}
+
+void GridView::subscribe() {
+    forms::Grid& grid = *this->grid();
+    subscriptions_.push_back(grid.rowsChanged.subscribe([this] { rowsChanged(); }));
+    subscriptions_.push_back(grid.rowChanged.subscribe([this](std::int32_t row) {
+        model_.refreshRow(row);
+        repaint();
+    }));
+    subscriptions_.push_back(grid.columnsChanged.subscribe([this] { followColumns(); }));
+    subscriptions_.push_back(grid.currentCellChanged.subscribe([this] { currentCellChanged(); }));
+    subscriptions_.push_back(grid.selectedRows().changed.subscribe([this] { selection_.followSelectedRows(); }));
+    for (std::int32_t i = 0; i < 2; ++i) {
+        subscriptions_.push_back(grid.split(i).changed.subscribe([this] { place(); }));
+    }
+}
+
+void GridView::detach() {
+    grid()->setHitTester({});
+    subscriptions_.clear();
+    columnChanges_.clear();
+    model_.detach();
+    ControlView::detach();
+}
+
+std::vector<GridPane*> GridView::panes() const {
+    std::vector<GridPane*> result{right_.get()};
+    if (left_) result.push_back(left_.get());
+    return result;
+}
+
+void GridView::followColumns() {
+    columnChanges_.clear();
+    for (const auto& column : grid()->columns()) {
+        columnChanges_.push_back(column->changed.subscribe([this](std::string_view property) {
+            if (property == "Caption") model_.refreshHeader(0);
+            layOutColumns();
+            repaint();
+        }));
+    }
+    for (GridPane* pane : panes()) pane->dropEditor();
+    model_.refresh();
+    layOutColumns();
+    currentCellChanged();
+}
+
+void GridView::rowsChanged() {
+    for (GridPane* pane : panes()) pane->dropEditor();
+    model_.refresh();
+    selection_.followSelectedRows();
+    currentCellChanged();
+}
+
+void GridView::currentCellChanged() {
+    for (GridPane* pane : panes()) {
+        if (pane->editor() != nullptr && pane->currentIndex() != model_.currentCell()) pane->settle();
+    }
+    selection_.followCurrentCell();
+    if (const QModelIndex cell = model_.currentCell(); cell.isValid()) right_->scrollTo(cell);
+    repaint();
+}
+
+void GridView::repaint() {
+    for (GridPane* pane : panes()) {
+        pane->viewport()->update();
+        pane->verticalHeader()->viewport()->update();
+    }
+}
+
+void GridView::layOutColumns() {
+    for (GridPane* pane : panes()) pane->layOutColumns(pane == right_.get());
+}
+
+void GridView::layOut() {
+    ControlView::layOut();
+    QRect rect = box_.geometry();
+    rect.setBottom(std::min(rect.bottom(), form().freeBottom(*box_.parentWidget(), rect.bottom() + 1) - 1));
+    box_.setGeometry(rect);
+    place();
+}
+
+void GridView::place() {
+    const int split = std::clamp(units().pixels(grid()->split(0).size()), 0, box_.width());
+    if (split > 0 && !left_) {
+        addPane(left_, 0);
+        connect(left_->verticalScrollBar(), &QScrollBar::valueChanged, right_->verticalScrollBar(),
+                &QScrollBar::setValue);
+        connect(right_->verticalScrollBar(), &QScrollBar::valueChanged, left_->verticalScrollBar(),
+                &QScrollBar::setValue);
+        left_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        left_->showSort();
+    }
+    const bool both = split > 0;
+    if (left_) {
+        left_->setVisible(both);
+        left_->setGeometry(0, 0, split, box_.height());
+        left_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+        left_->verticalScrollBar()->setValue(right_->verticalScrollBar()->value());
+    }
+    right_->showSelector(!both);
+    // Both scroll bars, or none: the rows of the two tables stand beside each other down to the last.
+    right_->setHorizontalScrollBarPolicy(both ? Qt::ScrollBarAlwaysOn : Qt::ScrollBarAsNeeded);
+    right_->setGeometry(split, 0, box_.width() - split, box_.height());
+    layOutColumns();
+}
+
+void GridView::settle() {
+    for (GridPane* pane : panes()) pane->settle();
+}
+
+void GridView::headClicked(int column) {
+    const auto keep = model()->share();
+    settle();
+    grid()->headClick(column);
+    if (grid() != nullptr) show("SortText");
+}
+
+void GridView::columnMoved(int column, int order) {
+    const auto keep = model()->share();
+    grid()->columnMoved(column, static_cast<std::int16_t>(order));
+    layOutColumns();
+}
+
+void GridView::columnResized(int column, int pixels) {
+    const auto keep = model()->share();
+    grid()->columnResized(column, units().twips(pixels));
+    layOutColumns();
+}
+
+void GridView::buttonClicked(const QModelIndex& cell) {
+    const auto keep = model()->share();
+    const auto keepForm = form().model()->share();
+    grid()->buttonClick(cell.row(), cell.column());
+}
+
+void GridView::editorOpened(QLineEdit& editor) {
+    const auto report = [this, &editor] {
+        if (grid() == nullptr) return;
+        grid()->editorReported(fromQt(editor.text()), toCharacters(editor.text(), editor.cursorPosition()));
+    };
+    connect(&editor, &QLineEdit::textChanged, this, report);
+    connect(&editor, &QLineEdit::cursorPositionChanged, this, report);
+    watch(editor);
+    report();
+}
+
+void GridView::editorClosed() {
+    if (grid() != nullptr) grid()->editorClosed();
+}
+
+void GridView::reportMouse(const QMouseEvent& event, QWidget& part) {
+    if (model() == nullptr) return;
+    const auto keep = model()->share();
+    const auto keepForm = form().model()->share();
+    const auto report = mouseEvent(event, part.mapTo(&box_, event.position()), units());
+    switch (event.type()) {
+        case QEvent::MouseButtonPress: model()->mouseDown(report); break;
+        case QEvent::MouseMove: model()->mouseMove(report); break;
+        case QEvent::MouseButtonRelease: model()->mouseUp(report); break;
+        default: model()->doubleClick(); break;
+    }
+}
+
+void GridView::reportMenuKey(GridPane& pane) {
+    const QPoint point = pane.currentCellPoint();
+    const PopUpPlace::AtKeyboard here(form().popUps(), pane.mapToGlobal(point));
+    const QPoint inBox = pane.mapTo(&box_, point);
+    const forms::MouseEvent mouse{forms::button::right, 0, units().twips(inBox.x()), units().twips(inBox.y())};
+    const auto keep = model()->share();
+    const auto keepForm = form().model()->share();
+    model()->mouseDown(mouse);
+    if (model() != nullptr) model()->mouseUp(mouse);
+}
+
+forms::GridHit GridView::hitTest(double x, double y) const {
+    const QPoint point(units().pixels(x), units().pixels(y));
+    for (const GridPane* pane : panes()) {
+        if (!pane->isHidden() && pane->geometry().contains(point)) return pane->hit(pane->mapFromParent(point));
+    }
+    return forms::GridHit::nowhere;
+}
+
+QString GridView::accessibleName() const {
+    const QString caption = toQt(form().model()->caption());
+    return caption.isEmpty() ? ControlView::accessibleName() : caption;
+}
+
+bool GridView::eventFilter(QObject* watched, QEvent* event) {
+    if (model() == nullptr) return false;
+    if (watched == &box_) {
+        if (event->type() == QEvent::Resize) place();
+        return false;
+    }
+    for (const GridPane* pane : panes()) {
+        if (event == pane->passing()) return false;
+    }
+    return ControlView::eventFilter(watched, event);
+}
+
+void GridView::show(std::string_view property) {
+    if (property == "SortText") {
+        for (GridPane* pane : panes()) pane->showSort();
+    } else if (property == "TabStop") {
+        const auto policy = model()->tabStop() ? Qt::StrongFocus : Qt::ClickFocus;
+        for (GridPane* pane : panes()) pane->setFocusPolicy(policy);
+    } else {
+        ControlView::show(property);
+    }
+    if (property == "Font") {
+        for (GridPane* pane : panes()) pane->fitRows();
+    }
+    repaint();
+}
+
+}  // namespace hx::qt

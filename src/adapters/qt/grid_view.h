@@ -1,0 +1,62 @@
+#pragma once
+
+#include <QWidget>
+#include <memory>
+#include <vector>
+
+#include "adapters/qt/control_view.h"
+#include "adapters/qt/grid_model.h"
+#include "adapters/qt/grid_pane.h"
+#include "adapters/qt/grid_selection.h"
+#include "forms/grid.h"
+
+namespace hx::qt {
+
+/// Shows a grid in one table, or in two beside each other while split 0 has a width. The widget is called as the
+/// control, its tables in addition ".Splits(0)" and ".Splits(1)".
+class GridView : public ControlView {
+  public:
+    GridView(forms::Grid& grid, FormView& form, QWidget& area);
+    [[nodiscard]] QWidget& widget() override { return box_; }
+    void layOut() override;
+    void settle() override;
+    void detach() override;
+
+    // --- what a table reports
+    void headClicked(int column);
+    void columnMoved(int column, int order);
+    void columnResized(int column, int pixels);
+    void buttonClicked(const QModelIndex& cell);
+    void editorOpened(QLineEdit& editor);
+    void editorClosed();
+    void reportMouse(const QMouseEvent& event, QWidget& part);
+    void reportMenuKey(GridPane& pane);
+    [[nodiscard]] int pixels(double twips) const { return units().pixels(twips); }
+
+  protected:
+    void show(std::string_view property) override;
+    [[nodiscard]] std::vector<std::string_view> ownProperties() const override { return {"SortText"}; }
+    [[nodiscard]] QString accessibleName() const override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+  private:
+    [[nodiscard]] forms::Grid* grid() const noexcept { return modelOf<forms::Grid>(*this); }
+    [[nodiscard]] std::vector<GridPane*> panes() const;
+    void addPane(std::unique_ptr<GridPane>& pane, int split);
+    void subscribe();
+    void followColumns();
+    void rowsChanged();
+    void currentCellChanged();
+    void layOutColumns();
+    void place();
+    void repaint();
+    [[nodiscard]] forms::GridHit hitTest(double x, double y) const;
+
+    QWidget box_;
+    GridModel model_;
+    GridSelection selection_;
+    std::unique_ptr<GridPane> right_, left_;
+    std::vector<forms::Subscription> subscriptions_, columnChanges_;
+};
+
+}  // namespace hx::qt

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QLabel>
+
+#include "adapters/qt/control_view.h"
+#include "forms/simple_controls.h"
+
+namespace hx::qt {
+
+class LabelView : public ControlView {
+  public:
+    LabelView(forms::Label& label, FormView& form, QWidget& area);
+    [[nodiscard]] QWidget& widget() override { return label_; }
+    /// The field that the label stands for: it gets the mnemonic and the label's text as accessible name.
+    void setBuddy(QWidget& field);
+
+  protected:
+    void show(std::string_view property) override;
+    [[nodiscard]] std::vector<std::string_view> ownProperties() const override { return {"Caption"}; }
+    [[nodiscard]] QString accessibleName() const override { return {}; }
+
+  private:
+    QLabel label_;
+};
+
+}  // namespace hx::qt

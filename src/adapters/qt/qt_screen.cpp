@@ -1,0 +1,101 @@
+#include "adapters/qt/qt_screen.h"
+
+#include <QApplication>
+#include <QDialogButtonBox>
+#include <QFontDialog>
+#include <QPushButton>
+#include <QScreen>
+
+#include "adapters/qt/band_menu.h"
+#include "adapters/qt/fonts.h"
+#include "adapters/qt/message_dialog.h"
+#include "adapters/qt/text.h"
+
+namespace hx::qt {
+
+QtScreen::QtScreen(QtWindows& windows, const Wording& wording)
+    : windows_(windows),
+      wording_(wording),
+      units_(Units::ofDpi(QGuiApplication::primaryScreen()->logicalDotsPerInchX())) {}
+
+QtScreen::~QtScreen() {
+    for (auto& [form, shown] : shown_) shown.view->detach();
+    setPointer(forms::Pointer::standard);
+}
+
+FormView* QtScreen::viewOf(const forms::Form& form) const {
+    const auto found = shown_.find(&form);
+    return found == shown_.end() ? nullptr : found->second.view.get();
+}
+
+forms::WindowHandle QtScreen::createWindow(forms::Form& form) {
+    auto view = std::make_unique<FormView>(form, units_, popUps_);
+    const auto handle = windows_.add(*view);
+    shown_[&form] = {handle, std::move(view)};
+    return handle;
+}
+
+void QtScreen::destroyWindow(forms::Form& form) {
+    const auto found = shown_.find(&form);
+    if (found == shown_.end()) return;
+    windows_.remove(found->second.handle);
+    found->second.view->detach();
+    // The window may end inside an event of its own: it is deleted when that has run.
+    found->second.view.release()->deleteLater();
+    shown_.erase(found);
+}
+
+void QtScreen::showModal(forms::Form& form, forms::WindowHandle owner) {
+    if (FormView* view = viewOf(form)) view->runModal(windows_.widget(owner));
+}
+
+void QtScreen::bringToFront(forms::Form& form) {
+    if (FormView* view = viewOf(form)) view->bringToFront();
+}
+
+forms::message::Answer QtScreen::messageBox(std::string_view text, std::int32_t style, std::string_view title) {
+    MessageDialog dialog(wording_, toQt(text), style, toQt(title));
+    return dialog.ask();
+}
+
+void QtScreen::popUp(forms::Bar& bar, forms::Band& band) {
+    const auto keep = bar.share();
+    if (!bar.openBand(band)) return;
+    std::shared_ptr<forms::Tool> chosen;
+    BandMenu menu(bar, [&](forms::Tool& tool) {
+        if (tool.enabled()) chosen = std::static_pointer_cast<forms::Tool>(tool.share());
+        else bar.click(tool);
+    });
+    menu.setObjectName(toQt(band.name()));
+    menu.fill(bar.popUpTools(band));
+    menu.exec(popUps_.point());
+    if (chosen) bar.click(*chosen);
+}
+
+bool QtScreen::chooseFont(forms::Font::Values& font) {
+    QFontDialog dialog(toQt(font), QApplication::activeWindow());
+    dialog.setWindowTitle(wording_.text(Word::chooseFont));
+    dialog.setOption(QFontDialog::DontUseNativeDialog);
+    if (auto* buttons = dialog.findChild<QDialogButtonBox*>()) {
+        buttons->button(QDialogButtonBox::Ok)->setText(wording_.text(Word::ok));
+        buttons->button(QDialogButtonBox::Cancel)->setText(wording_.text(Word::cancel));
+    }
+    if (dialog.exec() != QDialog::Accepted) return false;
+    font = fromQt(dialog.selectedFont(), font);
+    return true;
+}
+
+void QtScreen::beep() { QApplication::beep(); }
+
+void QtScreen::setPointer(forms::Pointer pointer) {
+    if (pointer == pointer_) return;
+    pointer_ = pointer;
+    if (pointer == forms::Pointer::hourglass) QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+    else QGuiApplication::restoreOverrideCursor();
+}
+
+void QtScreen::sendKeys(forms::Form& form, std::string_view keys) {
+    if (FormView* view = viewOf(form)) view->sendKeys(keys);
+}
+
+}  // namespace hx::qt

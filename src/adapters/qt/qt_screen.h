@@ -1,0 +1,53 @@
+#pragma once
+
+#include <map>
+#include <memory>
+
+#include "adapters/qt/form_view.h"
+#include "adapters/qt/popup_place.h"
+#include "adapters/qt/qt_windows.h"
+#include "adapters/qt/units.h"
+#include "adapters/qt/wording.h"
+#include "forms/screen.h"
+
+namespace hx::qt {
+
+/// Forms, message boxes and menus on a desktop. Needs a QApplication.
+class QtScreen : public forms::Screen {
+  public:
+    /// Both are lent.
+    QtScreen(QtWindows& windows, const Wording& wording);
+    ~QtScreen() override;
+
+    [[nodiscard]] forms::WindowHandle createWindow(forms::Form& form) override;
+    void destroyWindow(forms::Form& form) override;
+    void showModal(forms::Form& form, forms::WindowHandle owner) override;
+    void bringToFront(forms::Form& form) override;
+    forms::message::Answer messageBox(std::string_view text, std::int32_t style, std::string_view title) override;
+    void popUp(forms::Bar& bar, forms::Band& band) override;
+    bool chooseFont(forms::Font::Values& font) override;
+    void beep() override;
+    [[nodiscard]] forms::Pointer pointer() const override { return pointer_; }
+    void setPointer(forms::Pointer pointer) override;
+    void sendKeys(forms::Form& form, std::string_view keys) override;
+    [[nodiscard]] double twipsPerPixel() const override { return units_.twipsPerPixel(); }
+
+    [[nodiscard]] const Units& units() const noexcept { return units_; }
+    [[nodiscard]] PopUpPlace& popUps() noexcept { return popUps_; }
+
+  private:
+    struct Shown {
+        forms::WindowHandle handle;
+        std::unique_ptr<FormView> view;
+    };
+    [[nodiscard]] FormView* viewOf(const forms::Form& form) const;
+
+    QtWindows& windows_;
+    const Wording& wording_;
+    Units units_;
+    PopUpPlace popUps_;
+    std::map<const forms::Form*, Shown> shown_;
+    forms::Pointer pointer_ = forms::Pointer::standard;
+};
+
+}  // namespace hx::qt

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QString>
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace hx::qt {
+
+[[nodiscard]] inline QString toQt(std::string_view text) {
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+[[nodiscard]] inline std::string fromQt(const QString& text) { return text.toStdString(); }
+
+/// Positions in a model count characters, in Qt UTF-16 units; both are converted within `text`.
+[[nodiscard]] std::int32_t toCharacters(const QString& text, int units);
+[[nodiscard]] int toUnits(const QString& text, std::int32_t characters);
+
+}  // namespace hx::qt
