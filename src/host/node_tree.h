@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <limits>
@@ -7,7 +8,10 @@
 #include <string_view>
 #include <vector>
 
+#include "host/chunked_list.h"
+#include "host/key_index.h"
 #include "host/project_explorer.h"
+#include "host/shared_texts.h"
 
 namespace hx::host {
 
@@ -21,11 +25,11 @@ class NodeTree {
     static constexpr Id root = 0;  ///< the invisible parent of the top nodes
 
     NodeTree();
-    Id add(const NewNode& node);  ///< errBadIndex when the parent is unknown or the key exists
-    void remove(Id id);           ///< with everything below it
+    Id add(const NewNode& node);  ///< errBadIndex when the parent is unknown, the key is empty or exists
+    void remove(Id id);           ///< with everything below it; the root keeps itself
     [[nodiscard]] Id find(std::string_view key) const noexcept;  ///< none when unknown; keys are case-sensitive
 
-    [[nodiscard]] Id parent(Id id) const noexcept;
+    [[nodiscard]] Id parent(Id id) const noexcept;  ///< none for the root
     [[nodiscard]] std::size_t childCount(Id id) const noexcept;
     [[nodiscard]] Id child(Id id, std::size_t row) const noexcept;
     [[nodiscard]] std::size_t row(Id id) const noexcept;  ///< place among its siblings; logarithmic
@@ -33,14 +37,45 @@ class NodeTree {
     [[nodiscard]] const std::string& caption(Id id) const noexcept;
     [[nodiscard]] const std::string& tag(Id id) const noexcept;
     [[nodiscard]] const std::string& image(Id id) const noexcept;
+    [[nodiscard]] const std::array<bool, 3>& options(Id id) const noexcept;
+    [[nodiscard]] std::int32_t number(Id id) const noexcept;
     void setCaption(Id id, std::string_view caption);
     [[nodiscard]] std::size_t size() const noexcept;  ///< nodes, the root not counted
+    /// The keys below a node in tree order, down to `levels` levels; an empty key is the root, an unknown one has none.
     [[nodiscard]] std::vector<std::string> childKeys(std::string_view key, std::int32_t levels) const;
     void clear();
 
   private:
-    // The implementer's: nodes in a vector with a free list, an open-addressing index from key to node, children as
-    // vectors of numbers with a head offset, an ordinal a node for row().
+    /// Children in order; those before `head` have been taken off.
+    struct Children {
+        std::vector<Id> ids;
+        std::size_t head = 0;
+        [[nodiscard]] std::size_t count() const noexcept { return ids.size() - head; }
+    };
+    struct Node {
+        std::string key, caption;
+        Id parent = none;
+        std::uint32_t ordinal = 0;  ///< rises along the siblings
+        Id onlyChild = none;        ///< most parents have one child: it needs no list
+        std::uint32_t list = 0;     ///< of the children in lists_, once there were two; else 0
+        std::uint32_t tag = 0, image = 0;
+        std::int32_t number = 0;
+        std::array<bool, 3> options{};
+    };
+    [[nodiscard]] Id findParent(std::string_view key) const noexcept;
+    void takeSlot();
+    [[nodiscard]] std::uint32_t takeList();
+    void attach(Id id, Id parentId);
+    void detach(Id id);
+    void release(Id id);
+
+    ChunkedList<Node> nodes_;  ///< by number
+    std::vector<Id> free_;
+    ChunkedList<Children> lists_;  ///< by number; 0 stays empty, for the nodes without a list
+    std::vector<std::uint32_t> freeLists_;
+    SharedTexts texts_;  ///< tags and images
+    KeyIndex index_;
+    Id last_ = root;  ///< the node added last, or the root
 };
 
 }  // namespace hx::host

@@ -13,11 +13,11 @@ namespace hx::host {
 
 /// A node to be added to the explorer. `options` and `number` are kept by the explorer for the studio.
 struct NewNode {
-    std::string_view parent;  ///< key of the parent; empty for a top node
-    std::string_view caption;
-    std::string_view key;  ///< unique in the explorer
-    std::string_view tag;
-    std::string_view image;  ///< key of a node image
+    std::string_view parent{};  ///< key of the parent; empty for a top node
+    std::string_view caption{};
+    std::string_view key{};  ///< unique in the explorer
+    std::string_view tag{};
+    std::string_view image{};  ///< key of a node image
     std::array<bool, 3> options{};
     std::int32_t number = 0;
 };

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -44,8 +45,12 @@ class CInit : public automation::Dispatch {
     [[nodiscard]] const automation::MemberTable& members() const override;
 
   private:
-    // Private operations: TextToValue, ValueToText, FindItem, SetValueByPath, GetValueByPath, ReadFromIni (may stand in
-    // files of their own).
+    void takeDefaultLine(std::string_view line);
+    void applyTo(const std::string& name, const std::function<void(const automation::Error&)>& onError);
+    void ReadFromIni(const std::string& entry);
+    [[nodiscard]] CInitItem* FindItem(std::string_view path) const;
+    [[nodiscard]] automation::Dispatch& window() const;
+
     host::IniFile& iniFile_;
     automation::NumberFormat format_;
     DefaultTexts texts_;

@@ -1,0 +1,146 @@
+#include "host/ini_document.h"
+
+#include "automation/error.h"
+#include "automation/text.h"
+
+namespace hx::host {
+
+namespace {
+
+constexpr std::string_view utf8Mark = "\xEF\xBB\xBF";
+constexpr std::string_view newFileLineEnd = "\r\n";
+
+std::string_view withoutBlanks(std::string_view text) {
+    const auto first = text.find_first_not_of(" \t");
+    if (first == std::string_view::npos) return {};
+    return text.substr(first, text.find_last_not_of(" \t") - first + 1);
+}
+
+// Between "[" and the last "]"; nothing when the line is no section line.
+std::optional<std::string_view> sectionOf(std::string_view line) {
+    const std::string_view text = withoutBlanks(line);
+    const auto end = text.rfind(']');
+    if (text.empty() || text.front() != '[' || end == std::string_view::npos) return std::nullopt;
+    return withoutBlanks(text.substr(1, end - 1));
+}
+
+std::optional<std::string_view> keyOf(std::string_view line) {
+    const auto equals = line.find('=');
+    if (equals == std::string_view::npos) return std::nullopt;
+    const std::string_view key = withoutBlanks(line.substr(0, equals));
+    if (!key.empty() && key.front() == ';') return std::nullopt;
+    return key;
+}
+
+bool isUtf8(std::string_view text) {
+    std::size_t expected = 0;
+    for (const char c : text) {
+        const auto byte = static_cast<unsigned char>(c);
+        if (expected > 0) {
+            if ((byte & 0xC0) != 0x80) return false;
+            --expected;
+        } else if (byte >= 0x80) {
+            if (byte < 0xC2 || byte > 0xF4) return false;
+            expected = byte >= 0xF0 ? 3 : byte >= 0xE0 ? 2 : 1;
+        }
+    }
+    return expected == 0;
+}
+
+bool inOneLine(std::string_view text) { return text.find_first_of(std::string_view("\r\n\0", 3)) == text.npos; }
+
+void require(bool holds, std::string_view what, std::string_view text) {
+    if (holds) return;
+    throw automation::Error(automation::errFail,
+                            std::string(what) + " cannot stand in an INI file: " + std::string(text));
+}
+
+}  // namespace
+
+IniDocument::IniDocument(std::string_view bytes) {
+    utf16_ = bytes.starts_with("\xFF\xFE") || bytes.starts_with("\xFE\xFF");
+    if (bytes.starts_with(utf8Mark)) {
+        mark_ = utf8Mark;
+        bytes.remove_prefix(utf8Mark.size());
+    }
+    while (!bytes.empty()) {
+        const auto newline = bytes.find('\n');
+        std::string_view line = bytes.substr(0, newline);
+        const std::size_t carriageReturn = newline != bytes.npos && line.ends_with('\r') ? 1 : 0;
+        line.remove_suffix(carriageReturn);
+        const std::size_t size = newline == bytes.npos ? bytes.size() : newline + 1;
+        lines_.push_back({std::string(line), std::string(bytes.substr(line.size(), size - line.size()))});
+        bytes.remove_prefix(size);
+    }
+}
+
+std::optional<std::string> IniDocument::text(std::string_view section, std::string_view key) const {
+    const Place place = find(section, key);
+    if (!place.line) return std::nullopt;
+    const std::string& line = lines_[*place.line].text;
+    const std::string text = line.substr(line.find('=') + 1);
+    return isUtf8(text) ? text : automation::fromWindows1252(text);
+}
+
+void IniDocument::setText(std::string_view section, std::string_view key, std::string_view text) {
+    require(!utf16_, "A new text", "the file is UTF-16, not UTF-8 or a Windows code page");
+    require(inOneLine(section), "A section of several lines", section);
+    const bool keyFits = inOneLine(key) && key.find('=') == key.npos && !key.starts_with(';') && !key.starts_with('[');
+    require(keyFits && !withoutBlanks(key).empty(), "This key", key);
+    require(inOneLine(text), "A text of several lines", text);
+
+    std::string line = std::string(key) + "=" + std::string(text);
+    const Place place = find(section, key);
+    if (place.line) {
+        lines_[*place.line].text = std::move(line);
+    } else if (place.behind) {
+        insert(*place.behind, std::move(line));
+    } else {
+        insert(lines_.size(), "[" + std::string(section) + "]");
+        insert(lines_.size(), std::move(line));
+    }
+}
+
+IniDocument::Place IniDocument::find(std::string_view section, std::string_view key) const {
+    Place place;
+    const std::string_view wantedSection = withoutBlanks(section);
+    const std::string_view wantedKey = withoutBlanks(key);
+    bool inside = false;
+    bool firstOfItsName = false;
+    for (std::size_t i = 0; i < lines_.size(); ++i) {
+        const std::string& line = lines_[i].text;
+        if (const auto name = sectionOf(line)) {
+            inside = automation::equalIgnoreCase(*name, wantedSection);
+            firstOfItsName = inside && !place.behind;
+            if (firstOfItsName) place.behind = i + 1;
+            continue;
+        }
+        if (!inside) continue;
+        const auto name = keyOf(line);
+        if (name && automation::equalIgnoreCase(*name, wantedKey)) {
+            place.line = i;
+            return place;
+        }
+        // Blank lines at the end of a section set off the next one: a new key goes before them.
+        if (firstOfItsName && !withoutBlanks(line).empty()) place.behind = i + 1;
+    }
+    return place;
+}
+
+void IniDocument::insert(std::size_t at, std::string text) {
+    const std::string end = lineEnd();
+    if (at > 0 && lines_[at - 1].end.empty()) lines_[at - 1].end = end;
+    lines_.insert(lines_.begin() + static_cast<std::ptrdiff_t>(at), Line{std::move(text), end});
+}
+
+std::string IniDocument::lineEnd() const {
+    return lines_.empty() || lines_.front().end.empty() ? std::string(newFileLineEnd) : lines_.front().end;
+}
+
+std::string IniDocument::bytes() const {
+    std::string all = mark_;
+    for (const Line& line : lines_) all += line.text + line.end;
+    return all;
+}
+
+}  // namespace hx::host

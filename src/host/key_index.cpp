@@ -1,0 +1,53 @@
+#include "host/key_index.h"
+
+#include <functional>
+#include <utility>
+
+namespace hx::host {
+
+namespace {
+
+constexpr std::size_t firstSize = 64;
+
+}  // namespace
+
+std::uint32_t KeyIndex::hashOf(std::string_view key) noexcept {
+    const std::uint64_t hash = std::hash<std::string_view>{}(key);
+    return static_cast<std::uint32_t>(hash ^ (hash >> 32));
+}
+
+void KeyIndex::erase(std::uint32_t hash, Id id) noexcept {
+    std::size_t hole = hash & mask();
+    while (slots_[hole].id != id) hole = (hole + 1) & mask();
+    --count_;
+    // Closing the gap keeps every later entry of the run reachable without a mark for "was taken".
+    for (std::size_t next = (hole + 1) & mask(); slots_[next].id != none; next = (next + 1) & mask()) {
+        const std::size_t home = slots_[next].hash & mask();
+        const bool reachableOverHole = ((next - home) & mask()) >= ((next - hole) & mask());
+        if (!reachableOverHole) continue;
+        slots_[hole] = slots_[next];
+        hole = next;
+    }
+    slots_[hole] = Slot{};
+}
+
+void KeyIndex::clear() noexcept {
+    slots_.clear();
+    count_ = 0;
+}
+
+void KeyIndex::place(Slot slot) noexcept {
+    std::size_t at = slot.hash & mask();
+    while (slots_[at].id != none) at = (at + 1) & mask();
+    slots_[at] = slot;
+}
+
+void KeyIndex::grow() {
+    std::vector<Slot> old(slots_.empty() ? firstSize : slots_.size() * 2);
+    old.swap(slots_);
+    for (const Slot& slot : old) {
+        if (slot.id != none) place(slot);
+    }
+}
+
+}  // namespace hx::host

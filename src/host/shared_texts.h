@@ -1,0 +1,40 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "host/chunked_list.h"
+#include "host/key_index.h"
+
+namespace hx::host {
+
+/// Texts that many share, each kept once under a number. 0 is the empty text.
+class SharedTexts {
+  public:
+    SharedTexts() { clear(); }
+    /// The number of a text, which is kept from now on.
+    [[nodiscard]] std::uint32_t numberOf(std::string_view text) {
+        if (texts_[last_] == text) return last_;  // neighbours tend to share theirs
+        const auto next = static_cast<std::uint32_t>(texts_.size());
+        const auto same = [&](std::uint32_t number) { return texts_[number] == text; };
+        const auto known = text.empty() ? 0 : index_.insert(KeyIndex::hashOf(text), next, same);
+        last_ = known != KeyIndex::none ? known : next;
+        if (last_ == next) texts_.append() = text;
+        return last_;
+    }
+    [[nodiscard]] const std::string& operator[](std::uint32_t number) const noexcept { return texts_[number]; }
+    void clear() {
+        index_.clear();
+        texts_.clear();
+        texts_.append();
+        last_ = 0;
+    }
+
+  private:
+    ChunkedList<std::string> texts_;
+    KeyIndex index_;
+    std::uint32_t last_ = 0;
+};
+
+}  // namespace hx::host
