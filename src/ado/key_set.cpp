@@ -1,6 +1,7 @@
 #include "ado/key_set.h"
 
 #include <algorithm>
+#include <vector>
 
 namespace hx::ado {
 
@@ -21,6 +22,28 @@ void KeySet::erase(std::size_t position) {
     } else {
         wide_.erase(wide_.begin() + offset);
     }
+    if (!empty()) last_ = (*this)[size() - 1];
+}
+
+namespace {
+
+template <class Keys>
+void sortKeys(Keys& keys, bool ascending, bool descending) {
+    if (!ascending) {
+        // A vector sorts about twice as fast.
+        std::vector<typename Keys::value_type> sorted(keys.begin(), keys.end());
+        std::sort(sorted.begin(), sorted.end());
+        std::copy(sorted.begin(), sorted.end(), keys.begin());
+    }
+    if (descending) std::reverse(keys.begin(), keys.end());
+}
+
+}  // namespace
+
+void KeySet::sort(bool descending) {
+    sortKeys(narrow_, ascending_, descending);
+    sortKeys(wide_, ascending_, descending);
+    ascending_ = !descending || size() < 2;
     if (!empty()) last_ = (*this)[size() - 1];
 }
 

@@ -23,6 +23,8 @@ class KeySet {
         narrow_.push_back(value);
     }
     void erase(std::size_t position);
+    /// Puts the keys into ascending or descending order.
+    void sort(bool descending);
     [[nodiscard]] std::size_t size() const noexcept { return narrow_.size() + wide_.size(); }
     [[nodiscard]] bool empty() const noexcept { return narrow_.empty() && wide_.empty(); }
     [[nodiscard]] Key operator[](std::size_t position) const noexcept {

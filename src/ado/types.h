@@ -42,6 +42,7 @@ inline constexpr std::int32_t dbErrDeletedRow = hresult(0x80040E23);     ///< th
 inline constexpr std::int32_t dbErrBadCommand = hresult(0x80040E14);     ///< the command text has an error
 inline constexpr std::int32_t dbErrNoTable = hresult(0x80040E37);        ///< no such table
 inline constexpr std::int32_t dbErrCannotConvert = hresult(0x80040E07);  ///< the value does not fit the column's type
+inline constexpr std::int32_t dbErrIntegrity = hresult(0x80040E2F);      ///< a rule of the table forbids the value
 inline constexpr std::int32_t dbErrUnspecified =
     hresult(0x80004005);  ///< file missing, locked, full disk, no project ...
 

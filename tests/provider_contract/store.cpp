@@ -1,8 +1,11 @@
 #include "store.h"
 
+#include "adapters/sqlite/project_file.h"
+#include "adapters/sqlite/provider.h"
 #include "automation/convert.h"
 #include "support/faulty_provider.h"
 #include "support/memory_provider.h"
+#include "support/temporary_folder.h"
 
 namespace hx::contract {
 
@@ -18,6 +21,18 @@ class MemoryStore : public Store {
 
   private:
     support::MemoryProvider provider_;
+};
+
+/// A project file in a folder of its own.
+class SqliteStore : public Store {
+  public:
+    SqliteStore() { sqlite::createProject(path()); }
+    ado::Provider& provider() override { return provider_; }
+    std::string path() const override { return folder_.file("plant.hxs"); }
+
+  private:
+    support::TemporaryFolder folder_;
+    sqlite::Provider provider_;
 };
 
 /// A store whose faults never fire: passing everything on must change nothing.
@@ -38,6 +53,8 @@ class WrappedStore : public Store {
 const std::vector<StoreKind>& storeKinds() {
     static const std::vector<StoreKind> kinds = {
         {"Memory", [] { return std::make_unique<MemoryStore>(); }},
+        {"Sqlite", [] { return std::make_unique<SqliteStore>(); }},
+        {"FaultySqlite", [] { return std::make_unique<WrappedStore<SqliteStore>>(); }},
         {"FaultyMemory", [] { return std::make_unique<WrappedStore<MemoryStore>>(); }},
     };
     return kinds;

@@ -1,0 +1,94 @@
+#include "adapters/sqlite/database.h"
+
+#include <filesystem>
+#include <sqlite3.h>
+
+#include "adapters/sqlite/functions.h"
+#include "adapters/sqlite/sqlite_error.h"
+
+namespace hx::sqlite {
+
+namespace {
+
+constexpr int busyMilliseconds = 2000;
+constexpr std::size_t keptStatements = 48;
+
+// A connection serves one thread, so it needs no mutex. SQLITE_OPEN_CREATE is left out on purpose.
+constexpr int openFlags = SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_EXRESCODE;
+
+// EXTRA also makes the deletion of the journal durable: after a power failure a finished write is never undone.
+constexpr const char* settings =
+    "PRAGMA synchronous=EXTRA;"
+    "PRAGMA foreign_keys=OFF;"
+    "PRAGMA temp_store=MEMORY;"
+    "PRAGMA cache_size=-2000;"
+    "PRAGMA mmap_size=0;";
+
+}  // namespace
+
+void Database::Closer::operator()(sqlite3* handle) const noexcept { sqlite3_close_v2(handle); }
+
+Database::Database(const std::string& path) : path_(path), collecting_(std::make_unique<ado::KeySet*>(nullptr)) {
+    sqlite3* handle = nullptr;
+    // An absolute name is never taken for a URI or for a database in memory.
+    const std::string absolute = std::filesystem::absolute(path).string();
+    const int code = sqlite3_open_v2(absolute.c_str(), &handle, openFlags, nullptr);
+    handle_.reset(handle);
+    check(code);
+    check(sqlite3_busy_timeout(handle, busyMilliseconds));
+    check(sqlite3_db_config(handle, SQLITE_DBCONFIG_DQS_DML, 0, nullptr));
+    check(sqlite3_db_config(handle, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr));
+    check(registerFunctions(handle, collecting_.get()));
+    execute(settings);
+}
+
+Database::~Database() = default;
+
+Statement& Database::prepared(const std::string& sql) {
+    if (const auto found = bySql_.find(sql); found != bySql_.end()) {
+        statements_.splice(statements_.begin(), statements_, found->second);
+        return found->second->second;
+    }
+    Statement statement(*this, sql);
+    if (statements_.size() >= keptStatements) {
+        bySql_.erase(statements_.back().first);
+        statements_.pop_back();
+    }
+    statements_.emplace_front(sql, std::move(statement));
+    bySql_.emplace(statements_.front().first, statements_.begin());
+    return statements_.front().second;
+}
+
+void Database::execute(const std::string& sql) {
+    check(sqlite3_exec(handle(), sql.c_str(), nullptr, nullptr, nullptr));
+}
+
+std::int64_t Database::number(const std::string& sql) {
+    Statement& statement = prepared(sql);
+    const ResetGuard guard(statement);
+    return statement.step() ? statement.key(0) : 0;
+}
+
+ado::KeySet Database::collect(Statement& statement) {
+    ado::KeySet keys;
+    struct Target {
+        ado::KeySet*& target;
+        ~Target() { target = nullptr; }
+    } const collecting{* collecting_ = &keys};
+    statement.step();
+    return keys;
+}
+
+bool Database::inTransaction() const noexcept { return sqlite3_get_autocommit(handle()) == 0; }
+std::int64_t Database::lastInsertedKey() const noexcept { return sqlite3_last_insert_rowid(handle()); }
+std::int64_t Database::changedRows() const noexcept { return sqlite3_changes64(handle()); }
+
+void Database::check(int code) const {
+    if (code != SQLITE_OK) fail(code);
+}
+
+void Database::fail(int code) const {
+    throw errorOf(code, handle() == nullptr ? std::string_view() : sqlite3_errmsg(handle()), path_);
+}
+
+}  // namespace hx::sqlite

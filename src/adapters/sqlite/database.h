@@ -1,0 +1,73 @@
+#pragma once
+
+#include <cstdint>
+#include <list>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+
+#include "adapters/sqlite/statement.h"
+#include "ado/key_set.h"
+
+struct sqlite3;
+
+namespace hx::sqlite {
+
+/// An open SQLite file. Every failure is an automation::Error that names the file: dbErrDuplicate, dbErrIntegrity,
+/// dbErrNoTable, dbErrBadCommand, else dbErrUnspecified.
+class Database {
+  public:
+    /// Opens an existing file for reading and writing (for reading when it is write-protected). Writes are on the disk
+    /// when a statement, or the transaction around it, returns. Nothing is read yet.
+    explicit Database(const std::string& path);
+    ~Database();
+    Database(const Database&) = delete;
+    Database& operator=(const Database&) = delete;
+
+    [[nodiscard]] const std::string& path() const noexcept { return path_; }
+
+    /// A statement ready to be bound and run; the last used ones are kept. Reset it after use (ResetGuard).
+    [[nodiscard]] Statement& prepared(const std::string& sql);
+    /// Runs one or several statements that give no rows.
+    void execute(const std::string& sql);
+    /// The integer in the first column of the first row, 0 when there is none.
+    [[nodiscard]] std::int64_t number(const std::string& sql);
+
+    /// Runs a statement that hands its keys to the function hx_keys.
+    [[nodiscard]] ado::KeySet collect(Statement& statement);
+
+    [[nodiscard]] bool inTransaction() const noexcept;
+    [[nodiscard]] std::int64_t lastInsertedKey() const noexcept;
+    [[nodiscard]] std::int64_t changedRows() const noexcept;
+
+    [[noreturn]] void fail(int code) const;
+    void check(int code) const;
+    [[nodiscard]] sqlite3* handle() const noexcept { return handle_.get(); }
+
+  private:
+    struct Closer {
+        void operator()(sqlite3* handle) const noexcept;
+    };
+    using Statements = std::list<std::pair<std::string, Statement>>;
+
+    std::string path_;
+    std::unique_ptr<sqlite3, Closer> handle_;
+    std::unique_ptr<ado::KeySet*> collecting_;  // where hx_keys appends to
+    Statements statements_;                     // the last used one first
+    std::unordered_map<std::string_view, Statements::iterator> bySql_;
+};
+
+/// Ends the use of a statement.
+class ResetGuard {
+  public:
+    explicit ResetGuard(Statement& statement) : statement_(statement) {}
+    ~ResetGuard() { statement_.reset(); }
+    ResetGuard(const ResetGuard&) = delete;
+    ResetGuard& operator=(const ResetGuard&) = delete;
+
+  private:
+    Statement& statement_;
+};
+
+}  // namespace hx::sqlite

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <string>
+
+namespace hx::sqlite {
+
+/// Makes an empty project. Throws dbErrUnspecified when the path is taken (the file there stays as it is) or cannot be
+/// written. The project appears whole or not at all.
+void createProject(const std::string& path);
+
+/// A project that is built in a temporary file beside its place and appears there when it is finished.
+class ProjectDraft {
+  public:
+    /// Throws dbErrUnspecified when the path is taken or the folder cannot be written.
+    explicit ProjectDraft(std::string path);
+    /// Removes what has not been published.
+    ~ProjectDraft();
+    ProjectDraft(const ProjectDraft&) = delete;
+    ProjectDraft& operator=(const ProjectDraft&) = delete;
+
+    /// The temporary file. Connections to it must be closed before publish().
+    [[nodiscard]] const std::string& temporaryPath() const noexcept { return temporary_; }
+    /// Makes the tables, with the indexes or, for filling them faster, without.
+    void createTables(bool withIndexes = true);
+    void createIndexes();
+    /// Gives the file its name. Throws dbErrUnspecified when the path has been taken meanwhile.
+    void publish();
+
+  private:
+    std::string path_;
+    std::string temporary_;
+};
+
+}  // namespace hx::sqlite

@@ -1,0 +1,57 @@
+#include "adapters/sqlite/project_schema.h"
+
+namespace hx::sqlite {
+
+namespace {
+
+constexpr const char* tables = R"(
+CREATE TABLE TrcpRecipe (
+    ID             INTEGER PRIMARY KEY AUTOINCREMENT,
+    Name           VARCHAR(255) NOT NULL UNIQUE COLLATE NOCASE,
+    VarRecipeName  VARCHAR(255) DEFAULT '' COLLATE NOCASE,
+    VarDescription VARCHAR(255) DEFAULT '' COLLATE NOCASE,
+    FilePath       LONGTEXT COLLATE NOCASE,
+    FileExtension  VARCHAR(255) DEFAULT '' COLLATE NOCASE,
+    Enabled        BOOLEAN NOT NULL DEFAULT 0,
+    Comment        VARCHAR(255) DEFAULT '' COLLATE NOCASE,
+    VarLoad        VARCHAR(255) DEFAULT '' COLLATE NOCASE,
+    VarSave        VARCHAR(255) DEFAULT '' COLLATE NOCASE,
+    VarRead        VARCHAR(255) DEFAULT '' COLLATE NOCASE,
+    VarWrite       VARCHAR(255) DEFAULT '' COLLATE NOCASE,
+    StandardValue  DOUBLE DEFAULT 0,
+    VarSetValue    VARCHAR(255) DEFAULT '' COLLATE NOCASE,
+    SaveSubRecipes BOOLEAN NOT NULL DEFAULT 0,
+    SaveChanges    BOOLEAN NOT NULL DEFAULT 0,
+    CryptEngine    BOOLEAN NOT NULL DEFAULT 0,
+    Options        INTEGER DEFAULT 0
+);
+CREATE TABLE TrcpRecipeMember (
+    ID        INTEGER PRIMARY KEY AUTOINCREMENT,
+    ParentID  INTEGER NOT NULL DEFAULT 0,
+    VarRecipe VARCHAR(255) DEFAULT '' COLLATE NOCASE,
+    ChildID   INTEGER NOT NULL DEFAULT 0
+);
+CREATE TABLE ThxVariable (
+    ID      INTEGER PRIMARY KEY AUTOINCREMENT,
+    Name    VARCHAR(255) NOT NULL UNIQUE COLLATE NOCASE,
+    Type    VARCHAR(20) DEFAULT '',
+    Comment VARCHAR(255) DEFAULT '' COLLATE NOCASE
+);
+)";
+
+// The first one holds all that a member query asks for, so its keys are read from it alone.
+constexpr const char* indexes = R"(
+CREATE INDEX IrcpRecipeMember_ParentID_ChildID ON TrcpRecipeMember (ParentID, ChildID);
+CREATE INDEX IrcpRecipeMember_ChildID ON TrcpRecipeMember (ChildID);
+)";
+
+}  // namespace
+
+std::string projectTables() {
+    return tables + ("PRAGMA application_id=" + std::to_string(projectApplicationId) + ";") +
+           "PRAGMA user_version=" + std::to_string(projectSchemaVersion) + ";";
+}
+
+std::string projectIndexes() { return indexes; }
+
+}  // namespace hx::sqlite

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "ado/provider.h"
+
+namespace hx::sqlite {
+
+/// Project files in SQLite. The connection string may name any provider; its "Data Source" is the file, "Mode" may
+/// leave "Write" out to open it for reading only. Commands are in Jet SQL.
+///
+/// A file that is missing, a folder, no project, made by a newer program, locked or not permitted is a dbErrUnspecified
+/// that says which.
+class Provider : public ado::Provider {
+  public:
+    [[nodiscard]] std::unique_ptr<ado::Session> connect(std::string_view connectionString) override;
+};
+
+}  // namespace hx::sqlite

@@ -1,0 +1,96 @@
+#include "adapters/sqlite/session.h"
+
+#include "adapters/sqlite/project_schema.h"
+#include "adapters/sqlite/query_rowset.h"
+#include "adapters/sqlite/table_rowset.h"
+
+namespace hx::sqlite {
+
+using automation::Error;
+
+namespace {
+
+// Refuses a text with letters beyond ASCII that equals another row's ignoring case; the rest the table's own index
+// refuses. Only rows with the same ASCII letters in front are looked at, by way of that index.
+std::string uniquenessTrigger(const TableInfo& table, const std::string& column, const std::string& event) {
+    const std::string name = quotedName(column);
+    const std::string prefix = "hx_prefix(NEW." + name + ")";
+    return "CREATE TEMP TRIGGER " + quotedName("hx_unique_" + table.name + "_" + column + event.substr(0, 6)) +
+           " BEFORE " + event + " ON main." + quotedName(table.name) + " WHEN " + prefix + " <> NEW." + name +
+           " BEGIN SELECT RAISE(ABORT, 'UNIQUE constraint failed: " + table.name + "." + column + "') WHERE EXISTS (" +
+           "SELECT 1 FROM main." + quotedName(table.name) + " WHERE " + name + " >= " + prefix + " AND " + name +
+           " < " + prefix + " || char(1114111) AND hx_fold(" + name + ") = hx_fold(NEW." + name + ") AND " +
+           quotedName(table.key) + " <> NEW." + quotedName(table.key) + "); END;";
+}
+
+}  // namespace
+
+Session::Session(const std::string& path, bool readOnly) : writes_(std::make_shared<Writes>(path)) {
+    requireProject();
+    if (readOnly) writes_->database().execute("PRAGMA query_only=ON");
+    else compareNamesBeyondAscii();
+}
+
+void Session::requireProject() {
+    Database& database = writes_->database();
+    if (database.number("PRAGMA application_id") != projectApplicationId) {
+        throw Error(ado::dbErrUnspecified, "The file '" + database.path() + "' is not a project file.");
+    }
+    const std::int64_t version = database.number("PRAGMA user_version");
+    if (version > projectSchemaVersion) {
+        throw Error(ado::dbErrUnspecified, "The project '" + database.path() +
+                                               "' was made by a newer program (format " + std::to_string(version) +
+                                               "; this program reads up to format " +
+                                               std::to_string(projectSchemaVersion) + ").");
+    }
+}
+
+void Session::compareNamesBeyondAscii() {
+    const TableInfo* table = findTable("TrcpRecipe");
+    if (table == nullptr || table->key.empty()) return;
+    Database& database = writes_->database();
+    for (const std::string& column : uniqueTextColumns(database, table->name)) {
+        database.execute(uniquenessTrigger(*table, column, "INSERT"));
+        database.execute(uniquenessTrigger(*table, column, "UPDATE OF " + quotedName(column)));
+    }
+}
+
+const TableInfo* Session::findTable(std::string_view name) {
+    Database& database = writes_->database();
+    if (const auto version = database.number("PRAGMA schema_version"); version != schemaVersion_) {
+        tables_.clear();
+        schemaVersion_ = version;
+    }
+    auto known = tables_.find(name);
+    if (known == tables_.end()) {
+        known = tables_.emplace(std::string(name), TableInfo::read(database, name)).first;
+    }
+    return known->second ? &*known->second : nullptr;
+}
+
+std::unique_ptr<ado::Rowset> Session::openTable(const TableSelect& select) {
+    const TableInfo* table = findTable(select.table);
+    if (table == nullptr) throw Error(ado::dbErrNoTable, "There is no table \"" + select.table + "\".");
+    if (table->key.empty()) return nullptr;
+    return std::make_unique<TableRowset>(writes_, *table, select);
+}
+
+std::unique_ptr<ado::Rowset> Session::open(std::string_view text, ado::CommandType type) {
+    if (type != ado::adCmdText) {
+        TableSelect whole;
+        whole.table = text;
+        if (auto rowset = openTable(whole)) return rowset;
+        return std::make_unique<QueryRowset>(writes_, "SELECT * FROM " + quotedName(text));
+    }
+    const JetCommand command = JetCommand::parse(text);
+    if (command.verb == JetCommand::Verb::change) {
+        writes_->execute(translateCommand(command.tokens, findTable(command.target)));
+        return nullptr;
+    }
+    if (command.table) {
+        if (auto rowset = openTable(*command.table)) return rowset;
+    }
+    return std::make_unique<QueryRowset>(writes_, translateCommand(command.tokens, nullptr));
+}
+
+}  // namespace hx::sqlite

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "automation/error.h"
+
+namespace hx::sqlite {
+
+/// SQLite's (extended) result code and message as an error that says what happened to which file.
+[[nodiscard]] automation::Error errorOf(int code, std::string_view message, const std::string& path);
+
+}  // namespace hx::sqlite

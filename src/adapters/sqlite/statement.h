@@ -1,0 +1,53 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "ado/key_set.h"
+#include "ado/types.h"
+#include "automation/variant.h"
+
+struct sqlite3_stmt;
+
+namespace hx::sqlite {
+
+class Database;
+
+/// A prepared statement. Parameters count from 1, columns from 0.
+class Statement {
+  public:
+    /// Throws what Database::fail says when the text cannot be prepared.
+    Statement(const Database& database, std::string_view sql);
+
+    void bind(int parameter, const automation::Variant& value);
+    void bind(int parameter, ado::Key key);
+    /// True while there is a row.
+    bool step();
+    void reset() noexcept;
+
+    [[nodiscard]] int columnCount() const noexcept;
+    [[nodiscard]] std::string columnName(int column) const;
+    /// The declared type of the table column behind it, empty for an expression.
+    [[nodiscard]] std::string declaredType(int column) const;
+    [[nodiscard]] bool isReadOnly() const noexcept;
+
+    // Of the current row.
+    [[nodiscard]] ado::Key key(int column) const noexcept;
+    /// The value as ADO gives it for a column of the type. What another program stored in another type is converted as
+    /// SQLite converts it.
+    [[nodiscard]] automation::Variant value(int column, ado::DataType type) const;
+    [[nodiscard]] std::string text(int column) const;
+    /// What the value itself is: adInteger, adDouble, adVarWChar; adEmpty for a missing one.
+    [[nodiscard]] ado::DataType storedType(int column) const noexcept;
+
+  private:
+    struct Finalizer {
+        void operator()(sqlite3_stmt* statement) const noexcept;
+    };
+
+    const Database* database_;
+    std::unique_ptr<sqlite3_stmt, Finalizer> statement_;
+};
+
+}  // namespace hx::sqlite

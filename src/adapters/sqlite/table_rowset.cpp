@@ -1,0 +1,146 @@
+#include "adapters/sqlite/table_rowset.h"
+
+#include <algorithm>
+
+#include "adapters/sqlite/criterion_sql.h"
+#include "adapters/sqlite/functions.h"
+#include "adapters/sqlite/writes.h"
+#include "automation/text.h"
+
+namespace hx::sqlite {
+
+using ado::ColumnMask;
+using ado::ColumnValue;
+using ado::Key;
+
+namespace {
+
+// Rows between two keys are read in one go when at most so many times as many keys lie between as are wanted.
+constexpr Key readAlong = 4;
+
+bool isText(const ado::Column& column) { return column.type == ado::adVarWChar || column.type == ado::adLongVarWChar; }
+
+void bindAll(Statement& statement, const std::vector<automation::Variant>& parameters) {
+    for (std::size_t i = 0; i < parameters.size(); ++i) statement.bind(static_cast<int>(i + 1), parameters[i]);
+}
+
+}  // namespace
+
+TableRowset::TableRowset(std::shared_ptr<Writes> writes, TableInfo table, const TableSelect& select)
+    : writes_(std::move(writes)), table_(std::move(table)), order_(select.order) {
+    if (select.columns.empty()) columns_ = table_.columns;
+    for (const std::string& name : select.columns) columns_.push_back(table_.columns[table_.requireColumn(name)]);
+    for (const OrderTerm& term : order_) (void)table_.requireColumn(term.column);
+    condition_ = translateCondition(select.condition, table_);
+    row_.resize(columns_.size());
+    if (!select.condition.empty()) (void)writes_->database().prepared(keysQuery(nullptr).sql);
+}
+
+TableRowset::Order TableRowset::order() const {
+    if (order_.empty()) return Order::ascendingKey;
+    if (!automation::equalIgnoreCase(order_.front().column, table_.key)) return Order::other;
+    return order_.front().descending ? Order::descendingKey : Order::ascendingKey;
+}
+
+std::string TableRowset::orderClause() const {
+    std::string clause = " ORDER BY ";
+    for (const OrderTerm& term : order_) {
+        const ado::Column& column = table_.columns[table_.requireColumn(term.column)];
+        std::string value = quotedName(column.name);
+        if (isText(column)) value += std::string(" COLLATE ") + textCollation;
+        if (column.type == ado::adBoolean) value = "(-(" + value + " <> 0))";
+        clause += value + (term.descending ? " DESC, " : ", ");
+    }
+    return clause + quotedName(table_.key);
+}
+
+// The keys come as they are found when the order is the key's own: what is not in order then is sorted afterwards,
+// which takes less time than SQLite's sorter. An aggregate that runs inside SQLite saves a call and a row for every
+// key.
+BoundSql TableRowset::keysQuery(const ado::Criterion* criterion) const {
+    BoundSql query = condition_;
+    if (!query.sql.empty()) query.sql = "(" + query.sql + ")";
+    if (criterion != nullptr) {
+        if (!query.sql.empty()) query.sql += " AND ";
+        appendCriterion(query, *criterion, columns_);
+    }
+    if (!query.sql.empty()) query.sql = " WHERE " + query.sql;
+    const std::string key = quotedName(table_.key);
+    const bool byKey = order() != Order::other;
+    query.sql = "SELECT " + (byKey ? "hx_keys(" + key + ")" : key) + " FROM " + quotedName(table_.name) + query.sql;
+    if (!byKey) query.sql += orderClause();
+    return query;
+}
+
+ado::KeySet TableRowset::keys(const ado::Criterion* criterion) {
+    const BoundSql query = keysQuery(criterion);
+    Statement& statement = writes_->database().prepared(query.sql);
+    const ResetGuard guard(statement);
+    bindAll(statement, query.parameters);
+    ado::KeySet keys;
+    if (order() == Order::other) {
+        while (statement.step()) keys.append(statement.key(0));
+        return keys;
+    }
+    keys = writes_->database().collect(statement);
+    keys.sort(order() == Order::descendingKey);
+    return keys;
+}
+
+std::string TableRowset::readQuery(ColumnMask mask) const {
+    std::string query = "SELECT " + quotedName(table_.key);
+    for (std::size_t i = 0; i < columns_.size(); ++i) {
+        const bool wanted = (mask & ado::columnBit(i)) != 0 && !columns_[i].isKey;
+        if (wanted) query += ", " + quotedName(columns_[i].name);
+    }
+    return query + " FROM " + quotedName(table_.name) + " WHERE " + quotedName(table_.key);
+}
+
+void TableRowset::read(std::span<const Key> keys, ColumnMask mask, ado::RowSink& sink) {
+    if (keys.empty()) return;
+    const bool ascending = std::ranges::adjacent_find(keys, std::greater_equal<>()) == keys.end();
+    const bool dense = ascending && (keys.back() - keys.front()) / readAlong <= static_cast<Key>(keys.size());
+    if (dense) readRange(keys, mask, sink);
+    else readEach(keys, mask, sink);
+}
+
+void TableRowset::giveRow(Statement& statement, std::size_t index, ColumnMask mask, ado::RowSink& sink) {
+    int column = 1;
+    for (std::size_t i = 0; i < columns_.size(); ++i) {
+        const bool read = (mask & ado::columnBit(i)) != 0 && !columns_[i].isKey;
+        row_[i] = read ? statement.value(column++, columns_[i].type) : automation::Variant();
+    }
+    sink.row(index, row_);
+}
+
+void TableRowset::readRange(std::span<const Key> keys, ColumnMask mask, ado::RowSink& sink) {
+    Statement& statement = writes_->database().prepared(readQuery(mask) + " BETWEEN ?1 AND ?2 ORDER BY 1");
+    const ResetGuard guard(statement);
+    statement.bind(1, keys.front());
+    statement.bind(2, keys.back());
+    std::size_t index = 0;
+    while (statement.step()) {
+        const Key found = statement.key(0);
+        while (index < keys.size() && keys[index] < found) ++index;
+        if (index < keys.size() && keys[index] == found) giveRow(statement, index, mask, sink);
+    }
+}
+
+void TableRowset::readEach(std::span<const Key> keys, ColumnMask mask, ado::RowSink& sink) {
+    Statement& statement = writes_->database().prepared(readQuery(mask) + " = ?1");
+    for (std::size_t index = 0; index < keys.size(); ++index) {
+        const ResetGuard guard(statement);
+        statement.bind(1, keys[index]);
+        if (statement.step()) giveRow(statement, index, mask, sink);
+    }
+}
+
+Key TableRowset::insert(std::span<const ColumnValue> values) { return writes_->insert(table_, columns_, values); }
+
+void TableRowset::update(Key key, std::span<const ColumnValue> values) {
+    writes_->update(table_, columns_, key, values);
+}
+
+void TableRowset::remove(Key key) { writes_->remove(table_, key); }
+
+}  // namespace hx::sqlite

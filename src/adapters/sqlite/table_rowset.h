@@ -1,0 +1,43 @@
+#pragma once
+
+#include <memory>
+
+#include "adapters/sqlite/jet_sql.h"
+
+namespace hx::sqlite {
+
+class Writes;
+
+/// The rows of one table that a command selects; they have keys and can be changed.
+class TableRowset : public ado::Rowset {
+  public:
+    /// Throws dbErrBadCommand for a column that the table does not have.
+    TableRowset(std::shared_ptr<Writes> writes, TableInfo table, const TableSelect& select);
+
+    [[nodiscard]] const std::vector<ado::Column>& columns() const override { return columns_; }
+    [[nodiscard]] ado::KeySet keys(const ado::Criterion* criterion) override;
+    void read(std::span<const ado::Key> keys, ado::ColumnMask mask, ado::RowSink& sink) override;
+    ado::Key insert(std::span<const ado::ColumnValue> values) override;
+    void update(ado::Key key, std::span<const ado::ColumnValue> values) override;
+    void remove(ado::Key key) override;
+
+  private:
+    enum class Order { ascendingKey, descendingKey, other };
+
+    [[nodiscard]] Order order() const;
+    [[nodiscard]] std::string orderClause() const;
+    [[nodiscard]] BoundSql keysQuery(const ado::Criterion* criterion) const;
+    [[nodiscard]] std::string readQuery(ado::ColumnMask mask) const;
+    void giveRow(Statement& statement, std::size_t index, ado::ColumnMask mask, ado::RowSink& sink);
+    void readRange(std::span<const ado::Key> keys, ado::ColumnMask mask, ado::RowSink& sink);
+    void readEach(std::span<const ado::Key> keys, ado::ColumnMask mask, ado::RowSink& sink);
+
+    std::shared_ptr<Writes> writes_;
+    TableInfo table_;
+    std::vector<ado::Column> columns_;
+    std::vector<OrderTerm> order_;
+    BoundSql condition_;
+    std::vector<automation::Variant> row_;  // reused for every row that is read
+};
+
+}  // namespace hx::sqlite

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <span>
+#include <string>
+
+#include "adapters/sqlite/table_info.h"
+#include "ado/provider.h"
+
+namespace hx::sqlite {
+
+/// The database of one session and all that changes it. A session and its rowsets share it.
+class Writes {
+  public:
+    explicit Writes(const std::string& path) : database_(path) {}
+
+    [[nodiscard]] Database& database() noexcept { return database_; }
+
+    ado::Key insert(const TableInfo& table, std::span<const ado::Column> columns,
+                    std::span<const ado::ColumnValue> values);
+    void update(const TableInfo& table, std::span<const ado::Column> columns, ado::Key key,
+                std::span<const ado::ColumnValue> values);
+    void remove(const TableInfo& table, ado::Key key);
+    void execute(const std::string& sql);
+
+    void begin();
+    void commit();
+    void rollback();
+
+  private:
+    void requireTransaction() const;
+    void requireChanged(const TableInfo& table, ado::Key key) const;
+
+    Database database_;
+    bool inTransaction_ = false;
+};
+
+}  // namespace hx::sqlite
