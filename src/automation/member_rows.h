@@ -70,6 +70,7 @@ decltype(auto) unwrap(const Variant& value) {
     else if constexpr (std::is_same_v<T, bool>) return toBoolean(value);
     else if constexpr (std::is_same_v<T, std::int16_t>) return toInt16(value);
     else if constexpr (std::is_same_v<T, std::int32_t>) return toInt32(value);
+    else if constexpr (std::is_enum_v<T> && sizeof(T) == sizeof(std::int16_t)) return static_cast<T>(toInt16(value));
     else if constexpr (std::is_enum_v<T>) return static_cast<T>(toInt32(value));
     else if constexpr (std::is_floating_point_v<T>) return static_cast<T>(toDouble(value));
     else if constexpr (std::is_same_v<T, ObjectRef>) return value.asObject();

@@ -27,9 +27,9 @@ class Tool : public automation::Dispatch {
     void setCaption(const std::string& caption);
     /// The number of the caption's resource text; 0 for none.
     [[nodiscard]] std::int32_t resourceId() const noexcept { return resourceId_; }
-    void setResourceId(std::int32_t id) noexcept { resourceId_ = id; }
+    void setResourceId(std::int32_t id);
     [[nodiscard]] const std::string& category() const noexcept { return category_; }
-    void setCategory(const std::string& category) { category_ = category; }
+    void setCategory(const std::string& category);
     [[nodiscard]] bool enabled() const noexcept { return enabled_; }
     void setEnabled(bool enabled);
     [[nodiscard]] bool visible() const noexcept { return visible_; }
@@ -39,7 +39,7 @@ class Tool : public automation::Dispatch {
     void setShortcut(const std::string& shortcut);
     /// The band that a menu tool opens.
     [[nodiscard]] const std::string& subBand() const noexcept { return subBand_; }
-    void setSubBand(const std::string& band) { subBand_ = band; }
+    void setSubBand(const std::string& band);
     [[nodiscard]] const Picture& picture() const noexcept { return picture_; }
     void setPicture(Picture picture);
 
@@ -78,6 +78,10 @@ class Band : public automation::Dispatch {
     [[nodiscard]] const automation::MemberTable& members() const override;
 
   private:
+    friend class Bar;
+    using Path = std::vector<const Band*>;
+    [[nodiscard]] Tool* find(std::string_view name, Path& visited) const;
+    [[nodiscard]] Tool* own(std::string_view name) const;
     Bar& bar_;
     std::string name_;
     std::vector<std::shared_ptr<Tool>> tools_;
@@ -90,6 +94,7 @@ class Bar : public Control {
     using Control::Control;
     Band& addBand(std::string name);
     [[nodiscard]] Band& band(const automation::Variant& nameOrNumber) const;  ///< errBadIndex
+    [[nodiscard]] Band* findBand(std::string_view name) const;                ///< null when there is none
     [[nodiscard]] const std::vector<std::shared_ptr<Band>>& bands() const noexcept { return bands_; }
     /// The band shown as menu bar.
     void setMainBand(const std::string& name) { mainBand_ = name; }

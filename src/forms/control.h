@@ -18,7 +18,7 @@ class Form;
 /// to the container.
 class Control : public automation::Dispatch {
   public:
-    explicit Control(std::string name) : name_(std::move(name)) {}
+    explicit Control(std::string name);
 
     [[nodiscard]] const std::string& name() const noexcept { return name_; }
     /// The number within a control array, or none.
@@ -30,6 +30,8 @@ class Control : public automation::Dispatch {
     /// The form that owns the control (set when it is added), and the control it lies in; none: the form itself.
     [[nodiscard]] Form* form() const noexcept { return form_; }
     void setForm(Form& form) noexcept { form_ = &form; }
+    /// The form has ended; the control may live on in somebody's hands.
+    void leaveForm() noexcept;
     [[nodiscard]] Control* container() const noexcept { return container_; }
     void setContainer(Control* container) noexcept { container_ = container; }
 
@@ -95,6 +97,8 @@ class Control : public automation::Dispatch {
         field = value;
         changed.raise(property);
     }
+    /// What the view has already: raises nothing.
+    void boundsKnown(double left, double top, double width, double height) noexcept;
 
   private:
     std::string name_;
@@ -108,7 +112,6 @@ class Control : public automation::Dispatch {
     std::int16_t tabIndex_ = 0;
     bool visible_ = true, enabled_ = true, tabStop_ = true, hasFocus_ = false;
     Font font_;
-    Subscription fontChanged_;
 };
 
 }  // namespace hx::forms

@@ -35,6 +35,14 @@ class Event {
   public:
     using Handler = std::function<void(A...)>;
 
+    Event() = default;
+    Event(const Event&) = delete;
+    Event& operator=(const Event&) = delete;
+    /// A handler may destroy the event: the handlers after it do not run.
+    ~Event() {
+        for (const auto& entry : handlers_) *entry->alive = false;
+    }
+
     [[nodiscard]] Subscription subscribe(Handler handler) {
         auto alive = std::make_shared<bool>(true);
         handlers_.push_back(std::make_shared<Entry>(Entry{alive, std::move(handler)}));

@@ -19,10 +19,10 @@ enum class UnloadMode : std::int16_t { byUser = 0, byCode = 1, bySystem = 2 };
 /// and Height are the outer window's, relative to its parent window, in twips.
 class Form : public Control {
   public:
-    Form(std::string name, Screen& screen) : Control(std::move(name)), screen_(screen) {}
+    Form(std::string name, Screen& screen);
     ~Form() override;
 
-    /// Raises loadEvent and makes the window. Does nothing when loaded.
+    /// Raises loadEvent, then makes the window: the handlers run while handle() is still 0. Does nothing when loaded.
     void load();
     [[nodiscard]] bool loaded() const noexcept { return handle_ != 0; }
     /// Raises queryUnloadEvent; unless that cancels, raises unloadEvent and ends the window. True when unloaded.
@@ -30,7 +30,8 @@ class Form : public Control {
     /// Loads when needed and makes it visible.
     void show();
     void hide();
-    /// Loads when needed and shows it until it is hidden; `owner` is the window it stands in front of.
+    /// Loads when needed and shows it through the screen until it is hidden or unloaded; `owner` is the window it
+    /// stands in front of.
     void showModal(WindowHandle owner);
     void bringToFront();
 
@@ -71,6 +72,7 @@ class Form : public Control {
     [[nodiscard]] const automation::MemberTable& members() const override { return formMembers(); }
     /// A control's name reads that control ("tdbRM"); with an index as argument, one of a control array.
     automation::Variant get(std::string_view name, automation::Args args = {}) override;
+    void set(std::string_view name, const automation::Variant& value, automation::Args index = {}) override;
 
   protected:
     /// Makes a control of the form; it lies in `container`, or in the form itself.
@@ -84,13 +86,14 @@ class Form : public Control {
     }
 
   private:
+    [[nodiscard]] bool hasControl(std::string_view name) const;
     Screen& screen_;
     std::vector<std::shared_ptr<Control>> controls_;
     std::string caption_;
     WindowHandle handle_ = 0;
     WindowState windowState_ = WindowState::normal;
     double scaleWidth_ = 0, scaleHeight_ = 0;
-    bool keyPreview_ = false;
+    bool keyPreview_ = false, loading_ = false, unloading_ = false;
 };
 
 }  // namespace hx::forms

@@ -3,7 +3,9 @@
 #include <cstddef>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
+#include <unordered_set>
 #include <vector>
 
 #include "ado/recordset.h"
@@ -40,6 +42,7 @@ class SelectedRows : public automation::Dispatch {
 
   private:
     std::vector<ado::Bookmark> bookmarks_;
+    std::unordered_set<ado::Key> keys_;
 };
 
 /// An error that the grid reports. A handler sets `response` to 0 when the grid shall show no message of its own.
@@ -66,24 +69,28 @@ class Grid : public Control {
     ~Grid() override;
 
     // --- data
-    void setDataSource(std::shared_ptr<ado::Recordset> recordset);  ///< does not touch the columns; reload() follows
+    void setDataSource(std::shared_ptr<ado::Recordset> recordset);  ///< and reload(); the columns stay as they are
     [[nodiscard]] const std::shared_ptr<ado::Recordset>& dataSource() const noexcept { return recordset_; }
     [[nodiscard]] const std::string& dataMember() const noexcept { return dataMember_; }
     void setDataMember(const std::string& member) { dataMember_ = member; }
     /// Shows the rows of the reopened recordset: drops selection, pending text and add-new mode; current row is the
     /// recordset's.
     void reload();
-    void refetchRow();                            ///< reads the current row again
-    void refetch();                               ///< reads the rows in view again; selection and current row stay
-    [[nodiscard]] std::int32_t rowCount() const;  ///< 0 without an open recordset
-    [[nodiscard]] std::string text(std::int32_t row, std::int32_t column) const;  ///< as shown, pending text included
-    [[nodiscard]] automation::Variant value(std::int32_t row, std::int32_t column) const;
+    void refetchRow();  ///< reads the current row again; its pending edit is dropped
+    /// Reads the rows in view again; selection, current row and a pending edit stay.
+    void refetch();
+    [[nodiscard]] std::int32_t rowCount() const;  ///< 0 without an open recordset; a new row does not count
+    /// As shown, pending text included; nothing for a row or column that the grid does not have (any more). In add-new
+    /// mode row -1 is the new row. What the provider reports while it reads is thrown.
+    [[nodiscard]] std::string text(std::int32_t row, std::int32_t column) const;
+    [[nodiscard]] automation::Variant value(std::int32_t row, std::int32_t column) const;  ///< Null in place of nothing
 
     // --- columns
     [[nodiscard]] const std::vector<std::shared_ptr<Column>>& columns() const noexcept { return columns_; }
-    [[nodiscard]] Column& column(const automation::Variant& fieldOrNumber) const;  ///< errBadIndex
-    [[nodiscard]] Column* findColumn(std::string_view dataField) const;
-    Column& addColumn(const std::string& dataField);  ///< order = its number
+    [[nodiscard]] Column& column(const automation::Variant& fieldOrNumber) const;             ///< errBadIndex
+    [[nodiscard]] Column* findColumn(std::string_view dataField) const;                       ///< ignores case
+    [[nodiscard]] std::int32_t columnNumber(const automation::Variant& fieldOrNumber) const;  ///< errBadIndex
+    Column& addColumn(const std::string& dataField);                                          ///< order = its number
     void clearColumns();
     [[nodiscard]] std::vector<Column*> columnsInDisplayOrder()
         const;                                             ///< by order, ties in list order; hidden ones too
@@ -91,7 +98,8 @@ class Grid : public Control {
 
     // --- current cell
     [[nodiscard]] std::int32_t row() const;  ///< -1 at BOF, EOF, on a new row, or without rows
-    /// Leaves the current row (which may refuse) and moves; true when the row is current now. errBadIndex outside.
+    /// Leaves the current row (which may refuse) and moves; true when the row is current now. errBadIndex outside. A
+    /// row that somebody has deleted is passed over.
     bool setRow(std::int32_t row);
     [[nodiscard]] std::int32_t col() const noexcept { return col_; }
     void setCol(std::int32_t column);              ///< errBadIndex
@@ -101,7 +109,7 @@ class Grid : public Control {
     // --- selection
     [[nodiscard]] SelectedRows& selectedRows() noexcept { return *selectedRows_; }
     [[nodiscard]] MultiSelect multiSelect() const noexcept { return multiSelect_; }
-    void setMultiSelect(MultiSelect mode) { assign(multiSelect_, mode, "MultiSelect"); }
+    void setMultiSelect(MultiSelect mode);  ///< another number throws errOverflow
 
     // --- editing
     [[nodiscard]] bool allowUpdate() const noexcept { return allowUpdate_; }
@@ -109,16 +117,19 @@ class Grid : public Control {
     [[nodiscard]] bool allowAddNew() const noexcept { return allowAddNew_; }
     void setAllowAddNew(bool allow) { assign(allowAddNew_, allow, "AllowAddNew"); }
     [[nodiscard]] bool addNewMode() const noexcept { return addNewMode_; }
-    void setAddNewMode(bool on);  ///< on: a new row that update() stores
+    /// On: leaves the current row (which may refuse) for a new row that update() stores. Off: drops the new row.
+    void setAddNewMode(bool on);
+    /// Whether the user may type into the column: not where it is locked, shows translated values or cannot be written.
     [[nodiscard]] bool editable(std::int32_t column) const;
     /// Puts text into a cell of the row, which becomes current, and marks the row as changed. Text that does not fit
-    /// the column's type is reported as gridErrBadValue and changes nothing. A locked column throws errMemberNotFound.
+    /// the column's type is reported as gridErrBadValue and changes nothing; empty text in a column of numbers is Null.
+    /// A column that is not editable throws errMemberNotFound. In add-new mode row -1 is the new row.
     void setText(std::int32_t row, std::int32_t column, const std::string& text);
     [[nodiscard]] bool dataChanged() const noexcept { return dataChanged_; }
-    void setDataChanged(bool changed);
-    /// Writes the current row. Throws gridErrRowRefused when the database refused its values (dbErrDuplicate,
-    /// dbErrCannotConvert), gridErrStaleRow when the row is gone, any other failure as the provider reports it. The
-    /// edit then stays pending.
+    void setDataChanged(bool dataChanged);  ///< the mark alone: a pending edit stays
+    /// Writes the pending edit or the new row. Throws gridErrRowRefused when the database refused its values
+    /// (dbErrDuplicate, dbErrCannotConvert, dbErrIntegrity), gridErrStaleRow when the row is gone, any other failure as
+    /// the provider reports it. The edit then stays pending.
     void update();
     void cancelUpdate();  ///< drops the pending row; the stored values show again
     /// Raises errorEvent; when its response stays 1, shows "code: description" in a message box of the form's screen.
@@ -128,7 +139,8 @@ class Grid : public Control {
     [[nodiscard]] const std::string& sortText() const noexcept { return sortText_; }
     void setSortText(const std::string& text) { assign(sortText_, text, "SortText"); }
     /// The user's click on a column's header: the sort text becomes its field, then field + " DESC", then empty; raises
-    /// headClickEvent.
+    /// headClickEvent. A field whose name is not a plain word stands in [brackets]. A current row that cannot be left
+    /// keeps the order as it is.
     void headClick(std::int32_t column);
 
     // --- what a view reports
@@ -157,7 +169,23 @@ class Grid : public Control {
     [[nodiscard]] const automation::MemberTable& members() const override;
 
   private:
+    [[nodiscard]] bool open() const noexcept;
+    [[nodiscard]] bool pending() const;    // the current row is edited
+    [[nodiscard]] bool holdsEdit() const;  // or a new row waits
+    [[nodiscard]] bool isNewRow(std::int32_t row) const noexcept { return addNewMode_ && row == noRow; }
+    [[nodiscard]] std::optional<std::size_t> fieldOf(std::int32_t column) const;
+    void requireColumn(std::int32_t column) const;
+    void columnChanged(std::string_view property);
+    bool leaveRow();
+    bool tryUpdate();
+    void moveTo(std::int32_t row);
+    void changeCell(std::int32_t column, const std::string& text);
+    void dropEdit();
+    void announceCell(std::int32_t oldRow);
+
+    static constexpr std::int32_t noRow = -1;
     std::shared_ptr<ado::Recordset> recordset_;
+    std::vector<Subscription> columnSubscriptions_;
     std::string dataMember_, sortText_, editorText_;
     std::vector<std::shared_ptr<Column>> columns_;
     std::vector<std::shared_ptr<Split>> splits_;
@@ -166,6 +194,7 @@ class Grid : public Control {
     std::int32_t col_ = 0, editorCaret_ = 0;
     MultiSelect multiSelect_ = MultiSelect::simple;
     bool allowUpdate_ = true, allowAddNew_ = false, addNewMode_ = false, dataChanged_ = false, editorOpen_ = false;
+    bool reordering_ = false, leaving_ = false;
 };
 
 }  // namespace hx::forms

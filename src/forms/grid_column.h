@@ -3,7 +3,7 @@
 #include <functional>
 #include <optional>
 #include <string>
-#include <vector>
+#include <unordered_map>
 
 #include "automation/dispatch.h"
 #include "forms/event.h"
@@ -21,15 +21,20 @@ class ValueItems {
     [[nodiscard]] bool translates() const noexcept { return static_cast<bool>(source_); }
     [[nodiscard]] std::string display(const automation::Variant& value) const;
 
+    Event<> changed;  ///< what values show may be new
+
   private:
+    struct Hash {
+        std::size_t operator()(const automation::Variant& value) const noexcept;
+    };
     Source source_;
-    mutable std::vector<std::pair<automation::Variant, std::string>> known_;  // or a hash map: the implementer's choice
+    mutable std::unordered_map<automation::Variant, std::string, Hash> known_;
 };
 
 /// A column of a grid. Width in twips; order is its place in the display, from 0.
 class Column : public automation::Dispatch {
   public:
-    explicit Column(std::string dataField) : dataField_(std::move(dataField)), caption_(dataField_) {}
+    explicit Column(std::string dataField);
     [[nodiscard]] const std::string& dataField() const noexcept { return dataField_; }
     [[nodiscard]] const std::string& caption() const noexcept { return caption_; }
     void setCaption(const std::string& caption);
@@ -40,7 +45,7 @@ class Column : public automation::Dispatch {
     [[nodiscard]] bool allowSizing() const noexcept { return allowSizing_; }
     void setAllowSizing(bool allow);
     [[nodiscard]] std::int16_t order() const noexcept { return order_; }
-    void setOrder(std::int16_t order);
+    void setOrder(std::int16_t order);  ///< below 0 throws errOverflow
     [[nodiscard]] bool button() const noexcept { return button_; }
     void setButton(bool button);
     [[nodiscard]] const Picture& buttonPicture() const noexcept { return buttonPicture_; }
@@ -70,7 +75,7 @@ class Column : public automation::Dispatch {
 class Split : public automation::Dispatch {
   public:
     [[nodiscard]] double size() const noexcept { return size_; }  ///< width in twips; 0 shows nothing of it
-    void setSize(double twips);
+    void setSize(double twips);                                   ///< below 0 throws errOverflow
     Event<> changed;
     [[nodiscard]] const automation::MemberTable& members() const override;
 

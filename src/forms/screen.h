@@ -37,7 +37,7 @@ class Screen {
     /// Makes the window of a form that has just been loaded, hidden; the form's later changes are shown in it.
     [[nodiscard]] virtual WindowHandle createWindow(Form& form) = 0;
     virtual void destroyWindow(Form& form) = 0;
-    /// Shows the form and returns when it has been hidden or unloaded. `owner` may be 0.
+    /// Makes the form visible (Form::setVisible) and returns when it has been hidden or unloaded. `owner` may be 0.
     virtual void showModal(Form& form, WindowHandle owner) = 0;
     /// Shows the form's window in front, restored when minimised, and gives it the keyboard.
     virtual void bringToFront(Form& form) = 0;

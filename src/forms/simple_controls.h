@@ -66,7 +66,8 @@ class CheckBox : public Captioned {
     CheckState value_ = CheckState::unchecked;
 };
 
-/// One of a group (the option buttons of the same container). Setting true clears the others and raises clickEvent.
+/// One of a group (the option buttons of the same container). Becoming true clears the others and raises clickEvent;
+/// the same value again does nothing.
 class OptionButton : public Captioned {
   public:
     using Captioned::Captioned;
@@ -100,8 +101,8 @@ class TextBox : public Control {
     [[nodiscard]] bool multiLine() const noexcept { return multiLine_; }
     void setMultiLine(bool multiLine) { assign(multiLine_, multiLine, "MultiLine"); }
     [[nodiscard]] SystemColor backColor() const noexcept { return backColor_; }
-    void setBackColor(SystemColor color) { assign(backColor_, color, "BackColor"); }
-    /// The caret as the view has it; raises nothing.
+    void setBackColor(SystemColor color);  ///< another number throws errOverflow
+    /// The caret as the view has it; raises nothing. Reported before the text that it belongs to.
     void caretReported(std::int32_t start, std::int32_t length) noexcept;
     Event<> changeEvent;
     [[nodiscard]] const automation::MemberTable& members() const override;
@@ -128,7 +129,8 @@ class ComboBox : public Control {
     [[nodiscard]] std::int32_t itemData(std::int32_t index) const;    ///< errBadIndex
     void setItemData(std::int32_t index, std::int32_t data);          ///< errBadIndex
     [[nodiscard]] std::int32_t listIndex() const noexcept { return listIndex_; }
-    void setListIndex(std::int32_t index);  ///< takes over the text and raises clickEvent; errBadIndex
+    /// Takes over the text and raises clickEvent; the same number again does nothing. errBadIndex outside.
+    void setListIndex(std::int32_t index);
     /// The selected or typed text. Assigning to a drop-down list selects the entry of that text (errBadIndex without
     /// one).
     [[nodiscard]] const std::string& text() const noexcept { return text_; }
@@ -137,6 +139,9 @@ class ComboBox : public Control {
     [[nodiscard]] const automation::MemberTable& members() const override;
 
   private:
+    void requireIndex(std::int32_t index) const;
+    void take(std::int32_t index, const std::string& text);
+    [[nodiscard]] std::int32_t find(std::string_view text) const;
     struct Item {
         std::string text;
         std::int32_t data = 0;
@@ -151,7 +156,8 @@ class ComboBox : public Control {
 /// (its Left is moved by -75000 twips).
 class TabStrip : public Control {
   public:
-    explicit TabStrip(std::string name, std::size_t tabs);
+    TabStrip(std::string name, std::size_t tabs);
+    ~TabStrip() override;
     [[nodiscard]] std::int16_t tabs() const noexcept { return static_cast<std::int16_t>(pages_.size()); }
     [[nodiscard]] const std::string& tabCaption(std::int16_t tab) const;  ///< errBadIndex
     void setTabCaption(std::int16_t tab, const std::string& caption);
@@ -162,6 +168,7 @@ class TabStrip : public Control {
     [[nodiscard]] const automation::MemberTable& members() const override;
 
   private:
+    [[nodiscard]] Frame& requirePage(std::int16_t tab) const;
     std::vector<std::shared_ptr<Frame>> pages_;
     std::int16_t current_ = 0;
 };

@@ -1,0 +1,88 @@
+#include "forms/form.h"
+
+#include "automation/text.h"
+#include "forms/known_value.h"
+#include "forms/raised.h"
+
+namespace hx::forms {
+
+Form::Form(std::string name, Screen& screen) : Control(std::move(name)), screen_(screen) { setVisible(false); }
+
+Form::~Form() {
+    if (loaded()) screen_.destroyWindow(*this);
+    for (const auto& control : controls_) control->leaveForm();
+}
+
+void Form::load() {
+    if (loaded() || loading_) return;
+    const auto keep = share();
+    const Raised loading(loading_);
+    loadEvent.raise();
+    handle_ = screen_.createWindow(*this);
+    if (visible()) changed.raise("Visible");  // a handler has shown it before there was a window
+}
+
+bool Form::unload(UnloadMode mode) {
+    if (!loaded()) return true;
+    if (unloading_) return false;
+    const auto keep = share();
+    const Raised unloading(unloading_);
+    bool cancel = false;
+    queryUnloadEvent.raise(cancel, mode);
+    if (cancel) return false;
+    unloadEvent.raise();
+    setVisible(false);
+    screen_.destroyWindow(*this);
+    handle_ = 0;
+    return true;
+}
+
+void Form::show() {
+    const auto keep = share();
+    load();
+    setVisible(true);
+}
+
+void Form::hide() { setVisible(false); }
+
+void Form::showModal(WindowHandle owner) {
+    const auto keep = share();
+    load();
+    screen_.showModal(*this, owner);
+}
+
+void Form::bringToFront() {
+    if (loaded()) screen_.bringToFront(*this);
+}
+
+void Form::setWindowState(WindowState state) {
+    requireKnown(state, {WindowState::normal, WindowState::minimised, WindowState::maximised});
+    assign(windowState_, state, "WindowState");
+}
+
+Control* Form::findControl(std::string_view name, std::optional<std::int16_t> index) const {
+    for (const auto& control : controls_) {
+        if (control->index() == index && automation::equalIgnoreCase(control->name(), name)) return control.get();
+    }
+    return nullptr;
+}
+
+bool Form::hasControl(std::string_view name) const {
+    for (const auto& control : controls_) {
+        if (automation::equalIgnoreCase(control->name(), name)) return true;
+    }
+    return false;
+}
+
+void Form::clientAreaChanged(double width, double height) {
+    scaleWidth_ = width;
+    scaleHeight_ = height;
+    resizeEvent.raise();
+}
+
+void Form::boundsReported(double left, double top, double width, double height, WindowState state) {
+    boundsKnown(left, top, width, height);
+    windowState_ = state;
+}
+
+}  // namespace hx::forms
