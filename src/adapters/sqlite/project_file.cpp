@@ -51,9 +51,17 @@ int giveName(const std::string& from, const std::string& to) {
     return 0;
 }
 
+void syncFile(const std::string& path) {
+    const int file = open(path.c_str(), O_RDWR | O_CLOEXEC);
+    const bool synced = file >= 0 && fsync(file) == 0;
+    const int code = errno;
+    if (file >= 0) close(file);
+    if (!synced) refuse(path, code);
+}
+
 void syncFolder(const std::string& path) {
     const fs::path parent = fs::absolute(path).parent_path();
-    const int folder = open(parent.c_str(), O_RDONLY | O_DIRECTORY);
+    const int folder = open(parent.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     if (folder < 0) return;
     (void)fsync(folder);
     close(folder);
@@ -84,6 +92,7 @@ void ProjectDraft::createIndexes() {
 }
 
 void ProjectDraft::publish() {
+    syncFile(temporary_);
     const int code = giveName(temporary_, path_);
     if (code == EEXIST) refuseTaken(path_);
     if (code != 0) refuse(path_, code);

@@ -70,8 +70,7 @@ const TableInfo* Session::findTable(std::string_view name) {
 
 std::unique_ptr<ado::Rowset> Session::openTable(const TableSelect& select) {
     const TableInfo* table = findTable(select.table);
-    if (table == nullptr) throw Error(ado::dbErrNoTable, "There is no table \"" + select.table + "\".");
-    if (table->key.empty()) return nullptr;
+    if (table == nullptr || table->key.empty()) return nullptr;
     return std::make_unique<TableRowset>(writes_, *table, select);
 }
 

@@ -24,6 +24,7 @@ class Session : public ado::Session {
     void requireProject();
     void compareNamesBeyondAscii();
     [[nodiscard]] const TableInfo* findTable(std::string_view name);
+    /// Null when there is no such table, or one whose rows have no keys.
     [[nodiscard]] std::unique_ptr<ado::Rowset> openTable(const TableSelect& select);
 
     std::shared_ptr<Writes> writes_;

@@ -1,0 +1,92 @@
+#include "cli/command_line.h"
+
+#include <CLI/CLI.hpp>
+#include <algorithm>
+#include <functional>
+
+#include "adapters/sqlite/project_file.h"
+#include "automation/error.h"
+#include "cli/build_sample.h"
+#include "cli/generate.h"
+
+namespace hx::cli {
+
+namespace {
+
+constexpr std::int64_t most = 100'000'000;  // rows of one kind
+
+/// The command that the arguments choose; it runs after they have all been read.
+using Command = std::function<void()>;
+
+void addNew(CLI::App& app, Command& chosen, const Output& output) {
+    CLI::App* command = app.add_subcommand("new", "Make an empty project.");
+    const auto path = std::make_shared<std::string>();
+    command->add_option("FILE", *path, "The project file to make; it must not exist yet.")->required();
+    command->callback([path, &chosen, &output] {
+        chosen = [path, &output] {
+            sqlite::createProject(*path);
+            output.results << "Made " << *path << ".\n";
+        };
+    });
+}
+
+void addGenerate(CLI::App& app, Command& chosen, const Output& output) {
+    CLI::App* command = app.add_subcommand("generate", "Make a project of any size, to try and to measure with.");
+    const auto plan = std::make_shared<GeneratePlan>();
+    const auto count = [&](const char* option, std::int64_t& target, const char* help) {
+        command->add_option(option, target, help)->required()->check(CLI::Range(std::int64_t{0}, most));
+    };
+    count("--recipes", plan->recipes, "How many recipes.");
+    count("--members", plan->members, "How many variables, spread evenly over them.");
+    count("--big", plan->bigMembers, "How many variables one further recipe has; with 0 there is no such recipe.");
+    command->add_option("FILE", plan->path, "The project file to make; it must not exist yet.")->required();
+    command->callback([plan, &chosen, &output] {
+        if (plan->recipes == 0 && plan->members > 0)
+            throw CLI::ValidationError("--members needs recipes to spread over");
+        chosen = [plan, &output] { generate(*plan, output); };
+    });
+}
+
+void addBuildSample(CLI::App& app, Command& chosen, const Output& output) {
+    CLI::App* command = app.add_subcommand("build-sample", "Make a project of a sample that is kept as text.");
+    struct Arguments {
+        std::string folder;
+        std::string path;
+    };
+    const auto arguments = std::make_shared<Arguments>();
+    command->add_option("DIR", arguments->folder, "The folder with variables.csv and recipes.txt.")->required();
+    command->add_option("FILE", arguments->path, "The project file to make; it must not exist yet.")->required();
+    command->callback([arguments, &chosen, &output] {
+        chosen = [arguments, &output] { buildSample(arguments->folder, arguments->path, output); };
+    });
+}
+
+int carryOut(const Command& command, const Output& output) {
+    try {
+        command();
+        return succeeded;
+    } catch (const std::exception& error) {
+        output.problems << "hxrecipe: " << error.what() << "\n";
+        return failed;
+    }
+}
+
+}  // namespace
+
+int run(int argc, const char* const* argv, const Output& output) {
+    CLI::App app("Makes and fills project files of the recipe editor.", "hxrecipe");
+    app.require_subcommand(1);
+    app.footer("Exit status: 0 done, 1 failed, 2 wrong usage.");
+    Command chosen;
+    addNew(app, chosen, output);
+    addGenerate(app, chosen, output);
+    addBuildSample(app, chosen, output);
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::ParseError& error) {
+        return app.exit(error, output.results, output.problems) == 0 ? succeeded : wrongUsage;
+    }
+    return carryOut(chosen, output);
+}
+
+}  // namespace hx::cli

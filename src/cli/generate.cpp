@@ -1,0 +1,116 @@
+#include "cli/generate.h"
+
+#include <algorithm>
+
+#include "adapters/sqlite/database.h"
+#include "adapters/sqlite/project_file.h"
+#include "cli/generated_names.h"
+#include "cli/progress.h"
+
+namespace hx::cli {
+
+using automation::Variant;
+using sqlite::ResetGuard;
+using sqlite::Statement;
+
+namespace {
+
+constexpr std::int64_t mostVariables = 10'000;  // a plant has no more; recipes use them again and again
+constexpr std::int64_t blockSize = 32;
+
+// The file is thrown away when anything goes wrong, so nothing has to be safe before it is finished.
+constexpr const char* fast = "PRAGMA synchronous=OFF; PRAGMA cache_size=-65536; PRAGMA journal_mode=OFF;";
+
+class Generator {
+  public:
+    Generator(const GeneratePlan& plan, const std::string& file, const Output& output)
+        : plan_(plan),
+          database_(file),
+          variables_(std::min(mostVariables, std::max(plan.members, plan.bigMembers))),
+          progress_(output, plan.recipes + plan.members + plan.bigMembers) {}
+
+    void run() {
+        database_.execute(fast);
+        database_.execute("BEGIN");
+        addVariables();
+        addRecipes();
+        addMembers();
+        database_.execute("COMMIT");
+    }
+
+  private:
+    void addVariables() {
+        Statement insert(database_, "INSERT INTO ThxVariable (Name, Type) VALUES (?1, ?2)");
+        for (std::int64_t i = 0; i < variables_; ++i) {
+            const ResetGuard guard(insert);
+            insert.bind(1, Variant(variableName(i)));
+            insert.bind(2, Variant(variableType(i)));
+            insert.step();
+        }
+    }
+
+    void addRecipes() {
+        Statement insert(database_,
+                         "INSERT INTO TrcpRecipe (Name, FilePath, FileExtension, Enabled) VALUES (?1, "
+                         "'<ProjectDir>\\Rezepte', 'rz', 1)");
+        if (plan_.bigMembers > 0) addRecipe(insert, "Gesamtanlage");
+        for (std::int64_t i = 0; i < plan_.recipes; ++i) {
+            addRecipe(insert, recipeName(i));
+            progress_.reach(++done_);
+        }
+    }
+
+    static void addRecipe(Statement& insert, const std::string& name) {
+        const ResetGuard guard(insert);
+        insert.bind(1, Variant(name));
+        insert.step();
+    }
+
+    void addMembers() {
+        Statement insert(database_, "INSERT INTO TrcpRecipeMember (ParentID, VarRecipe, ChildID) VALUES (?1, ?2, 0)");
+        const std::int64_t firstSpread = plan_.bigMembers > 0 ? 2 : 1;
+        std::int64_t big = 0;
+        std::int64_t spread = 0;
+        while (big < plan_.bigMembers || spread < plan_.members) {
+            // Whichever is behind its share comes next.
+            const bool bigIsNext = static_cast<double>(big) * static_cast<double>(plan_.members) <=
+                                   static_cast<double>(spread) * static_cast<double>(plan_.bigMembers);
+            const bool takeBig = big < plan_.bigMembers && (bigIsNext || spread >= plan_.members);
+            std::int64_t& written = takeBig ? big : spread;
+            const std::int64_t end = std::min(written + blockSize, takeBig ? plan_.bigMembers : plan_.members);
+            for (; written < end; ++written) {
+                addMember(insert, takeBig ? 1 : firstSpread + written % plan_.recipes, written);
+            }
+        }
+    }
+
+    void addMember(Statement& insert, std::int64_t recipe, std::int64_t number) {
+        const ResetGuard guard(insert);
+        insert.bind(1, recipe);
+        insert.bind(2, Variant(variableName(number % variables_)));
+        insert.step();
+        progress_.reach(++done_);
+    }
+
+    const GeneratePlan& plan_;
+    sqlite::Database database_;
+    std::int64_t variables_;
+    Progress progress_;
+    std::int64_t done_ = 0;
+};
+
+}  // namespace
+
+void generate(const GeneratePlan& plan, const Output& output) {
+    sqlite::ProjectDraft draft(plan.path);
+    draft.createTables(false);
+    Generator(plan, draft.temporaryPath(), output).run();
+    draft.createIndexes();
+    draft.publish();
+    const std::int64_t recipes = plan.recipes + (plan.bigMembers > 0 ? 1 : 0);
+    output.results << "Made " << plan.path << ": " << recipes << " recipes, " << plan.members + plan.bigMembers
+                   << " members.\n";
+    if (plan.bigMembers > 0) output.results << "Recipe 1 has " << plan.bigMembers << " members.\n";
+}
+
+}  // namespace hx::cli

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <chrono>
+#include <cstdint>
+
+#include "cli/command_line.h"
+
+namespace hx::cli {
+
+/// A bar on the terminal for work that takes a while; nothing when there is no terminal or the work is short.
+class Progress {
+  public:
+    Progress(const Output& output, std::int64_t total);
+    ~Progress();
+    Progress(const Progress&) = delete;
+    Progress& operator=(const Progress&) = delete;
+
+    /// So much of the total is done.
+    void reach(std::int64_t done);
+
+  private:
+    using Clock = std::chrono::steady_clock;
+
+    void draw(int percent);
+
+    const Output& output_;
+    std::int64_t total_;
+    std::int64_t next_ = 0;  // do not look at the clock before so much is done
+    Clock::time_point start_ = Clock::now();
+    int drawn_ = -1;  // percent
+};
+
+}  // namespace hx::cli

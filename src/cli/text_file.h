@@ -1,0 +1,24 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "automation/error.h"
+
+namespace hx::cli {
+
+/// One line of a text file, without its end.
+struct Line {
+    std::string file;
+    int number = 0;
+    std::string text;
+
+    /// Throws an error that names the file and the line.
+    [[noreturn]] void fail(const std::string& problem) const;
+};
+
+/// The lines of a UTF-8 file; they end with LF or CRLF. Throws automation::Error when it cannot be read, has a byte
+/// order mark or is not UTF-8.
+[[nodiscard]] std::vector<Line> readLines(const std::string& path);
+
+}  // namespace hx::cli

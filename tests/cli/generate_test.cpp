@@ -1,0 +1,87 @@
+#include <set>
+#include <thread>
+
+#include "cli/generated_names.h"
+#include "cli/progress.h"
+#include "run_cli.h"
+
+namespace hx::cli {
+
+namespace {
+
+class Generate : public CliTest {};
+
+TEST_F(Generate, WritesAsManyRowsAsAskedFor) {
+    const Result result =
+        hxrecipe({"generate", "--recipes", "50", "--members", "450", "--big", "1000", file_.c_str()}, true);
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(result.problems, "");
+    EXPECT_EQ(result.results, "Made " + file_ + ": 51 recipes, 1450 members.\nRecipe 1 has 1000 members.\n");
+    EXPECT_EQ(query(file_, "SELECT COUNT(*) FROM TrcpRecipe"), "51");
+    EXPECT_EQ(query(file_, "SELECT COUNT(*) FROM TrcpRecipeMember WHERE ParentID = 1"), "1000");
+    EXPECT_EQ(query(file_,
+                    "SELECT MIN(N), MAX(N), COUNT(*) FROM (SELECT COUNT(*) AS N FROM TrcpRecipeMember WHERE "
+                    "ParentID > 1 GROUP BY ParentID)"),
+              "9|9|50");
+    EXPECT_EQ(
+        query(file_, "SELECT COUNT(*) FROM TrcpRecipeMember WHERE VarRecipe NOT IN (SELECT Name FROM ThxVariable)"),
+        "0");
+}
+
+TEST_F(Generate, TheBigRecipesMembersStandInBlocksWithGapsBetween) {
+    EXPECT_EQ(hxrecipe({"generate", "--recipes", "10", "--members", "900", "--big", "1000", file_.c_str()}).status, 0);
+    const std::string gaps = query(file_,
+                                   "SELECT COUNT(*) FROM TrcpRecipeMember a, TrcpRecipeMember b WHERE a.ParentID = 1 "
+                                   "AND b.ID = a.ID + 1 AND b.ParentID <> 1");
+    EXPECT_GE(std::stoi(gaps), 25);
+    EXPECT_EQ(query(file_, "SELECT COUNT(*) FROM TrcpRecipeMember"), "1900");
+}
+
+TEST_F(Generate, NothingIsAProjectToo) {
+    EXPECT_EQ(hxrecipe({"generate", "--recipes", "0", "--members", "0", "--big", "0", file_.c_str()}).status, 0);
+    EXPECT_EQ(query(file_, "TrcpRecipe"), "");
+    EXPECT_EQ(query(file_, "ThxVariable"), "");
+}
+
+TEST_F(Generate, TheProjectIsLikeANewOne) {
+    EXPECT_EQ(hxrecipe({"generate", "--recipes", "5", "--members", "5", "--big", "5", file_.c_str()}).status, 0);
+    const std::string empty = folder_.file("empty.hxs");
+    EXPECT_EQ(hxrecipe({"new", empty.c_str()}).status, 0);
+    const std::string schema = "SELECT type, name, sql FROM sqlite_schema ORDER BY name";
+    EXPECT_EQ(query(file_, schema), query(empty, schema));
+    EXPECT_EQ(filesInFolder().size(), 2U);
+}
+
+TEST_F(Generate, NamesAreDifferent) {
+    std::set<std::string> recipes;
+    std::set<std::string> variables;
+    for (int i = 0; i < 5000; ++i) {
+        recipes.insert(recipeName(i));
+        variables.insert(variableName(i));
+    }
+    EXPECT_EQ(recipes.size(), 5000U);
+    EXPECT_EQ(variables.size(), 5000U);
+    EXPECT_EQ(recipeName(0), "Apfelsaft naturtrüb 0,33 l Nr. 1");
+    EXPECT_EQ(variableName(0), "Sirupraum1.Temperatur.Soll");
+}
+
+TEST_F(Generate, AProgressBarAppearsOnLongWorkOnATerminalOnly) {
+    for (const bool terminal : {false, true}) {
+        std::ostringstream results;
+        std::ostringstream problems;
+        const Output output{results, problems, terminal};
+        {
+            Progress progress(output, 200);
+            progress.reach(50);
+            EXPECT_EQ(problems.str(), "");
+            std::this_thread::sleep_for(std::chrono::milliseconds(550));
+            progress.reach(100);
+        }
+        const std::string bar = "\r[####################....................] 50 %";
+        EXPECT_EQ(problems.str(), terminal ? bar + "\r\x1B[K" : "");
+    }
+}
+
+}  // namespace
+
+}  // namespace hx::cli

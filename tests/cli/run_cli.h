@@ -1,0 +1,71 @@
+#pragma once
+
+#include <filesystem>
+#include <fstream>
+#include <gtest/gtest.h>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "adapters/sqlite/provider.h"
+#include "ado/recordset.h"
+#include "automation/convert.h"
+#include "cli/command_line.h"
+#include "support/temporary_folder.h"
+
+namespace hx::cli {
+
+/// Tests that run hxrecipe in a folder of their own.
+class CliTest : public testing::Test {
+  protected:
+    struct Result {
+        int status;
+        std::string results;
+        std::string problems;
+    };
+
+    static Result hxrecipe(std::vector<const char*> arguments, bool terminal = false) {
+        arguments.insert(arguments.begin(), "hxrecipe");
+        std::ostringstream results;
+        std::ostringstream problems;
+        const Output output{results, problems, terminal};
+        const int status = run(static_cast<int>(arguments.size()), arguments.data(), output);
+        return {status, results.str(), problems.str()};
+    }
+
+    std::string write(const std::string& name, const std::string& text) {
+        std::filesystem::create_directories(std::filesystem::path(folder_.file(name)).parent_path());
+        std::ofstream(folder_.file(name), std::ios::binary) << text;
+        return folder_.file(name);
+    }
+
+    /// All values of all rows: columns joined by "|", rows by ",".
+    static std::string query(const std::string& file, const std::string& source) {
+        sqlite::Provider provider;
+        const auto connection = std::make_shared<ado::Connection>(provider);
+        connection->open("Data Source=" + file);
+        ado::Recordset recordset;
+        recordset.open(source, connection);
+        std::string text;
+        for (; !recordset.eof(); recordset.moveNext()) {
+            if (!text.empty()) text += ",";
+            for (std::size_t i = 0; i < recordset.fieldCount(); ++i) {
+                text += (i > 0 ? "|" : "") + automation::toText(recordset.field(i).value());
+            }
+        }
+        return text;
+    }
+
+    std::vector<std::string> filesInFolder() const {
+        std::vector<std::string> names;
+        for (const auto& entry : std::filesystem::directory_iterator(folder_.path())) {
+            names.push_back(entry.path().filename());
+        }
+        return names;
+    }
+
+    support::TemporaryFolder folder_;
+    std::string file_ = folder_.file("plant.hxs");
+};
+
+}  // namespace hx::cli
