@@ -44,9 +44,9 @@ start_display() {
     until_true "$patience" xdotool get_num_desktops >/dev/null 2>&1 || fail "openbox did not start"
 }
 
-# The studio's main window, in `window`; empty when there is none.
+# The studio's window with a project, in `window`; empty when there is none.
 find_window() {
-    window=$(xdotool search --onlyvisible --name HelvixStudio 2>/dev/null | head -n 1 || true)
+    window=$(xdotool search --onlyvisible --name '^HelvixStudio - ' 2>/dev/null | head -n 1 || true)
     [ -n "$window" ]
 }
 
@@ -76,20 +76,20 @@ press() {
     sleep 0.3
 }
 
-# tour LANGUAGE LCID
+# tour LANGUAGE
 tour() {
     local folder=$work/$1
     mkdir -p "$folder/config" "$folder/project" "$folder/run"
     chmod 700 "$folder/run"
     cp "$project" "$folder/project/"
-    XDG_CONFIG_HOME=$folder/config XDG_RUNTIME_DIR=$folder/run \
-        "$studio" "$folder/project/$(basename "$project")" >"$work/studio.log" 2>&1 &
+    XDG_RUNTIME_DIR=$folder/run "$studio" --config "$folder/config" --lang "$1" \
+        "$folder/project/$(basename "$project")" >"$work/studio.log" 2>&1 &
     studio_process=$!
     started+=("$studio_process")
     until_true "$patience" window_or_end || true
     [ -n "$window" ] || { cat "$work/studio.log" >&2; fail "the studio's window did not come"; }
     xdotool windowactivate --sync "$window" windowmove "$window" 10 30 windowsize --sync "$window" 1250 740 || true
-    press Home
+    press Home Down
     take_picture "$1-1-rezepte"
     press Right Down
     take_picture "$1-2-rezept"
@@ -101,6 +101,6 @@ tour() {
 
 signatures=()
 start_display
-tour de 1031
-tour en 1033
+tour de
+tour en
 echo "The pictures are in $(readlink -f "$pictures")"
