@@ -1,0 +1,32 @@
+#pragma once
+
+#include <map>
+#include <optional>
+#include <string>
+
+#include "automation/error.h"
+#include "host/ini_document.h"
+#include "host/system_services.h"
+
+namespace hx::headless {
+
+/// INI files that live as long as their object, by path.
+class MemoryIniFile : public host::IniFile {
+  public:
+    [[nodiscard]] std::string read(std::string_view section, std::string_view key, std::string_view fallback,
+                                   const std::string& path) const override;
+    void write(std::string_view section, std::string_view key, std::string_view text, const std::string& path) override;
+
+    [[nodiscard]] bool exists(const std::string& path) const { return files_.contains(path); }
+    /// The whole file; empty when there is none.
+    [[nodiscard]] std::string bytes(const std::string& path) const;
+    void setBytes(const std::string& path, std::string_view bytes) { files_[path] = host::IniDocument(bytes); }
+    /// From now on every write throws this error; given nothing, it works again.
+    void failWritesWith(std::optional<automation::Error> error) { error_ = std::move(error); }
+
+  private:
+    std::map<std::string, host::IniDocument> files_;
+    std::optional<automation::Error> error_;
+};
+
+}  // namespace hx::headless

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <map>
+#include <memory>
+
+#include "adapters/headless/form_window.h"
+#include "adapters/headless/record.h"
+#include "adapters/headless/script.h"
+#include "adapters/headless/window_operations.h"
+
+namespace hx::headless {
+
+/// A display that shows nothing: the script answers, the record keeps what was shown.
+class Screen : public forms::Screen {
+  public:
+    /// All are lent.
+    Screen(const Script& script, Record& record, WindowOperations& windows)
+        : script_(script), record_(record), windows_(windows) {}
+
+    /// The room of a maximised form, in twips.
+    static constexpr double areaWidth = 19200, areaHeight = 12000;
+
+    /// The form on top of those shown modally; null when there is none.
+    [[nodiscard]] forms::Form* modalForm() const noexcept { return modals_.empty() ? nullptr : modals_.back(); }
+
+    [[nodiscard]] forms::WindowHandle createWindow(forms::Form& form) override;
+    void destroyWindow(forms::Form& form) override;
+    void showModal(forms::Form& form, forms::WindowHandle owner) override;
+    void bringToFront(forms::Form& form) override;
+    forms::message::Answer messageBox(std::string_view text, std::int32_t style, std::string_view title) override;
+    void popUp(forms::Bar& bar, forms::Band& band) override;
+    bool chooseFont(forms::Font::Values& font) override;
+    void beep() override { ++record_.beeps; }
+    [[nodiscard]] forms::Pointer pointer() const override { return pointer_; }
+    void setPointer(forms::Pointer pointer) override;
+    void sendKeys(forms::Form& form, std::string_view keys) override;
+    [[nodiscard]] double twipsPerPixel() const override { return WindowOperations::twipsPerPixel; }
+
+  private:
+    struct Shown {
+        forms::WindowHandle handle;
+        std::unique_ptr<FormWindow> window;
+    };
+    void runScript(forms::Form& form, ModalForm& entry);
+
+    const Script& script_;
+    Record& record_;
+    WindowOperations& windows_;
+    std::map<const forms::Form*, Shown> shown_;
+    std::vector<forms::Form*> modals_;
+    forms::Pointer pointer_ = forms::Pointer::standard;
+};
+
+}  // namespace hx::headless

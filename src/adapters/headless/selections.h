@@ -1,0 +1,41 @@
+#pragma once
+
+#include "adapters/headless/record.h"
+#include "adapters/headless/script.h"
+#include "host/system_services.h"
+
+namespace hx::headless {
+
+/// Variables that the script chooses.
+class ItemSelection : public host::ItemSelection {
+  public:
+    ItemSelection(const Script& script, Record& record) : script_(script), record_(record) {}
+    [[nodiscard]] std::string choose(forms::WindowHandle owner, const std::string& current) override {
+        const auto ask = script_.onItem;
+        std::string chosen = ask ? ask(current) : std::string();
+        record_.items.push_back({owner, current, chosen});
+        return chosen;
+    }
+
+  private:
+    const Script& script_;
+    Record& record_;
+};
+
+/// Folders that the script chooses.
+class PathSelection : public host::PathSelection {
+  public:
+    PathSelection(const Script& script, Record& record) : script_(script), record_(record) {}
+    [[nodiscard]] std::string choose(forms::WindowHandle owner, const std::string& current) override {
+        const auto ask = script_.onFolder;
+        std::string chosen = ask ? ask(current) : current;
+        record_.folders.push_back({owner, current, chosen});
+        return chosen;
+    }
+
+  private:
+    const Script& script_;
+    Record& record_;
+};
+
+}  // namespace hx::headless
