@@ -28,17 +28,6 @@ std::strong_ordering order(double a, double b) {
     return a > b ? std::strong_ordering::greater : std::strong_ordering::equal;
 }
 
-bool compares(const Criterion& criterion, const Variant& stored) {
-    const bool missing = stored.isNull() || stored.isEmpty();
-    if (criterion.value.isNull()) return missing == (criterion.relation == Relation::equal);
-    if (missing) return false;
-    if (criterion.relation == Relation::like) return isLike(stored.asString(), criterion.value.asString());
-    if (criterion.value.isString()) {
-        return holds(automation::compareIgnoreCase(stored.asString(), criterion.value.asString()), criterion.relation);
-    }
-    return holds(order(automation::toDouble(stored), automation::toDouble(criterion.value)), criterion.relation);
-}
-
 // `text` and `pattern` are folded already.
 bool foldedLike(std::string_view text, std::string_view pattern) {
     std::size_t t = 0;
@@ -67,6 +56,17 @@ bool foldedLike(std::string_view text, std::string_view pattern) {
 
 bool isLike(std::string_view text, std::string_view pattern) {
     return foldedLike(automation::foldCase(text), automation::foldCase(pattern));
+}
+
+bool compares(const Criterion& criterion, const Variant& stored) {
+    const bool missing = stored.isNull() || stored.isEmpty();
+    if (criterion.value.isNull()) return missing == (criterion.relation == Relation::equal);
+    if (missing) return false;
+    if (criterion.relation == Relation::like) return isLike(stored.asString(), criterion.value.asString());
+    if (criterion.value.isString()) {
+        return holds(automation::compareIgnoreCase(stored.asString(), criterion.value.asString()), criterion.relation);
+    }
+    return holds(order(automation::toDouble(stored), automation::toDouble(criterion.value)), criterion.relation);
 }
 
 bool matches(const Criterion& criterion, std::span<const Variant> row) {

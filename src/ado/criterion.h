@@ -34,6 +34,9 @@ struct Criterion {
 /// Comparisons joined by AND and OR (AND binds closer), with parentheses. Nothing for a text of blanks.
 [[nodiscard]] std::optional<Criterion> parseFilter(std::string_view text, std::span<const Column> columns);
 
+/// What one comparison says of a value of its column.
+[[nodiscard]] bool compares(const Criterion& comparison, const automation::Variant& stored);
+
 /// `row` has one value a column.
 [[nodiscard]] bool matches(const Criterion& criterion, std::span<const automation::Variant> row);
 

@@ -8,8 +8,6 @@
 
 namespace hx::ado {
 
-using automation::Variant;
-
 namespace {
 
 // So many rows are compared here before the database is asked for the matching ones.
@@ -65,11 +63,8 @@ Page KeyList::readPage(std::size_t position) {
 bool KeyList::matchesAt(const Criterion& criterion, std::size_t position) {
     const Page& found = page(position, columnsOf(criterion));
     if (!found.exists(position)) return false;
-    const auto stored = found.at(position);
-    if (!owner_.columns()[criterion.column].isKey) return matches(criterion, stored);
-    std::vector<Variant> row(stored.begin(), stored.end());
-    row[criterion.column] = static_cast<double>(key(position));
-    return matches(criterion, row);
+    if (owner_.columns()[criterion.column].isKey) return compares(criterion, static_cast<double>(key(position)));
+    return compares(criterion, found.value(position, criterion.column));
 }
 
 std::optional<std::size_t> KeyList::scan(const Criterion& criterion, std::size_t start, std::size_t count,

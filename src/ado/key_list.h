@@ -31,7 +31,7 @@ class KeyList {
     /// The stored value of a column other than the key; null when the row is gone.
     [[nodiscard]] const automation::Variant* value(std::size_t position, std::size_t column) {
         const Page& found = page(position, columnBit(column));
-        return found.exists(position) ? &found.at(position)[column] : nullptr;
+        return found.exists(position) ? &found.value(position, column) : nullptr;
     }
 
     void attach(Cursor& cursor) { cursors_.push_back(&cursor); }

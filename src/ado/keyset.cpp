@@ -8,6 +8,8 @@ namespace {
 
 // A loop asks for a few columns; whoever asks for more than these walks the whole row.
 constexpr int columnsBeforeAll = 4;
+// So few columns are read together from the start.
+constexpr std::size_t narrow = 6;
 
 }  // namespace
 
@@ -16,6 +18,7 @@ Keyset::Keyset(std::shared_ptr<Connection> connection, std::unique_ptr<Rowset> r
       rowset_(std::move(rowset)),
       columns_(rowset_->columns()),
       all_(std::make_shared<KeyList>(*this, std::nullopt)),
+      wanted_(columns_.size() <= narrow ? ~ColumnMask{0} : 0),
       seenWrites_(connection_->writes()),
       seenRollbacks_(connection_->rollbacks()) {
     connection_->attach(*this);

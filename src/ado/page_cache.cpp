@@ -6,11 +6,20 @@
 namespace hx::ado {
 
 Page::Page(std::size_t first, std::size_t count, std::size_t columns, ColumnMask mask)
-    : first_(first), columns_(columns), mask_(mask), present_(count), values_(count * columns) {}
+    : first_(first), columns_(columns), mask_(mask), width_(0), present_(count) {
+    // Only bits that stand for a column count.
+    if (columns <= sharedBit) mask_ &= (ColumnMask{1} << columns) - 1;
+    const bool hasShared = columns > sharedBit && holds(columnBit(sharedBit));
+    width_ = hasShared ? slot(columns - 1) + 1 : static_cast<std::size_t>(std::popcount(mask_));
+    values_.resize(count * width_);
+}
 
 void Page::row(std::size_t index, std::span<automation::Variant> values) {
     present_[index] = 1;
-    std::move(values.begin(), values.end(), values_.begin() + static_cast<std::ptrdiff_t>(index * columns_));
+    std::size_t at = index * width_;
+    for (std::size_t column = 0; column < columns_; ++column) {
+        if (holds(columnBit(column))) values_[at++] = std::move(values[column]);
+    }
 }
 
 void Page::erased(std::size_t position) {
@@ -18,7 +27,7 @@ void Page::erased(std::size_t position) {
         --first_;
     } else if (covers(position)) {
         const auto index = static_cast<std::ptrdiff_t>(position - first_);
-        const auto width = static_cast<std::ptrdiff_t>(columns_);
+        const auto width = static_cast<std::ptrdiff_t>(width_);
         present_.erase(present_.begin() + index);
         values_.erase(values_.begin() + index * width, values_.begin() + (index + 1) * width);
     }

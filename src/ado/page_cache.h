@@ -1,5 +1,6 @@
 #pragma once
 
+#include <bit>
 #include <cstddef>
 #include <cstdint>
 #include <span>
@@ -9,7 +10,7 @@
 
 namespace hx::ado {
 
-/// Some neighbouring rows of a key list, as they were read.
+/// Some neighbouring rows of a key list, as they were read: only the columns of the mask take space.
 class Page : public RowSink {
   public:
     Page(std::size_t first, std::size_t count, std::size_t columns, ColumnMask mask);
@@ -17,19 +18,29 @@ class Page : public RowSink {
     void row(std::size_t index, std::span<automation::Variant> values) override;
 
     [[nodiscard]] bool covers(std::size_t position) const noexcept { return position - first_ < present_.size(); }
+    /// `columns` are columns that exist.
     [[nodiscard]] bool holds(ColumnMask columns) const noexcept { return (columns & ~mask_) == 0; }
     [[nodiscard]] bool exists(std::size_t position) const noexcept { return present_[position - first_]; }
-    [[nodiscard]] std::span<const automation::Variant> at(std::size_t position) const noexcept {
-        return std::span(values_).subspan((position - first_) * columns_, columns_);
+    /// Of a column that the page holds.
+    [[nodiscard]] const automation::Variant& value(std::size_t position, std::size_t column) const noexcept {
+        return values_[(position - first_) * width_ + slot(column)];
     }
     /// The row at `position` left the list.
     void erased(std::size_t position);
     [[nodiscard]] bool empty() const noexcept { return present_.empty(); }
 
   private:
+    // Where a column stands among those of the mask.
+    [[nodiscard]] std::size_t slot(std::size_t column) const noexcept {
+        const auto before = static_cast<std::size_t>(std::popcount(mask_ & (columnBit(column) - 1)));
+        return column < sharedBit ? before : before + (column - sharedBit);
+    }
+    static constexpr std::size_t sharedBit = 63;  // stands for all columns from this number on
+
     std::size_t first_;
     std::size_t columns_;
     ColumnMask mask_;
+    std::size_t width_;
     std::vector<char> present_;
     std::vector<automation::Variant> values_;  // row by row
 };

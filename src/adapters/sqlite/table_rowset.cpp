@@ -98,6 +98,7 @@ std::string TableRowset::readQuery(ColumnMask mask) const {
 
 void TableRowset::read(std::span<const Key> keys, ColumnMask mask, ado::RowSink& sink) {
     if (keys.empty()) return;
+    std::ranges::fill(row_, automation::Variant());
     const bool ascending = std::ranges::adjacent_find(keys, std::greater_equal<>()) == keys.end();
     const bool dense = ascending && (keys.back() - keys.front()) / readAlong <= static_cast<Key>(keys.size());
     if (dense) readRange(keys, mask, sink);
@@ -108,7 +109,7 @@ void TableRowset::giveRow(Statement& statement, std::size_t index, ColumnMask ma
     int column = 1;
     for (std::size_t i = 0; i < columns_.size(); ++i) {
         const bool read = (mask & ado::columnBit(i)) != 0 && !columns_[i].isKey;
-        row_[i] = read ? statement.value(column++, columns_[i].type) : automation::Variant();
+        if (read) row_[i] = statement.value(column++, columns_[i].type);
     }
     sink.row(index, row_);
 }
