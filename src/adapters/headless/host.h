@@ -19,7 +19,7 @@ namespace hx::headless {
 
 /// What a headless host can be made with.
 struct HostOptions {
-    std::string project;  ///< owner of the explorer's nodes
+    std::string project{};  ///< owner of the explorer's nodes
     char separator = '/';
     std::string decimalPoint = ".";
     std::string moduleFile = "HXRecipeEditor.so";  ///< the file that the add-in says it was loaded from

@@ -1,0 +1,135 @@
+#include "settings/init_items.h"
+
+#include <gtest/gtest.h>
+
+#include "automation/error.h"
+
+namespace hx::settings {
+namespace {
+
+using automation::ObjectRef;
+using automation::Variant;
+
+std::string names(const CInitItems& items) {
+    std::string all;
+    for (const auto& item : items) all += item->Name + " ";
+    return all;
+}
+
+template <class Call>
+std::int32_t errorOf(Call call) {
+    try {
+        call();
+        return 0;
+    } catch (const automation::Error& error) {
+        return error.number();
+    }
+}
+
+TEST(InitItems, AddsAnEntryWithNameValueIndexAndNoEntriesBelow) {
+    CInitItems items;
+    const CInitItem& item = items.Add("Me", Variant(8.25), 3);
+    EXPECT_EQ(item.Name, "Me");
+    EXPECT_EQ(item.val, Variant(8.25));
+    EXPECT_EQ(item.Index, 3);
+    EXPECT_EQ(item.itms->Count(), 0);
+}
+
+TEST(InitItems, GivesTheExistingEntryANewValueAndKeepsTheRest) {
+    CInitItems items;
+    CInitItem& first = items.Add("Me", Variant(1.0), 1);
+    first.itms->Add("Font", Variant(""), 0);
+    CInitItem& second = items.Add("mE", Variant(2.0), 9);
+    EXPECT_EQ(&first, &second);
+    EXPECT_EQ(items.Count(), 1);
+    EXPECT_EQ(first.Name, "Me");
+    EXPECT_EQ(first.val, Variant(2.0));
+    EXPECT_EQ(first.Index, 1);
+    EXPECT_EQ(first.itms->Count(), 1);
+}
+
+TEST(InitItems, FindsByNameIgnoringCaseAndByPositionFromOne) {
+    CInitItems items;
+    items.Add("Me", Variant(""), 0);
+    items.Add("tdbRM", Variant(""), 0);
+    EXPECT_EQ(items.Item(Variant("TDBRM"))->Name, "tdbRM");
+    EXPECT_EQ(items.Item(Variant(1))->Name, "Me");
+    EXPECT_EQ(items.Item(Variant(2.0))->Name, "tdbRM");
+    EXPECT_EQ(items.Item(Variant(0)), nullptr);
+    EXPECT_EQ(items.Item(Variant(3)), nullptr);
+    EXPECT_EQ(items.Item(Variant("sb")), nullptr);
+    EXPECT_EQ(items.Item(Variant()), nullptr);
+}
+
+TEST(InitItems, KeepsTheOrderOfAdding) {
+    CInitItems items;
+    for (const char* name : {"b", "c", "a", "B"}) items.Add(name, Variant(""), 0);
+    EXPECT_EQ(names(items), "b c a ");
+}
+
+TEST(InitItems, DeletesByNameAndPositionWithAllBelow) {
+    CInitItems items;
+    for (const char* name : {"a", "b", "c"}) items.Add(name, Variant(""), 0);
+    const std::shared_ptr<CInitItems> below = items.Item(std::string_view("b"))->itms;
+    below->Add("x", Variant(""), 0);
+    items.Delete(Variant("B"));
+    EXPECT_EQ(below->Count(), 0);
+    EXPECT_EQ(names(items), "a c ");
+    items.Delete(Variant(1));
+    EXPECT_EQ(names(items), "c ");
+}
+
+TEST(InitItems, FailsToDeleteAMissingEntry) {
+    CInitItems items;
+    items.Add("a", Variant(""), 0);
+    EXPECT_EQ(errorOf([&] { items.Delete(Variant("b")); }), automation::errBadIndex);
+    EXPECT_EQ(errorOf([&] { items.Delete(Variant(2)); }), automation::errBadIndex);
+    EXPECT_EQ(items.Count(), 1);
+}
+
+TEST(InitItems, ClearsAllLevels) {
+    CInitItems items;
+    const auto below = items.Add("a", Variant(""), 0).itms;
+    const auto lowest = below->Add("b", Variant(""), 0).itms;
+    lowest->Add("c", Variant(""), 0);
+    items.Clear();
+    EXPECT_EQ(items.Count(), 0);
+    EXPECT_EQ(below->Count(), 0);
+    EXPECT_EQ(lowest->Count(), 0);
+}
+
+TEST(InitItems, WorksByName) {
+    const auto items = std::make_shared<CInitItems>();
+    const Variant arguments[] = {Variant("Me"), Variant(1.5), Variant(std::int16_t{0})};
+    const ObjectRef item = items->get("add", arguments).asObject();
+    EXPECT_EQ(item->get("Name"), Variant("Me"));
+    EXPECT_EQ(item->get("VAL"), Variant(1.5));
+    item->set("val", Variant("x"));
+    item->set("Index", Variant(4));
+    EXPECT_EQ(items->Item(std::string_view("me"))->val, Variant("x"));
+    EXPECT_EQ(item->get("Index"), Variant(std::int16_t{4}));
+    EXPECT_EQ(item->get("itms").asObject()->get("Count"), Variant(0));
+    EXPECT_EQ(errorOf([&] { item->set("Name", Variant("You")); }), automation::errMemberNotFound);
+
+    const Variant key("ME");
+    const Variant unknown("sb");
+    EXPECT_EQ(items->get("Item", automation::Args(&key, 1)).asObject(), item);
+    EXPECT_EQ(items->get("Item", automation::Args(&unknown, 1)).asObject(), nullptr);
+    items->get("Delete", automation::Args(&key, 1));
+    EXPECT_EQ(items->get("Count"), Variant(0));
+}
+
+TEST(InitItems, EnumeratesByNameInOrder) {
+    const auto items = std::make_shared<CInitItems>();
+    items->Add("a", Variant(""), 0);
+    items->Add("b", Variant(""), 0);
+    const ObjectRef each = items->get("NewEnum").asObject();
+    EXPECT_EQ(each->get("Next").asObject()->get("Name"), Variant("a"));
+    EXPECT_EQ(each->get("Next").asObject()->get("Name"), Variant("b"));
+    EXPECT_EQ(each->get("Next").asObject(), nullptr);
+    each->get("Reset");
+    EXPECT_EQ(each->get("Next").asObject()->get("Name"), Variant("a"));
+}
+
+}  // namespace
+}  // namespace hx::settings
