@@ -1,0 +1,167 @@
+#include <gtest/gtest.h>
+
+#include "studio.h"
+
+namespace hx::addin {
+namespace {
+
+using automation::Variant;
+
+struct ClosingTheEditor : testing::Test {
+    ClosingTheEditor() {
+        studio.addRecipe("Cola");
+        studio.addRecipe("Tee");
+        studio.addMember(1, "Tank1.Level");
+        studio.start();
+        studio.click("RCPR1");
+        EXPECT_EQ(studio.boxes(), Texts{});
+    }
+    std::string storedVariable() { return automation::toText((*studio.database.table("TrcpRecipeMember").row(1))[2]); }
+    Studio studio;
+    const headless::Record& record = studio.host.record;
+};
+
+TEST_F(ClosingTheEditor, TerminateRemovesTheBranchAndEndsTheWindow) {
+    const auto window = studio.connect->editorWindow();
+    const auto data = window->dataEnvironment();
+    const forms::WindowHandle handle = window->handle();
+    data->rsRecipes->open();
+    studio.connect->Terminate();
+    EXPECT_EQ(studio.nodes(), Texts{});
+    EXPECT_EQ(studio.connect->editorWindow(), nullptr);
+    EXPECT_FALSE(window->loaded());
+    EXPECT_FALSE(studio.host.windows.exists(handle));
+    EXPECT_EQ(window->dataEnvironment(), nullptr);
+    for (const auto& recordset : data->recordsets()) EXPECT_EQ(recordset->state(), ado::adStateClosed);
+    EXPECT_EQ(data->CnnRecipes->state(), ado::adStateClosed);
+    EXPECT_EQ(studio.connect->explorer(), nullptr);
+    EXPECT_EQ(record.helpCloses, 1);
+    EXPECT_EQ(studio.boxes(), Texts{});
+}
+
+TEST_F(ClosingTheEditor, GivesTheWindowMinusOneAsItsParent) {
+    forms::WindowHandle parent = 0;
+    const auto watched = studio.window().queryUnloadEvent.subscribe([&](bool&, forms::UnloadMode mode) {
+        parent = studio.host.windows.parent(studio.window().handle());
+        EXPECT_EQ(mode, forms::UnloadMode::byCode);
+        EXPECT_FALSE(studio.host.windows.isShown(studio.window().handle()));
+    });
+    EXPECT_EQ(studio.host.windows.parent(studio.window().handle()), studio.host.explorer.hostWindow());
+    studio.connect->Terminate();
+    EXPECT_EQ(parent, 0) << "-1 is the top level";
+}
+
+TEST_F(ClosingTheEditor, SavesAPendingEdit) {
+    studio.window().tdbRM->setText(0, 2, "Tank2.Level");
+    studio.connect->Terminate();
+    EXPECT_EQ(storedVariable(), "Tank2.Level");
+    EXPECT_EQ(studio.boxes(), Texts{});
+}
+
+TEST_F(ClosingTheEditor, DropsAnEditThatTheDatabaseRefusesAndClosesAllTheSame) {
+    const auto data = studio.window().dataEnvironment();
+    studio.window().tdbRM->setText(0, 2, "Tank2.Level");
+    studio.faults.arm(1, support::FaultPlan::Kind::update);
+    studio.connect->Terminate();
+    EXPECT_EQ(storedVariable(), "Tank1.Level");
+    EXPECT_EQ(data->CnnRecipes->state(), ado::adStateClosed);
+}
+
+TEST_F(ClosingTheEditor, WritesTheSettingsOfTheWindow) {
+    studio.connect->Terminate();
+    EXPECT_TRUE(studio.host.iniFile.exists("D:\\Prj\\HXEditors.ini"));
+}
+
+TEST_F(ClosingTheEditor, ASettingsFileThatCannotBeWrittenDoesNotKeepTheWindow) {
+    const auto window = studio.connect->editorWindow();
+    studio.host.iniFile.failWritesWith(automation::Error(automation::errFail, "The disk is full."));
+    studio.connect->Terminate();
+    EXPECT_EQ(studio.connect->editorWindow(), nullptr);
+    const Texts boxes = studio.boxes();
+    ASSERT_EQ(boxes.size(), 1u);
+    EXPECT_NE(boxes[0].find("The disk is full."), std::string::npos);
+}
+
+TEST_F(ClosingTheEditor, RefreshViewBuildsWindowConnectionAndNodesAnew) {
+    const auto before = studio.connect->editorWindow();
+    studio.addRecipe("Limo");
+    studio.host.explorer.setNodeProperty("RCPE0", host::node_property::expanded, true);
+    studio.connect->RefreshView();
+    EXPECT_EQ(studio.boxes(), Texts{});
+    EXPECT_NE(studio.connect->editorWindow(), before);
+    EXPECT_FALSE(before->loaded());
+    EXPECT_TRUE(studio.window().loaded());
+    EXPECT_EQ(studio.nodes(), (Texts{"RCPE0", "RCPR1", "RCPU1", "RCPR2", "RCPU2", "RCPR3", "RCPU3"}));
+    EXPECT_FALSE(studio.host.explorer.isExpanded("RCPE0"));
+    EXPECT_EQ(studio.connect->explorer(), &studio.host.explorer);
+    EXPECT_EQ(studio.window().caption(), "HelvixStudio Rezepteditor");
+}
+
+TEST_F(ClosingTheEditor, RefreshViewOnARootWithoutChildrenRemovesNothing) {
+    for (const std::string& key : studio.host.explorer.childKeys("RCPE0", 1)) studio.host.explorer.removeNode(key);
+    for (const ado::Key key : {1, 2}) studio.database.table("TrcpRecipe").remove(key);
+    const auto before = studio.connect->editorWindow();
+    studio.connect->RefreshView();
+    EXPECT_EQ(studio.nodes(), (Texts{"RCPE0"}));
+    EXPECT_NE(studio.connect->editorWindow(), before);
+    EXPECT_TRUE(studio.window().loaded());
+    EXPECT_EQ(studio.boxes(), Texts{});
+}
+
+TEST_F(ClosingTheEditor, RefreshViewWithoutItsConnectionLeavesTheRootAndTriesAgainLater) {
+    studio.faults.arm(1, support::FaultPlan::Kind::connect, automation::Error(ado::dbErrUnspecified, "Locked."));
+    studio.connect->RefreshView();
+    EXPECT_EQ(studio.boxes(), (Texts{"ConnectToDataBase|-2147467259: Locked."}));
+    EXPECT_EQ(studio.nodes(), (Texts{"RCPE0"}));
+    studio.click("RCPE0");
+    EXPECT_EQ(studio.nodes(), (Texts{"RCPE0", "RCPR1", "RCPU1", "RCPR2", "RCPU2"}));
+}
+
+TEST_F(ClosingTheEditor, TheWindowsOwnCommandRefreshesTheViewAndOutlivesItself) {
+    const std::weak_ptr<editor::frmtabgrid> before = studio.connect->editorWindow();
+    studio.window().abr->click("mnuOptionActualize");
+    ASSERT_FALSE(before.expired()) << "the window is kept while its command may still be on the stack";
+    EXPECT_NE(studio.connect->editorWindow(), before.lock());
+    EXPECT_EQ(studio.nodes(), (Texts{"RCPE0", "RCPR1", "RCPU1", "RCPR2", "RCPU2"}));
+    studio.click("RCPR2");
+    EXPECT_TRUE(before.expired());
+    EXPECT_EQ(studio.window().caption(), "HelvixStudio Rezepteditor: Tee");
+    EXPECT_EQ(studio.boxes(), Texts{});
+}
+
+TEST_F(ClosingTheEditor, AnEventInsideTheRefreshDoesNotReleaseTheWindowWhoseCommandRuns) {
+    const std::weak_ptr<editor::frmtabgrid> before = studio.connect->editorWindow();
+    bool checked = false;
+    studio.faults.arm(1, support::FaultPlan::Kind::connect);
+    studio.host.script.onMessage = [&](const headless::Message&) {
+        studio.connect->NodeDblClick(Studio::node("RCPE0"));
+        checked = !before.expired();
+        return forms::message::Answer::ok;
+    };
+    studio.window().abr->click("mnuOptionActualize");
+    EXPECT_TRUE(checked);
+}
+
+TEST_F(ClosingTheEditor, AnAddInReleasedWithoutTerminateEndsItsWindow) {
+    const std::weak_ptr<editor::frmtabgrid> window = studio.connect->editorWindow();
+    studio.connect.reset();
+    EXPECT_TRUE(window.expired());
+    EXPECT_TRUE(studio.host.iniFile.exists("D:\\Prj\\HXEditors.ini"));
+}
+
+TEST_F(ClosingTheEditor, TerminateKeepsTheOpenedFlagSoThatLaterClicksDoNothing) {
+    studio.connect->Terminate();
+    studio.click("RCPR1");
+    EXPECT_EQ(studio.connect->editorWindow(), nullptr);
+    EXPECT_EQ(studio.boxes(), Texts{});
+}
+
+TEST_F(ClosingTheEditor, RefreshViewAfterTerminateDoesNothing) {
+    studio.connect->Terminate();
+    studio.connect->RefreshView();
+    EXPECT_EQ(studio.connect->editorWindow(), nullptr);
+    EXPECT_EQ(studio.boxes(), Texts{});
+}
+
+}  // namespace
+}  // namespace hx::addin

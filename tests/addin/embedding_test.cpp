@@ -1,0 +1,179 @@
+#include "addin/embedding.h"
+
+#include <gtest/gtest.h>
+
+#include "host/window_offset.h"
+#include "studio.h"
+
+namespace hx::addin {
+namespace {
+
+namespace window = host::window;
+
+struct Activation : testing::Test {
+    explicit Activation(headless::HostOptions options = Studio::libraryOptions()) : studio(std::move(options)) {
+        studio.addRecipe("Cola");
+        studio.addMember(1, "Tank1.Level");
+        studio.start();
+        studio.click("RCPR1");
+        EXPECT_EQ(studio.boxes(), Texts{});
+        studio.window().activateEvent.connect([this](bool active) { passedOn += active ? "on " : "off "; });
+    }
+    void send(std::uint32_t message, std::uint32_t wParam) {
+        studio.host.windows.sendMessage(studio.window().handle(), message, wParam);
+    }
+    Studio studio;
+    std::string passedOn;
+};
+
+TEST_F(Activation, RefreshesTheMembersOfTheCurrentNode) {
+    studio.addMember(1, "Tank2.Level");
+    send(window::activateMessage, window::active);
+    EXPECT_EQ(studio.variables(), (Texts{"Tank1.Level", "Tank2.Level"}));
+    studio.addMember(1, "Tank3.Level");
+    send(window::activateMessage, window::clickActive);
+    EXPECT_EQ(studio.variables(), (Texts{"Tank1.Level", "Tank2.Level", "Tank3.Level"}));
+    EXPECT_EQ(passedOn, "on on ");
+}
+
+TEST_F(Activation, DeactivationSwitchesTheGridOfTheCurrentNode) {
+    studio.window().tdbRM->setVisible(false);
+    send(window::activateMessage, window::inactive);
+    EXPECT_TRUE(studio.window().tdbRM->visible());
+    EXPECT_EQ(passedOn, "off ");
+}
+
+TEST_F(Activation, WhileTheBusyFlagIsSetChangesNothingAndIsStillPassedOn) {
+    studio.connect->busy().set(true);
+    studio.addMember(1, "Tank2.Level");
+    studio.window().tdbRM->setVisible(false);
+    int reloads = 0;
+    const auto watched = studio.window().tdbRM->rowsChanged.subscribe([&] { ++reloads; });
+    send(window::activateMessage, window::active);
+    send(window::activateMessage, window::inactive);
+    EXPECT_EQ(reloads, 0);
+    EXPECT_FALSE(studio.window().tdbRM->visible());
+    EXPECT_EQ(passedOn, "on off ");
+}
+
+TEST_F(Activation, OtherMessagesArePassedOnAndDoNothing) {
+    int reloads = 0;
+    const auto watched = studio.window().tdbRM->rowsChanged.subscribe([&] { ++reloads; });
+    EXPECT_EQ(studio.connect->embedding().editorMessage(), studio.host.windows.registerMessage("HX_EDITORS"));
+    send(studio.connect->embedding().editorMessage(), 1);
+    send(window::activateMessage + 1, window::active);
+    EXPECT_EQ(reloads, 0);
+    EXPECT_EQ(passedOn, "");
+}
+
+TEST_F(Activation, AFailingRefreshShowsOneBoxThoughTheBoxActivatesTheWindowAgain) {
+    studio.faults.arm(1, support::FaultPlan::Kind::open, automation::Error(ado::dbErrUnspecified, "Locked."));
+    studio.host.script.onMessage = [this](const headless::Message&) {
+        studio.faults.arm(1, support::FaultPlan::Kind::open);
+        send(window::activateMessage, window::active);
+        return forms::message::Answer::ok;
+    };
+    send(window::activateMessage, window::active);
+    EXPECT_EQ(studio.boxes(), (Texts{"Connect: ActivateEditorWindow|-2147467259: Locked."}));
+    EXPECT_FALSE(studio.connect->busy().isSet());
+}
+
+TEST_F(Activation, AfterTheRootWasOpenedByAnExpansionRefreshesTheEmptyRoot) {
+    Studio other(Studio::libraryOptions());
+    other.addMember(other.addRecipe("Cola"), "Tank1.Level");
+    other.start();
+    other.connect->NodeExpand(Studio::node("RCPE0"));
+    other.host.windows.sendMessage(other.window().handle(), window::activateMessage, window::active);
+    EXPECT_EQ(other.variables(), Texts{});
+    EXPECT_EQ(other.boxes(), Texts{});
+}
+
+TEST_F(Activation, TheProcedureOfTheWindowIsPutBackBeforeTheWindowEnds) {
+    const forms::WindowHandle handle = studio.window().handle();
+    const auto hooked = studio.host.windows.procedure(handle);
+    window::ProcedureAddress atTheEnd = 0;
+    const auto watched = studio.window().unloadEvent.subscribe(
+        [&] { atTheEnd = studio.host.windows.procedure(studio.window().handle()); });
+    studio.connect->Terminate();
+    EXPECT_NE(atTheEnd, 0);
+    EXPECT_NE(atTheEnd, hooked);
+}
+
+TEST_F(Activation, ANewWindowAfterARefreshIsWatchedAgain) {
+    studio.connect->RefreshView();
+    studio.click("RCPR1");
+    studio.addMember(1, "Tank2.Level");
+    send(window::activateMessage, window::active);
+    EXPECT_EQ(studio.variables(), (Texts{"Tank1.Level", "Tank2.Level"}));
+}
+
+struct ActivationOutsideTheLibrary : Activation {
+    ActivationOutsideTheLibrary() : Activation(Studio::windowsOptions()) {}
+};
+
+TEST_F(ActivationOutsideTheLibrary, IsNotWatched) {
+    studio.addMember(1, "Tank2.Level");
+    int reloads = 0;
+    const auto watched = studio.window().tdbRM->rowsChanged.subscribe([&] { ++reloads; });
+    send(window::activateMessage, window::active);
+    EXPECT_EQ(reloads, 0);
+    EXPECT_EQ(passedOn, "on ");
+    EXPECT_EQ(studio.connect->embedding().editorMessage(), 0u);
+}
+
+struct Embedding : testing::Test {
+    Embedding() { window->load(); }
+    Studio studio;
+    std::shared_ptr<Connect> connect = std::make_shared<Connect>(studio.host.services());
+    std::shared_ptr<editor::frmtabgrid> window = std::make_shared<editor::frmtabgrid>(*connect);
+    EditorEmbedding embedding{studio.host.services(), connect->busy()};
+    headless::WindowOperations& windows = studio.host.windows;
+};
+
+TEST_F(Embedding, AddsTheStyleBitsToThoseThatAreThere) {
+    windows.setStyle(window->handle(), 0x10000001);
+    EXPECT_TRUE(embedding.SetParentFromMe(*window, studio.host.explorer));
+    EXPECT_EQ(windows.style(window->handle()), 0x90880001u);
+    EXPECT_EQ(windows.parent(window->handle()), studio.host.explorer.hostWindow());
+}
+
+TEST_F(Embedding, GivesTheWindowBackToAParent) {
+    const forms::WindowHandle frame = windows.add(host::window::Rect{0, 0, 100, 100});
+    EXPECT_TRUE(embedding.GetParentFromMe(*window, frame));
+    EXPECT_EQ(windows.parent(window->handle()), frame);
+}
+
+TEST_F(Embedding, ShowsAFailureUnderItsName) {
+    EXPECT_FALSE(embedding.GetParentFromMe(*window, 99));
+    const Texts boxes = studio.boxes();
+    ASSERT_EQ(boxes.size(), 1u);
+    EXPECT_EQ(boxes[0].substr(0, 28), "GetParentFromMe|-2147023496:");
+}
+
+TEST_F(Embedding, UnhookingWithoutAHookDoesNotTouchTheWindow) {
+    const auto procedure = windows.procedure(window->handle());
+    embedding.UnhookEditorWindow(*window);
+    EXPECT_EQ(windows.procedure(window->handle()), procedure);
+}
+
+TEST_F(Embedding, HookingAndUnhookingRestoresTheProcedure) {
+    const auto procedure = windows.procedure(window->handle());
+    embedding.HookEditorWindow(*window);
+    EXPECT_NE(windows.procedure(window->handle()), procedure);
+    embedding.UnhookEditorWindow(*window);
+    EXPECT_EQ(windows.procedure(window->handle()), procedure);
+}
+
+TEST(WindowOffset, IsTheDistanceOfTheUpperLeftCornersInPixels) {
+    support::MemoryProvider provider;
+    headless::Host host(provider);
+    const forms::WindowHandle a = host.windows.add(host::window::Rect{130, 20, 400, 300});
+    const forms::WindowHandle b = host.windows.add(host::window::Rect{100, 50, 900, 700});
+    EXPECT_EQ(host::WindowLeftOffset(host.windows, a, b), 30.0f);
+    EXPECT_EQ(host::WindowTopOffset(host.windows, a, b), -30.0f);
+    EXPECT_EQ(host::WindowLeftOffset(host.windows, b, a), -30.0f);
+    EXPECT_THROW((void)host::WindowTopOffset(host.windows, a, 5), automation::Error);
+}
+
+}  // namespace
+}  // namespace hx::addin

@@ -1,0 +1,140 @@
+#include <gtest/gtest.h>
+
+#include "studio.h"
+
+namespace hx::addin {
+namespace {
+
+using automation::Args;
+using automation::Variant;
+
+struct Members : testing::Test {
+    Members() { studio.addRecipe("Cola"); }
+    Variant call(std::string_view name, std::vector<Variant> args = {}) { return studio.connect->get(name, args); }
+    Studio studio;
+};
+
+std::int32_t failure(const auto& action) {
+    try {
+        action();
+    } catch (const automation::Error& error) {
+        return error.number();
+    }
+    return 0;
+}
+
+TEST_F(Members, ThePropertiesAreReadByName) {
+    studio.start();
+    EXPECT_EQ(call("LanguageChanged"), Variant(true));
+    EXPECT_EQ(automation::toInt32(call("LanguageChanged")), -1);
+    EXPECT_EQ(call("ProjectPath"), Variant("D:\\Prj\\Plant.hxs"));
+    EXPECT_EQ(call("ProjectName"), Variant("Plant"));
+    EXPECT_EQ(call("HostValue"), Variant(studio.host.explorer.hostWindow()));
+    EXPECT_EQ(studio.connect->className(), "Connect");
+}
+
+TEST_F(Members, TheThreeTextsAreReadAndWritten) {
+    studio.create();
+    for (const char* name : {"Text1", "Text2", "Text3"}) {
+        EXPECT_EQ(call(name), Variant(""));
+        studio.connect->set(name, Variant(std::string("value of ") + name));
+    }
+    EXPECT_EQ(call("Text1"), Variant("value of Text1"));
+    EXPECT_EQ(call("text2"), Variant("value of Text2"));
+    EXPECT_EQ(call("Text3"), Variant("value of Text3"));
+}
+
+TEST_F(Members, TheOtherPropertiesCannotBeWritten) {
+    studio.start();
+    for (const char* name : {"LanguageChanged", "ProjectPath", "ProjectName", "Explorer", "HostValue"}) {
+        EXPECT_EQ(failure([&] { studio.connect->set(name, Variant("x")); }), automation::errMemberNotFound) << name;
+    }
+}
+
+TEST_F(Members, EveryMemberOfTheInterfaceIsAMethodInTheOrderOfItsSlots) {
+    studio.create();
+    std::vector<std::string> methods;
+    for (const automation::Member& row : studio.connect->members().rows) {
+        if (row.kind == automation::MemberKind::method) methods.emplace_back(row.name);
+    }
+    EXPECT_EQ(methods, (Texts{"Initialize", "StartupComplete", "Terminate", "Deactivate", "NodeClick", "NodeDblClick",
+                              "NodeExpand", "NodeMouseDown", "NodeMouseMove", "NodeMouseUp", "NodeKeyDown",
+                              "NodeKeyPress", "NodeKeyUp", "GetMessage"}));
+}
+
+TEST_F(Members, EveryRowHasALineOfDocumentation) {
+    studio.create();
+    for (const automation::Member& row : studio.connect->members().rows) EXPECT_FALSE(row.doc.empty()) << row.name;
+}
+
+TEST_F(Members, TheEventsWorkByName) {
+    studio.start();
+    call("NodeClick", {"Plant", "RCPR1", ""});
+    EXPECT_EQ(studio.window().caption(), "HelvixStudio Rezepteditor: Cola");
+    call("NodeKeyDown", {"Plant", "RCPR1", "", std::int16_t{67}, std::int16_t{2}});
+    EXPECT_EQ(studio.host.record.beeps, 1);
+    call("NodeMouseUp", {"Plant", "RCPR1", "", std::int16_t{2}, std::int16_t{0}, 10.0, 20.0});
+    EXPECT_EQ(studio.host.record.popUps.size(), 1u);
+    call("NodeDblClick", {"Plant", "RCPR1", ""});
+    EXPECT_EQ(studio.host.record.broughtToFront.size(), 1u);
+    EXPECT_TRUE(call("GetMessage", {"Studio", "Any", 5}).isEmpty());
+    for (const char* name : {"StartupComplete", "Deactivate"}) EXPECT_TRUE(call(name).isEmpty());
+    call("NodeKeyPress", {"Plant", "RCPR1", "", 99});
+    call("NodeKeyUp", {"Plant", "RCPR1", "", std::int16_t{67}, std::int16_t{2}});
+    EXPECT_EQ(studio.host.record.beeps, 1);
+    call("Terminate");
+    EXPECT_EQ(studio.nodes(), Texts{});
+}
+
+TEST_F(Members, AMethodWithTheWrongNumberOfArgumentsIsRefused) {
+    studio.start();
+    EXPECT_EQ(failure([&] { call("NodeClick", {"RCPR1"}); }), automation::errBadParamCount);
+    EXPECT_EQ(failure([&] { call("Nothing"); }), automation::errUnknownName);
+    EXPECT_EQ(failure([&] { call("NodeKeyDown", {"Plant", "RCPR1", "", 70000, 0}); }), automation::errOverflow);
+}
+
+TEST_F(Members, TheExplorerIsAnObjectThatActsOnTheExplorer) {
+    studio.create();
+    EXPECT_EQ(call("Explorer"), Variant(automation::ObjectRef()));
+    studio.start();
+    const automation::ObjectRef explorer = call("Explorer").asObject();
+    ASSERT_NE(explorer, nullptr);
+    EXPECT_EQ(explorer->get("HostWindow"), Variant(studio.host.explorer.hostWindow()));
+    EXPECT_EQ(explorer->get("SelectedKey"), Variant(""));
+    studio.host.explorer.select("RCPE0");
+    EXPECT_EQ(explorer->get("SelectedKey"), Variant("RCPE0"));
+    const std::vector<Variant> node = {"RCPE0", "Extra", "X1", "tag", "icoRcpRecipe"};
+    explorer->get("AddNode", node);
+    EXPECT_EQ(studio.nodes(), (Texts{"RCPE0", "X1"}));
+    explorer->get("SetNodeProperty", std::vector<Variant>{"X1", 1, "Other"});
+    EXPECT_EQ(studio.host.explorer.tree().caption(studio.host.explorer.tree().find("X1")), "Other");
+    explorer->get("RemoveNode", std::vector<Variant>{"X1"});
+    EXPECT_EQ(studio.nodes(), (Texts{"RCPE0"}));
+    explorer->get("Activate");
+    EXPECT_EQ(studio.host.explorer.activations(), 1);
+}
+
+TEST_F(Members, TheExplorerObjectFailsOnceTheAddInHasEnded) {
+    studio.start();
+    const automation::ObjectRef explorer = call("Explorer").asObject();
+    studio.connect->Terminate();
+    EXPECT_EQ(failure([&] { explorer->get("HostWindow"); }), automation::errFail);
+    EXPECT_EQ(call("Explorer"), Variant(automation::ObjectRef()));
+}
+
+TEST_F(Members, InitializeTakesAnExplorerByName) {
+    Studio other;
+    other.start();
+    studio.create();
+    call("Initialize", {"Plant", "", other.connect->Explorer(), automation::ObjectRef()});
+    EXPECT_EQ(studio.connect->explorer(), &other.host.explorer);
+    EXPECT_EQ(failure([&] {
+                  call("Initialize", {"Plant", "", automation::ObjectRef(other.connect), {}});
+              }),
+              automation::errTypeMismatch);
+    studio.connect.reset();
+    (void)studio.boxes();
+}
+
+}  // namespace
+}  // namespace hx::addin
