@@ -6,20 +6,18 @@
 namespace hx::ado {
 
 Page::Page(std::size_t first, std::size_t count, std::size_t columns, ColumnMask mask)
-    : first_(first), columns_(columns), mask_(mask), width_(0), present_(count) {
-    // Only bits that stand for a column count.
-    if (columns <= sharedBit) mask_ &= (ColumnMask{1} << columns) - 1;
-    const bool hasShared = columns > sharedBit && holds(columnBit(sharedBit));
-    width_ = hasShared ? slot(columns - 1) + 1 : static_cast<std::size_t>(std::popcount(mask_));
+    : first_(first), mask_(mask), present_(count) {
+    for (std::size_t column = 0; column < columns; ++column) {
+        if (holds(columnBit(column))) kept_.push_back(column);
+    }
+    width_ = kept_.size();
     values_.resize(count * width_);
 }
 
 void Page::row(std::size_t index, std::span<automation::Variant> values) {
     present_[index] = 1;
     std::size_t at = index * width_;
-    for (std::size_t column = 0; column < columns_; ++column) {
-        if (holds(columnBit(column))) values_[at++] = std::move(values[column]);
-    }
+    for (const std::size_t column : kept_) values_[at++] = std::move(values[column]);
 }
 
 void Page::erased(std::size_t position) {

@@ -38,9 +38,9 @@ class Page : public RowSink {
     static constexpr std::size_t sharedBit = 63;  // stands for all columns from this number on
 
     std::size_t first_;
-    std::size_t columns_;
     ColumnMask mask_;
-    std::size_t width_;
+    std::vector<std::size_t> kept_;  // the columns of the mask
+    std::size_t width_;              // their number
     std::vector<char> present_;
     std::vector<automation::Variant> values_;  // row by row
 };

@@ -87,35 +87,33 @@ ado::KeySet TableRowset::keys(const ado::Criterion* criterion) {
     return keys;
 }
 
-std::string TableRowset::readQuery(ColumnMask mask) const {
+std::string TableRowset::readQuery() const {
     std::string query = "SELECT " + quotedName(table_.key);
-    for (std::size_t i = 0; i < columns_.size(); ++i) {
-        const bool wanted = (mask & ado::columnBit(i)) != 0 && !columns_[i].isKey;
-        if (wanted) query += ", " + quotedName(columns_[i].name);
-    }
+    for (const std::size_t column : reading_) query += ", " + quotedName(columns_[column].name);
     return query + " FROM " + quotedName(table_.name) + " WHERE " + quotedName(table_.key);
 }
 
 void TableRowset::read(std::span<const Key> keys, ColumnMask mask, ado::RowSink& sink) {
     if (keys.empty()) return;
-    std::ranges::fill(row_, automation::Variant());
+    reading_.clear();
+    for (std::size_t i = 0; i < columns_.size(); ++i) {
+        row_[i] = automation::Variant();
+        if ((mask & ado::columnBit(i)) != 0 && !columns_[i].isKey) reading_.push_back(i);
+    }
     const bool ascending = std::ranges::adjacent_find(keys, std::greater_equal<>()) == keys.end();
     const bool dense = ascending && (keys.back() - keys.front()) / readAlong <= static_cast<Key>(keys.size());
-    if (dense) readRange(keys, mask, sink);
-    else readEach(keys, mask, sink);
+    if (dense) readRange(readQuery(), keys, sink);
+    else readEach(readQuery(), keys, sink);
 }
 
-void TableRowset::giveRow(Statement& statement, std::size_t index, ColumnMask mask, ado::RowSink& sink) {
+void TableRowset::giveRow(Statement& statement, std::size_t index, ado::RowSink& sink) {
     int column = 1;
-    for (std::size_t i = 0; i < columns_.size(); ++i) {
-        const bool read = (mask & ado::columnBit(i)) != 0 && !columns_[i].isKey;
-        if (read) row_[i] = statement.value(column++, columns_[i].type);
-    }
+    for (const std::size_t i : reading_) row_[i] = statement.value(column++, columns_[i].type);
     sink.row(index, row_);
 }
 
-void TableRowset::readRange(std::span<const Key> keys, ColumnMask mask, ado::RowSink& sink) {
-    Statement& statement = writes_->database().prepared(readQuery(mask) + " BETWEEN ?1 AND ?2 ORDER BY 1");
+void TableRowset::readRange(const std::string& query, std::span<const Key> keys, ado::RowSink& sink) {
+    Statement& statement = writes_->database().prepared(query + " BETWEEN ?1 AND ?2 ORDER BY 1");
     const ResetGuard guard(statement);
     statement.bind(1, keys.front());
     statement.bind(2, keys.back());
@@ -123,16 +121,16 @@ void TableRowset::readRange(std::span<const Key> keys, ColumnMask mask, ado::Row
     while (statement.step()) {
         const Key found = statement.key(0);
         while (index < keys.size() && keys[index] < found) ++index;
-        if (index < keys.size() && keys[index] == found) giveRow(statement, index, mask, sink);
+        if (index < keys.size() && keys[index] == found) giveRow(statement, index, sink);
     }
 }
 
-void TableRowset::readEach(std::span<const Key> keys, ColumnMask mask, ado::RowSink& sink) {
-    Statement& statement = writes_->database().prepared(readQuery(mask) + " = ?1");
+void TableRowset::readEach(const std::string& query, std::span<const Key> keys, ado::RowSink& sink) {
+    Statement& statement = writes_->database().prepared(query + " = ?1");
     for (std::size_t index = 0; index < keys.size(); ++index) {
         const ResetGuard guard(statement);
         statement.bind(1, keys[index]);
-        if (statement.step()) giveRow(statement, index, mask, sink);
+        if (statement.step()) giveRow(statement, index, sink);
     }
 }
 

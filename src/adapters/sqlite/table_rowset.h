@@ -27,17 +27,18 @@ class TableRowset : public ado::Rowset {
     [[nodiscard]] Order order() const;
     [[nodiscard]] std::string orderClause() const;
     [[nodiscard]] BoundSql keysQuery(const ado::Criterion* criterion) const;
-    [[nodiscard]] std::string readQuery(ado::ColumnMask mask) const;
-    void giveRow(Statement& statement, std::size_t index, ado::ColumnMask mask, ado::RowSink& sink);
-    void readRange(std::span<const ado::Key> keys, ado::ColumnMask mask, ado::RowSink& sink);
-    void readEach(std::span<const ado::Key> keys, ado::ColumnMask mask, ado::RowSink& sink);
+    [[nodiscard]] std::string readQuery() const;
+    void giveRow(Statement& statement, std::size_t index, ado::RowSink& sink);
+    void readRange(const std::string& query, std::span<const ado::Key> keys, ado::RowSink& sink);
+    void readEach(const std::string& query, std::span<const ado::Key> keys, ado::RowSink& sink);
 
     std::shared_ptr<Writes> writes_;
     TableInfo table_;
     std::vector<ado::Column> columns_;
     std::vector<OrderTerm> order_;
     BoundSql condition_;
-    std::vector<automation::Variant> row_;  // reused for every row that is read
+    std::vector<std::size_t> reading_;      // the columns that a read asks for, and
+    std::vector<automation::Variant> row_;  // the row that it gives, used again for every row
 };
 
 }  // namespace hx::sqlite
