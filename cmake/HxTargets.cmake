@@ -10,6 +10,8 @@ target_include_directories(hx_flags INTERFACE ${CMAKE_SOURCE_DIR}/src)
 target_compile_options(hx_flags INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror)
 # GCC 12 warns falsely of overlapping copies where a literal and a temporary text are joined in optimised code (PR 105651).
 target_compile_options(hx_flags INTERFACE -Wno-restrict)
+# A module that lacks a symbol fails here, not when a program loads it.
+target_link_options(hx_flags INTERFACE LINKER:-z,defs)
 if(HX_SANITIZE)
   target_compile_options(hx_flags INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
   target_link_options(hx_flags INTERFACE -fsanitize=address,undefined)
