@@ -52,7 +52,10 @@ find_window() {
 
 window_or_end() { find_window || ! kill -0 "$studio_process" 2>/dev/null; }
 
-# Waits until the picture of the screen stays the same, then keeps it as NAME.
+# What the area of documents shows, as a checksum.
+documents_of() { /usr/bin/convert "$1" -crop 840x680+400+50 +repage -format '%#' info:; }
+
+# Waits until the picture of the screen stays the same, then keeps it as NAME. What the editor shows must be new.
 take_picture() {
     local last=none now end=$((SECONDS + 10))
     kill -0 "$studio_process" 2>/dev/null || { cat "$work/studio.log" >&2; fail "the studio ended before the picture $1"; }
@@ -63,12 +66,13 @@ take_picture() {
         last=$now
         sleep 0.4
     done
-    for seen in "${signatures[@]}"; do
-        [ "$seen" != "$now" ] || fail "the step to $1 shows nothing new"
-    done
-    signatures+=("$now")
     mv "$work/now.png" "$pictures/$1.png"
     echo "$pictures/$1.png"
+    now=$(documents_of "$pictures/$1.png")
+    for last in "${shown[@]}"; do
+        [ "$last" != "$now" ] || fail "the editor shows nothing new in $1"
+    done
+    shown+=("$now")
 }
 
 press() {
@@ -99,7 +103,7 @@ tour() {
     wait "$studio_process" 2>/dev/null || true
 }
 
-signatures=()
+shown=()
 start_display
 tour de
 tour en
