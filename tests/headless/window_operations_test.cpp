@@ -6,6 +6,7 @@
 #include "adapters/headless/host.h"
 #include "automation/error.h"
 #include "support/memory_provider.h"
+#include "support/table_walker.h"
 #include "test_form.h"
 
 namespace hx::headless {
@@ -167,6 +168,8 @@ TEST_F(WindowTest, HasAnObjectAroundAnEmbeddedWindowOnly) {
     windows.setEmbeddingClass("Window");
     const automation::ObjectRef object = windows.embeddingObject(handle);
     EXPECT_EQ(object->className(), "Window");
+    EXPECT_EQ(support::walkTables(*object), 1);
+    EXPECT_EQ(support::walkTables(*edit), 1);
     EXPECT_EQ(object->get("Visible"), automation::Variant(true));
     object->set("Visible", automation::Variant(false));
     EXPECT_FALSE(form->visible());

@@ -4,9 +4,9 @@
 
 #include "automation/error.h"
 #include "host/file_bytes.h"
+#include "host/files_folder.h"
 #include "host/ini_text_file.h"
 #include "host/registry_file.h"
-#include "host/temporary_folder.h"
 
 namespace hx::host {
 namespace {
@@ -33,7 +33,7 @@ class FullDisk {
 };
 
 TEST(AFullDisk, LeavesTheIniFileAsItWas) {
-    const TemporaryFolder folder;
+    const FilesFolder folder;
     const std::string path = folder.write("a.ini", "[S]\na=1\n");
     IniTextFile ini;
     {
@@ -45,7 +45,7 @@ TEST(AFullDisk, LeavesTheIniFileAsItWas) {
 }
 
 TEST(AFullDisk, LeavesTheRegistryAsItWas) {
-    const TemporaryFolder folder;
+    const FilesFolder folder;
     RegistryFile registry(folder.write("registry", "[K]\nLCID=dword:1031\n"));
     {
         const FullDisk disk(4);
@@ -56,10 +56,10 @@ TEST(AFullDisk, LeavesTheRegistryAsItWas) {
 }
 
 TEST(AFullDisk, ShowsInTheMessageWhichFileIsConcerned) {
-    const TemporaryFolder folder;
+    const FilesFolder folder;
     const FullDisk disk(0);
     try {
-        replaceFile(folder.path() / "x", "text");
+        replaceFile(folder.file("x"), "text");
         FAIL() << "written";
     } catch (const automation::Error& error) {
         EXPECT_EQ(error.description(), "Cannot write \"" + folder.file("x") + "\": the disk took only a part of it");

@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "automation/error.h"
-#include "host/temporary_folder.h"
+#include "host/files_folder.h"
 
 namespace hx::host {
 namespace {
@@ -31,7 +31,7 @@ class IniFileTest : public ::testing::Test {
         return "written";
     }
 
-    TemporaryFolder folder;
+    FilesFolder folder;
     IniTextFile ini;
 };
 
@@ -50,7 +50,7 @@ TEST_F(IniFileTest, GivesTheFallbackForAMissingFileSectionAndKey) {
 }
 
 TEST_F(IniFileTest, GivesTheFallbackForAFileThatCannotBeRead) {
-    std::filesystem::create_directory(folder.path() / "a.ini");
+    std::filesystem::create_directory(folder.file("a.ini"));
     EXPECT_EQ(read("a"), "none");
     EXPECT_EQ(ini.read("s", "a", "none", ""), "none");
 }
@@ -157,11 +157,11 @@ TEST_F(IniFileTest, RefusesWhatCannotStandInOneLine) {
 TEST_F(IniFileTest, SeesWhatAnotherProgramWroteOfTheSameLength) {
     file("[frmtabGridRCP]\na=1\n");
     EXPECT_EQ(read("a"), "1");
-    const auto time = std::filesystem::last_write_time(folder.path() / "a.ini");
+    const auto time = std::filesystem::last_write_time(folder.file("a.ini"));
     file("[frmtabGridRCP]\na=2\n");
-    std::filesystem::last_write_time(folder.path() / "a.ini", time);
+    std::filesystem::last_write_time(folder.file("a.ini"), time);
     EXPECT_EQ(read("a"), "2");
-    std::filesystem::remove(folder.path() / "a.ini");
+    std::filesystem::remove(folder.file("a.ini"));
     EXPECT_EQ(read("a"), "none");
 }
 
@@ -176,33 +176,33 @@ TEST_F(IniFileTest, SaysWhichFileInAMissingFolderCannotBeWritten) {
 
 TEST_F(IniFileTest, DoesNotOverruleAFileThatIsSetToReadOnly) {
     file("[S]\na=1\n");
-    std::filesystem::permissions(folder.path() / "a.ini", std::filesystem::perms::owner_read);
+    std::filesystem::permissions(folder.file("a.ini"), std::filesystem::perms::owner_read);
     EXPECT_EQ(refusal("a", "2"), "Cannot write \"" + folder.file("a.ini") + "\": it is set to read-only");
     EXPECT_EQ(bytes(), "[S]\na=1\n");
     EXPECT_EQ(folder.entries(), 1U);
 }
 
 TEST_F(IniFileTest, DoesNotReplaceAFolder) {
-    std::filesystem::create_directory(folder.path() / "a.ini");
+    std::filesystem::create_directory(folder.file("a.ini"));
     EXPECT_NE(refusal("a", "2"), "written");
-    EXPECT_TRUE(std::filesystem::is_directory(folder.path() / "a.ini"));
+    EXPECT_TRUE(std::filesystem::is_directory(folder.file("a.ini")));
     EXPECT_EQ(folder.entries(), 1U);
 }
 
 TEST_F(IniFileTest, KeepsPermissionsAndLeavesNoOtherFile) {
     file("[S]\na=1\n");
     const auto perms = std::filesystem::perms::owner_read | std::filesystem::perms::owner_write;
-    std::filesystem::permissions(folder.path() / "a.ini", perms);
+    std::filesystem::permissions(folder.file("a.ini"), perms);
     write("a", "2", "S");
-    EXPECT_EQ(std::filesystem::status(folder.path() / "a.ini").permissions(), perms);
+    EXPECT_EQ(std::filesystem::status(folder.file("a.ini")).permissions(), perms);
     EXPECT_EQ(folder.entries(), 1U);
 }
 
 TEST_F(IniFileTest, WritesThroughALink) {
     EXPECT_EQ(folder.write("real.ini", "[S]\na=1\n"), folder.file("real.ini"));
-    std::filesystem::create_symlink(folder.path() / "real.ini", folder.path() / "a.ini");
+    std::filesystem::create_symlink(folder.file("real.ini"), folder.file("a.ini"));
     write("a", "2", "S");
-    EXPECT_TRUE(std::filesystem::is_symlink(folder.path() / "a.ini"));
+    EXPECT_TRUE(std::filesystem::is_symlink(folder.file("a.ini")));
     EXPECT_EQ(folder.read("real.ini"), "[S]\na=2\n");
 }
 

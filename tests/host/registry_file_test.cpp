@@ -3,13 +3,13 @@
 #include <gtest/gtest.h>
 
 #include "automation/error.h"
-#include "host/temporary_folder.h"
+#include "host/files_folder.h"
 
 namespace hx::host {
 namespace {
 
 TEST(RegistryFile, IsEmptyWithoutAFile) {
-    const TemporaryFolder folder;
+    const FilesFolder folder;
     const RegistryFile registry(folder.file("registry"));
     EXPECT_EQ(registry.readString(registry_keys::tarnwell, "Common", "none"), "none");
     EXPECT_EQ(registry.readString(registry_keys::tarnwell, "Common"), "");
@@ -17,7 +17,7 @@ TEST(RegistryFile, IsEmptyWithoutAFile) {
 }
 
 TEST(RegistryFile, StoresTextsAndNumbersSoThatAPersonCanReadThem) {
-    const TemporaryFolder folder;
+    const FilesFolder folder;
     RegistryFile registry(folder.file("config/helvix/registry"));
     registry.writeNumber(registry_keys::helvix, "LCID", 1033);
     registry.writeString(std::string(registry_keys::projects) + "Plant", "Path", "D:\\Prj");
@@ -29,7 +29,7 @@ TEST(RegistryFile, StoresTextsAndNumbersSoThatAPersonCanReadThem) {
 }
 
 TEST(RegistryFile, ReadsItsOwnNegativeNumbersQuotesAndBlanks) {
-    const TemporaryFolder folder;
+    const FilesFolder folder;
     RegistryFile registry(folder.file("r"));
     registry.writeNumber("K", "n", -5);
     registry.writeString("K", "s", " \"a\" = b ");
@@ -42,7 +42,7 @@ TEST(RegistryFile, ReadsItsOwnNegativeNumbersQuotesAndBlanks) {
 }
 
 TEST(RegistryFile, TakesAValueOfTheOtherKindAsMissing) {
-    const TemporaryFolder folder;
+    const FilesFolder folder;
     RegistryFile registry(
         folder.write("r", "[K]\nLCID=dword:1033\nPath=\"7\"\nbare=1033\nbad=dword:x\nbig=dword:9999999999\n"));
     EXPECT_EQ(registry.readString("K", "LCID", "none"), "none");
@@ -54,14 +54,14 @@ TEST(RegistryFile, TakesAValueOfTheOtherKindAsMissing) {
 }
 
 TEST(RegistryFile, KeepsWhatAPersonWroteIntoTheFile) {
-    const TemporaryFolder folder;
+    const FilesFolder folder;
     RegistryFile registry(folder.write("r", "; my own remark\n[K]\nunknown=x\nLCID=dword:1031\n"));
     registry.writeNumber("k", "LCID", 1033);
     EXPECT_EQ(folder.read("r"), "; my own remark\n[K]\nunknown=x\nLCID=dword:1033\n");
 }
 
 TEST(RegistryFile, SharesTheFileWithAnother) {
-    const TemporaryFolder folder;
+    const FilesFolder folder;
     RegistryFile one(folder.file("r"));
     RegistryFile other(folder.file("r"));
     one.writeNumber("K", "a", 1);
@@ -73,22 +73,22 @@ TEST(RegistryFile, SharesTheFileWithAnother) {
 }
 
 TEST(RegistryFile, SaysWhichFileCannotBeReadOrWritten) {
-    const TemporaryFolder folder;
-    RegistryFile registry(folder.path().string());
+    const FilesFolder folder;
+    RegistryFile registry(folder.path());
     for (const auto& use : {std::function<void()>([&] { (void)registry.readString("K", "a"); }),
                             std::function<void()>([&] { registry.writeString("K", "a", "x"); })}) {
         try {
             use();
             ADD_FAILURE() << "a folder was used as a file";
         } catch (const automation::Error& error) {
-            EXPECT_EQ(error.description(), "Cannot read \"" + folder.path().string() + "\": it is no file");
+            EXPECT_EQ(error.description(), "Cannot read \"" + folder.path() + "\": it is no file");
         }
     }
     EXPECT_THROW(RegistryFile(folder.write("f", "") + "/registry").writeNumber("K", "a", 1), automation::Error);
 }
 
 TEST(RegistryFile, RefusesATextOfSeveralLines) {
-    const TemporaryFolder folder;
+    const FilesFolder folder;
     RegistryFile registry(folder.write("r", "[K]\na=\"1\"\n"));
     EXPECT_THROW(registry.writeString("K", "a", "1\n[L]"), automation::Error);
     EXPECT_EQ(folder.read("r"), "[K]\na=\"1\"\n");
