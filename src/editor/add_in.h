@@ -21,16 +21,17 @@ class BusyFlag {
     bool set_ = false;
 };
 
-/// Sets the flag while it lives.
+/// Sets the flag while it lives; afterwards it is as it was.
 class Busy {
   public:
-    explicit Busy(BusyFlag& flag) : flag_(flag) { flag_.set(true); }
-    ~Busy() { flag_.set(false); }
+    explicit Busy(BusyFlag& flag) : flag_(flag), before_(flag.isSet()) { flag_.set(true); }
+    ~Busy() { flag_.set(before_); }
     Busy(const Busy&) = delete;
     Busy& operator=(const Busy&) = delete;
 
   private:
     BusyFlag& flag_;
+    bool before_;
 };
 
 /// What the editor window needs of the add-in that created it.

@@ -1,7 +1,9 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
+#include <vector>
 
 #include "editor/add_in.h"
 #include "forms/bar.h"
@@ -15,6 +17,14 @@
 #include "settings/cinit.h"
 
 namespace hx::editor {
+
+class Commands;
+class FunctionBar;
+class MemberGrid;
+class MemberGridKeys;
+class MemberGridMouse;
+class Menus;
+class SplitBar;
 
 /// The recipe editor's window: the members of the explorer's node in a grid, menus, tool bar and status line.
 class frmtabgrid : public forms::Form, public recipe::MemberView {
@@ -35,24 +45,38 @@ class frmtabgrid : public forms::Form, public recipe::MemberView {
     /// The project file; the settings file lies in its folder. The second path is handed to sibling add-ins.
     void setPaths(const std::string& path, const std::string& secondPath);
     [[nodiscard]] const std::string& path() const noexcept { return path_; }
+    [[nodiscard]] const std::string& secondPath() const noexcept { return secondPath_; }
     [[nodiscard]] const std::string& nodeKey() const override { return nodeKey_; }
     void setNodeKey(const std::string& key) { nodeKey_ = key; }
 
     // --- operations that the add-in calls
+    /// Shows the grid for the node of a recipe, hides it for any other.
     void SwitchGrids(const std::string& key);
     void MakeMyCaption(const std::string& key, const std::string& name);
+    /// Writes a pending edit before the selection changes; one that is refused is dropped without a word.
     void VerifyAdds();
+    /// Enables and shows the tools for a node; `context` when a context menu is about to be shown.
     void MenuSwitcher(const std::string& key, bool context);
+    /// Runs the tool's command, which may end the window; a disabled tool beeps.
     void abr_ToolClick(forms::Tool& tool);
+    /// Lays out tool bar, status line and grid in the area that the menu leaves free.
     void abr_Resize();
     /// Builds the grid's columns from the member recordset and applies the stored layout.
     void bindGrid();
     /// Forgets and rebuilds the names of sub-recipes in the grid.
     void refreshSubRecipeNames();
-    /// RefreshMemberView for the current node.
+    /// RefreshMemberView for the current node. Where its members are shown already, the current row and the selected
+    /// rows stay. A pending edit is written first; when that fails, nothing else happens.
     void refreshMembers();
     /// The name of the node's recipe, empty for the root or when it is gone.
     [[nodiscard]] std::string recipeName(const std::string& key) const;
+
+    /// Alt+F6 gives the explorer the keyboard; no other key does anything here.
+    void onKeyDown(forms::KeyEvent& event);
+
+    [[nodiscard]] Commands& commands() const noexcept { return *commands_; }
+    /// Puts other commands under the tools in place of the editor's own.
+    void setCommands(std::unique_ptr<Commands> commands);
 
     // --- position in the host's document area, in twips
     [[nodiscard]] double PosLeft() const;
@@ -60,24 +84,48 @@ class frmtabgrid : public forms::Form, public recipe::MemberView {
     [[nodiscard]] double PosTop() const;
     void setPosTop(double twips);
 
+    // --- settings
     [[nodiscard]] settings::CInit& inits();
+    /// HXEditors.ini in the folder of the project file.
+    [[nodiscard]] std::string settingsFile() const;
+    /// Applies the stored properties of a control or of the window ("Me"). What cannot be applied is named in one
+    /// message; the other entries get their values.
+    void applySettings(const std::string& name);
 
     // --- MemberView
     [[nodiscard]] forms::Grid& memberGrid() override { return *tdbRM; }
-    [[nodiscard]] ado::Recordset& memberRecordset() override { return *data_->rstabRecipeMembers; }
+    /// Throws errFail while the window has no data environment.
+    [[nodiscard]] ado::Recordset& memberRecordset() override;
     [[nodiscard]] bool saveFirst() const override { return saveFirst_; }
     void setSubRecipeView(bool subRecipes) override { subRecipeView_ = subRecipes; }
+    [[nodiscard]] bool subRecipeView() const noexcept { return subRecipeView_; }
 
     [[nodiscard]] const automation::MemberTable& members() const override;
 
   private:
-    // The implementer's: load, query-unload, key and split bar handlers, and the parts (member grid, commands, menus)
-    // as classes in files of their own that this window owns.
+    void onLoad();
+    void onQueryUnload(bool& cancel, forms::UnloadMode mode);
+    void showInHost();
+    void loadSettings();
+    void saveSettings();
+    /// The window's place in the studio's window, in pixels; none while it is not there.
+    [[nodiscard]] std::optional<double> hostOffset(float (*offset)(const host::WindowOperations&, forms::WindowHandle,
+                                                                   forms::WindowHandle)) const;
+
     AddIn& addIn_;
     std::shared_ptr<recipe::DataEnvironment> data_;
     std::string path_, secondPath_, nodeKey_;
-    std::unique_ptr<settings::CInit> inits_;
-    bool subRecipeView_ = false, saveFirst_ = true, splitting_ = false;
+    std::shared_ptr<settings::CInit> inits_;
+    bool subRecipeView_ = false, saveFirst_ = true;
+    // After the controls, whose events they hear.
+    std::unique_ptr<Commands> commands_;
+    std::unique_ptr<Menus> menus_;
+    std::unique_ptr<MemberGrid> memberGrid_;
+    std::unique_ptr<MemberGridKeys> gridKeys_;
+    std::unique_ptr<MemberGridMouse> gridMouse_;
+    std::unique_ptr<FunctionBar> functionBar_;
+    std::unique_ptr<SplitBar> splitBar_;
+    std::vector<forms::Subscription> subscriptions_;
 };
 
 }  // namespace hx::editor

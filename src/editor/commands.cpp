@@ -1,0 +1,58 @@
+#include "editor/commands.h"
+
+#include <array>
+
+#include "editor/frmtabgrid.h"
+#include "editor/guard.h"
+#include "editor/tools.h"
+
+namespace hx::editor {
+
+namespace {
+
+using Procedure = void (Commands::*)(std::int16_t);
+
+struct ToolCommand {
+    std::string_view tool;
+    Procedure procedure;
+    std::int16_t index;
+};
+
+// Macros and other add-ins know these numbers: they are never given to another command.
+constexpr auto toolCommands = std::to_array<ToolCommand>({
+    {tool::recipeNew, &Commands::mnuRecipeFunc, 0},
+    {tool::recipeEdit, &Commands::mnuRecipeFunc, 1},
+    {tool::recipeDelete, &Commands::mnuRecipeFunc, 2},
+    {tool::memberNewVariable, &Commands::mnuRecipeMember, 0},
+    {tool::memberNewRecipe, &Commands::mnuRecipeMember, 1},
+    {tool::memberDelete, &Commands::mnuRecipeMember, 2},
+    {tool::memberEditSubRecipe, &Commands::mnuRecipeMember, 3},
+    {tool::optionStatistik, &Commands::mnuOption, 0},
+    {tool::optionActualize, &Commands::mnuOption, 2},
+    {tool::optionConfiguration, &Commands::mnuOption, 5},
+    {tool::optionOption, &Commands::mnuOption, 6},
+    {tool::optionReport, &Commands::mnuOption, 7},
+    {tool::showEditor, &Commands::mnuShowEditor, 0},
+});
+
+}  // namespace
+
+void frmtabgrid::abr_ToolClick(forms::Tool& tool) {
+    if (!tool.enabled()) return screen().beep();
+    for (const ToolCommand& row : toolCommands) {
+        if (row.tool == tool.name()) return (commands().*row.procedure)(row.index);
+    }
+}
+
+void Commands::mnuRecipeFunc(std::int16_t) {}
+
+void Commands::mnuRecipeMember(std::int16_t) {}
+
+void Commands::mnuShowEditor(std::int16_t) {
+    guard(addIn_, "mnuShowEditor", [this] {
+        window_.show();
+        window_.bringToFront();
+    });
+}
+
+}  // namespace hx::editor

@@ -1,0 +1,66 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "editor/add_in.h"
+#include "forms/grid.h"
+
+namespace hx::editor {
+
+class frmtabgrid;
+
+/// The grid of a recipe's members: its columns and layout, and what happens when a cell or row is edited.
+class MemberGrid {
+  public:
+    MemberGrid(frmtabgrid& window, AddIn& addIn);
+
+    // --- columns
+    /// One column a field of the recordset, which becomes the grid's; opens it when it is closed. Then the stored
+    /// layout.
+    void build(const std::shared_ptr<ado::Recordset>& members);
+    /// The stored properties of the grid, then the stored order of its columns.
+    void applyLayout();
+    void applyColumnOrder();
+    /// Into the settings; a grid that has no columns yet leaves them as they are.
+    void saveColumnOrder();
+    void refreshSubRecipeNames();
+
+    // --- editing
+    /// Writes a pending edit or new row; one that the database refuses is dropped without a word.
+    void verifyAdds();
+    /// Writes a pending edit or new row. False when that failed: the user has been told, and the edit is still pending
+    /// unless it was refused as a duplicate or its row is gone.
+    bool finishRow();
+    /// The cell button: lets the user choose the variable of the current row.
+    void chooseVariable();
+    /// Shows the members of the window's node. When these are shown already, the current row and the selected rows
+    /// stay. A pending edit is written first; when that fails, nothing else happens.
+    void refreshMembers();
+
+  private:
+    void addColumn(const std::string& field);
+    void standOn(const ado::Bookmark& row);
+    void select(std::vector<ado::Bookmark> rows);
+    void leavingRow(bool& stay);
+    void buttonClicked(std::int32_t column);
+    void reportedError(forms::GridError& error);
+    void resetStaleRows(std::int32_t code);
+    void refuseDuplicate();
+    void showRefusals(std::int32_t code);
+    void showRefusal(const ado::ProviderError& error);
+    void dropEdit() noexcept;
+    void clearErrors();
+    [[nodiscard]] std::shared_ptr<ado::Recordset> members() const;
+    [[nodiscard]] bool holdsEdit() const { return grid_.dataChanged() || grid_.addNewMode(); }
+
+    frmtabgrid& window_;
+    AddIn& addIn_;
+    forms::Grid& grid_;
+    std::string shownKey_;         // the node whose members the grid shows
+    bool gridShowsError_ = false;  // in its own message box
+    std::vector<forms::Subscription> subscriptions_;
+};
+
+}  // namespace hx::editor

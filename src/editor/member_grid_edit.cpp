@@ -1,0 +1,154 @@
+#include "automation/text.h"
+#include "editor/frmtabgrid.h"
+#include "editor/guard.h"
+#include "editor/member_grid.h"
+#include "recipe/node_key.h"
+#include "recipe/schema.h"
+
+namespace hx::editor {
+
+using automation::Error;
+using automation::Variant;
+namespace member = recipe::schema::member;
+
+namespace {
+
+constexpr std::int32_t staleRowText = 407;
+
+}  // namespace
+
+std::shared_ptr<ado::Recordset> MemberGrid::members() const {
+    const auto& data = window_.dataEnvironment();
+    return data == nullptr ? nullptr : data->recordset(grid_.dataMember());
+}
+
+void MemberGrid::dropEdit() noexcept {
+    try {
+        const auto recordset = members();
+        const bool edited = recordset && recordset->state() == ado::adStateOpen &&
+                            (recordset->editMode() == ado::adEditInProgress || recordset->editMode() == ado::adEditAdd);
+        if (edited) recordset->cancelUpdate();
+        grid_.cancelUpdate();
+    } catch (const Error&) {
+        // Nothing is pending any more, or the connection is gone with it.
+    }
+}
+
+// What the database said earlier must not be taken for the reason of the next error.
+void MemberGrid::clearErrors() {
+    if (const auto& data = window_.dataEnvironment()) data->CnnRecipes->clearErrors();
+}
+
+void MemberGrid::verifyAdds() {
+    const std::string_view type = recipe::KeyPrefix(window_.nodeKey());
+    if (type != recipe::prefixRecipe && type != recipe::prefixSubRecipes) return;
+    const auto write = [this] {
+        try {
+            grid_.update();
+        } catch (const Error&) {
+            dropEdit();  // the selection is about to change: there is nowhere left to correct the row
+            clearErrors();
+        }
+    };
+    if (grid_.dataChanged()) {
+        grid_.setDataChanged(false);
+        write();
+    }
+    if (grid_.addNewMode()) {
+        write();
+        grid_.setAddNewMode(false);
+    }
+}
+
+void MemberGrid::leavingRow(bool& stay) {
+    stay = true;
+    guard(addIn_, "tdbRM_BeforeUpdate", [&] { stay = !finishRow(); });
+}
+
+bool MemberGrid::finishRow() {
+    clearErrors();
+    try {
+        grid_.update();
+        return true;
+    } catch (const Error& error) {
+        const Busy busy(addIn_.busy());
+        gridShowsError_ = error.number() != forms::gridErrRowRefused && error.number() != forms::gridErrStaleRow;
+        grid_.reportError(error.number(), error.description());
+        gridShowsError_ = false;
+        return false;
+    }
+}
+
+void MemberGrid::reportedError(forms::GridError& error) {
+    if (gridShowsError_) return;
+    guard(addIn_, "tdbRM_Error", [&] {
+        if (error.code == forms::gridErrStaleRow) resetStaleRows(error.code);
+        window_.screen().beep();
+        showRefusals(error.code);
+    });
+    error.response = 0;
+    grid_.setFocus();
+}
+
+void MemberGrid::resetStaleRows(std::int32_t code) {
+    const std::string text = addIn_.texts().GetResource(staleRowText);
+    {
+        const Busy busy(addIn_.busy());
+        window_.screen().messageBox(automation::replaceAll(text, "<DataError>", std::to_string(code)),
+                                    forms::message::ok, forms::message::defaultTitle);
+    }
+    dropEdit();
+    const auto recordset = members();
+    if (recordset == nullptr || recordset->state() != ado::adStateOpen) return;
+    recordset->resync(ado::adAffectAll);
+    if (recordset->recordCount() != 0) recordset->moveFirst();
+    grid_.reload();
+}
+
+void MemberGrid::showRefusals(std::int32_t code) {
+    const auto& data = window_.dataEnvironment();
+    if (data == nullptr) return;
+    const std::vector<ado::ProviderError> errors = data->CnnRecipes->errors();
+    data->CnnRecipes->clearErrors();
+    for (const ado::ProviderError& error : errors) {
+        if (error.number == ado::dbErrDuplicate) refuseDuplicate();
+        else if (code == forms::gridErrRowRefused) showRefusal(error);
+    }
+}
+
+// The row stays as the user typed it, to be corrected.
+void MemberGrid::showRefusal(const ado::ProviderError& error) {
+    const Busy busy(addIn_.busy());
+    showError(window_.screen(), Error(error.number, error.description), "tdbRM_Error");
+}
+
+void MemberGrid::refuseDuplicate() {
+    dropEdit();
+    const Busy busy(addIn_.busy());
+    window_.screen().messageBox("Doppelter Name", forms::message::ok, forms::message::defaultTitle);
+    grid_.refetchRow();
+}
+
+void MemberGrid::buttonClicked(std::int32_t column) {
+    if (grid_.columns()[static_cast<std::size_t>(column)]->dataField() != member::varRecipe) return;
+    guard(addIn_, "tdbRM_ButtonClick", [this] { chooseVariable(); });
+}
+
+void MemberGrid::chooseVariable() {
+    const std::int32_t row = grid_.row();
+    if (row < 0 && !grid_.addNewMode()) return;
+    const std::int32_t column = grid_.columnNumber(Variant(member::varRecipe));
+    if (!grid_.editable(column)) return;
+    std::string chosen;
+    {
+        const Busy busy(addIn_.busy());
+        chosen = addIn_.services().items.choose(window_.handle(), grid_.text(row, column));
+    }
+    const std::string_view name = automation::trim(chosen);
+    if (name.empty()) return;
+    grid_.setText(row, column, std::string(name));
+    grid_.setDataChanged(true);
+    grid_.setFocus();
+}
+
+}  // namespace hx::editor

@@ -1,0 +1,175 @@
+#include <algorithm>
+
+#include "editor_window.h"
+
+namespace hx::editor {
+namespace {
+
+using automation::Error;
+using automation::Variant;
+
+struct Closing : EditorWindow {
+    Closing() { open(); }
+    [[nodiscard]] std::string stored(const std::string& key) const {
+        return host.iniFile.read("frmtabGridRCP", key, "(none)", iniPath);
+    }
+    [[nodiscard]] static std::size_t lineCount(const std::string& text) {
+        return static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n'));
+    }
+};
+
+TEST_F(Closing, ByTheCloseBoxHidesTheWindowAndKeepsItAlive) {
+    EXPECT_FALSE(window->closeByFrame());
+    EXPECT_TRUE(window->loaded());
+    EXPECT_FALSE(window->visible());
+    EXPECT_EQ(stored("SaveOnExit"), "True");
+    window->show();
+    EXPECT_TRUE(window->visible());
+}
+
+TEST_F(Closing, ByCodeEndsTheWindowAndSavesToo) {
+    EXPECT_TRUE(window->unload(forms::UnloadMode::byCode));
+    EXPECT_FALSE(window->loaded());
+    EXPECT_EQ(stored("SaveOnExit"), "True");
+}
+
+TEST_F(Closing, BySystemEndsTheWindowAndSavesToo) {
+    EXPECT_TRUE(window->unload(forms::UnloadMode::bySystem));
+    EXPECT_FALSE(window->loaded());
+    EXPECT_EQ(stored("SaveOnExit"), "True");
+}
+
+TEST_F(Closing, SavesTheWholeLayout) {
+    window->setWindowState(forms::WindowState::normal);
+    window->move(300, 150, 9000, 4500);
+    window->font().setSize(12);
+    grid().font().setName("Courier");
+    column("VarRecipe").setWidth(2500);
+    grid().columnMoved(columnNumber("ChildID"), 2);
+    window->unload(forms::UnloadMode::byCode);
+    EXPECT_EQ(stored("Me.WindowState"), "0");
+    EXPECT_EQ(stored("Me.Width"), "9000");
+    EXPECT_EQ(stored("Me.Height"), "4500");
+    EXPECT_EQ(stored("Me.Font.Size"), "12");
+    EXPECT_EQ(stored("tdbRM.Font.Name"), "Courier");
+    EXPECT_EQ(stored("tdbRM.Columns(\"VarRecipe\").Width"), "2500");
+    EXPECT_EQ(stored("tdbRMColOrders"), ",0,1,3,2");
+    EXPECT_EQ(stored("LoadOnForeGround"), "True");
+    EXPECT_EQ(stored("sb.Visible"), "True");
+}
+
+TEST_F(Closing, ComesBackWithTheSavedLayout) {
+    window->setWindowState(forms::WindowState::normal);
+    window->move(300, 150, 9000, 4500);
+    column("VarRecipe").setWidth(2500);
+    grid().columnMoved(columnNumber("ChildID"), 2);
+    window->unload(forms::UnloadMode::byCode);
+    make();
+    open();
+    EXPECT_EQ(window->windowState(), forms::WindowState::normal);
+    EXPECT_EQ(window->width(), 9000);
+    EXPECT_EQ(window->height(), 4500);
+    EXPECT_EQ(column("VarRecipe").width(), 2500);
+    EXPECT_EQ(column("ChildID").order(), 2);
+    EXPECT_EQ(column("VarRecipe").order(), 3);
+    EXPECT_EQ(messages(), Texts{});
+}
+
+TEST_F(Closing, WithoutSavingWritesThatChoiceAndNothingElse) {
+    window->inits().WriteAValueToCInits("SaveOnExit", Variant(false));
+    window->closeByFrame();
+    EXPECT_EQ(host.iniFile.bytes(iniPath), "[frmtabGridRCP]\r\nSaveOnExit=False\r\n");
+    EXPECT_FALSE(window->visible());
+}
+
+TEST_F(Closing, TakesAChoiceThatIsNotTrueForNo) {
+    window->inits().WriteAValueToCInits("SaveOnExit", Variant("yes"));
+    window->unload(forms::UnloadMode::byCode);
+    EXPECT_EQ(host.iniFile.bytes(iniPath), "[frmtabGridRCP]\r\nSaveOnExit=False\r\n");
+}
+
+TEST_F(Closing, IsNotStoppedByASettingsFileThatCannotBeWritten) {
+    host.iniFile.failWritesWith(Error(automation::errFail, "The disk is full."));
+    EXPECT_TRUE(window->unload(forms::UnloadMode::byCode));
+    EXPECT_FALSE(window->loaded());
+    EXPECT_EQ(messages(), (Texts{"-2147467259: The disk is full."}));
+    EXPECT_EQ(host.record.messages[0].title, "frmtabgrid: QueryUnload");
+}
+
+TEST_F(Closing, ByTheCloseBoxIsNotStoppedEither) {
+    host.iniFile.failWritesWith(Error(automation::errFail, "The disk is full."));
+    window->closeByFrame();
+    EXPECT_FALSE(window->visible());
+    EXPECT_TRUE(window->loaded());
+    EXPECT_EQ(messages().size(), 1U);
+}
+
+TEST_F(Closing, AGridThatWasNeverBoundKeepsItsStoredOrder) {
+    host.iniFile.setBytes(iniPath, "[frmtabGridRCP]\r\ntdbRMColOrders=,1,0,3,2\r\n");
+    make();
+    window->load();
+    window->unload(forms::UnloadMode::byCode);
+    EXPECT_EQ(stored("tdbRMColOrders"), ",1,0,3,2");
+    EXPECT_EQ(stored("tdbRM.Columns(\"VarRecipe\").Visible"), "True");
+}
+
+TEST_F(Closing, SavesNoNumberThatCouldNotBeAppliedAgain) {
+    window->setWindowState(forms::WindowState::normal);
+    window->move(0, 0, 57600, 30000);
+    window->unload(forms::UnloadMode::byCode);
+    EXPECT_EQ(stored("Me.Width"), "32767");
+    EXPECT_EQ(stored("Me.Height"), "30000");
+    make();
+    open();
+    EXPECT_EQ(messages(), Texts{});
+    EXPECT_EQ(window->width(), 32767);
+}
+
+TEST_F(Closing, SavesAfterTheDatabaseHasGone) {
+    window->setDataEnvironment(nullptr);
+    data->rstabRecipeMembers->close();
+    data->CnnRecipes->close();
+    EXPECT_TRUE(window->unload(forms::UnloadMode::byCode));
+    EXPECT_EQ(stored("tdbRMColOrders"), ",0,1,2,3");
+    EXPECT_EQ(messages(), Texts{});
+}
+
+TEST_F(Closing, ByTheCloseBoxShowsAnEmbeddingEditFirst) {
+    host.windows.setEmbeddingClass("MDIEdit");
+    window->hide();
+    std::vector<bool> visible;
+    const auto watch = window->changed.subscribe([&](std::string_view property) {
+        if (property == "Visible") visible.push_back(window->visible());
+    });
+    window->closeByFrame();
+    EXPECT_EQ(visible, (std::vector<bool>{true, false}));
+}
+
+TEST_F(Closing, ByTheCloseBoxMakesAnEmbeddingWindowVisibleFirst) {
+    host.windows.setEmbeddingClass("Window");
+    window->hide();
+    std::vector<bool> visible;
+    const auto watch = window->changed.subscribe([&](std::string_view property) {
+        if (property == "Visible") visible.push_back(window->visible());
+    });
+    window->closeByFrame();
+    EXPECT_EQ(visible, (std::vector<bool>{true, false}));
+}
+
+TEST_F(Closing, ByCodeLeavesTheEmbeddingAlone) {
+    window->hide();
+    bool shown = false;
+    const auto watch = window->changed.subscribe([&](std::string_view) { shown = shown || window->visible(); });
+    window->unload(forms::UnloadMode::byCode);
+    EXPECT_FALSE(shown);
+}
+
+TEST_F(Closing, AWindowThatIsNotEmbeddedIsJustHidden) {
+    host.windows.setParent(window->handle(), -1);
+    window->closeByFrame();
+    EXPECT_FALSE(window->visible());
+    EXPECT_EQ(messages(), Texts{});
+}
+
+}  // namespace
+}  // namespace hx::editor

@@ -1,0 +1,139 @@
+#include "editor/function_bar.h"
+
+#include "editor_window.h"
+
+namespace hx::editor {
+namespace {
+
+using automation::Variant;
+
+struct ToolBarButtons : EditorWindow {
+    ToolBarButtons() { open(); }
+    [[nodiscard]] forms::ToolButton& button(const char* key) const { return window->tbrfunc->button(Variant(key)); }
+    void expectButtons(bool create, bool edit, bool remove) {
+        EXPECT_EQ(button("New").enabled(), create);
+        EXPECT_EQ(button("Edit").enabled(), edit);
+        EXPECT_EQ(button("Delete").enabled(), remove);
+        EXPECT_TRUE(button("Refresh").enabled());
+    }
+    void click(const char* key) { window->tbrfunc->click(button(key)); }
+};
+
+TEST_F(ToolBarButtons, StandInTheirOrderWithPictures) {
+    Texts keys;
+    for (const auto& each : window->tbrfunc->buttons()) {
+        keys.push_back(each->key());
+        EXPECT_TRUE(each->picture().svg.starts_with("<svg ")) << each->key();
+    }
+    EXPECT_EQ(keys, (Texts{"New", "Edit", "Delete", "Refresh"}));
+    EXPECT_TRUE(button("Refresh").separatorBefore);
+    EXPECT_FALSE(button("Delete").separatorBefore);
+}
+
+TEST_F(ToolBarButtons, FollowTheNode) {
+    window->MenuSwitcher("RCPE0", false);
+    expectButtons(true, false, false);
+    window->MenuSwitcher(mixKey, false);
+    expectButtons(true, true, true);
+    window->MenuSwitcher(mixSubRecipes, false);
+    expectButtons(true, false, false);
+    window->MenuSwitcher("VARS1", false);
+    expectButtons(false, false, false);
+}
+
+TEST_F(ToolBarButtons, AreDisabledBeforeTheFirstNode) {
+    make();
+    window->load();
+    expectButtons(false, false, false);
+}
+
+TEST_F(ToolBarButtons, FollowTheRowsOfTheGridWithoutTouchingTheMenus) {
+    show(mixSubRecipes);
+    EXPECT_TRUE(button("Edit").enabled()) << "there is a current row";
+    EXPECT_FALSE(button("Delete").enabled());
+    selectRows({1});
+    EXPECT_TRUE(button("Delete").enabled());
+    EXPECT_FALSE(tool("mnuRecipeMemberDelete").enabled());
+    EXPECT_FALSE(tool("mnuRecipeMemberEditSubRecipe").enabled());
+    grid().selectedRows().clear();
+    EXPECT_FALSE(button("Delete").enabled());
+}
+
+TEST_F(ToolBarButtons, TellWhatTheyRun) {
+    show(mixKey);
+    EXPECT_EQ(button("New").toolTipText(), "Variablen hinzufügen/löschen");
+    EXPECT_EQ(button("Edit").toolTipText(), "Bearbeiten");
+    EXPECT_EQ(button("Delete").toolTipText(), "Löschen");
+    EXPECT_EQ(button("Refresh").toolTipText(), "Ansicht aktualisieren");
+    show(mixSubRecipes);
+    EXPECT_EQ(button("New").toolTipText(), "Neues Unterrezept");
+    show("RCPE");
+    EXPECT_EQ(button("New").toolTipText(), "Neu");
+}
+
+TEST_F(ToolBarButtons, TellItInEnglish) {
+    useLanguage(english);
+    make();
+    open();
+    EXPECT_EQ(button("New").toolTipText(), "New");
+    EXPECT_EQ(button("Refresh").toolTipText(), "Actualize Database Connection");
+}
+
+TEST_F(ToolBarButtons, RunTheFirstToolThatCanBeUsed) {
+    struct Expected {
+        std::string key;
+        Texts commands;  // of New, Edit, Delete without and with selected rows, Refresh
+    };
+    noteCommands();
+    for (const Expected& row :
+         {Expected{"RCPE", {"mnuRecipeFunc(0)", "mnuOption(2)"}},
+          Expected{
+              mixKey,
+              {"mnuRecipeMember(0)", "mnuRecipeFunc(1)", "mnuRecipeFunc(2)", "mnuRecipeMember(2)", "mnuOption(2)"}},
+          Expected{mixSubRecipes,
+                   {"mnuRecipeMember(1)", "mnuRecipeMember(3)", "mnuRecipeMember(2)", "mnuOption(2)"}}}) {
+        show(row.key);
+        commands.clear();
+        for (const char* key : {"New", "Edit", "Delete"}) click(key);
+        if (grid().rowCount() != 0) selectRows({0});
+        click("Delete");
+        click("Refresh");
+        EXPECT_EQ(commands, row.commands) << row.key;
+    }
+    EXPECT_EQ(host.record.beeps, 0);
+}
+
+TEST_F(ToolBarButtons, RefreshMayEndTheWindow) {
+    addIn.onRefresh = [this] { window.reset(); };
+    const auto bar = window->tbrfunc;
+    click("Refresh");
+    EXPECT_EQ(window, nullptr);
+}
+
+TEST_F(ToolBarButtons, RefreshTheMenusBeforeTheyRunATool) {
+    show(mixKey);
+    noteCommands();
+    selectRows({0});
+    EXPECT_FALSE(tool("mnuRecipeMemberDelete").enabled());
+    click("Delete");
+    EXPECT_TRUE(tool("mnuRecipeMemberDelete").enabled());
+    EXPECT_EQ(commands, (Texts{"mnuRecipeMember(2)"}));
+}
+
+TEST_F(ToolBarButtons, DoNothingWhileDisabled) {
+    window->MenuSwitcher("RCPE0", false);
+    click("Delete");
+    EXPECT_EQ(host.record.beeps, 0);
+    EXPECT_EQ(messages(), Texts{});
+}
+
+TEST(PlainCaption, HasNoAccessKeysAndNoBlanksAtTheEnds) {
+    EXPECT_EQ(plainCaption("&Variablen hinzufügen/löschen        "), "Variablen hinzufügen/löschen");
+    EXPECT_EQ(plainCaption("Rezept&elemente"), "Rezeptelemente");
+    EXPECT_EQ(plainCaption("Save && &Close"), "Save & Close");
+    EXPECT_EQ(plainCaption("Open&"), "Open");
+    EXPECT_EQ(plainCaption(""), "");
+}
+
+}  // namespace
+}  // namespace hx::editor

@@ -1,0 +1,150 @@
+#include "editor_window.h"
+
+namespace hx::editor {
+namespace {
+
+using automation::Variant;
+
+struct GridError : EditorWindow {
+    GridError() {
+        open();
+        show(mixKey);
+        host.script.onMessage = [this](const headless::Message& message) {
+            busy.push_back(addIn.busyFlag.isSet());
+            return message.defaultButton;
+        };
+    }
+    void typeDuplicate() {
+        type(1, "Tank.Level");
+        refuseNextUpdate(ado::dbErrDuplicate, "Duplicate value");
+    }
+    std::vector<bool> busy;
+};
+
+TEST_F(GridError, LeavingAnEditedRowWritesIt) {
+    type(1, "Tank.Pressure");
+    EXPECT_TRUE(grid().setRow(0));
+    EXPECT_EQ(storedVariable(2), "Tank.Pressure");
+    EXPECT_EQ(messages(), Texts{});
+}
+
+TEST_F(GridError, ADuplicateIsRefusedAndTheRowShowsItsStoredValuesAgain) {
+    typeDuplicate();
+    EXPECT_FALSE(grid().setRow(0));
+    EXPECT_EQ(messages(), (Texts{"Doppelter Name"}));
+    EXPECT_EQ(host.record.messages[0].style, forms::message::ok);
+    EXPECT_EQ(host.record.messages[0].title, forms::message::defaultTitle);
+    EXPECT_EQ(host.record.beeps, 1);
+    EXPECT_EQ(shown("VarRecipe"), (Texts{"Tank.Level", "Tank.Temp", "Pump.Speed"}));
+    EXPECT_EQ(storedVariable(2), "Tank.Temp");
+    EXPECT_EQ(grid().row(), 1);
+    EXPECT_FALSE(grid().dataChanged());
+    EXPECT_EQ(members().editMode(), ado::adEditNone);
+    EXPECT_TRUE(grid().hasFocus());
+}
+
+TEST_F(GridError, TheBusyFlagIsSetOnlyWhileTheMessageIsShown) {
+    typeDuplicate();
+    grid().setRow(0);
+    EXPECT_EQ(busy, (std::vector<bool>{true}));
+    EXPECT_FALSE(addIn.busyFlag.isSet());
+}
+
+TEST_F(GridError, TheRowCanBeLeftAfterTheRefusal) {
+    typeDuplicate();
+    grid().setRow(0);
+    EXPECT_TRUE(grid().setRow(0));
+    EXPECT_EQ(messages().size(), 1U);
+}
+
+TEST_F(GridError, EachDuplicateIsReportedOnce) {
+    typeDuplicate();
+    grid().setRow(0);
+    typeDuplicate();
+    grid().setRow(0);
+    EXPECT_EQ(messages(), (Texts{"Doppelter Name", "Doppelter Name"}));
+}
+
+TEST_F(GridError, TheGridShowsNoMessageOfItsOwn) {
+    forms::GridError error{forms::gridErrBadValue, "Not a number"};
+    grid().errorEvent.raise(error);
+    EXPECT_EQ(error.response, 0);
+    EXPECT_EQ(host.record.beeps, 1);
+    EXPECT_EQ(messages(), Texts{});
+    EXPECT_TRUE(grid().hasFocus());
+}
+
+TEST_F(GridError, AStaleRowShowsTheNotFoundTextAndResetsTheGrid) {
+    grid().setRow(1);
+    type(1, "Tank.Pressure");
+    database.table("TrcpRecipeMember").remove(2);
+    EXPECT_FALSE(grid().setRow(2));
+    EXPECT_EQ(messages(), (Texts{"Resource 407 not found"}));
+    EXPECT_EQ(host.record.beeps, 1);
+    EXPECT_EQ(members().editMode(), ado::adEditNone);
+    EXPECT_EQ(members().absolutePosition(), 1);
+    EXPECT_EQ(grid().row(), 0);
+    EXPECT_EQ(busy, (std::vector<bool>{true}));
+}
+
+TEST_F(GridError, AnErrorEventOfCodeThirtyTwoResetsTheRecordsetToItsFirstRow) {
+    grid().setRow(2);
+    grid().reportError(forms::gridErrStaleRow, "The row is gone");
+    EXPECT_EQ(messages(), (Texts{"Resource 407 not found"}));
+    EXPECT_EQ(grid().row(), 0);
+}
+
+TEST_F(GridError, AnErrorEventOnAnEmptyGridStandsNowhere) {
+    show("RCPE");
+    grid().reportError(forms::gridErrStaleRow, "The row is gone");
+    EXPECT_EQ(messages(), (Texts{"Resource 407 not found"}));
+    EXPECT_EQ(grid().row(), -1);
+}
+
+TEST_F(GridError, AnyOtherFailureIsShownByTheGridAndKeepsTheEdit) {
+    type(1, "Tank.Pressure");
+    faults.arm(1, support::FaultPlan::Kind::update);
+    EXPECT_FALSE(grid().setRow(0));
+    EXPECT_EQ(messages(), (Texts{"-2147467259: The disk cannot be written."}));
+    EXPECT_EQ(host.record.messages[0].title, forms::message::defaultTitle);
+    EXPECT_EQ(host.record.beeps, 0);
+    EXPECT_EQ(busy, (std::vector<bool>{true}));
+    EXPECT_TRUE(grid().dataChanged());
+    EXPECT_EQ(shown("VarRecipe")[1], "Tank.Pressure");
+    EXPECT_EQ(grid().row(), 1);
+    EXPECT_TRUE(grid().setRow(0)) << "the disk can be written again";
+    EXPECT_EQ(storedVariable(2), "Tank.Pressure");
+}
+
+TEST_F(GridError, ARefusalThatIsNoDuplicateNamesItsReasonAndKeepsTheEdit) {
+    type(1, "Tank.Pressure");
+    refuseNextUpdate(ado::dbErrIntegrity, "The name is too long.");
+    EXPECT_FALSE(grid().setRow(0));
+    EXPECT_EQ(messages(), (Texts{"-2147217873: The name is too long."}));
+    EXPECT_EQ(host.record.messages[0].title, "tdbRM_Error");
+    EXPECT_EQ(host.record.beeps, 1);
+    EXPECT_TRUE(grid().dataChanged());
+    EXPECT_EQ(shown("VarRecipe")[1], "Tank.Pressure");
+}
+
+TEST_F(GridError, AnEarlierDuplicateOfAnotherTableIsNotTheRows) {
+    faults.arm(1, support::FaultPlan::Kind::insert, automation::Error(ado::dbErrDuplicate, "Duplicate recipe"));
+    data->rsRecipes->open();
+    const std::vector<std::pair<std::string, Variant>> values = {{"Name", Variant("Mix")}};
+    EXPECT_THROW(data->rsRecipes->addNew(values), automation::Error);
+    data->rsRecipes->cancelUpdate();
+    type(1, "Tank.Pressure");
+    refuseNextUpdate(ado::dbErrIntegrity, "The name is too long.");
+    grid().setRow(0);
+    EXPECT_EQ(messages(), (Texts{"-2147217873: The name is too long."}));
+}
+
+TEST_F(GridError, WithoutADatabaseOnlyBeeps) {
+    window->setDataEnvironment(nullptr);
+    grid().reportError(forms::gridErrBadValue, "Not a number");
+    EXPECT_EQ(host.record.beeps, 1);
+    EXPECT_EQ(messages(), Texts{});
+}
+
+}  // namespace
+}  // namespace hx::editor

@@ -1,0 +1,64 @@
+#include "editor_window.h"
+#include "host/window_offset.h"
+
+namespace hx::editor {
+namespace {
+
+struct Position : EditorWindow {
+    void openNormal(double left, double top) {
+        open();
+        window->setWindowState(forms::WindowState::normal);
+        window->setLeft(left);
+        window->setTop(top);
+    }
+};
+
+TEST_F(Position, BeforeTheWindowExistsIsThatOfTheForm) {
+    window->setLeft(450);
+    window->setTop(150);
+    EXPECT_EQ(window->PosLeft(), 450);
+    EXPECT_EQ(window->PosTop(), 150);
+}
+
+TEST_F(Position, IsMeasuredFromTheStudiosWindow) {
+    openNormal(450, 150);
+    const auto inHost = host.windows.rect(window->handle());
+    const auto area = host.windows.rect(host.explorer.hostWindow());
+    EXPECT_EQ(window->PosLeft(), (inHost.left - area.left) * 15.0);
+    EXPECT_EQ(window->PosTop(), (inHost.top - area.top) * 15.0);
+    EXPECT_EQ(window->PosLeft(), 450);
+    EXPECT_EQ(window->PosTop(), 150);
+}
+
+TEST_F(Position, MovesTheWindowToWhereItIsSet) {
+    openNormal(450, 150);
+    window->setPosLeft(900);
+    window->setPosTop(-30);
+    EXPECT_EQ(window->PosLeft(), 900);
+    EXPECT_EQ(window->PosTop(), -30);
+    EXPECT_EQ(window->left(), 900);
+    EXPECT_EQ(window->top(), -30);
+}
+
+TEST_F(Position, WithoutAnExplorerIsThatOfTheForm) {
+    openNormal(450, 150);
+    addIn.node = nullptr;
+    EXPECT_EQ(window->PosLeft(), 450);
+    EXPECT_EQ(window->PosTop(), 150);
+}
+
+TEST_F(Position, OfAWindowTakenOutOfTheStudioIsThatOfTheForm) {
+    openNormal(450, 150);
+    host.windows.setParent(window->handle(), -1);
+    EXPECT_EQ(window->PosLeft(), 450);
+    EXPECT_EQ(window->PosTop(), 150);
+}
+
+TEST_F(Position, IsReachedByName) {
+    window->set("PosLeft", automation::Variant(600.0));
+    EXPECT_EQ(window->get("posleft"), automation::Variant(600.0));
+    EXPECT_EQ(window->left(), 600);
+}
+
+}  // namespace
+}  // namespace hx::editor

@@ -1,0 +1,91 @@
+#include "editor_window.h"
+
+namespace hx::editor {
+namespace {
+
+using automation::Variant;
+
+struct VerifyAdds : EditorWindow {
+    VerifyAdds() {
+        open();
+        show(mixKey);
+    }
+    void startNewMember(const std::string& name) {
+        grid().setAddNewMode(true);
+        members().field("ParentID").setValue(mix);
+        members().field("ChildID").setValue(0);
+        grid().setText(-1, columnNumber("VarRecipe"), name);
+    }
+};
+
+TEST_F(VerifyAdds, WritesAPendingEdit) {
+    type(1, "Tank.Pressure");
+    window->VerifyAdds();
+    EXPECT_EQ(storedVariable(2), "Tank.Pressure");
+    EXPECT_FALSE(grid().dataChanged());
+}
+
+TEST_F(VerifyAdds, WritesAPendingEditOfASubRecipe) {
+    show(mixSubRecipes);
+    type(0, "File.Other");
+    window->VerifyAdds();
+    EXPECT_EQ(storedVariable(4), "File.Other");
+}
+
+TEST_F(VerifyAdds, DropsAnEditThatTheDatabaseRefusesWithoutAWord) {
+    type(1, "Tank.Level");
+    refuseNextUpdate(ado::dbErrDuplicate);
+    window->VerifyAdds();
+    EXPECT_EQ(storedVariable(2), "Tank.Temp");
+    EXPECT_EQ(shown("VarRecipe")[1], "Tank.Temp");
+    EXPECT_FALSE(grid().dataChanged());
+    EXPECT_EQ(members().editMode(), ado::adEditNone);
+    EXPECT_EQ(messages(), Texts{});
+    EXPECT_EQ(host.record.beeps, 0);
+}
+
+TEST_F(VerifyAdds, WritesANewRow) {
+    startNewMember("Pump.State");
+    window->VerifyAdds();
+    EXPECT_EQ(memberCount(), 7U);
+    EXPECT_EQ(storedVariable(7), "Pump.State");
+    EXPECT_FALSE(grid().addNewMode());
+}
+
+TEST_F(VerifyAdds, DropsANewRowThatTheDatabaseRefuses) {
+    startNewMember("Pump.State");
+    faults.arm(1, support::FaultPlan::Kind::insert);
+    window->VerifyAdds();
+    EXPECT_TRUE(faults.fired());
+    EXPECT_EQ(memberCount(), 6U);
+    EXPECT_FALSE(grid().addNewMode());
+    EXPECT_EQ(members().editMode(), ado::adEditNone);
+    EXPECT_EQ(messages(), Texts{});
+}
+
+TEST_F(VerifyAdds, DoesNothingForOtherNodes) {
+    for (const char* key : {"RCPE0", "RCPE", "VARS1", ""}) {
+        window->setNodeKey(key);
+        type(1, std::string("Tank.Pressure") + key);
+        window->VerifyAdds();
+        EXPECT_TRUE(grid().dataChanged()) << key;
+        EXPECT_EQ(storedVariable(2), "Tank.Temp") << key;
+    }
+}
+
+TEST_F(VerifyAdds, DoesNothingWithoutAnEdit) {
+    faults.arm(1, support::FaultPlan::Kind::update);
+    window->VerifyAdds();
+    EXPECT_FALSE(faults.fired());
+}
+
+TEST_F(VerifyAdds, LeavesNoDuplicateForTheNextErrorOfTheGrid) {
+    type(1, "Tank.Level");
+    refuseNextUpdate(ado::dbErrDuplicate);
+    window->VerifyAdds();
+    grid().reportError(forms::gridErrBadValue, "Not a number");
+    EXPECT_EQ(messages(), Texts{});
+}
+
+}  // namespace
+}  // namespace hx::editor
