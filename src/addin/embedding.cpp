@@ -1,5 +1,8 @@
 #include "addin/embedding.h"
 
+#include <exception>
+#include <utility>
+
 #include "addin/trap.h"
 
 namespace hx::addin {
@@ -49,8 +52,11 @@ void EditorEmbedding::activationChanged(bool active) {
         if (!active) return editor_->SwitchGrids(editor_->nodeKey());
         editor_->refreshMembers();
         editor_->tdbRM->refetch();
+        failureShown_ = false;
     } catch (...) {
-        // Closing the box activates the window again, which must not open the next one.
+        // Closing the box activates the window again, at once or later, which must not open the next one: a failure
+        // that lasts is shown once.
+        if (std::exchange(failureShown_, true)) return;
         const editor::Busy busy(busy_);
         trap(services_.screen, "Connect: ActivateEditorWindow",
              [error = std::current_exception()] { std::rethrow_exception(error); });

@@ -42,6 +42,7 @@ class EditorEmbedding {
     host::window::ProcedureAddress previousProcedure_ = 0;
     std::uint32_t editorMessage_ = 0;
     forms::WindowHandle hostParent_ = 0;
+    bool failureShown_ = false;
 };
 
 }  // namespace hx::addin

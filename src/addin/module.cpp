@@ -1,5 +1,7 @@
 #include "host/module.h"
 
+#include <type_traits>
+
 #include "addin/connect.h"
 #include "automation/text.h"
 
@@ -15,3 +17,5 @@ extern "C" void hxCreateObject(std::string_view programId, const hx::host::Servi
         object.reset();
     }
 }
+
+static_assert(std::is_convertible_v<decltype(&hxCreateObject), hx::host::ModuleEntry>);

@@ -78,6 +78,22 @@ TEST_F(Activation, AFailingRefreshShowsOneBoxThoughTheBoxActivatesTheWindowAgain
     EXPECT_FALSE(studio.connect->busy().isSet());
 }
 
+TEST_F(Activation, AFailureThatLastsIsShownOnceUntilARefreshWorks) {
+    const auto fail = [this] {
+        studio.faults.arm(1, support::FaultPlan::Kind::open, automation::Error(ado::dbErrUnspecified, "Locked."));
+        send(window::activateMessage, window::active);
+        studio.faults.disarm();
+    };
+    const Texts box = {"Connect: ActivateEditorWindow|-2147467259: Locked."};
+    fail();
+    EXPECT_EQ(studio.boxes(), box);
+    fail();
+    EXPECT_EQ(studio.boxes(), Texts{});
+    send(window::activateMessage, window::active);
+    fail();
+    EXPECT_EQ(studio.boxes(), box);
+}
+
 TEST_F(Activation, AfterTheRootWasOpenedByAnExpansionRefreshesTheEmptyRoot) {
     Studio other(Studio::libraryOptions());
     other.addMember(other.addRecipe("Cola"), "Tank1.Level");
