@@ -4,6 +4,7 @@
 #include "automation/convert.h"
 #include "automation/text.h"
 #include "forms/grid.h"
+#include "forms/raised.h"
 
 namespace hx::forms {
 
@@ -129,9 +130,10 @@ void Grid::columnMoved(std::int32_t column, std::int16_t newOrder) {
     std::erase(ordered, moved);
     const auto place = std::clamp<std::ptrdiff_t>(newOrder, 0, static_cast<std::ptrdiff_t>(ordered.size()));
     ordered.insert(ordered.begin() + place, moved);
-    reordering_ = true;
-    for (std::size_t i = 0; i < ordered.size(); ++i) ordered[i]->setOrder(static_cast<std::int16_t>(i));
-    reordering_ = false;
+    {
+        const Raised reordering(reordering_);
+        for (std::size_t i = 0; i < ordered.size(); ++i) ordered[i]->setOrder(static_cast<std::int16_t>(i));
+    }
     columnsChanged.raise();
 }
 

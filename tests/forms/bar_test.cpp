@@ -216,6 +216,10 @@ TEST_F(BarTest, SpellsShortcutsWithTheUsersNamesOfTheModifierKeys) {
     bar->setLocalisation(43, "Ctrl+");
     EXPECT_EQ(spelled("Control+C"), "Ctrl+C");
     EXPECT_EQ(bar->localisation(99), "");
+    const std::vector<Variant> entry{43};
+    bar->set("Localisation", Variant("^"), entry);
+    EXPECT_EQ(bar->get("Localisation", entry), Variant("^"));
+    EXPECT_EQ(spelled("Control+C"), "^C");
 }
 
 TEST_F(BarTest, ReportsTheAreaThatItsBandsLeaveFree) {

@@ -42,6 +42,8 @@ class ToolBarTest : public testing::Test {
 TEST_F(ToolBarTest, FindsAButtonByKeyOrByNumberFromOne) {
     EXPECT_EQ(&bar.button(Variant("edit")), &second);
     EXPECT_EQ(&bar.button(Variant(1)), &first);
+    const std::vector<Variant> number{2};
+    EXPECT_EQ(bar.get("Buttons", number).asObject()->get("Key"), Variant("Edit"));
     for (const Variant& index : {Variant(0), Variant(3), Variant("Copy")}) {
         EXPECT_EQ(errorNumber([&] { (void)bar.button(index); }), errBadIndex);
     }

@@ -30,7 +30,7 @@ TEST(CheckBox, IsToggledByAClick) {
     Counter<> clicks(box.clickEvent);
     box.click();
     EXPECT_EQ(box.value(), CheckState::checked);
-    box.click();
+    box.get("Click");
     EXPECT_EQ(box.value(), CheckState::unchecked);
     box.setValue(CheckState::greyed);
     box.click();
@@ -80,7 +80,7 @@ class OptionButtonTest : public testing::Test {
 
 TEST_F(OptionButtonTest, OneOfEachContainerIsChosen) {
     form.inFrame0->click();
-    form.outside0->click();
+    form.outside0->get("Click");
     EXPECT_TRUE(form.inFrame0->value());
     EXPECT_TRUE(form.outside0->value());
     form.inFrame1->setValue(true);

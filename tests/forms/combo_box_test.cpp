@@ -85,7 +85,7 @@ TEST_F(ComboBoxTest, TypedTextStaysWhenNothingIsSelectedAgain) {
 
 TEST_F(ComboBoxTest, IsEmptyAfterClear) {
     list.setListIndex(1);
-    list.clear();
+    list.get("Clear");
     EXPECT_EQ(list.listCount(), 0);
     EXPECT_EQ(list.listIndex(), -1);
     EXPECT_EQ(list.newIndex(), -1);

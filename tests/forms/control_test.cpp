@@ -63,7 +63,7 @@ TEST_F(ControlTest, HasTheKeyboardAtOnceWhenNoViewShowsIt) {
     Counter<bool> focus(form->first->focusEvent);
     form->first->setFocus();
     EXPECT_TRUE(form->first->hasFocus());
-    form->first->setFocus();
+    form->first->get("SetFocus");
     EXPECT_EQ(focus.take(), 1);
     form->second->setFocus();
     EXPECT_TRUE(form->second->hasFocus());

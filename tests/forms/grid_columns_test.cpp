@@ -232,6 +232,7 @@ TEST(ValueItems, TellKindsOfValuesApart) {
         EXPECT_EQ(items.display(Variant("1")), "8:1");
         EXPECT_EQ(items.display(Variant(true)), "11:True");
         EXPECT_EQ(items.display(Variant()), "0:");
+        EXPECT_EQ(items.display(Variant(automation::ObjectRef())), "9:");
         EXPECT_EQ(items.display(Variant(automation::Null{})), "1:");
     }
 }

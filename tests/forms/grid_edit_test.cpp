@@ -76,6 +76,17 @@ TEST_F(GridEdit, TextForARowThatIsGoneIsReported) {
     EXPECT_FALSE(grid.dataChanged());
 }
 
+TEST_F(GridEdit, TextForRowsOpenedForReadingIsReportedAsTheRecordsetSays) {
+    auto rows = std::make_shared<ado::Recordset>();
+    rows->open("TrcpRecipe", connection, ado::adOpenKeyset, ado::adLockReadOnly);
+    grid.setDataSource(rows);
+    catchErrors();
+    type(1, "Comment", "x");
+    EXPECT_EQ(errors, std::to_string(ado::adErrIllegalOperation) + ";");
+    EXPECT_FALSE(grid.dataChanged());
+    EXPECT_EQ(text(1, "Comment"), "of B");
+}
+
 TEST_F(GridEdit, ColumnsThatCannotBeWrittenAreNotEditable) {
     EXPECT_TRUE(grid.editable(col("Comment")));
     EXPECT_FALSE(grid.editable(col("ID")));

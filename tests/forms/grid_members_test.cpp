@@ -33,6 +33,18 @@ TEST_F(GridMembers, WriteCells) {
     EXPECT_EQ(errorNumber([&] { call("SetText", {9, "Comment", "x"}); }), errBadIndex);
 }
 
+TEST_F(GridMembers, DropEditsAndReadAgain) {
+    call("SetText", {1, "Comment", "x"});
+    grid.get("Refetch");
+    EXPECT_EQ(call("Text", {1, "Comment"}), Variant("x"));
+    grid.get("CancelUpdate");
+    EXPECT_EQ(call("Text", {1, "Comment"}), Variant("of B"));
+    call("SetText", {1, "Comment", "y"});
+    grid.get("RefetchRow");
+    EXPECT_EQ(call("Text", {1, "Comment"}), Variant("of B"));
+    EXPECT_EQ(call("HitTest", {10, 10}), Variant(0));
+}
+
 TEST_F(GridMembers, FillANewRow) {
     grid.set("AddNewMode", Variant(true));
     call("SetText", {-1, "Name", "D"});
