@@ -21,7 +21,7 @@ constexpr std::array<Cause, 10> causes = {{
     {SQLITE_BUSY, "The file '", "' is locked by another program."},
     {SQLITE_LOCKED, "The file '", "' is locked by another program."},
     {SQLITE_READONLY, "The file '", "' is write-protected."},
-    {SQLITE_FULL, "The disk with the file '", "' is full. Nothing was changed."},
+    {SQLITE_FULL, "The disk with the file '", "' is full."},
     {SQLITE_IOERR, "The disk does not read or write the file '", "' (input/output error)."},
     {SQLITE_CORRUPT, "The file '", "' is damaged."},
     {SQLITE_NOTADB, "The file '", "' is not a project file."},
