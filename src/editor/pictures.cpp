@@ -39,7 +39,7 @@ forms::Picture refresh() {
 }
 
 forms::Picture choose() {
-    return drawing(R"(<g fill="#7f8b97"><circle cx="3.5" cy="8" r="1.4"/><circle cx="8" cy="8" r="1.4"/>)"
+    return drawing(R"(<g fill="#7f8b97" stroke="none"><circle cx="3.5" cy="8" r="1.4"/><circle cx="8" cy="8" r="1.4"/>)"
                    R"(<circle cx="12.5" cy="8" r="1.4"/></g>)");
 }
 
