@@ -4,8 +4,7 @@
 
 namespace hx::qt {
 
-CheckBoxView::CheckBoxView(forms::CheckBox& box, FormView& form, QWidget& area)
-    : ControlView(box, form), box_(&area) {
+CheckBoxView::CheckBoxView(forms::CheckBox& box, FormView& form, QWidget& area) : ControlView(box, form), box_(&area) {
     watch(box_);
     connect(&box_, &QCheckBox::clicked, this, &CheckBoxView::clicked);
 }

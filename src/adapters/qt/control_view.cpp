@@ -35,9 +35,7 @@ QString objectNameOf(const forms::Control& control) {
 
 const Units& ControlView::units() const noexcept { return form_.units(); }
 
-QWidget* ControlView::areaOf(const forms::Control& container) {
-    return control_ == &container ? &widget() : nullptr;
-}
+QWidget* ControlView::areaOf(const forms::Control& container) { return control_ == &container ? &widget() : nullptr; }
 
 void ControlView::start() {
     widget().setObjectName(objectNameOf(*control_));

@@ -19,8 +19,8 @@ class ExplorerModel : public QAbstractItemModel {
     using Id = host::NodeTree::Id;
     ExplorerModel();
 
-    void add(const host::NewNode& node);  ///< errBadIndex as NodeTree::add
-    void remove(std::string_view key);    ///< errBadIndex when unknown
+    void add(const host::NewNode& node);                              ///< errBadIndex as NodeTree::add
+    void remove(std::string_view key);                                ///< errBadIndex when unknown
     void setCaption(std::string_view key, std::string_view caption);  ///< errBadIndex when unknown
     void clear();
     /// Publishes what has come and gone.
@@ -55,10 +55,10 @@ class ExplorerModel : public QAbstractItemModel {
     host::NodeTree tree_;
     std::map<std::string, QIcon, std::less<>> images_;
     QTimer timer_;
-    std::vector<bool> new_;                    ///< by number: not published yet
-    std::unordered_map<Id, int> published_;    ///< children that views know, where some are new
-    std::vector<Id> going_;                    ///< removed, but still in the tree
-    std::vector<bool> goingMarks_;             ///< by number
+    std::vector<bool> new_;                  ///< by number: not published yet
+    std::unordered_map<Id, int> published_;  ///< children that views know, where some are new
+    std::vector<Id> going_;                  ///< removed, but still in the tree
+    std::vector<bool> goingMarks_;           ///< by number
 };
 
 }  // namespace hx::qt

@@ -38,9 +38,8 @@ QWidget& FormView::frame() noexcept { return document_ ? *document_ : widget_; }
 void FormView::build() {
     auto waiting = form_->controls();
     while (!waiting.empty()) {
-        const auto known = std::stable_partition(waiting.begin(), waiting.end(), [this](const auto& control) {
-            return areaFor(*control) != nullptr;
-        });
+        const auto known = std::stable_partition(waiting.begin(), waiting.end(),
+                                                 [this](const auto& control) { return areaFor(*control) != nullptr; });
         const bool stuck = known == waiting.begin();
         const auto end = stuck ? waiting.end() : known;
         for (auto control = waiting.begin(); control != end; ++control) {
@@ -105,10 +104,16 @@ void FormView::applyVisible() {
         if (modal_ != nullptr) modal_->quit();
         return;
     }
+    // Showing it shows the document window around it too.
+    if (document_ && widget_.isHidden()) widget_.show();
     switch (form_->windowState()) {
         case forms::WindowState::maximised: frame().showMaximized(); break;
         case forms::WindowState::minimised: frame().showMinimized(); break;
-        default: frame().showNormal(); break;
+        default:
+            // A document window that is shown "normal" goes back to where it was before it was maximised.
+            if (frame().isMaximized() || frame().isMinimized()) frame().showNormal();
+            else frame().show();
+            break;
     }
     reportClientArea();
 }
@@ -119,7 +124,6 @@ void FormView::embedIn(QMdiArea& area) {
     document_->setAttribute(Qt::WA_DeleteOnClose, false);
     document_->setObjectName(widget_.objectName() + QStringLiteral("Document"));
     document_->installEventFilter(this);
-    widget_.show();
     applyBounds();
     applyVisible();
 }

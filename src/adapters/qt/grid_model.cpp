@@ -7,9 +7,7 @@ namespace hx::qt {
 
 namespace {
 
-bool isNumber(ado::DataType type) {
-    return type == ado::adSmallInt || type == ado::adInteger || type == ado::adDouble;
-}
+bool isNumber(ado::DataType type) { return type == ado::adSmallInt || type == ado::adInteger || type == ado::adDouble; }
 
 Qt::Alignment alignmentOf(const forms::Column& column, const ado::Recordset* rows) {
     if (rows == nullptr || rows->state() != ado::adStateOpen || column.valueItems().translates()) return Qt::AlignLeft;
@@ -32,7 +30,8 @@ int GridModel::columnCount(const QModelIndex& parent) const { return parent.isVa
 QVariant GridModel::data(const QModelIndex& index, int role) const {
     if (grid_ == nullptr || !index.isValid()) return {};
     if (role == Qt::DisplayRole || role == Qt::EditRole) return toQt(grid_->text(index.row(), index.column()));
-    if (role == Qt::TextAlignmentRole) return QVariant::fromValue(alignments_[static_cast<std::size_t>(index.column())]);
+    if (role == Qt::TextAlignmentRole)
+        return QVariant::fromValue(alignments_[static_cast<std::size_t>(index.column())]);
     return {};
 }
 

@@ -168,7 +168,8 @@ QItemSelectionModel::SelectionFlags GridPane::selectionCommand(const QModelIndex
     }
     if (event->type() != QEvent::MouseButtonPress) return QItemSelectionModel::NoUpdate;
     const auto& mouse = static_cast<const QMouseEvent&>(*event);
-    if (mouse.modifiers() & (Qt::ShiftModifier | Qt::ControlModifier)) return QTableView::selectionCommand(index, event);
+    if (mouse.modifiers() & (Qt::ShiftModifier | Qt::ControlModifier))
+        return QTableView::selectionCommand(index, event);
     const bool keep = mouse.button() == Qt::RightButton && selectionModel()->isRowSelected(index.row(), {});
     return keep ? QItemSelectionModel::NoUpdate : QItemSelectionModel::Clear;
 }

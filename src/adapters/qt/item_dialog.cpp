@@ -95,8 +95,7 @@ QString ItemDialog::selected() const {
 bool ItemDialog::eventFilter(QObject* watched, QEvent* event) {
     if (watched == &searchField_ && event->type() == QEvent::KeyPress) {
         const int key = static_cast<QKeyEvent*>(event)->key();
-        const bool moves =
-            key == Qt::Key_Up || key == Qt::Key_Down || key == Qt::Key_PageUp || key == Qt::Key_PageDown;
+        const bool moves = key == Qt::Key_Up || key == Qt::Key_Down || key == Qt::Key_PageUp || key == Qt::Key_PageDown;
         if (moves) return QApplication::sendEvent(&list_, event);
     }
     return QDialog::eventFilter(watched, event);

@@ -40,13 +40,12 @@ const ModuleComponents::Module& ModuleComponents::load(const QString& path) {
     if (const auto known = modules_.find(path); known != modules_.end()) return known->second;
     auto library = std::make_unique<QLibrary>(path);
     if (!library->load()) {
-        throw automation::Error(errModuleNotLoaded,
-                                "The module cannot be loaded: " + fromQt(library->errorString()));
+        throw automation::Error(errModuleNotLoaded, "The module cannot be loaded: " + fromQt(library->errorString()));
     }
     const auto entry = reinterpret_cast<host::ModuleEntry>(library->resolve(host::moduleEntryName));
     if (entry == nullptr) {
-        throw automation::Error(errNoEntry,
-                                "The file " + fromQt(path) + " is no add-in module: it has no " + host::moduleEntryName);
+        throw automation::Error(
+            errNoEntry, "The file " + fromQt(path) + " is no add-in module: it has no " + host::moduleEntryName);
     }
     host::Services services = *services_;
     services.moduleFile = fromQt(path);

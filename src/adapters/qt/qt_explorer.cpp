@@ -9,8 +9,7 @@
 
 namespace hx::qt {
 
-QtExplorer::QtExplorer(ExplorerTree& tree, forms::WindowHandle hostWindow, host::Clipboard& clipboard,
-                       QtScreen& screen)
+QtExplorer::QtExplorer(ExplorerTree& tree, forms::WindowHandle hostWindow, host::Clipboard& clipboard, QtScreen& screen)
     : tree_(tree), hostWindow_(hostWindow), clipboard_(clipboard), screen_(screen) {
     tree_.setModel(&model_);
     tree_.setListener(this, &screen.popUps());
@@ -77,7 +76,11 @@ host::NodeEvent QtExplorer::eventOf(const QModelIndex& node) const {
 }
 
 void QtExplorer::nodeClicked(const QModelIndex& node) {
-    if (isAddIns(node)) addIn_->NodeClick(eventOf(node));
+    if (!isAddIns(node)) return;
+    const bool hadKeyboard = tree_.hasFocus();
+    addIn_->NodeClick(eventOf(node));
+    // A window that opens with the first click takes the keyboard, which goes on moving through the tree.
+    if (hadKeyboard) activate();
 }
 
 void QtExplorer::nodeDoubleClicked(const QModelIndex& node) {

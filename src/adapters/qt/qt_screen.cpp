@@ -28,6 +28,10 @@ FormView* QtScreen::viewOf(const forms::Form& form) const {
     return found == shown_.end() ? nullptr : found->second.view.get();
 }
 
+void QtScreen::settle() {
+    for (const auto& [form, shown] : shown_) shown.view->settle();
+}
+
 forms::WindowHandle QtScreen::createWindow(forms::Form& form) {
     auto view = std::make_unique<FormView>(form, units_, popUps_);
     const auto handle = windows_.add(*view);

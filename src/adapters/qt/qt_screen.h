@@ -32,6 +32,8 @@ class QtScreen : public forms::Screen {
     void sendKeys(forms::Form& form, std::string_view keys) override;
     [[nodiscard]] double twipsPerPixel() const override { return units_.twipsPerPixel(); }
 
+    /// Gives to the models what is being typed in any window.
+    void settle();
     [[nodiscard]] const Units& units() const noexcept { return units_; }
     [[nodiscard]] PopUpPlace& popUps() noexcept { return popUps_; }
 

@@ -10,8 +10,8 @@ namespace {
 constexpr int selectorWidth = 22;
 
 void paintTriangle(QPainter& painter, const QRectF& box) {
-    painter.drawPolygon(QPolygonF({box.topLeft() + QPointF(2, 0), QPointF(box.right() - 1, box.center().y()),
-                                   box.bottomLeft() + QPointF(2, 0)}));
+    painter.drawPolygon(QPolygonF(
+        {box.topLeft() + QPointF(2, 0), QPointF(box.right() - 1, box.center().y()), box.bottomLeft() + QPointF(2, 0)}));
 }
 
 void paintPencil(QPainter& painter, const QRectF& box) {

@@ -44,9 +44,10 @@ void TextBoxView::typed() {
 void TextBoxView::caretMoved() {
     if (showing_) return;
     const int position = line_ ? line_->cursorPosition() : memo_->textCursor().position();
-    const int anchor = line_ ? (line_->hasSelectedText() ? line_->selectionStart() : position)
-                             : memo_->textCursor().selectionStart();
-    const int length = static_cast<int>(line_ ? line_->selectedText().size() : memo_->textCursor().selectedText().size());
+    const int anchor =
+        line_ ? (line_->hasSelectedText() ? line_->selectionStart() : position) : memo_->textCursor().selectionStart();
+    const int length =
+        static_cast<int>(line_ ? line_->selectedText().size() : memo_->textCursor().selectedText().size());
     const QString shown = text();
     const auto start = toCharacters(shown, anchor);
     modelOf<forms::TextBox>(*this)->caretReported(start, toCharacters(shown, anchor + length) - start);

@@ -38,7 +38,8 @@ void ToolBarView::addButton(forms::ToolButton& button) {
     };
     changes_.push_back(button.changed.subscribe(follow));
     follow();
-    connect(action, &QAction::triggered, this, [this, &button] { click(button); }, Qt::QueuedConnection);
+    connect(
+        action, &QAction::triggered, this, [this, &button] { click(button); }, Qt::QueuedConnection);
 }
 
 void ToolBarView::click(forms::ToolButton& button) {

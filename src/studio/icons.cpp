@@ -1,0 +1,24 @@
+#include "studio/icons.h"
+
+namespace hx::studio::icons {
+
+const char* const studio = R"svg(<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 32 32">
+<rect x="2" y="2" width="28" height="28" rx="6" fill="#1f5c8b"/>
+<path d="M9 7c0 9 14 9 14 18M23 7c0 9-14 9-14 18" fill="none" stroke="#fff" stroke-width="2.6" stroke-linecap="round"/>
+<path d="M11 11h10M11 21h10" stroke="#9fd0f2" stroke-width="2" stroke-linecap="round"/></svg>)svg";
+
+const char* const project = R"svg(<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 16 16">
+<path d="M1.5 14.5v-7l4 2.5v-2.500l4 2.500v-2.500l4 2.500v4.500z" fill="#d7e6f2" stroke="#1f5c8b" stroke-linejoin="round"/>
+<path d="M11 5V1.500h2V9.500" fill="#d7e6f2" stroke="#1f5c8b" stroke-linejoin="round"/>
+<path d="M4 12.500h1.500M7.500 12.500H9M11 12.500h1.500" stroke="#1f5c8b"/></svg>)svg";
+
+const char* const newProject = R"svg(<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 16 16">
+<path d="M3.500 1.500h6l3 3v5M3.500 1.500v13h5" fill="#fff" stroke="#5b6b7b" stroke-linejoin="round"/>
+<path d="M9.500 1.500v3h3" fill="none" stroke="#5b6b7b" stroke-linejoin="round"/>
+<path d="M12 9.500v5M9.500 12h5" stroke="#2e8b57" stroke-width="2" stroke-linecap="round"/></svg>)svg";
+
+const char* const openProject = R"svg(<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 16 16">
+<path d="M1.500 13.500v-10h4.500l1.400 1.800h5.100v2.200" fill="#f2c14e" stroke="#9a7420" stroke-linejoin="round"/>
+<path d="M1.500 13.500l2.200-6h11l-2.200 6z" fill="#f8d985" stroke="#9a7420" stroke-linejoin="round"/></svg>)svg";
+
+}  // namespace hx::studio::icons

@@ -1,0 +1,213 @@
+#include "studio/main_window.h"
+
+#include <QCloseEvent>
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QLibraryInfo>
+#include <QMessageBox>
+#include <QStandardPaths>
+#include <QStatusBar>
+
+#include "adapters/qt/svg_icon.h"
+#include "adapters/qt/text.h"
+#include "adapters/sqlite/project_file.h"
+#include "studio/icons.h"
+#include "studio/options.h"
+
+namespace hx::studio {
+
+namespace {
+
+constexpr QSize usualSize(1280, 800);
+constexpr int explorerWidth = 280;
+constexpr int messageTime = 8000;
+const QString title = QStringLiteral("HelvixStudio");
+const QString extension = QStringLiteral(".hxs");
+constexpr std::string_view languageValue = "LCID";
+
+}  // namespace
+
+MainWindow::MainWindow(StudioHost& host, Preferences& preferences)
+    : host_(host),
+      preferences_(preferences),
+      documentsHandle_(host.windows().add(documents_)),
+      explorer_(tree_, documentsHandle_, host.clipboard(), host.screen()),
+      menus_(*this, *this, *explorerDock_.toggleViewAction(), host.wording()) {
+    setUp();
+    restoreWindow();
+    readLanguage();
+    showProject();
+}
+
+MainWindow::~MainWindow() {
+    project_.reset();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    host_.windows().remove(documentsHandle_);
+}
+
+void MainWindow::setUp() {
+    setObjectName(QStringLiteral("mainWindow"));
+    setWindowIcon(qt::svgIcon(icons::studio));
+    tree_.setObjectName(QStringLiteral("projectExplorer"));
+    tree_.setFrameShape(QFrame::NoFrame);
+    explorerDock_.setObjectName(QStringLiteral("explorerDock"));
+    explorerDock_.setWidget(&tree_);
+    explorerDock_.setAllowedAreas(Qt::LeftDockWidgetArea | Qt::RightDockWidgetArea);
+    setCentralWidget(&documents_);
+    addDockWidget(Qt::LeftDockWidgetArea, &explorerDock_);
+    fileLabel_.setObjectName(QStringLiteral("projectFile"));
+    fileLabel_.setContentsMargins(8, 0, 8, 0);
+    statusBar()->addPermanentWidget(&fileLabel_);
+}
+
+void MainWindow::restoreWindow() {
+    if (!restoreGeometry(preferences_.geometry())) resize(usualSize);
+    if (!restoreState(preferences_.layout())) resizeDocks({&explorerDock_}, {explorerWidth}, Qt::Horizontal);
+}
+
+void MainWindow::readLanguage() {
+    useLanguage(host_.registry().readNumber(host::registry_keys::helvix, languageValue, qt::Wording::german));
+}
+
+void MainWindow::useLanguage(std::int32_t lcid) {
+    host_.wording().setLanguage(lcid);
+    QCoreApplication::removeTranslator(&translator_);
+    const bool translated =
+        !host_.wording().isEnglish() &&
+        translator_.load(QStringLiteral("qtbase_de"), QLibraryInfo::path(QLibraryInfo::TranslationsPath));
+    if (translated) QCoreApplication::installTranslator(&translator_);
+    menus_.retranslate();
+    explorerDock_.setWindowTitle(say(Text::explorer));
+    tree_.setAccessibleName(say(Text::explorer));
+    documents_.setAccessibleName(say(Text::documents));
+    documents_.setHint(project_ ? QString() : say(Text::hint));
+}
+
+void MainWindow::chooseLanguage(std::int32_t lcid) {
+    try {
+        host_.registry().writeNumber(host::registry_keys::helvix, languageValue, lcid);
+    } catch (const automation::Error& error) {
+        menus_.retranslate();
+        return warn(Text::registryNotWritten, qt::toQt(error.message()));
+    }
+    useLanguage(lcid);
+    statusBar()->showMessage(say(project_ ? Text::languageLater : Text::ready), messageTime);
+}
+
+bool MainWindow::openProject(const QString& path) {
+    const QFileInfo file(path);
+    if (!file.isFile()) {
+        preferences_.removeRecent(path);
+        warn(Text::fileMissing, file.absoluteFilePath());
+        return false;
+    }
+    if (!file.fileName().endsWith(extension, Qt::CaseInsensitive)) {
+        warn(Text::notProjectName, file.absoluteFilePath());
+        return false;
+    }
+    closeProject();
+    try {
+        project_ = std::make_unique<Project>(path, host_, explorer_);
+    } catch (const automation::Error& error) {
+        warn(Text::registryNotWritten, qt::toQt(error.message()));
+        return false;
+    }
+    preferences_.addRecent(project_->file());
+    showProject();
+    statusBar()->showMessage(say(Text::projectOpened).arg(project_->name()), messageTime);
+    startAddIn();
+    return true;
+}
+
+void MainWindow::startAddIn() {
+    try {
+        project_->startAddIn();
+    } catch (const automation::Error& error) {
+        warn(Text::addInNotLoaded, qt::toQt(error.message()));
+    }
+    tree_.setCurrentIndex(explorer_.model().find(qt::QtExplorer::projectKey));
+    tree_.setFocus(Qt::OtherFocusReason);
+}
+
+void MainWindow::closeProject() {
+    if (!project_) return;
+    project_.reset();
+    showProject();
+    statusBar()->showMessage(say(Text::projectClosed), messageTime);
+}
+
+bool MainWindow::createProject(const QString& path) {
+    const QString file = path.endsWith(extension, Qt::CaseInsensitive) ? path : path + extension;
+    if (QFileInfo::exists(file)) {
+        warn(Text::fileExists, file);
+        return false;
+    }
+    try {
+        sqlite::createProject(qt::fromQt(file));
+    } catch (const automation::Error& error) {
+        warn(Text::fileNotCreated, qt::toQt(error.description()));
+        return false;
+    }
+    return openProject(file);
+}
+
+void MainWindow::showProject() {
+    setWindowTitle(project_ ? title + QStringLiteral(" - ") + project_->name() : title);
+    fileLabel_.setText(project_ ? QDir::toNativeSeparators(project_->file()) : QString());
+    documents_.setHint(project_ ? QString() : say(Text::hint));
+    menus_.setProjectOpen(project_ != nullptr);
+}
+
+void MainWindow::newProject() {
+    QFileDialog dialog(this, say(Text::newProjectTitle), projectFolder(), say(Text::projectFiles));
+    dialog.setObjectName(QStringLiteral("newProjectDialog"));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setOption(QFileDialog::DontConfirmOverwrite);  // an existing file is never overwritten
+    dialog.setDefaultSuffix(extension.mid(1));
+    if (dialog.exec() == QDialog::Accepted) createProject(dialog.selectedFiles().constFirst());
+}
+
+void MainWindow::chooseProject() {
+    QFileDialog dialog(this, say(Text::openProjectTitle), projectFolder());
+    dialog.setObjectName(QStringLiteral("openProjectDialog"));
+    dialog.setNameFilters({say(Text::projectFiles), say(Text::allFiles)});
+    dialog.setFileMode(QFileDialog::ExistingFile);
+    if (dialog.exec() == QDialog::Accepted) openProject(dialog.selectedFiles().constFirst());
+}
+
+void MainWindow::clearRecent() {
+    if (!preferences_.clearRecent()) warn(Text::settingsNotWritten, preferences_.file());
+}
+
+void MainWindow::showAbout() {
+    QMessageBox box(this);
+    box.setObjectName(QStringLiteral("aboutBox"));
+    box.setWindowTitle(say(Text::about).remove('&'));
+    box.setIconPixmap(windowIcon().pixmap(64, 64));
+    box.setText(say(Text::aboutText).arg(versionText().section(' ', 1)));
+    box.exec();
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+    if (!preferences_.saveWindow(saveGeometry(), saveState())) warn(Text::settingsNotWritten, preferences_.file());
+    closeProject();
+    event->accept();
+}
+
+void MainWindow::warn(Text text, const QString& detail) {
+    host_.screen().messageBox(qt::fromQt(say(text).arg(detail)), forms::message::ok | forms::message::exclamation,
+                              qt::fromQt(title));
+}
+
+QString MainWindow::say(Text text) const { return studioText(text, host_.wording()); }
+
+QString MainWindow::projectFolder() const {
+    if (project_) return QFileInfo(project_->file()).absolutePath();
+    const QStringList recent = preferences_.recent();
+    if (!recent.isEmpty()) return QFileInfo(recent.constFirst()).absolutePath();
+    return QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+}
+
+}  // namespace hx::studio

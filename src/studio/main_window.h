@@ -1,0 +1,71 @@
+#pragma once
+
+#include <QDockWidget>
+#include <QLabel>
+#include <QMainWindow>
+#include <QTranslator>
+#include <memory>
+
+#include "adapters/qt/explorer_tree.h"
+#include "adapters/qt/qt_explorer.h"
+#include "studio/document_area.h"
+#include "studio/preferences.h"
+#include "studio/project.h"
+#include "studio/studio_host.h"
+#include "studio/studio_menus.h"
+#include "studio/studio_texts.h"
+
+namespace hx::studio {
+
+/// The studio's window: project explorer, area of documents, menus and status line. One project is open at a time.
+class MainWindow : public QMainWindow, private StudioCommands {
+  public:
+    /// Both are lent. The language is the registry's ("LCID").
+    MainWindow(StudioHost& host, Preferences& preferences);
+    ~MainWindow() override;
+
+    /// Closes the open project and opens this one. False after a message when there is no such file.
+    bool openProject(const QString& path);
+    void closeProject() override;
+    /// Makes an empty project and opens it. False after a message when the file exists or cannot be written.
+    bool createProject(const QString& path);
+    /// Writes the language to the registry. The studio follows at once, the add-in with the next project.
+    void chooseLanguage(std::int32_t lcid) override;
+
+    [[nodiscard]] const Project* project() const noexcept { return project_.get(); }
+
+  protected:
+    void closeEvent(QCloseEvent* event) override;
+
+  private:
+    void newProject() override;
+    void chooseProject() override;
+    void openRecent(const QString& path) override { openProject(path); }
+    void clearRecent() override;
+    void showAbout() override;
+    [[nodiscard]] QStringList recentProjects() const override { return preferences_.recent(); }
+
+    void setUp();
+    void restoreWindow();
+    void readLanguage();
+    void useLanguage(std::int32_t lcid);
+    void startAddIn();
+    void showProject();
+    void warn(Text text, const QString& detail);
+    [[nodiscard]] QString say(Text text) const;
+    [[nodiscard]] QString projectFolder() const;
+
+    StudioHost& host_;
+    Preferences& preferences_;
+    DocumentArea documents_;
+    QDockWidget explorerDock_;
+    qt::ExplorerTree tree_;
+    QLabel fileLabel_;
+    QTranslator translator_;
+    forms::WindowHandle documentsHandle_;
+    qt::QtExplorer explorer_;
+    StudioMenus menus_;
+    std::unique_ptr<Project> project_;
+};
+
+}  // namespace hx::studio

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <QStringList>
+
+namespace hx::studio {
+
+/// What the studio remembers between two starts, in the file studio.ini of the configuration folder.
+class Preferences {
+  public:
+    explicit Preferences(QString folder);
+
+    [[nodiscard]] QByteArray geometry() const;
+    [[nodiscard]] QByteArray layout() const;
+    /// False when the file cannot be written.
+    bool saveWindow(const QByteArray& geometry, const QByteArray& layout);
+
+    /// The latest first, at most `recentCount`.
+    static constexpr int recentCount = 8;
+    [[nodiscard]] QStringList recent() const;
+    bool addRecent(const QString& path);
+    bool removeRecent(const QString& path);
+    bool clearRecent();
+    [[nodiscard]] const QString& file() const noexcept { return file_; }
+
+  private:
+    bool write(const QString& key, const QVariant& value);
+    QString file_;
+};
+
+}  // namespace hx::studio

@@ -1,0 +1,70 @@
+#include <QDir>
+#include <QStandardPaths>
+#include <QTimer>
+#include <cstdio>
+
+#include "adapters/qt/text.h"
+#include "studio/main_window.h"
+#include "studio/options.h"
+#include "studio/preferences.h"
+#include "studio/studio_application.h"
+#include "studio/studio_host.h"
+
+namespace hx::studio {
+namespace {
+
+QStringList argumentsOf(int argc, char** argv) {
+    QStringList arguments;
+    for (int i = 0; i < argc; ++i) arguments.append(QString::fromLocal8Bit(argv[i]));
+    return arguments;
+}
+
+QString userConfigFolder() {
+    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + QStringLiteral("/HelvixStudio");
+}
+
+QStringList moduleFolders() {
+    const QString beside = QCoreApplication::applicationDirPath();
+    return {beside, beside + QStringLiteral("/plugins")};
+}
+
+int runStudio(StudioApplication& application, const Options& options) {
+    const QString config =
+        QDir(options.configFolder.isEmpty() ? userConfigFolder() : options.configFolder).absolutePath();
+    QDir().mkpath(config);
+    StudioHost host(config, moduleFolders());
+    Preferences preferences(config);
+    MainWindow window(host, preferences);
+    application.setReport([&host](const QString& message) {
+        host.screen().messageBox(qt::fromQt(message), forms::message::critical,
+                                 qt::fromQt(studioText(Text::unexpected, host.wording())));
+    });
+    window.show();
+    QTimer::singleShot(0, &window, [&] {
+        if (options.language) window.chooseLanguage(*options.language);
+        if (!options.file.isEmpty()) window.openProject(options.file);
+    });
+    const int result = QApplication::exec();
+    application.setReport({});
+    return result;
+}
+
+}  // namespace
+
+static int run(int argc, char** argv) {
+    const Options options = parseOptions(argumentsOf(argc, argv));
+    if (!options.error.isEmpty()) {
+        std::fprintf(stderr, "HelvixStudio: %s\n\n%s", qPrintable(options.error), qPrintable(usageText()));
+        return 2;
+    }
+    if (options.help || options.version) {
+        std::printf("%s%s", qPrintable(options.help ? usageText() : versionText()), options.help ? "" : "\n");
+        return 0;
+    }
+    StudioApplication application(argc, argv);
+    return runStudio(application, options);
+}
+
+}  // namespace hx::studio
+
+int main(int argc, char** argv) { return hx::studio::run(argc, argv); }

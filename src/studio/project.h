@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QString>
+#include <memory>
+
+#include "adapters/qt/qt_explorer.h"
+#include "host/extensibility.h"
+#include "studio/studio_host.h"
+
+namespace hx::studio {
+
+/// An open project: its node in the explorer and its add-in, from Initialize to Terminate.
+class Project {
+  public:
+    /// Records the project's folder in the registry and shows its node. Both are lent. Throws automation::Error when
+    /// the registry cannot be written.
+    Project(const QString& file, StudioHost& host, qt::QtExplorer& explorer);
+    /// Ends the add-in: what is being typed is kept.
+    ~Project();
+    Project(const Project&) = delete;
+    Project& operator=(const Project&) = delete;
+
+    /// Creates the add-in and starts it. Throws automation::Error when it cannot be loaded; the project stays open.
+    void startAddIn();
+    [[nodiscard]] const QString& file() const noexcept { return file_; }
+    [[nodiscard]] const QString& name() const noexcept { return name_; }
+    [[nodiscard]] host::CHX4Extensibility* addIn() const noexcept { return addIn_.get(); }
+
+  private:
+    void recordFolder();
+    QString file_, name_;
+    StudioHost& host_;
+    qt::QtExplorer& explorer_;
+    std::shared_ptr<host::CHX4Extensibility> addIn_;
+};
+
+}  // namespace hx::studio

@@ -1,0 +1,36 @@
+#include "studio/studio_application.h"
+
+#include <QScopedValueRollback>
+#include <QStyleFactory>
+
+#include "adapters/qt/text.h"
+#include "automation/error.h"
+
+namespace hx::studio {
+
+StudioApplication::StudioApplication(int& argc, char** argv) : QApplication(argc, argv) {
+    setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    setApplicationName(QStringLiteral("HelvixStudio"));
+}
+
+bool StudioApplication::notify(QObject* receiver, QEvent* event) {
+    try {
+        return QApplication::notify(receiver, event);
+    } catch (const automation::Error& error) {
+        report(qt::toQt(error.message()));
+    } catch (const std::exception& error) {
+        report(qt::toQt(error.what()));
+    }
+    return true;
+}
+
+void StudioApplication::report(const QString& message) {
+    if (reporting_ || !report_) {
+        qWarning("%s", qPrintable(message));
+        return;
+    }
+    const QScopedValueRollback reporting(reporting_, true);
+    report_(message);
+}
+
+}  // namespace hx::studio

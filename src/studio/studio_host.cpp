@@ -1,0 +1,46 @@
+#include "studio/studio_host.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QLocale>
+
+#include "adapters/qt/text.h"
+
+namespace hx::studio {
+
+namespace {
+
+automation::NumberFormat systemFormat() { return {qt::fromQt(QLocale::system().decimalPoint())}; }
+
+}  // namespace
+
+StudioHost::StudioHost(const QString& configFolder, const QStringList& moduleFolders)
+    : screen_(windows_, wording_),
+      registry_(qt::fromQt(configFolder + QStringLiteral("/registry.ini"))),
+      help_(screen_, wording_),
+      components_(moduleFolders),
+      variables_(provider_),
+      items_(variables_, windows_, wording_),
+      folders_(windows_, wording_),
+      services_{.screen = screen_,
+                .database = provider_,
+                .registry = registry_,
+                .iniFile = iniFile_,
+                .clipboard = clipboard_,
+                .help = help_,
+                .windows = windows_,
+                .components = components_,
+                .items = items_,
+                .folders = folders_,
+                .paths = host::PathStyle('/'),
+                .numberFormat = systemFormat(),
+                .moduleFile = {}} {
+    components_.setServices(services_);
+}
+
+void StudioHost::setProjectFile(const QString& path) {
+    variables_.setFile(qt::fromQt(path));
+    folders_.setProjectFolder(path.isEmpty() ? QString() : QFileInfo(path).absolutePath());
+}
+
+}  // namespace hx::studio

@@ -1,0 +1,82 @@
+#include "studio/studio_menus.h"
+
+#include <QFileInfo>
+#include <QMenuBar>
+
+#include "adapters/qt/svg_icon.h"
+#include "studio/icons.h"
+#include "studio/studio_texts.h"
+
+namespace hx::studio {
+
+StudioMenus::StudioMenus(QMainWindow& window, StudioCommands& commands, QAction& showExplorer,
+                         const qt::Wording& wording)
+    : commands_(commands), showExplorer_(showExplorer), wording_(wording), languages_(this) {
+    build(window);
+    connect(&new_, &QAction::triggered, this, [this] { commands_.newProject(); });
+    connect(&open_, &QAction::triggered, this, [this] { commands_.chooseProject(); });
+    connect(&close_, &QAction::triggered, this, [this] { commands_.closeProject(); });
+    connect(&exit_, &QAction::triggered, &window, &QWidget::close);
+    connect(&german_, &QAction::triggered, this, [this] { commands_.chooseLanguage(qt::Wording::german); });
+    connect(&english_, &QAction::triggered, this, [this] { commands_.chooseLanguage(qt::Wording::english); });
+    connect(&about_, &QAction::triggered, this, [this] { commands_.showAbout(); });
+    connect(&recent_, &QMenu::aboutToShow, this, [this] { fillRecent(); });
+    retranslate();
+}
+
+void StudioMenus::build(QMainWindow& window) {
+    const std::pair<QObject*, const char*> names[] = {
+        {&file_, "menuFile"},   {&recent_, "menuRecent"},   {&view_, "menuView"},         {&language_, "menuLanguage"},
+        {&help_, "menuHelp"},   {&new_, "actionNew"},       {&open_, "actionOpen"},       {&close_, "actionClose"},
+        {&exit_, "actionExit"}, {&german_, "actionGerman"}, {&english_, "actionEnglish"}, {&about_, "actionAbout"}};
+    for (const auto& [object, name] : names) object->setObjectName(QLatin1StringView(name));
+    new_.setShortcut(QKeySequence::New);
+    new_.setIcon(qt::svgIcon(icons::newProject));
+    open_.setShortcut(QKeySequence::Open);
+    open_.setIcon(qt::svgIcon(icons::openProject));
+    exit_.setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q));
+    for (QAction* action : {&german_, &english_}) {
+        action->setCheckable(true);
+        languages_.addAction(action);
+    }
+    file_.addActions({&new_, &open_});
+    file_.addMenu(&recent_);
+    file_.addSeparator();
+    file_.addAction(&close_);
+    file_.addSeparator();
+    file_.addAction(&exit_);
+    view_.addAction(&showExplorer_);
+    language_.addActions({&german_, &english_});
+    help_.addAction(&about_);
+    for (QMenu* menu : {&file_, &view_, &language_, &help_}) window.menuBar()->addMenu(menu);
+}
+
+void StudioMenus::retranslate() {
+    const std::pair<QAction*, Text> actions[] = {
+        {file_.menuAction(), Text::fileMenu}, {recent_.menuAction(), Text::recentProjects},
+        {view_.menuAction(), Text::viewMenu}, {language_.menuAction(), Text::languageMenu},
+        {help_.menuAction(), Text::helpMenu}, {&new_, Text::newProject},
+        {&open_, Text::openProject},          {&close_, Text::closeProject},
+        {&exit_, Text::exitStudio},           {&german_, Text::german},
+        {&english_, Text::english},           {&about_, Text::about},
+        {&showExplorer_, Text::explorer}};
+    for (const auto& [action, text] : actions) action->setText(studioText(text, wording_));
+    (wording_.isEnglish() ? english_ : german_).setChecked(true);
+}
+
+void StudioMenus::fillRecent() {
+    recent_.clear();
+    int number = 0;
+    for (const QString& path : commands_.recentProjects()) {
+        const QString name = QFileInfo(path).completeBaseName().replace('&', QStringLiteral("&&"));
+        QAction* action = recent_.addAction(QStringLiteral("&%1  %2\t%3").arg(++number).arg(name, path));
+        connect(
+            action, &QAction::triggered, this, [this, path] { commands_.openRecent(path); }, Qt::QueuedConnection);
+    }
+    recent_.addSeparator();
+    QAction* clear = recent_.addAction(studioText(Text::clearRecent, wording_));
+    clear->setEnabled(number > 0);
+    connect(clear, &QAction::triggered, this, [this] { commands_.clearRecent(); });
+}
+
+}  // namespace hx::studio

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QAction>
+#include <QActionGroup>
+#include <QMainWindow>
+#include <QMenu>
+#include <functional>
+
+#include "adapters/qt/wording.h"
+
+namespace hx::studio {
+
+/// What the menus of the main window do.
+class StudioCommands {
+  public:
+    virtual ~StudioCommands() = default;
+    virtual void newProject() = 0;
+    virtual void chooseProject() = 0;
+    virtual void openRecent(const QString& path) = 0;
+    virtual void clearRecent() = 0;
+    virtual void closeProject() = 0;
+    virtual void chooseLanguage(std::int32_t lcid) = 0;
+    virtual void showAbout() = 0;
+    [[nodiscard]] virtual QStringList recentProjects() const = 0;
+};
+
+/// The menus of the main window, in the studio's language.
+class StudioMenus : public QObject {
+  public:
+    /// All are lent. `showExplorer` shows and hides the explorer.
+    StudioMenus(QMainWindow& window, StudioCommands& commands, QAction& showExplorer, const qt::Wording& wording);
+    void retranslate();
+    void setProjectOpen(bool open) { close_.setEnabled(open); }
+
+  private:
+    void build(QMainWindow& window);
+    void fillRecent();
+    StudioCommands& commands_;
+    QAction& showExplorer_;
+    const qt::Wording& wording_;
+    QMenu file_, recent_, view_, language_, help_;
+    QAction new_, open_, close_, exit_, german_, english_, about_;
+    QActionGroup languages_;
+};
+
+}  // namespace hx::studio

@@ -1,0 +1,69 @@
+#include "studio/studio_texts.h"
+
+#include <array>
+
+namespace hx::studio {
+
+namespace {
+
+struct Entry {
+    Text text;
+    const char* german;
+    const char* english;
+};
+
+constexpr auto entries = std::to_array<Entry>({
+    {Text::fileMenu, "&Datei", "&File"},
+    {Text::newProject, "&Neues Projekt …", "&New Project…"},
+    {Text::openProject, "Ö&ffnen …", "&Open…"},
+    {Text::recentProjects, "&Zuletzt geöffnet", "&Recent Projects"},
+    {Text::clearRecent, "Liste &leeren", "&Clear List"},
+    {Text::closeProject, "Projekt &schließen", "&Close Project"},
+    {Text::exitStudio, "&Beenden", "E&xit"},
+    {Text::viewMenu, "&Ansicht", "&View"},
+    {Text::explorer, "Projekt-Explorer", "Project Explorer"},
+    {Text::languageMenu, "&Sprache", "&Language"},
+    {Text::german, "&Deutsch", "&Deutsch (German)"},
+    {Text::english, "&English (Englisch)", "&English"},
+    {Text::helpMenu, "&Hilfe", "&Help"},
+    {Text::about, "&Über HelvixStudio", "&About HelvixStudio"},
+    {Text::aboutText, "<b>HelvixStudio %1</b><p>Projektierung von Prozessvisualisierungen mit dem Rezepteditor.</p>",
+     "<b>HelvixStudio %1</b><p>Engineering of process visualisations with the recipe editor.</p>"},
+    {Text::ready, "Bereit", "Ready"},
+    {Text::projectOpened, "Projekt %1 geöffnet", "Project %1 opened"},
+    {Text::projectClosed, "Projekt geschlossen", "Project closed"},
+    {Text::languageLater, "Die Sprache des Rezepteditors gilt ab dem nächsten geöffneten Projekt.",
+     "The recipe editor's language takes effect with the next project that is opened."},
+    {Text::newProjectTitle, "Neues Projekt", "New Project"},
+    {Text::openProjectTitle, "Projekt öffnen", "Open Project"},
+    {Text::projectFiles, "HelvixStudio-Projekte (*.hxs)", "HelvixStudio projects (*.hxs)"},
+    {Text::allFiles, "Alle Dateien (*)", "All files (*)"},
+    {Text::fileMissing, "Die Projektdatei wurde nicht gefunden:\n%1", "The project file was not found:\n%1"},
+    {Text::fileExists, "Die Datei gibt es schon. Bitte einen anderen Namen wählen:\n%1",
+     "The file exists already. Please choose another name:\n%1"},
+    {Text::fileNotCreated, "Das Projekt konnte nicht angelegt werden:\n%1", "The project could not be created:\n%1"},
+    {Text::notProjectName, "Der Name einer Projektdatei endet auf \".hxs\":\n%1",
+     "The name of a project file ends in \".hxs\":\n%1"},
+    {Text::addInNotLoaded, "Der Rezepteditor steht nicht zur Verfügung.\n%1",
+     "The recipe editor is not available.\n%1"},
+    {Text::addInWrong, "Das Modul ist kein Add-In des Studios.", "The module is no add-in of the studio."},
+    {Text::registryNotWritten, "Die Einstellung konnte nicht gespeichert werden.\n%1",
+     "The setting could not be saved.\n%1"},
+    {Text::settingsNotWritten, "Fenster und Projektliste konnten nicht gespeichert werden:\n%1",
+     "The window and the list of projects could not be saved:\n%1"},
+    {Text::unexpected, "Unerwarteter Fehler", "Unexpected Error"},
+    {Text::hint, "Kein Projekt geöffnet\n\nDatei → Öffnen oder Datei → Neues Projekt",
+     "No project is open\n\nFile → Open or File → New Project"},
+    {Text::documents, "Dokumente", "Documents"},
+});
+
+}  // namespace
+
+QString studioText(Text text, const qt::Wording& wording) {
+    for (const Entry& entry : entries) {
+        if (entry.text == text) return QString::fromUtf8(wording.isEnglish() ? entry.english : entry.german);
+    }
+    return {};
+}
+
+}  // namespace hx::studio

@@ -1,0 +1,49 @@
+#pragma once
+
+#include <QString>
+
+#include "adapters/qt/wording.h"
+
+namespace hx::studio {
+
+/// The studio's own texts.
+enum class Text {
+    fileMenu,
+    newProject,
+    openProject,
+    recentProjects,
+    clearRecent,
+    closeProject,
+    exitStudio,
+    viewMenu,
+    explorer,
+    languageMenu,
+    german,
+    english,
+    helpMenu,
+    about,
+    aboutText,
+    ready,
+    projectOpened,
+    projectClosed,
+    languageLater,
+    newProjectTitle,
+    openProjectTitle,
+    projectFiles,
+    allFiles,
+    fileMissing,
+    fileExists,
+    fileNotCreated,
+    notProjectName,
+    addInNotLoaded,
+    addInWrong,
+    registryNotWritten,
+    settingsNotWritten,
+    unexpected,
+    hint,
+    documents
+};
+
+[[nodiscard]] QString studioText(Text text, const qt::Wording& wording);
+
+}  // namespace hx::studio

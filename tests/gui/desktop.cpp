@@ -1,0 +1,74 @@
+#include "gui/desktop.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTest>
+
+#include "adapters/qt/text.h"
+#include "studio/studio_application.h"
+
+namespace hx::gui {
+
+namespace {
+
+constexpr int patience = 5000;
+
+/// Gives the tests a QApplication, on no display when the environment names none.
+class Application : public testing::Environment {
+  public:
+    void SetUp() override {
+        if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+        application_ = std::make_unique<studio::StudioApplication>(count_, arguments_.data());
+        application_->setReport([](const QString& message) { ADD_FAILURE() << qt::fromQt(message); });
+        QApplication::setEffectEnabled(Qt::UI_AnimateMenu, false);
+    }
+    void TearDown() override { application_.reset(); }
+
+  private:
+    int count_ = 1;
+    std::string name_ = "gui_tests";
+    std::vector<char*> arguments_{name_.data(), nullptr};
+    std::unique_ptr<studio::StudioApplication> application_;
+};
+
+const auto* const application = testing::AddGlobalTestEnvironment(std::make_unique<Application>().release());
+
+}  // namespace
+
+bool waitUntil(const std::function<bool()>& condition) { return QTest::qWaitFor(condition, patience); }
+
+void handleEvents() {
+    for (int i = 0; i < 3; ++i) {
+        QCoreApplication::processEvents();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+}
+
+void type(QWidget& widget, const QString& text) {
+    for (const QChar c : text) {
+        QTest::sendKeyEvent(QTest::Click, &widget, static_cast<Qt::Key>(c.toUpper().unicode()), QString(c), {});
+    }
+}
+
+BoxAnswers::BoxAnswers(std::vector<std::string> answers) : answers_(std::move(answers)) {
+    QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] { look(); });
+    timer_.start(10);
+}
+
+BoxAnswers::~BoxAnswers() = default;
+
+void BoxAnswers::look() {
+    auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    if (box == nullptr || !box->isVisible()) return;
+    const std::string wanted = shown_.size() < answers_.size() ? answers_[shown_.size()] : std::string();
+    shown_.push_back({qt::fromQt(box->windowTitle()), qt::fromQt(box->text()), wanted});
+    for (QAbstractButton* button : box->buttons()) {
+        if (!wanted.empty() && qt::fromQt(button->text().remove('&')) == wanted) return button->click();
+    }
+    if (!wanted.empty()) ADD_FAILURE() << "the box \"" << qt::fromQt(box->text()) << "\" has no button " << wanted;
+    QTest::keyClick(box, Qt::Key_Escape);
+}
+
+}  // namespace hx::gui

@@ -1,0 +1,66 @@
+#pragma once
+
+#include <QTemporaryDir>
+#include <QTimer>
+#include <QWidget>
+#include <functional>
+#include <gtest/gtest.h>
+#include <string>
+#include <vector>
+
+#include "adapters/qt/qt_screen.h"
+#include "adapters/qt/qt_windows.h"
+#include "adapters/qt/wording.h"
+
+namespace hx::gui {
+
+/// Handles what waits in the event loop, until `condition` holds. False when it does not within five seconds.
+bool waitUntil(const std::function<bool()>& condition);
+/// Handles what waits in the event loop, deletions too.
+void handleEvents();
+
+/// Types a text, of any letters.
+void type(QWidget& widget, const QString& text);
+
+/// The widget of this name below `parent` that is of this class; a test failure when there is none.
+template <class W>
+[[nodiscard]] W& find(const QWidget& parent, const char* name) {
+    auto* widget = parent.findChild<W*>(QString::fromUtf8(name));
+    if (widget == nullptr) throw std::runtime_error(std::string("no widget called ") + name);
+    return *widget;
+}
+
+/// A message box that was shown, with what was answered.
+struct ShownBox {
+    std::string title, text, answer;
+    friend bool operator==(const ShownBox&, const ShownBox&) = default;
+};
+
+/// Answers the message boxes that come while it lives, by the text of a button (without "&"), one after the other; a
+/// box beyond the answers is closed by Esc.
+class BoxAnswers {
+  public:
+    explicit BoxAnswers(std::vector<std::string> answers = {});
+    ~BoxAnswers();
+    BoxAnswers(const BoxAnswers&) = delete;
+    BoxAnswers& operator=(const BoxAnswers&) = delete;
+    [[nodiscard]] const std::vector<ShownBox>& shown() const noexcept { return shown_; }
+
+  private:
+    void look();
+    std::vector<std::string> answers_;
+    std::vector<ShownBox> shown_;
+    QTimer timer_;
+};
+
+/// A screen for forms, in German.
+class Desktop : public testing::Test {
+  protected:
+    qt::Wording wording;
+    qt::QtWindows windows;
+    qt::QtScreen screen{windows, wording};
+    /// The window of a loaded form.
+    [[nodiscard]] QWidget& windowOf(const forms::Form& form) const { return *windows.widget(form.handle()); }
+};
+
+}  // namespace hx::gui

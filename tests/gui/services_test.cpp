@@ -1,0 +1,126 @@
+#include <QDir>
+#include <QFile>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QTableView>
+#include <QTest>
+#include <QTimer>
+
+#include "adapters/qt/item_dialog.h"
+#include "adapters/qt/module_components.h"
+#include "adapters/qt/qt_help_viewer.h"
+#include "adapters/qt/qt_item_selection.h"
+#include "adapters/qt/qt_path_selection.h"
+#include "adapters/qt/text.h"
+#include "gui/desktop.h"
+#include "studio/studio_host.h"
+
+namespace hx::gui {
+namespace {
+
+class FewVariables : public qt::VariableSource {
+  public:
+    [[nodiscard]] std::vector<qt::Variable> variables() const override {
+        return {
+            {"Mischer.Drehzahl", "REAL", "1/min"}, {"Mischer.Ein", "BOOL", "läuft"}, {"Tank.Füllstand", "REAL", ""}};
+    }
+};
+
+class ServicesTest : public Desktop {
+  protected:
+    QTemporaryDir folder;
+    FewVariables variables;
+    qt::QtItemSelection items{variables, windows, wording};
+
+    void write(const QString& name, const QByteArray& bytes) {
+        QFile file(folder.filePath(name));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(bytes);
+    }
+    /// Runs a choice while `action` acts on its dialog.
+    std::string choose(const std::string& current, const std::function<void(qt::ItemDialog&)>& action) {
+        QTimer::singleShot(50, [&action] {
+            auto* dialog = dynamic_cast<qt::ItemDialog*>(QApplication::activeModalWidget());
+            ASSERT_NE(dialog, nullptr);
+            action(*dialog);
+        });
+        return items.choose(0, current);
+    }
+    static std::pair<std::int32_t, std::string> errorOf(qt::ModuleComponents& components, const char* programId) {
+        try {
+            (void)components.create(programId);
+        } catch (const automation::Error& error) {
+            return {error.number(), error.description()};
+        }
+        return {0, "none"};
+    }
+};
+
+TEST_F(ServicesTest, AVariableIsFoundByTypingAndChosenByEnter) {
+    const auto chosen = choose("Mischer.Ein", [](qt::ItemDialog& dialog) {
+        EXPECT_EQ(dialog.selected(), "Mischer.Ein");
+        auto& search = find<QLineEdit>(dialog, "itemSearch");
+        type(search, QString::fromUtf8("füll"));
+        EXPECT_EQ(find<QTableView>(dialog, "itemList").model()->rowCount(), 1);
+        QTest::keyClick(&search, Qt::Key_Return);
+    });
+    EXPECT_EQ(chosen, "Tank.Füllstand");
+}
+
+TEST_F(ServicesTest, ACancelledChoiceIsEmpty) {
+    EXPECT_EQ(choose("Mischer.Ein", [](qt::ItemDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); }), "");
+}
+
+TEST_F(ServicesTest, AFolderOfTheProjectBeginsWithItsPlaceholder) {
+    qt::QtPathSelection folders(windows, wording);
+    folders.setProjectFolder("/plant/project");
+    EXPECT_EQ(folders.shorten("/plant/project"), "<ProjectDir>");
+    EXPECT_EQ(folders.shorten("/plant/project/rcp"), "<ProjectDir>/rcp");
+    EXPECT_EQ(folders.shorten("/plant/project2"), "/plant/project2");
+    EXPECT_EQ(folders.expand("<ProjectDir>\\rcp"), "/plant/project/rcp");
+    EXPECT_EQ(folders.expand("/elsewhere"), "/elsewhere");
+}
+
+TEST_F(ServicesTest, AMissingHelpFileIsSaid) {
+    qt::QtHelpViewer help(screen, wording);
+    const BoxAnswers answers({"OK"});
+    help.showContext(0, "/nowhere\\helpfiles\\Rezeptsystem.chm", 100001);
+    ASSERT_EQ(answers.shown().size(), 1u);
+    EXPECT_EQ(answers.shown()[0].text,
+              "Die Hilfedatei \"/nowhere\\helpfiles\\Rezeptsystem.chm\" wurde nicht gefunden.");
+}
+
+TEST_F(ServicesTest, AModuleThatIsMissingIsAnErrorWithTheSystemsNumber) {
+    qt::ModuleComponents components({folder.path()});
+    const auto [number, text] = errorOf(components, "HXProjectReport.Connect");
+    EXPECT_EQ(static_cast<std::uint32_t>(number), 0x80040154u);
+    EXPECT_EQ(text, "The class HXProjectReport.Connect is not installed: there is no HXProjectReport.so in " +
+                        qt::fromQt(folder.path()));
+}
+
+TEST_F(ServicesTest, AFileThatIsNoModuleIsAnErrorOfItsOwn) {
+    write("Broken.so", "no module");
+    studio::StudioHost host(folder.path(), {folder.path()});
+    const auto [number, text] = errorOf(host.components(), "Broken.Connect");
+    EXPECT_EQ(static_cast<std::uint32_t>(number), 0x8007007Eu);
+    EXPECT_NE(text.find("Broken.so"), std::string::npos) << text;
+}
+
+TEST_F(ServicesTest, ALibraryWithoutTheEntryIsNoAddIn) {
+    ASSERT_TRUE(QFile::copy(HX_SOME_LIBRARY, folder.filePath("Other.so")));
+    studio::StudioHost host(folder.path(), {folder.path()});
+    const auto [number, text] = errorOf(host.components(), "Other.Connect");
+    EXPECT_EQ(static_cast<std::uint32_t>(number), 0x8007007Fu);
+    EXPECT_EQ(text,
+              "The file " + qt::fromQt(folder.filePath("Other.so")) + " is no add-in module: it has no hxCreateObject");
+}
+
+TEST_F(ServicesTest, AModuleThatDoesNotKnowTheClassSaysSo) {
+    studio::StudioHost host(folder.path(), {QStringLiteral(HX_MODULE_FOLDER)});
+    const auto [number, text] = errorOf(host.components(), "HXRecipeEditor.Nothing");
+    EXPECT_EQ(static_cast<std::uint32_t>(number), 0x80040154u);
+    EXPECT_EQ(text, "The module " HX_MODULE_FOLDER "/HXRecipeEditor.so does not know the class HXRecipeEditor.Nothing");
+}
+
+}  // namespace
+}  // namespace hx::gui

@@ -1,0 +1,174 @@
+#include <QMainWindow>
+#include <QMdiArea>
+#include <QTest>
+
+#include "gui/demo_form.h"
+#include "gui/desktop.h"
+
+namespace hx::gui {
+namespace {
+
+namespace window = host::window;
+
+class WindowsTest : public Desktop {
+  protected:
+    QMainWindow main;
+    QMdiArea* area = std::make_unique<QMdiArea>(&main).release();  // the main window owns it
+    forms::WindowHandle areaHandle = windows.add(*area);
+    std::shared_ptr<DemoForm> form = std::make_shared<DemoForm>(screen);
+
+    void SetUp() override {
+        main.setCentralWidget(area);
+        main.resize(900, 600);
+        main.show();
+        main.activateWindow();
+        ASSERT_TRUE(waitUntil([this] { return main.isActiveWindow(); }));
+    }
+    [[nodiscard]] QMdiSubWindow& document() { return *area->subWindowList().at(0); }
+    void embed() {
+        form->load();
+        windows.setParent(form->handle(), areaHandle);
+    }
+};
+
+TEST_F(WindowsTest, KeepsTheStyleOfAWindow) {
+    form->load();
+    EXPECT_EQ(windows.style(form->handle()), 0u);
+    windows.setStyle(form->handle(), 0x80880000);
+    EXPECT_EQ(windows.style(form->handle()), 0x80880000u);
+    EXPECT_THROW((void)windows.style(4711), automation::Error);
+}
+
+TEST_F(WindowsTest, PlacesAFormIntoTheDocumentArea) {
+    embed();
+    EXPECT_FALSE(document().isVisible());
+    form->show();
+    EXPECT_TRUE(document().isVisible());
+    EXPECT_EQ(document().windowTitle(), "Demo");
+    EXPECT_EQ(document().width(), screen.units().pixels(9000));
+    form->hide();
+    EXPECT_FALSE(document().isVisible());
+}
+
+TEST_F(WindowsTest, TakesAFormOutToTheTopLevelHidden) {
+    embed();
+    form->show();
+    windows.setParent(form->handle(), -1);
+    handleEvents();
+    EXPECT_TRUE(area->subWindowList().isEmpty());
+    EXPECT_FALSE(windowOf(*form).isVisible());
+    EXPECT_TRUE(windowOf(*form).isWindow());
+    EXPECT_EQ(windows.embeddingObject(form->handle()), nullptr);
+}
+
+TEST_F(WindowsTest, APlaceIsMeasuredInTheDocumentArea) {
+    embed();
+    form->show();
+    form->setLeft(screen.units().twips(40));
+    form->setTop(screen.units().twips(25));
+    const auto inner = windows.rect(form->handle());
+    const auto outer = windows.rect(areaHandle);
+    EXPECT_EQ(inner.left - outer.left, 40);
+    EXPECT_EQ(inner.top - outer.top, 25);
+    EXPECT_EQ(inner.right - inner.left, document().width());
+}
+
+TEST_F(WindowsTest, TheUserMovingTheWindowIsReportedToTheForm) {
+    embed();
+    form->show();
+    document().setGeometry(30, 20, 500, 400);
+    EXPECT_EQ(form->left(), screen.units().twips(30));
+    EXPECT_EQ(form->top(), screen.units().twips(20));
+    EXPECT_EQ(form->width(), screen.units().twips(500));
+    document().showMaximized();
+    EXPECT_EQ(form->windowState(), forms::WindowState::maximised);
+    EXPECT_EQ(form->width(), screen.units().twips(500));
+}
+
+TEST_F(WindowsTest, AMaximisedFormFillsTheArea) {
+    form->setWindowState(forms::WindowState::maximised);
+    embed();
+    form->show();
+    EXPECT_TRUE(document().isMaximized());
+    EXPECT_EQ(document().width(), area->viewport()->width());
+    form->hide();
+    form->show();
+    EXPECT_TRUE(document().isMaximized());
+}
+
+TEST_F(WindowsTest, ActivationGoesThroughTheInstalledProcedures) {
+    embed();
+    std::vector<std::string> calls;
+    const auto install = [&](const std::string& name) {
+        auto previous = std::make_shared<window::ProcedureAddress>(0);
+        *previous =
+            windows.install(form->handle(), [&, name, previous](auto handle, auto message, auto wParam, auto lParam) {
+                calls.push_back(name + " " + std::to_string(message) + " " + std::to_string(wParam));
+                return windows.call(*previous, handle, message, wParam, lParam);
+            });
+        return *previous;
+    };
+    const auto original = install("first");
+    install("second");
+    form->show();
+    EXPECT_EQ(calls, (std::vector<std::string>{"second 6 1", "first 6 1"}));
+    calls.clear();
+    QMdiSubWindow* other = area->addSubWindow(std::make_unique<QWidget>().release());
+    other->show();
+    EXPECT_EQ(calls, (std::vector<std::string>{"second 6 0", "first 6 0"}));
+    windows.restore(form->handle(), original);
+    calls.clear();
+    area->setActiveSubWindow(&document());
+    EXPECT_TRUE(calls.empty());
+}
+
+TEST_F(WindowsTest, TheEmbeddingObjectShowsTheDocument) {
+    embed();
+    const auto object = windows.embeddingObject(form->handle());
+    ASSERT_NE(object, nullptr);
+    EXPECT_EQ(object->className(), "MDIEdit");
+    object->get("Show");
+    EXPECT_TRUE(document().isVisible());
+    windows.setParent(form->handle(), 0);
+    handleEvents();
+    object->get("Show");
+}
+
+TEST_F(WindowsTest, AMessageNameHasOneNumber) {
+    const auto number = windows.registerMessage("HX_EDITORS");
+    EXPECT_EQ(windows.registerMessage("HX_EDITORS"), number);
+    EXPECT_NE(windows.registerMessage("OTHER"), number);
+    EXPECT_GE(number, 0xC000u);
+}
+
+TEST_F(WindowsTest, TheCloseBoxAsksTheForm) {
+    embed();
+    form->show();
+    std::vector<forms::UnloadMode> modes;
+    form->queryUnloadEvent.connect([&](bool& cancel, forms::UnloadMode mode) {
+        modes.push_back(mode);
+        cancel = true;
+        form->hide();
+    });
+    document().close();
+    EXPECT_EQ(modes, std::vector{forms::UnloadMode::byUser});
+    EXPECT_FALSE(document().isVisible());
+    form->show();
+    EXPECT_TRUE(document().isVisible());
+    EXPECT_TRUE(windowOf(*form).isVisible());
+}
+
+TEST_F(WindowsTest, ComesToTheFrontRestoredAndWithTheKeyboard) {
+    embed();
+    form->fill(3);
+    form->show();
+    document().showMinimized();
+    ASSERT_EQ(form->windowState(), forms::WindowState::minimised);
+    form->bringToFront();
+    EXPECT_EQ(form->windowState(), forms::WindowState::normal);
+    EXPECT_FALSE(document().isMinimized());
+    EXPECT_TRUE(windowOf(*form).isAncestorOf(QApplication::focusWidget()));
+}
+
+}  // namespace
+}  // namespace hx::gui
