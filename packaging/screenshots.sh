@@ -5,7 +5,7 @@
 set -euo pipefail
 
 readonly studio=$1 project=$2 pictures=$3
-readonly patience=30 # seconds for a window
+readonly patience=120 # seconds for a window, on a machine that is busy
 mkdir -p build "$pictures"
 work=$(mktemp -d "$PWD/build/tour.XXXXXX")
 readonly work
@@ -41,7 +41,7 @@ start_display() {
     export DISPLAY=:$(<"$work/display") QT_QPA_PLATFORM=xcb
     openbox --sm-disable >"$work/openbox.log" 2>&1 &
     started+=($!)
-    until_true "$patience" xdotool get_num_desktops >/dev/null 2>&1 || fail "openbox did not start"
+    until_true "$patience" xdotool get_num_desktops >/dev/null 2>&1 || { cat "$work/openbox.log" >&2; fail "openbox did not start"; }
 }
 
 # The studio's window with a project, in `window`; empty when there is none.
@@ -57,7 +57,7 @@ documents_of() { /usr/bin/convert "$1" -crop 840x680+400+50 +repage -format '%#'
 
 # Waits until the picture of the screen stays the same, then keeps it as NAME. What the editor shows must be new.
 take_picture() {
-    local last=none now end=$((SECONDS + 10))
+    local last=none now end=$((SECONDS + 20))
     kill -0 "$studio_process" 2>/dev/null || { cat "$work/studio.log" >&2; fail "the studio ended before the picture $1"; }
     while :; do
         /usr/bin/import -silent -window root "$work/now.png"
@@ -77,7 +77,7 @@ take_picture() {
 
 press() {
     xdotool key --clearmodifiers "$@"
-    sleep 0.3
+    sleep 0.5
 }
 
 # tour LANGUAGE
