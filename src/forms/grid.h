@@ -176,6 +176,7 @@ class Grid : public Control {
     [[nodiscard]] std::optional<std::size_t> fieldOf(std::int32_t column) const;
     void requireColumn(std::int32_t column) const;
     void columnChanged(std::string_view property);
+    void leaveHiddenColumn();
     bool leaveRow();
     bool tryUpdate();
     void moveTo(std::int32_t row);

@@ -79,6 +79,7 @@ Column& Grid::addColumn(const std::string& dataField) {
         added.changed.subscribe([this](std::string_view property) { columnChanged(property); }));
     columns_.push_back(std::move(column));
     columnsChanged.raise();
+    leaveHiddenColumn();
     return added;
 }
 
@@ -93,6 +94,16 @@ void Grid::clearColumns() {
 void Grid::columnChanged(std::string_view property) {
     if (property == "Order" && !reordering_) columnsChanged.raise();
     if (property == "ValueItems") rowsChanged.raise();
+    if (property == "Visible") leaveHiddenColumn();
+}
+
+// The keyboard moves from the current cell: it must be one that the user sees.
+void Grid::leaveHiddenColumn() {
+    const auto current = static_cast<std::size_t>(col_);
+    if (current >= columns_.size() || columns_[current]->visible()) return;
+    for (const Column* column : columnsInDisplayOrder()) {
+        if (column->visible()) return setCol(columnNumber(Variant(column->dataField())));
+    }
 }
 
 std::vector<Column*> Grid::columnsInDisplayOrder() const {

@@ -11,7 +11,22 @@ namespace hx::studio {
 
 StudioMenus::StudioMenus(QMainWindow& window, StudioCommands& commands, QAction& showExplorer,
                          const qt::Wording& wording)
-    : commands_(commands), showExplorer_(showExplorer), wording_(wording), languages_(this) {
+    : commands_(commands),
+      showExplorer_(showExplorer),
+      wording_(wording),
+      file_(&window),
+      recent_(&window),
+      view_(&window),
+      language_(&window),
+      help_(&window),
+      new_(&window),
+      open_(&window),
+      close_(&window),
+      exit_(&window),
+      german_(&window),
+      english_(&window),
+      about_(&window),
+      languages_(this) {
     build(window);
     connect(&new_, &QAction::triggered, this, [this] { commands_.newProject(); });
     connect(&open_, &QAction::triggered, this, [this] { commands_.chooseProject(); });

@@ -74,6 +74,16 @@ TEST_F(NodeEvents, AClickOnAnotherAddInsNodeOnlySwitchesTheMenus) {
     EXPECT_TRUE(record.pointers.empty());
 }
 
+TEST_F(NodeEvents, AClickShowsTheGridThatAnotherAddInsNodeHadHidden) {
+    open();
+    for (const char* node : {"RCPE0", "RCPR1", "RCPU1"}) {
+        studio.window().SwitchGrids("VARS7");
+        ASSERT_FALSE(studio.window().tdbRM->visible());
+        studio.click(node);
+        EXPECT_TRUE(studio.window().tdbRM->visible()) << node;
+    }
+}
+
 TEST_F(NodeEvents, AClickWritesAPendingEditOfTheNodeBefore) {
     studio.click("RCPR1");
     studio.window().tdbRM->setText(0, 2, "Tank9.Level");

@@ -26,7 +26,7 @@ void type(QWidget& widget, const QString& text);
 template <class W>
 [[nodiscard]] W& find(const QWidget& parent, const char* name) {
     auto* widget = parent.findChild<W*>(QString::fromUtf8(name));
-    if (widget == nullptr) throw std::runtime_error(std::string("no widget called ") + name);
+    if (widget == nullptr) throw std::runtime_error(std::string("nothing is called ") + name);
     return *widget;
 }
 

@@ -52,7 +52,7 @@ TEST_F(StudioTest, ARecipeShowsItsVariablesAndItsSubRecipesByName) {
     EXPECT_EQ(texts("Variable"), (Texts{"Mischer.Zucker", "Mischer.Wasser"}));
     click("Rezepte/Meyer's Bräu/Unterrezepte");
     EXPECT_EQ(texts("Unterrezept"), (Texts{"Limonade", "Apfelschorle"}));
-    EXPECT_EQ(texts("Variable"), (Texts{"Datei.Limonade", ""}));
+    EXPECT_EQ(texts("Dateiname"), (Texts{"Datei.Limonade", ""}));
 }
 
 TEST_F(StudioTest, AnEditedCellIsStoredWhenItsRowIsLeft) {
@@ -160,10 +160,10 @@ TEST_F(StudioTest, ClosingAndOpeningKeepsDataAndLayout) {
     click("Rezepte");
     click("Rezepte/Meyer's Bräu/Unterrezepte");
     QHeaderView& header = *grid().horizontalHeader();
-    const int variable = column("Variable");
-    header.resizeSection(variable, 260);
-    header.moveSection(header.visualIndex(column("Unterrezept")), 0);
-    edit(1, "Variable", "Datei.Schorle");
+    const int subRecipe = column("Unterrezept");
+    header.moveSection(header.visualIndex(subRecipe), 0);
+    header.resizeSection(subRecipe, 260);
+    edit(1, "Dateiname", "Datei.Schorle");
     window().closeProject();
     handleEvents();
     EXPECT_EQ(tree().model()->rowCount(), 0);
@@ -172,9 +172,9 @@ TEST_F(StudioTest, ClosingAndOpeningKeepsDataAndLayout) {
     open(file);
     click("Rezepte");
     click("Rezepte/Meyer's Bräu/Unterrezepte");
-    EXPECT_EQ(grid().horizontalHeader()->sectionSize(column("Variable")), 260);
+    EXPECT_EQ(grid().horizontalHeader()->sectionSize(column("Unterrezept")), 260);
     EXPECT_EQ(grid().horizontalHeader()->visualIndex(column("Unterrezept")), 0);
-    EXPECT_EQ(texts("Variable"), (Texts{"Datei.Limonade", "Datei.Schorle"}));
+    EXPECT_EQ(texts("Dateiname"), (Texts{"Datei.Limonade", "Datei.Schorle"}));
 }
 
 TEST_F(StudioTest, TheStudioRemembersItsWindowAndItsProjects) {

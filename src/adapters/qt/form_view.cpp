@@ -71,6 +71,7 @@ void FormView::orderTabs() {
         if (auto* next = dynamic_cast<LabelView*>(view)) label = next;
         if (view->widget().focusPolicy() == Qt::NoFocus) continue;
         if (previous != nullptr) QWidget::setTabOrder(previous, &view->widget());
+        if (previous == nullptr) first_ = &view->widget();
         if (label != nullptr) label->setBuddy(view->widget());
         previous = &view->widget();
         label = nullptr;
@@ -151,8 +152,19 @@ void FormView::bringToFront() {
     outer.window()->activateWindow();
     if (!widget_.isAncestorOf(QApplication::focusWidget())) {
         QWidget* inside = widget_.focusWidget();
-        (inside == nullptr ? widget_ : *inside).setFocus(Qt::OtherFocusReason);
+        (inside == nullptr || inside == &widget_ ? firstField() : *inside).setFocus(Qt::OtherFocusReason);
     }
+}
+
+// Where the keyboard starts in a window that has not had it yet.
+QWidget& FormView::firstField() {
+    ControlView* first = nullptr;
+    for (const auto& view : views_) {
+        const QWidget& field = view->widget();
+        const bool reached = (field.focusPolicy() & Qt::TabFocus) != 0 && field.isVisible() && field.isEnabled();
+        if (reached && (first == nullptr || view->model()->tabIndex() < first->model()->tabIndex())) first = view.get();
+    }
+    return first == nullptr ? widget_ : first->widget();
 }
 
 void FormView::runModal(QWidget* owner) {

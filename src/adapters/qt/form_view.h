@@ -63,6 +63,7 @@ class FormView : public QObject {
     void build();
     [[nodiscard]] QWidget* areaFor(const forms::Control& control);
     void orderTabs();
+    [[nodiscard]] QWidget& firstField();
     void apply(std::string_view property);
     void applyBounds();
     void applyVisible();
@@ -78,6 +79,7 @@ class FormView : public QObject {
     QPointer<QMdiSubWindow> document_;
     std::vector<std::unique_ptr<ControlView>> views_;
     forms::Subscription changed_;
+    QWidget* first_ = nullptr;  ///< in the tab order
     QSize reported_;
     QEventLoop* modal_ = nullptr;
     bool applying_ = false;

@@ -58,7 +58,9 @@ void GridSelection::setCurrentIndex(const QModelIndex& index, QItemSelectionMode
     if (grid->row() != index.row() && !grid->setRow(index.row())) return followCurrentCell();
     if (model_.grid() == nullptr || !target.isValid()) return;
     if (grid->col() != column) grid->setCol(column);
-    QItemSelectionModel::setCurrentIndex(target, command);
+    // The grid's own report may have made the cell current already; then nothing would be selected.
+    if (command != NoUpdate) select(target, command);
+    QItemSelectionModel::setCurrentIndex(target, NoUpdate);
 }
 
 void GridSelection::followCurrentCell() {
