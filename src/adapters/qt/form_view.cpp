@@ -71,7 +71,6 @@ void FormView::orderTabs() {
         if (auto* next = dynamic_cast<LabelView*>(view)) label = next;
         if (view->widget().focusPolicy() == Qt::NoFocus) continue;
         if (previous != nullptr) QWidget::setTabOrder(previous, &view->widget());
-        if (previous == nullptr) first_ = &view->widget();
         if (label != nullptr) label->setBuddy(view->widget());
         previous = &view->widget();
         label = nullptr;

@@ -79,7 +79,6 @@ class FormView : public QObject {
     QPointer<QMdiSubWindow> document_;
     std::vector<std::unique_ptr<ControlView>> views_;
     forms::Subscription changed_;
-    QWidget* first_ = nullptr;  ///< in the tab order
     QSize reported_;
     QEventLoop* modal_ = nullptr;
     bool applying_ = false;

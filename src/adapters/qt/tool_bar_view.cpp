@@ -28,7 +28,7 @@ void ToolBarView::addButton(forms::ToolButton& button) {
     QAction* action = bar_.addAction(svgIcon(button.picture()), QString());
     QWidget* widget = bar_.widgetForAction(action);
     widget->setObjectName(objectNameOf(*model()) + '.' + toQt(button.key()));
-    widget->setFocusPolicy(Qt::TabFocus);
+    widget->setFocusPolicy(Qt::NoFocus);  // the keyboard has the same commands in the menus
     const auto follow = [action, widget, &button] {
         const QString tip = toQt(button.toolTipText());
         action->setText(tip);
