@@ -29,12 +29,11 @@ QRect GridDelegate::buttonRect(const QRect& cell) {
     return {cell.right() - width, cell.top() + 1, width, cell.height() - 2};
 }
 
-void GridDelegate::refreshPictures() {
-    pictures_.clear();
-    for (const auto& column : model_.grid()->columns()) {
-        const QIcon own = svgIcon(column->buttonPicture());
-        pictures_.push_back(own.isNull() ? svgIcon(icons::choose) : own);
-    }
+QIcon GridDelegate::pictureOf(const forms::Column& column) const {
+    QIcon& known = pictures_[column.buttonPicture().svg];
+    if (known.isNull()) known = svgIcon(column.buttonPicture());
+    if (known.isNull()) known = svgIcon(icons::choose);
+    return known;
 }
 
 void GridDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const {
@@ -68,7 +67,7 @@ void GridDelegate::paintButton(QPainter& painter, const QStyleOptionViewItem& op
     button.palette = option.palette;
     button.state = QStyle::State_Enabled | (pressed_ == index ? QStyle::State_Sunken : QStyle::State_Raised);
     const auto column = static_cast<std::size_t>(index.column());
-    if (column < pictures_.size()) button.icon = pictures_[column];
+    button.icon = pictureOf(*model_.grid()->columns()[column]);
     button.iconSize = QSize(14, 14);
     const QStyle* style = option.widget == nullptr ? QApplication::style() : option.widget->style();
     style->drawControl(QStyle::CE_PushButton, &button, &painter, option.widget);

@@ -2,6 +2,8 @@
 
 #include <QIcon>
 #include <QStyledItemDelegate>
+#include <map>
+#include <string>
 
 #include "adapters/qt/grid_model.h"
 
@@ -25,13 +27,12 @@ class GridDelegate : public QStyledItemDelegate {
     void setHoveredRow(int row) noexcept { hoveredRow_ = row; }
     [[nodiscard]] int hoveredRow() const noexcept { return hoveredRow_; }
     void setPressed(const QModelIndex& index) { pressed_ = index; }
-    /// Reads the buttons' pictures again.
-    void refreshPictures();
 
   private:
     void paintButton(QPainter& painter, const QStyleOptionViewItem& option, const QModelIndex& index) const;
+    [[nodiscard]] QIcon pictureOf(const forms::Column& column) const;
     GridModel& model_;
-    std::vector<QIcon> pictures_;
+    mutable std::map<std::string, QIcon> pictures_;  // by their SVG text
     QPersistentModelIndex pressed_;
     int hoveredRow_ = -1;
 };
