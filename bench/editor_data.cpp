@@ -1,0 +1,19 @@
+#include "bench/editor_data.h"
+
+namespace hx::bench {
+
+EditorData::EditorData(const Project& project, std::shared_ptr<forms::Grid> grid) : grid_(std::move(grid)) {
+    data_.CnnRecipes->open(
+        "Provider=Microsoft.Jet.OLEDB.4.0;Data Source=" + project.path + ";Mode=Read|Write|Share Deny None;", "", "",
+        -1);
+    recipe::RefreshMemberView(*this, texts_);
+    for (const ado::Column& column : memberRecordset().columns()) grid_->addColumn(column.name);
+    grid_->setDataSource(data_.rstabRecipeMembers);
+}
+
+void EditorData::select(std::string nodeKey) {
+    nodeKey_ = std::move(nodeKey);
+    recipe::RefreshMemberView(*this, texts_);
+}
+
+}  // namespace hx::bench

@@ -1,0 +1,56 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "bench/measure.h"
+#include "bench/projects.h"
+
+/// What is measured, three times each: our way, the peer's, and what the database alone takes.
+namespace hx::bench {
+
+/// Selects the variables of a recipe (RefreshMemberView), counts them and reads one at the start, the middle and the
+/// end. The peer fetches all rows; the limit steps through the numbers of the same rows.
+namespace select_recipe {
+[[nodiscard]] Subject ours(const Project& project, std::int32_t recipe);
+[[nodiscard]] Subject peer(const Project& project, std::int32_t recipe);
+[[nodiscard]] Subject limit(const Project& project, std::int32_t recipe);
+}  // namespace select_recipe
+
+/// Reads 100 rows with all columns somewhere in the selected big recipe; the limit reads as many by their numbers.
+namespace read_page {
+[[nodiscard]] Subject ours(const Project& project);
+[[nodiscard]] Subject limit(const Project& project);
+}  // namespace read_page
+
+/// Reads number and name of every recipe.
+namespace read_recipes {
+[[nodiscard]] Subject ours(const Project& project);
+[[nodiscard]] Subject peer(const Project& project);
+[[nodiscard]] Subject limit(const Project& project);
+}  // namespace read_recipes
+
+/// Finds a recipe by its number or its name in the newly opened table.
+namespace find_recipe {
+[[nodiscard]] Subject ours(const Project& project, const std::string& criterion);
+}  // namespace find_recipe
+
+/// Counts recipes and members, as the statistic does.
+namespace statistic {
+[[nodiscard]] Subject ours(const Project& project);
+[[nodiscard]] Subject limit(const Project& project);
+}  // namespace statistic
+
+/// Adds the nodes of all recipes to the explorer and shows the first of them; the peer fills a QTreeWidget.
+namespace fill_explorer {
+[[nodiscard]] Subject ours(const Project& project);
+[[nodiscard]] Subject peer(const Project& project);
+}  // namespace fill_explorer
+
+/// Selects the big recipe and shows its first page in the grid; or scrolls to another page.
+namespace show_grid {
+[[nodiscard]] Subject firstPage(const Project& project);
+[[nodiscard]] Subject anyPage(const Project& project);
+}  // namespace show_grid
+
+}  // namespace hx::bench
