@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "forms/control.h"
+#include "forms/layout.h"
 #include "forms/screen.h"
 
 namespace hx::forms {
@@ -53,6 +54,8 @@ class Form : public Control {
     [[nodiscard]] const std::vector<std::shared_ptr<Control>>& controls() const noexcept { return controls_; }
     /// By name ignoring case, and by index for an array; null when there is none.
     [[nodiscard]] Control* findControl(std::string_view name, std::optional<std::int16_t> index = {}) const;
+    /// The rows that a dialog is made of; empty: its controls lie where Left, Top, Width and Height say.
+    [[nodiscard]] const Layout& layout() const noexcept { return layout_; }
 
     // --- what a view reports
     void clientAreaChanged(double width, double height);  ///< raises resizeEvent
@@ -84,11 +87,20 @@ class Form : public Control {
         controls_.push_back(control);
         return control;
     }
+    /// A further row of the dialog. Each control of it, and its container, must be one of this form (a page: of one
+    /// of its tab strips), and must not stand in a row yet: std::invalid_argument. The controls come to lie in the
+    /// container.
+    void addRow(const LayoutRow& row);
+    /// The dialog's own buttons in a row at the bottom: `buttons` at the right end, `help` at the left.
+    void addButtons(std::vector<CommandButton*> buttons, CommandButton* help = nullptr);
 
   private:
     [[nodiscard]] bool hasControl(std::string_view name) const;
+    [[nodiscard]] bool holds(const Control& control) const;
+    void requirePlaceable(const Control& control) const;
     Screen& screen_;
     std::vector<std::shared_ptr<Control>> controls_;
+    Layout layout_;
     std::string caption_;
     WindowHandle handle_ = 0;
     WindowState windowState_ = WindowState::normal;
