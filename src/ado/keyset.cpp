@@ -63,6 +63,17 @@ Key Keyset::insert(std::span<const ColumnValue> values, KeyList& storing) {
     return key;
 }
 
+void Keyset::insertAll(std::span<const std::size_t> columns, RowSource& rows) {
+    try {
+        write([&](Rowset& open) { open.insertAll(columns, rows); });
+    } catch (...) {
+        connection_->noteWrite();  // rows before the failing one may be stored
+        requery();
+        throw;
+    }
+    requery();
+}
+
 void Keyset::update(Key key, std::span<const ColumnValue> values) {
     write([&](Rowset& open) { open.update(key, values); });
     forEachList([&](KeyList& list) { list.changed(key); });

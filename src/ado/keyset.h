@@ -28,6 +28,8 @@ class Keyset : public ConnectionClient {
 
     // Writes, at once; every list learns of them. A new row is appended to the list that stored it and to all().
     Key insert(std::span<const ColumnValue> values, KeyList& storing);
+    /// Many rows: the keys are then read afresh, also after an error.
+    void insertAll(std::span<const std::size_t> columns, RowSource& rows);
     void update(Key key, std::span<const ColumnValue> values);
     void remove(Key key);
 

@@ -50,6 +50,14 @@ class RowSink {
     virtual void row(std::size_t index, std::span<automation::Variant> values) = 0;
 };
 
+/// Gives rows to be stored, one after the other.
+class RowSource {
+  public:
+    virtual ~RowSource() = default;
+    /// Fills one value for each column that the rows are stored with; false when there is no further row.
+    [[nodiscard]] virtual bool next(std::span<automation::Variant> values) = 0;
+};
+
 /// An opened command that returns rows. Rows are identified by key; it holds no row.
 class Rowset {
   public:
@@ -68,6 +76,10 @@ class Rowset {
     // Each is durable when it returns, unless a transaction is open. A refused duplicate is dbErrDuplicate; a row
     // that is gone is dbErrDeletedRow. Columns that are not named keep their value, or get the table's default.
     virtual Key insert(std::span<const ColumnValue> values) = 0;
+    /// Stores all rows of the source, each with values for these columns. Ends with the first error: which of the rows
+    /// before it are stored then is up to the provider, so that a transaction belongs around it. One after the other by
+    /// insert(), unless a provider has a faster way.
+    virtual void insertAll(std::span<const std::size_t> columns, RowSource& rows);
     virtual void update(Key key, std::span<const ColumnValue> values) = 0;
     virtual void remove(Key key) = 0;
 };

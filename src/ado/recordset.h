@@ -82,6 +82,9 @@ class Recordset : public automation::Dispatch {
     void addNew();  ///< an empty row to be filled and stored by update()
     /// Stores one row at once; it becomes current.
     void addNew(std::span<const std::pair<std::string, automation::Variant>> values);
+    /// Stores many rows at once, with values for these fields in this order, and stands on the first row of the
+    /// recordset. After an error some of them may be stored: with a transaction around it they are stored all or none.
+    void addNew(std::span<const std::string> fields, RowSource& rows);
     void update();
     void cancelUpdate();
     void remove();  ///< ADO's Delete: the current row; it stays "current but deleted" until a move

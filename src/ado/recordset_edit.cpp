@@ -92,6 +92,37 @@ void Recordset::addNew(std::span<const std::pair<std::string, Variant>> values) 
     cursor_->set(Place::key, 0, key);
 }
 
+namespace {
+
+/// Rows of which each value has the kind that its column stores.
+class ConvertedRows : public RowSource {
+  public:
+    ConvertedRows(RowSource& rows, const std::vector<Column>& columns, std::span<const std::size_t> fields)
+        : rows_(rows), columns_(columns), fields_(fields) {}
+    bool next(std::span<Variant> values) override {
+        if (!rows_.next(values)) return false;
+        for (std::size_t i = 0; i < fields_.size(); ++i) values[i] = convertFor(columns_[fields_[i]], values[i]);
+        return true;
+    }
+
+  private:
+    RowSource& rows_;
+    const std::vector<Column>& columns_;
+    std::span<const std::size_t> fields_;
+};
+
+}  // namespace
+
+void Recordset::addNew(std::span<const std::string> fields, RowSource& rows) {
+    requireWritable();
+    leaveRow();
+    std::vector<std::size_t> numbers;
+    for (const std::string& field : fields) numbers.push_back(columnNumber(field));
+    ConvertedRows converted(rows, keyset_->columns(), numbers);
+    cursor_->set(Place::first);
+    keyset_->insertAll(numbers, converted);
+}
+
 void Recordset::update() {
     requireOpen();
     if (edit_->mode() == adEditAdd) return storeNew();

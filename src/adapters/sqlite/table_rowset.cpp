@@ -136,6 +136,10 @@ void TableRowset::readEach(const std::string& query, std::span<const Key> keys, 
 
 Key TableRowset::insert(std::span<const ColumnValue> values) { return writes_->insert(table_, columns_, values); }
 
+void TableRowset::insertAll(std::span<const std::size_t> columns, ado::RowSource& rows) {
+    writes_->insertAll(table_, columns_, columns, rows);
+}
+
 void TableRowset::update(Key key, std::span<const ColumnValue> values) {
     writes_->update(table_, columns_, key, values);
 }

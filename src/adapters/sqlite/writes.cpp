@@ -10,6 +10,8 @@ using automation::Error;
 
 namespace {
 
+constexpr std::size_t rowsPerStatement = 64;
+
 // A refused duplicate names only the column; which value it was the caller knows.
 template <class Action>
 void namingDuplicates(const TableInfo& table, std::span<const ado::Column> columns, std::span<const ColumnValue> values,
@@ -34,17 +36,20 @@ void bindAll(Statement& statement, std::span<const ColumnValue> values) {
     for (const ColumnValue& value : values) statement.bind(++parameter, value.value);
 }
 
+// `values` are those of one row.
 std::string insertQuery(const TableInfo& table, std::span<const ado::Column> columns,
-                        std::span<const ColumnValue> values) {
+                        std::span<const ColumnValue> values, std::size_t rows = 1) {
     const std::string start = "INSERT INTO " + quotedName(table.name);
     if (values.empty()) return start + " DEFAULT VALUES";
     std::string names;
     std::string marks;
     for (const ColumnValue& value : values) {
         names += (names.empty() ? "" : ", ") + quotedName(columns[value.column].name);
-        marks += marks.empty() ? "?" : ", ?";
+        marks += marks.empty() ? "(?" : ", ?";
     }
-    return start + " (" + names + ") VALUES (" + marks + ")";
+    std::string query = start + " (" + names + ") VALUES " + marks + ")";
+    for (std::size_t row = 1; row < rows; ++row) query += ", " + marks + ")";
+    return query;
 }
 
 std::string updateQuery(const TableInfo& table, std::span<const ado::Column> columns,
@@ -65,6 +70,44 @@ Key Writes::insert(const TableInfo& table, std::span<const ado::Column> columns,
     bindAll(statement, values);
     namingDuplicates(table, columns, values, [&] { statement.step(); });
     return database_.lastInsertedKey();
+}
+
+void Writes::insertAll(const TableInfo& table, std::span<const ado::Column> columns,
+                       std::span<const std::size_t> assigned, ado::RowSource& rows) {
+    const std::size_t width = assigned.size();
+    std::vector<automation::Variant> row(width);
+    std::vector<ColumnValue> values;
+    values.reserve(rowsPerStatement * width);
+    bool more = true;
+    while (more) {
+        std::size_t count = 0;
+        for (; count < rowsPerStatement && (more = rows.next(row)); ++count) {
+            for (std::size_t i = 0; i < width; ++i) values.push_back({assigned[i], std::move(row[i])});
+        }
+        insertTogether(table, columns, values, count);
+        values.clear();
+    }
+}
+
+// A statement takes much of its time for itself: for many rows it pays to share it.
+void Writes::insertTogether(const TableInfo& table, std::span<const ado::Column> columns,
+                            std::span<const ColumnValue> values, std::size_t rows) {
+    const std::size_t width = rows == 0 ? 0 : values.size() / rows;
+    const auto one = [&](std::size_t row) { return values.subspan(row * width, width); };
+    if (rows == rowsPerStatement && width > 0) {
+        requireTransaction();
+        Statement& statement = database_.prepared(insertQuery(table, columns, one(0), rows));
+        const ResetGuard guard(statement);
+        bindAll(statement, values);
+        try {
+            statement.step();
+            return;
+        } catch (const Error& error) {
+            // One by one they tell which value it was.
+            if (error.number() != ado::dbErrDuplicate && error.number() != ado::dbErrIntegrity) throw;
+        }
+    }
+    for (std::size_t row = 0; row < rows; ++row) (void)insert(table, columns, one(row));
 }
 
 void Writes::update(const TableInfo& table, std::span<const ado::Column> columns, Key key,

@@ -17,6 +17,9 @@ class Writes {
 
     ado::Key insert(const TableInfo& table, std::span<const ado::Column> columns,
                     std::span<const ado::ColumnValue> values);
+    /// Many rows in one statement, as often as there are any left.
+    void insertAll(const TableInfo& table, std::span<const ado::Column> columns, std::span<const std::size_t> assigned,
+                   ado::RowSource& rows);
     void update(const TableInfo& table, std::span<const ado::Column> columns, ado::Key key,
                 std::span<const ado::ColumnValue> values);
     void remove(const TableInfo& table, ado::Key key);
@@ -27,6 +30,8 @@ class Writes {
     void rollback();
 
   private:
+    void insertTogether(const TableInfo& table, std::span<const ado::Column> columns,
+                        std::span<const ado::ColumnValue> values, std::size_t rows);
     void requireTransaction() const;
     void requireChanged(const TableInfo& table, ado::Key key) const;
 
