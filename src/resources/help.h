@@ -1,10 +1,18 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 
 #include "host/services.h"
 
 namespace hx::resources {
+
+/// The context numbers of the help file.
+namespace help_context {
+inline constexpr std::int32_t root = 100001, recipe = 100019, subRecipes = 100020;  ///< nodes of the explorer
+inline constexpr std::int32_t recipeDialog = 100030, subRecipeDialog = 100031, itemsDialog = 100032,
+                              configurationDialog = 100033;
+}  // namespace help_context
 
 /// The add-in's help file and the calls on it.
 class Help {
