@@ -55,6 +55,17 @@ class GridForm : public forms::Form {
     const std::shared_ptr<forms::Grid> grid;
 };
 
+class PaintCounter : public QObject {
+  public:
+    int count = 0;
+
+  protected:
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() == QEvent::Paint) ++count;
+        return false;
+    }
+};
+
 /// The member grid of an open editor in a window.
 class GridWindow {
   public:
@@ -67,11 +78,14 @@ class GridWindow {
         Desktop::settle();
         table_ = desktop_.windows.widget(form_->handle())->findChild<QTableView*>("tdbRM.Splits(1)");
         if (table_ == nullptr || !table_->isVisible()) throw std::runtime_error("the grid is not shown");
+        table_->viewport()->installEventFilter(&paints_);
     }
 
+    /// Shows what has changed, as the event loop does.
     void paint() {
+        const int before = paints_.count;
         Desktop::settle();
-        table_->viewport()->repaint();
+        if (paints_.count == before) throw std::runtime_error("the grid was not painted");
     }
     void scrollTo(int row) {
         table_->verticalScrollBar()->setValue(row);
@@ -80,6 +94,7 @@ class GridWindow {
     }
 
   private:
+    PaintCounter paints_;
     Desktop desktop_;
     std::shared_ptr<GridForm> form_ = std::make_shared<GridForm>(desktop_.screen);
     QTableView* table_ = nullptr;
