@@ -100,6 +100,7 @@ void Connect::showNode(editor::frmtabgrid& window, const std::string& nodeKey) {
     if (menuOf(nodeKey) == nullptr) return;
     const bool root = prefix == recipe::prefixRoot;
     window.VerifyAdds();
+    if (window.tdbRM->columns().empty()) window.bindGrid();
     if (!root) window.SwitchGrids(nodeKey);
     window.tdbRM->setAllowUpdate(!root);
     {
@@ -146,7 +147,10 @@ void Connect::NodeMouseUp(const host::NodeEvent& node, const host::NodeMouse& mo
         const auto window = openWindow();
         if (!window) return;
         window->MenuSwitcher(node.key, true);
-        if (const NodeMenu* menu = menuOf(node.key)) popUp(*window, menu->popUp);
+        // Whatever becomes of the menu, the bar must not keep the entries made for it.
+        trap(services_.screen, "Connect: NodeMouseUp", [&] {
+            if (const NodeMenu* menu = menuOf(node.key)) popUp(*window, menu->popUp);
+        });
         // A command of the menu may have closed the window and opened another.
         if (const auto current = openWindow()) current->MenuSwitcher(node.key, false);
     });
@@ -157,22 +161,17 @@ void Connect::NodeKeyDown(const host::NodeEvent& node, std::int16_t keyCode, std
     if (row == nullptr) return;
     event("Connect: NodeKeyDown", [&] {
         if (row->action == KeyAction::beep) return services_.screen.beep();
+        if (row->action == KeyAction::showSelected) {
+            ShowSelectedNode();
+            if (shiftState == shift::alt && explorer_ != nullptr) explorer_->activate();
+            return;
+        }
         // The keys come for every node of the explorer, also before there is an editor for them to act on.
         const auto window = openWindow();
         if (!window) return;
-        switch (row->action) {
-            case KeyAction::beep: break;
-            case KeyAction::showSelected:
-                ShowSelectedNode();
-                if (shiftState == shift::alt && explorer_ != nullptr) explorer_->activate();
-                break;
-            case KeyAction::command: runCommand(*window, node.key, row->command); break;
-            case KeyAction::help:
-                if (const std::int32_t context = recipe::KeyHelpContext(node.key); context != 0) {
-                    help_.ShowHelp(window->handle(), context);
-                }
-                break;
-        }
+        if (row->action == KeyAction::command) return runCommand(*window, node.key, row->command);
+        const std::int32_t context = recipe::KeyHelpContext(node.key);
+        if (context != 0) help_.ShowHelp(window->handle(), context);
     });
 }
 

@@ -14,10 +14,19 @@ namespace {
 
 bool isSeparator(const Tool* tool) { return tool->kind() == ToolKind::separator; }
 
-void appendVisible(std::vector<Tool*>& shown, const Band& band, bool menusToo) {
+void appendVisible(std::vector<Tool*>& shown, const Band& band) {
     for (const auto& tool : band.tools()) {
-        const bool wanted = menusToo || tool->kind() == ToolKind::command || isSeparator(tool.get());
-        if (tool->visible() && wanted) shown.push_back(tool.get());
+        if (tool->visible()) shown.push_back(tool.get());
+    }
+}
+
+// What stands in the main band besides its menus, unless the band has a tool of that name itself.
+void appendClosing(std::vector<Tool*>& shown, const Band& main, const Band& band) {
+    for (const auto& tool : main.tools()) {
+        const bool closes = tool->kind() == ToolKind::command || isSeparator(tool.get());
+        const bool twice = std::ranges::any_of(
+            band.tools(), [&](const auto& own) { return automation::equalIgnoreCase(own->name(), tool->name()); });
+        if (tool->visible() && closes && !twice) shown.push_back(tool.get());
     }
 }
 
@@ -76,9 +85,9 @@ std::vector<Tool*> Bar::menuTools() const {
 
 std::vector<Tool*> Bar::popUpTools(const Band& band) const {
     std::vector<Tool*> shown;
-    appendVisible(shown, band, true);
+    appendVisible(shown, band);
     const Band* main = findBand(mainBand_);
-    if (main != nullptr && main != &band) appendVisible(shown, *main, false);
+    if (main != nullptr && main != &band) appendClosing(shown, *main, band);
     return tidied(shown);
 }
 

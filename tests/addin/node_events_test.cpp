@@ -130,28 +130,37 @@ TEST_F(NodeEvents, AnExpansionOpensTheEditor) {
 struct RightClick {
     const char* node;
     const char* band;
+    Texts tools;
 };
 
 TEST_F(NodeEvents, ARightClickShowsTheMenuOfTheNode) {
     open();
-    const RightClick rows[] = {{"RCPE0", "mnuRecipe"}, {"RCPR1", "mnuRecipe"}, {"RCPU1", "mnuShowEditorHelper"}};
+    const RightClick rows[] = {
+        {"RCPE0", "mnuRecipe", {"mnuRecipeDescriptor", "mnuRecipeNew", "mnuShowEditorSep", "mnuShowEditor"}},
+        {"RCPR1",
+         "mnuRecipe",
+         {"mnuRecipeDescriptor", "mnuRecipeEdit", "mnuRecipeDelete", "mnuShowEditorSep", "mnuShowEditor"}},
+        {"RCPU1", "mnuShowEditorHelper", {"mnuShowEditor"}},
+    };
     for (const RightClick& row : rows) {
         record.popUps.clear();
         studio.rightClick(row.node);
         ASSERT_EQ(record.popUps.size(), 1u) << row.node;
         EXPECT_EQ(record.popUps[0].band, row.band) << row.node;
+        EXPECT_FALSE(record.popUps[0].refused) << row.node;
+        Texts tools;
+        for (const auto& entry : record.popUps[0].entries) tools.push_back(entry.tool);
+        EXPECT_EQ(tools, row.tools) << row.node;
+        EXPECT_EQ(studio.window().abr->mainBand().find("mnuShowEditor"), nullptr) << "the menus are the editor's own";
     }
 }
 
-TEST_F(NodeEvents, ARightClickOnARecipeOffersItsCommandsAndTheEditor) {
+TEST_F(NodeEvents, AMenuThatFailsLeavesTheMenusOfTheEditorAsTheyWere) {
     open();
+    studio.host.script.onPopUp = [](forms::Band&) { return std::string("mnuNone"); };
     studio.rightClick("RCPR1");
-    ASSERT_EQ(record.popUps.size(), 1u);
-    Texts tools;
-    for (const auto& entry : record.popUps[0].entries) tools.push_back(entry.tool);
-    EXPECT_EQ(tools,
-              (Texts{"mnuRecipeDescriptor", "mnuRecipeEdit", "mnuRecipeDelete", "mnuShowEditorSep", "mnuShowEditor"}));
-    EXPECT_EQ(studio.window().abr->mainBand().find("mnuShowEditor"), nullptr) << "the menus are the editor's own again";
+    EXPECT_EQ(studio.boxes().size(), 1u);
+    EXPECT_EQ(studio.window().abr->mainBand().find("mnuShowEditor"), nullptr);
 }
 
 TEST_F(NodeEvents, ARightClickElsewhereShowsNoMenu) {
@@ -196,6 +205,19 @@ TEST_F(NodeEvents, CtrlCBeepsOnAnyNodeAndDoesNothingElse) {
     EXPECT_EQ(studio.connect->editorWindow(), nullptr);
 }
 
+TEST_F(NodeEvents, CtrlCLeavesTheOpenEditorAsItIs) {
+    studio.click("RCPR1");
+    const std::string caption = studio.window().caption();
+    const forms::Picture picture = studio.host.clipboard.picture();
+    studio.press("RCPU2", key::c, shift::ctrl);
+    EXPECT_EQ(record.beeps, 1);
+    EXPECT_EQ(studio.window().nodeKey(), "RCPR1");
+    EXPECT_EQ(studio.window().caption(), caption);
+    EXPECT_TRUE(record.popUps.empty());
+    EXPECT_EQ(studio.boxes(), Texts{});
+    EXPECT_EQ(studio.host.clipboard.picture(), picture);
+}
+
 TEST_F(NodeEvents, CWithoutCtrlDoesNothing) {
     open();
     for (const std::int16_t state : {shift::none, shift::shift, shift::alt}) studio.press("RCPR1", key::c, state);
@@ -226,12 +248,12 @@ TEST_F(NodeEvents, TheCommandKeysClickTheToolsOfTheRecipeMenu) {
         {"RCPR1", key::o, shift::none, ""},
     };
     for (const CommandKey& row : rows) {
-        // A disabled tool answers a click by a beep, which tells the click from none.
+        // A disabled tool answers a click by a beep: the one that is expected, or any when none is.
         for (const char* tool : {"mnuRecipeNew", "mnuRecipeEdit", "mnuRecipeDelete"}) {
             studio.window()
                 .abr->band(automation::Variant("mnuRecipe"))
                 .tool(automation::Variant(tool))
-                .setEnabled(std::string_view(tool) != row.tool);
+                .setEnabled(*row.tool != 0 && std::string_view(tool) != row.tool);
         }
         studio.host.script.onModal.clear();
         const std::int32_t before = record.beeps;
@@ -248,11 +270,19 @@ TEST_F(NodeEvents, ADisabledCommandBeeps) {
 }
 
 TEST_F(NodeEvents, KeysBeforeTheEditorExistsAreIgnored) {
-    for (const std::int16_t code : {key::f6, key::f8, key::f9, key::f1}) studio.press("RCPR1", code);
+    for (const std::int16_t code : {key::f8, key::f9, key::f1}) studio.press("RCPR1", code);
     studio.press("RCPR1", key::del, shift::ctrl);
     EXPECT_EQ(studio.connect->editorWindow(), nullptr);
     EXPECT_EQ(record.beeps, 0);
     EXPECT_TRUE(record.help.empty());
+}
+
+TEST_F(NodeEvents, F6OpensTheEditorOnTheSelectedNode) {
+    studio.host.explorer.select("RCPE0");
+    studio.press("RCPE0", key::f6);
+    ASSERT_NE(studio.connect->editorWindow(), nullptr);
+    EXPECT_EQ(studio.window().nodeKey(), "RCPE");
+    EXPECT_EQ(record.broughtToFront, (Texts{"frmtabgrid"}));
 }
 
 TEST_F(NodeEvents, F6ShowsTheSelectedNodeAndRestoresTheWindow) {
@@ -297,8 +327,9 @@ struct HelpKey {
 
 TEST_F(NodeEvents, F1OpensTheHelpOfTheNode) {
     studio.host.registry.writeString(host::registry_keys::tarnwell, "Common", "C:\\Shared");
+    studio.connect->Terminate();
     studio.start();
-    (void)studio.boxes();
+    EXPECT_EQ(studio.boxes(), Texts{});
     open();
     const HelpKey rows[] = {{"RCPE0", 100001}, {"RCPR1", 100019}, {"RCPU1", 100020}};
     for (const HelpKey& row : rows) {
@@ -307,7 +338,7 @@ TEST_F(NodeEvents, F1OpensTheHelpOfTheNode) {
         ASSERT_EQ(record.help.size(), 1u) << row.node;
         EXPECT_EQ(record.help[0].context, row.context) << row.node;
         EXPECT_EQ(record.help[0].owner, studio.window().handle());
-        EXPECT_EQ(record.help[0].file, studio.connect->help().file());
+        EXPECT_EQ(record.help[0].file, "C:\\Shared\\helpfiles\\Rezeptsystem.chm");
     }
     record.help.clear();
     studio.press("VARS1", key::f1);

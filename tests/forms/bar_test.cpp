@@ -150,6 +150,11 @@ TEST_F(BarTest, APopUpMenuIsClosedByTheCommandsOfTheMainBand) {
     EXPECT_EQ(names(bar->popUpTools(recipe)), Names{"mnuShowEditor"});
 }
 
+TEST_F(BarTest, APopUpMenuShowsACommandOnceThatStandsInTheMainBandToo) {
+    showEditorEntry();
+    EXPECT_EQ(names(bar->popUpTools(helper)), Names{"mnuShowEditor"});
+}
+
 TEST_F(BarTest, TheMainBandAsPopUpMenuShowsEachToolOnce) {
     showEditorEntry();
     EXPECT_EQ(names(bar->popUpTools(main)), (Names{"mnuRecipes", "mnuOptions", "mnuShowEditorSep", "mnuShowEditor"}));
