@@ -17,7 +17,8 @@ constexpr std::int32_t asNumber(bool value) { return value ? -1 : 0; }
 }  // namespace
 
 Connect::Connect(const host::Services& services) : services_(services), help_(services), embedding_(services, busy_) {
-    resources_.InitResources(services.registry);
+    // Without the registry the texts are German, and the editor works.
+    trap(services.screen, "Connect", [&] { resources_.InitResources(services.registry); });
 }
 
 Connect::~Connect() {
@@ -34,14 +35,14 @@ void Connect::Initialize(const std::string& projectName, const std::string&, hos
 }
 
 void Connect::start(const std::string& projectName, host::ProjectExplorer* explorer) {
+    projectPath_ = projectName_ = projectName;
+    explorer_ = explorer;
+    if (explorer != nullptr) explorerObject_ = std::make_shared<ExplorerObject>(*explorer);
+    ReadLanguageChanged(languageChanged_);
+    if (!ReadCurrentProject(services_, projectPath_)) return;
     if (explorer == nullptr) {
         throw automation::Error(automation::errFail, "The studio gave no project explorer.");
     }
-    projectPath_ = projectName_ = projectName;
-    explorer_ = explorer;
-    explorerObject_ = std::make_shared<ExplorerObject>(*explorer);
-    ReadLanguageChanged(languageChanged_);
-    if (!ReadCurrentProject(services_, projectPath_)) return;
     hostValue_ = explorer->hostWindow();
     InitTreeView(services_, *explorer, resources_, images_, rootAdded_);
     if (rootAdded_) help_.SetHelpFile();
@@ -105,7 +106,8 @@ void Connect::fillEditor() {
     trap(services_.screen, "Connect: AddRecipeNodes", [&] { addRecipeNodes(*data.rsRecipes, *explorer_, resources_); });
     // The preset query gives the members of all recipes; the root shows none.
     data.rstabRecipeMembers->setSource(recipe::memberQuery(root));
-    editor_->bindGrid();
+    // A grid that cannot be bound is bound with the next node.
+    trap(services_.screen, "Connect: BindGrid", [&] { editor_->bindGrid(); });
     editor_->MenuSwitcher(root, false);
     editor_->MakeMyCaption(root, {});
     editor_->show();

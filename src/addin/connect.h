@@ -22,7 +22,7 @@ inline constexpr std::string_view connectProgramId = "HXRecipeEditor.Connect";
 /// is shown in a message box under the name of the procedure that met it.
 class Connect : public host::CHX4Extensibility, public editor::AddIn {
   public:
-    /// Reads the language and registers the texts; throws automation::Error when the registry cannot be read. The
+    /// Reads the language and registers the texts; German ones, after a message, when the registry cannot be read. The
     /// services must outlive the object.
     explicit Connect(const host::Services& services);
     ~Connect() override;

@@ -40,7 +40,7 @@ TEST_F(ClosingTheEditor, TerminateRemovesTheBranchAndEndsTheWindow) {
 }
 
 TEST_F(ClosingTheEditor, GivesTheWindowMinusOneAsItsParent) {
-    forms::WindowHandle parent = 0;
+    forms::WindowHandle parent = 77;
     const auto watched = studio.window().queryUnloadEvent.subscribe([&](bool&, forms::UnloadMode mode) {
         parent = studio.host.windows.parent(studio.window().handle());
         EXPECT_EQ(mode, forms::UnloadMode::byCode);
@@ -49,6 +49,7 @@ TEST_F(ClosingTheEditor, GivesTheWindowMinusOneAsItsParent) {
     EXPECT_EQ(studio.host.windows.parent(studio.window().handle()), studio.host.explorer.hostWindow());
     studio.connect->Terminate();
     EXPECT_EQ(parent, 0) << "-1 is the top level";
+    EXPECT_EQ(studio.host.windows.lastParentAsked(), -1);
 }
 
 TEST_F(ClosingTheEditor, SavesAPendingEdit) {
@@ -151,7 +152,8 @@ TEST_F(ClosingTheEditor, AnAddInReleasedWithoutTerminateEndsItsWindow) {
 
 TEST_F(ClosingTheEditor, TerminateKeepsTheOpenedFlagSoThatLaterClicksDoNothing) {
     studio.connect->Terminate();
-    studio.click("RCPR1");
+    studio.connect->Initialize("Plant", "", &studio.host.explorer, nullptr);
+    studio.click("RCPE0");
     EXPECT_EQ(studio.connect->editorWindow(), nullptr);
     EXPECT_EQ(studio.boxes(), Texts{});
 }

@@ -52,9 +52,12 @@ TEST_F(Module, EmptiesTheObjectItIsGiven) {
     EXPECT_EQ(object, nullptr);
 }
 
-TEST_F(Module, GivesAnEmptyObjectWhenTheAddInCannotBeCreated) {
+TEST_F(Module, GivesAnAddInWithGermanTextsWhenTheRegistryCannotBeRead) {
     studio.host.registry.failWith(automation::Error(automation::errFail, "No registry."));
-    EXPECT_EQ(create("HXRecipeEditor.Connect"), nullptr);
+    const auto addIn = std::dynamic_pointer_cast<Connect>(create("HXRecipeEditor.Connect"));
+    ASSERT_NE(addIn, nullptr);
+    EXPECT_EQ(addIn->texts().GetResource(102), "Rezepte");
+    EXPECT_EQ(studio.boxes(), (Texts{"Connect|-2147467259: No registry."}));
 }
 
 TEST_F(Module, TheAddInIsDrivenByTheExtensibilityInterface) {

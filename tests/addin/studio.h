@@ -1,5 +1,6 @@
 #pragma once
 
+#include <gtest/gtest.h>
 #include <string>
 #include <vector>
 
@@ -69,7 +70,10 @@ struct Studio {
     /// The boxes since the last call, each as "title|text".
     [[nodiscard]] std::vector<std::string> boxes() {
         std::vector<std::string> shown;
-        for (const headless::Message& box : host.record.messages) shown.push_back(box.title + "|" + box.text);
+        for (const headless::Message& box : host.record.messages) {
+            EXPECT_EQ(box.style, forms::message::ok) << box.text;
+            shown.push_back(box.title + "|" + box.text);
+        }
         host.record.messages.clear();
         return shown;
     }
