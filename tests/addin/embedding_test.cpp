@@ -180,6 +180,34 @@ TEST_F(Embedding, HookingAndUnhookingRestoresTheProcedure) {
     EXPECT_EQ(windows.procedure(window->handle()), procedure);
 }
 
+TEST_F(Embedding, PassesEveryMessageOnAndReturnsWhatThePreviousProcedureGave) {
+    std::vector<std::int64_t> seen;
+    (void)windows.install(window->handle(), [&](forms::WindowHandle handle, std::uint32_t message, std::uint32_t wParam,
+                                                std::int32_t lParam) {
+        seen = {handle, message, wParam, lParam};
+        return 42;
+    });
+    embedding.HookEditorWindow(*window);
+    const forms::WindowHandle handle = window->handle();
+    for (const bool busy : {false, true}) {
+        connect->busy().set(busy);
+        for (const std::uint32_t message : {0x400u, window::activateMessage, embedding.editorMessage()}) {
+            EXPECT_EQ(windows.sendMessage(handle, message, 3, 4), 42);
+            EXPECT_EQ(seen, (std::vector<std::int64_t>{handle, message, 3, 4}));
+        }
+    }
+}
+
+TEST_F(Embedding, TheSavedProcedureIsKeptAfterUnhooking) {
+    const auto original = windows.procedure(window->handle());
+    embedding.HookEditorWindow(*window);
+    embedding.UnhookEditorWindow(*window);
+    const auto other = windows.install(window->handle(), [](auto, auto, auto, auto) { return 0; });
+    EXPECT_NE(windows.procedure(window->handle()), other);
+    embedding.UnhookEditorWindow(*window);
+    EXPECT_EQ(windows.procedure(window->handle()), original);
+}
+
 TEST(WindowOffset, IsTheDistanceOfTheUpperLeftCornersInPixels) {
     support::MemoryProvider provider;
     headless::Host host(provider);

@@ -156,6 +156,16 @@ TEST_F(Closing, ByTheCloseBoxMakesAnEmbeddingWindowVisibleFirst) {
     EXPECT_EQ(visible, (std::vector<bool>{true, false}));
 }
 
+TEST_F(Closing, ByTheCloseBoxDoesNothingToAnEmbeddingOfAnotherClass) {
+    host.windows.setEmbeddingClass("Frame");
+    window->hide();
+    bool shown = false;
+    const auto watch = window->changed.subscribe([&](std::string_view) { shown = shown || window->visible(); });
+    window->closeByFrame();
+    EXPECT_FALSE(shown);
+    EXPECT_EQ(messages(), Texts{});
+}
+
 TEST_F(Closing, ByCodeLeavesTheEmbeddingAlone) {
     window->hide();
     bool shown = false;

@@ -22,4 +22,9 @@ const automation::MemberTable& EmbeddingEdit::members() const {
     return table;
 }
 
+const automation::MemberTable& EmbeddingOther::members() const {
+    static constexpr automation::MemberTable table{"Frame", {}};
+    return table;
+}
+
 }  // namespace hx::headless

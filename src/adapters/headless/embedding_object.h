@@ -40,4 +40,10 @@ class EmbeddingEdit : public Embedding {
     [[nodiscard]] const automation::MemberTable& members() const override;
 };
 
+/// Any other class: no members.
+class EmbeddingOther : public automation::Dispatch {
+  public:
+    [[nodiscard]] const automation::MemberTable& members() const override;
+};
+
 }  // namespace hx::headless

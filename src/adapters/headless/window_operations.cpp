@@ -107,6 +107,7 @@ bool WindowOperations::isBelow(forms::WindowHandle handle, forms::WindowHandle a
 
 void WindowOperations::setParent(forms::WindowHandle handle, forms::WindowHandle parent) {
     Window& moved = at(handle);
+    lastParentAsked_ = parent;
     const bool toTopLevel = parent == 0 || parent == -1;
     if (!toTopLevel && isBelow(parent, handle)) failInvalid("parent window", parent);
     moved.parent = toTopLevel ? 0 : parent;
@@ -164,7 +165,8 @@ automation::ObjectRef WindowOperations::embeddingObject(forms::WindowHandle hand
     if (at(handle).parent == 0) return nullptr;
     auto& self = const_cast<WindowOperations&>(*this);  // the object works on the windows later
     if (embeddingClass_ == "Window") return std::make_shared<EmbeddingWindow>(self, handle);
-    return std::make_shared<EmbeddingEdit>(self, handle);
+    if (embeddingClass_ == "MDIEdit") return std::make_shared<EmbeddingEdit>(self, handle);
+    return std::make_shared<EmbeddingOther>();
 }
 
 }  // namespace hx::headless

@@ -22,6 +22,8 @@ class WindowOperations : public host::WindowOperations {
     [[nodiscard]] bool exists(forms::WindowHandle handle) const noexcept { return windows_.contains(handle); }
 
     [[nodiscard]] forms::WindowHandle parent(forms::WindowHandle handle) const;  ///< 0 at the top level
+    /// The parent that setParent was last asked for, as it was given.
+    [[nodiscard]] forms::WindowHandle lastParentAsked() const noexcept { return lastParentAsked_; }
     /// A form that is visible and has not been taken out of its parent.
     [[nodiscard]] bool isShown(forms::WindowHandle handle) const;
     void show(forms::WindowHandle handle);
@@ -33,7 +35,7 @@ class WindowOperations : public host::WindowOperations {
     /// Runs the window's procedure.
     std::int32_t sendMessage(forms::WindowHandle handle, std::uint32_t message, std::uint32_t wParam,
                              std::int32_t lParam = 0);
-    /// Class of the studio's objects around embedded windows: "MDIEdit" or "Window".
+    /// Class of the studio's objects around embedded windows: "MDIEdit", "Window"; any other name stands for "Frame".
     void setEmbeddingClass(std::string name) { embeddingClass_ = std::move(name); }
 
     [[nodiscard]] std::uint32_t style(forms::WindowHandle handle) const override;
@@ -70,7 +72,7 @@ class WindowOperations : public host::WindowOperations {
     std::map<host::window::ProcedureAddress, host::window::Procedure> procedures_;
     std::map<std::string, std::uint32_t, IgnoringCase> messages_;
     std::string embeddingClass_ = "MDIEdit";
-    forms::WindowHandle lastHandle_ = 0, active_ = 0;
+    forms::WindowHandle lastHandle_ = 0, active_ = 0, lastParentAsked_ = 0;
     host::window::ProcedureAddress lastProcedure_ = 0;
 };
 
