@@ -8,17 +8,34 @@ namespace {
 
 forms::WindowHandle hostWindow(ExplorerObject& object) { return object.explorer().hostWindow(); }
 
+std::string selectedOwner(ExplorerObject& object) { return object.explorer().selectedNode().owner; }
 std::string selectedKey(ExplorerObject& object) { return object.explorer().selectedNode().key; }
+std::string selectedCaption(ExplorerObject& object) { return object.explorer().selectedNode().caption; }
+
+void takeClipboardImage(ExplorerObject& object, const std::string& key) { object.explorer().takeClipboardImage(key); }
 
 void addNode(ExplorerObject& object, const std::string& parent, const std::string& caption, const std::string& key,
-             const std::string& tag, const std::string& image) {
-    host::NewNode node;
-    node.parent = parent;
-    node.caption = caption;
-    node.key = key;
-    node.tag = tag;
-    node.image = image;
-    object.explorer().addNode(node);
+             const std::string& tag, const std::string& image, bool first, bool second, bool third,
+             std::int32_t number) {
+    object.explorer().addNode({.parent = parent,
+                               .caption = caption,
+                               .key = key,
+                               .tag = tag,
+                               .image = image,
+                               .options = {first, second, third},
+                               .number = number});
+}
+
+std::int32_t childCount(ExplorerObject& object, const std::string& key, std::int32_t levels) {
+    return static_cast<std::int32_t>(object.explorer().childKeys(key, levels).size());
+}
+
+std::string childKey(ExplorerObject& object, const std::string& key, std::int32_t levels, std::int32_t index) {
+    const std::vector<std::string> keys = object.explorer().childKeys(key, levels);
+    if (index < 0 || static_cast<std::size_t>(index) >= keys.size()) {
+        automation::throwBadIndex("ChildKey", automation::Variant(index));
+    }
+    return keys[static_cast<std::size_t>(index)];
 }
 
 void removeNode(ExplorerObject& object, const std::string& key) { object.explorer().removeNode(key); }
@@ -38,12 +55,18 @@ host::ProjectExplorer& ExplorerObject::explorer() const {
 }
 
 const automation::MemberTable& ExplorerObject::members() const {
+    using automation::indexed;
     using automation::method;
     using automation::property;
     static constexpr automation::Member rows[] = {
         property<&hostWindow>("HostWindow", "Handle of the studio window that receives editor windows"),
+        property<&selectedOwner>("SelectedOwner", "Project of the selected node, empty when none is"),
         property<&selectedKey>("SelectedKey", "Key of the selected node, empty when none is"),
-        method<&addNode>("AddNode", "Adds a node: parent key, caption, key, tag, image key"),
+        property<&selectedCaption>("SelectedCaption", "Caption of the selected node, empty when none is"),
+        indexed<&childCount>("ChildCount", "How many nodes lie below a node: key, levels"),
+        indexed<&childKey>("ChildKey", "Key of a node below a node: key, levels, number from 0"),
+        method<&takeClipboardImage>("TakeClipboardImage", "Takes the picture on the clipboard as a node image: key"),
+        method<&addNode>("AddNode", "Adds a node: parent key, caption, key, tag, image key, three options, number"),
         method<&removeNode>("RemoveNode", "Removes a node and all below it"),
         method<&setNodeProperty>("SetNodeProperty", "Sets a numbered property of a node: key, number, value"),
         method<&activate>("Activate", "Gives the explorer the keyboard"),

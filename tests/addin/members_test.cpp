@@ -103,9 +103,21 @@ TEST_F(Members, TheExplorerIsAnObjectThatActsOnTheExplorer) {
     EXPECT_EQ(explorer->get("SelectedKey"), Variant(""));
     studio.host.explorer.select("RCPE0");
     EXPECT_EQ(explorer->get("SelectedKey"), Variant("RCPE0"));
-    const std::vector<Variant> node = {"RCPE0", "Extra", "X1", "tag", "icoRcpRecipe"};
+    EXPECT_EQ(explorer->get("SelectedCaption"), Variant("Rezepte"));
+    const std::vector<Variant> node = {"RCPE0", "Extra", "X1", "tag", "icoRcpRecipe", true, false, true, 7};
     explorer->get("AddNode", node);
     EXPECT_EQ(studio.nodes(), (Texts{"RCPE0", "X1"}));
+    const host::NodeTree& tree = studio.host.explorer.tree();
+    EXPECT_EQ(tree.options(tree.find("X1")), (std::array<bool, 3>{true, false, true}));
+    EXPECT_EQ(tree.number(tree.find("X1")), 7);
+    EXPECT_EQ(explorer->get("ChildCount", std::vector<Variant>{"RCPE0", 1}), Variant(1));
+    EXPECT_EQ(explorer->get("ChildKey", std::vector<Variant>{"RCPE0", 1, 0}), Variant("X1"));
+    EXPECT_EQ(failure([&] {
+                  explorer->get("ChildKey", std::vector<Variant>{"RCPE0", 1, 1});
+              }),
+              automation::errBadIndex);
+    studio.host.clipboard.clear();
+    EXPECT_EQ(failure([&] { explorer->get("TakeClipboardImage", std::vector<Variant>{"x"}); }), automation::errFail);
     explorer->get("SetNodeProperty", std::vector<Variant>{"X1", 1, "Other"});
     EXPECT_EQ(studio.host.explorer.tree().caption(studio.host.explorer.tree().find("X1")), "Other");
     explorer->get("RemoveNode", std::vector<Variant>{"X1"});
