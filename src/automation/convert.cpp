@@ -4,6 +4,8 @@
 #include <charconv>
 #include <cmath>
 #include <limits>
+#include <locale>
+#include <sstream>
 
 #include "automation/error.h"
 #include "automation/text.h"
@@ -61,9 +63,13 @@ class NumberScanner {
 
 double parse(std::string_view number) {
     if (!number.empty() && number.front() == '+') number.remove_prefix(1);
+    const char* const end = number.data() + number.size();
     double value = 0;
-    const auto result = std::from_chars(number.data(), number.data() + number.size(), value);
-    if (result.ec == std::errc::result_out_of_range) throw Error(errOverflow, "Overflow");
+    if (std::from_chars(number.data(), end, value).ec != std::errc::result_out_of_range) return value;
+    // Too large, or too small to be told from 0, which a stream does not refuse.
+    std::istringstream stream{std::string(number)};
+    stream.imbue(std::locale::classic());
+    if (!(stream >> value)) throw Error(errOverflow, "Overflow");
     return value;
 }
 

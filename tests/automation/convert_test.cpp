@@ -43,6 +43,9 @@ TEST(LeadingNumber, StopsAtTheFirstCharacterThatCannotContinueIt) {
     EXPECT_EQ(leadingNumber("1e"), 1);
     EXPECT_EQ(leadingNumber("."), 0);
     EXPECT_EQ(leadingNumber(""), 0);
+    EXPECT_EQ(leadingNumber("1e-400"), 0) << "too small to be told from 0";
+    EXPECT_EQ(leadingNumber("-0." + std::string(400, '0') + "1"), 0);
+    EXPECT_EQ(leadingNumber("0." + std::string(600, '0') + "1e610"), 1e9);
 }
 
 TEST(RoundToInt16, RoundsHalvesToTheEvenNeighbour) {
