@@ -17,6 +17,10 @@ TEST_F(GridRows, ShowTheRecordset) {
     EXPECT_EQ(text(2, "Comment"), "of C");
     EXPECT_EQ(text(1, "ID"), "2");
     EXPECT_EQ(text(1, "Enabled"), "False");
+    recipes->moveFirst();
+    recipes->moveNext();
+    recipes->field("FilePath").setValue(Null{});
+    recipes->update();
     EXPECT_EQ(text(1, "FilePath"), "") << "Null shows nothing";
     EXPECT_EQ(grid.value(1, col("FilePath")), Variant(Null{}));
     EXPECT_EQ(grid.value(1, col("ID")), Variant(2));

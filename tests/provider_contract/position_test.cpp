@@ -152,6 +152,9 @@ TEST_P(Position, EveryComparisonMeansTheSameAsAFilterAndAsASearch) {
     all->field("Enabled").setValue(true);
     all->field("FilePath").setValue("<ProjectDir>\\R");
     all->update();
+    all->moveNext();
+    all->field("FilePath").setValue(automation::Null{});
+    all->update();
     const char* const conditions[] = {
         "ID = 2",
         "ID <> 2",

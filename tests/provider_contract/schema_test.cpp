@@ -36,11 +36,10 @@ TEST_P(Schema, ARecipeOfWhichOnlyTheNameIsGivenStartsWithTheDefaults) {
     const auto recordset = recipes();
     EXPECT_EQ(recordset->field("ID").value(), Variant(1));
     EXPECT_EQ(recordset->field("Name").value(), Variant("Neues Rezept"));
-    EXPECT_TRUE(recordset->field("FilePath").value().isNull());
     EXPECT_EQ(recordset->field("StandardValue").value(), Variant(0.0));
     EXPECT_EQ(recordset->field("Options").value(), Variant(0));
-    for (const char* name : {"VarRecipeName", "VarDescription", "FileExtension", "Comment", "VarLoad", "VarSave",
-                             "VarRead", "VarWrite", "VarSetValue"}) {
+    for (const char* name : {"VarRecipeName", "VarDescription", "FilePath", "FileExtension", "Comment", "VarLoad",
+                             "VarSave", "VarRead", "VarWrite", "VarSetValue"}) {
         EXPECT_EQ(recordset->field(name).value(), Variant("")) << name;
     }
     for (const char* name : {"Enabled", "SaveSubRecipes", "SaveChanges", "CryptEngine"}) {

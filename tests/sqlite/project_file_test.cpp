@@ -52,7 +52,7 @@ TEST_F(ProjectFile, KeepsTheRulesOfItsColumnsWhoeverWrites) {
               SQLITE_CONSTRAINT);
     EXPECT_EQ(sqlite3_exec(file.handle(), "INSERT INTO TrcpRecipe(Name) VALUES(NULL)", nullptr, nullptr, nullptr),
               SQLITE_CONSTRAINT);
-    EXPECT_EQ(file.query("SELECT * FROM TrcpRecipe"), "1|Cola|||NULL||0||||||0.0||0|0|0|0");
+    EXPECT_EQ(file.query("SELECT * FROM TrcpRecipe"), "1|Cola|||||0||||||0.0||0|0|0|0");
 }
 
 TEST_F(ProjectFile, NeverReplacesAFile) {

@@ -97,7 +97,7 @@ MemoryDatabase MemoryDatabase::withRecipeTables() {
                         uniqueText("Name"),
                         text("VarRecipeName"),
                         text("VarDescription"),
-                        {{"FilePath", ado::adLongVarWChar, 0}, Null{}, false},
+                        {{"FilePath", ado::adLongVarWChar, 0}, "", false},
                         text("FileExtension"),
                         boolean("Enabled"),
                         text("Comment"),
