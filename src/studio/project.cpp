@@ -1,6 +1,5 @@
 #include "studio/project.h"
 
-#include <QCoreApplication>
 #include <QFileInfo>
 
 #include "adapters/qt/svg_icon.h"
@@ -37,13 +36,8 @@ Project::~Project() {
 }
 
 void Project::recordFolder() {
-    namespace keys = host::registry_keys;
-    host::Registry& registry = host_.registry();
-    registry.writeString(std::string(keys::projects) + qt::fromQt(name_), "Path",
-                         qt::fromQt(QFileInfo(file_).absolutePath()));
-    if (registry.readString(keys::tarnwell, "Common").empty()) {
-        registry.writeString(keys::tarnwell, "Common", qt::fromQt(QCoreApplication::applicationDirPath()));
-    }
+    host_.registry().writeString(std::string(host::registry_keys::projects) + qt::fromQt(name_), "Path",
+                                 qt::fromQt(QFileInfo(file_).absolutePath()));
 }
 
 void Project::startAddIn() {
@@ -55,7 +49,9 @@ void Project::startAddIn() {
     // The add-in hands its pictures over by the clipboard, where the user may have something else.
     const ClipboardKeeper clipboard;
     // By its name the add-in finds a project in the registry, always with a small extension; else by its file.
-    const QString& known = file_.endsWith(extension) ? name_ : file_;
+    // A name that looks like a file would be taken for one.
+    const bool looksLikeFile = name_.trimmed().endsWith(extension, Qt::CaseInsensitive);
+    const QString& known = file_.endsWith(extension) && !looksLikeFile ? name_ : file_;
     explorer_.setAddIn(addIn_.get());
     addIn_->Initialize(qt::fromQt(known), {}, &explorer_, nullptr);
     addIn_->StartupComplete();

@@ -28,7 +28,7 @@ void ExplorerModel::add(const host::NewNode& node) {
     mark(new_, id);
     if (isNew(parent)) return;  // it comes with its parent
     published_.try_emplace(parent, static_cast<int>(tree_.childCount(parent)) - 1);
-    timer_.start();
+    if (!timer_.isActive()) timer_.start();
 }
 
 void ExplorerModel::remove(std::string_view key) {
@@ -40,7 +40,7 @@ void ExplorerModel::remove(std::string_view key) {
     publishNew();
     mark(goingMarks_, id);
     going_.push_back(id);
-    timer_.start();
+    if (!timer_.isActive()) timer_.start();
 }
 
 ExplorerModel::Id ExplorerModel::require(std::string_view key) {

@@ -89,8 +89,10 @@ void QtExplorer::nodeDoubleClicked(const QModelIndex& node) {
 
 void QtExplorer::nodeExpanded(const QModelIndex& node) {
     if (!isAddIns(node) || byProgram_) return;
+    const bool hadKeyboard = tree_.hasFocus();
     addIn_->NodeExpand(eventOf(node));
     model_.publish();
+    if (hadKeyboard) activate();
 }
 
 void QtExplorer::nodeMouse(const QModelIndex& node, Stage stage, const host::NodeMouse& mouse) {
