@@ -107,7 +107,7 @@ constexpr TextRow editorTexts[] = {
     {704, {"Einstellungen &automatisch beim Verlassen speichern", ""}},
 };
 
-std::string keyOf(std::int32_t id) { return "R" + std::to_string(id); }
+std::string keyOf(std::int64_t id) { return "R" + std::to_string(id); }
 
 void addAll(ResourceTable& table, std::span<const TextRow> rows) {
     for (const TextRow& row : rows) table.AddResource(row.id, row.texts);
@@ -127,12 +127,13 @@ void ResourceTable::InitResources(const host::Registry& registry) {
 
 void ResourceTable::AddResource(std::int32_t id, const std::array<std::string_view, 2>& texts) {
     for (std::int32_t language = 0; language < 2; ++language) {
-        texts_.try_emplace(keyOf(id + language * languageStep), texts[static_cast<std::size_t>(language)]);
+        texts_.try_emplace(keyOf(std::int64_t{id} + language * languageStep),
+                           texts[static_cast<std::size_t>(language)]);
     }
 }
 
 std::string ResourceTable::GetResource(std::int32_t id) const {
-    const auto found = texts_.find(keyOf(id + offset_));
+    const auto found = texts_.find(keyOf(std::int64_t{id} + offset_));
     return found != texts_.end() ? found->second : "Resource " + std::to_string(id) + " not found";
 }
 

@@ -29,6 +29,91 @@ struct Texts {
     std::string_view german, english;
 };
 
+constexpr auto allTexts = std::to_array<Texts>({
+    {10, "OK", "OK"},
+    {11, "Abbrechen", "Cancel"},
+    {12, "&Hilfe", "&Help"},
+    {30, "Strg+", "Ctrl+"},
+    {31, "Umsch+", "Shift+"},
+    {32, "Alt+", "Alt+"},
+    {102, "Rezepte", "Recipes"},
+    {103, "Unterrezepte", "Sub Recipes"},
+    {202, "&Rezepte", "&Recipes"},
+    {203, "Rezept", "Recipe"},
+    {204, "&Neu", "&New"},
+    {205, "&Bearbeiten", "&Edit"},
+    {206, "&Löschen", "&Delete"},
+    {210, "Rezept&elemente", "Recipe &Members"},
+    {211, "Rezeptelement", "Recipe Member"},
+    {212, "&Variablen hinzufügen/löschen        ", "Add/Delete Variable"},
+    {213, "&Bearbeiten", "&Edit"},
+    {214, "&Löschen", "&Delete"},
+    {215, "Neues &Unterrezept", "&New Sub Recipe"},
+    {220, "&Optionen", "&Options"},
+    {221, "Ansicht aktualisieren", "&Actualize Database Connection"},
+    {222, "Statistik", "Statistic"},
+    {223, "Optionen", "Options"},
+    {224, "Report", "Report"},
+    {225, "Konfiguration", "Configuration"},
+    {226, "Editor anzeigen", "Show Editor"},
+    {301, "Variable", "Variable"},
+    {302, "Unterrezept", "Sub Recipe"},
+    {303, "Dateiname", "File Name"},
+    {401, "HelvixStudio Rezepteditor", "HelvixStudio Recipe Editor"},
+    {402, ": ", ": "},
+    {410, "Wollen Sie wirklich das selektierte Rezept und alle darin enthaltenen Elemente löschen ?",
+     "You really want to delete this Recipe and all included Elements ?"},
+    {411, "Wollen Sie wirklich die selektierten Rezeptelemente löschen ?",
+     "You really want to delete the selected Elements"},
+    {421, "Func:", "Func:"},
+    {422, "Rezepte:", "Recipes"},
+    {423, "Rezeptelemente", "Recipe Members"},
+    {500, "Unterrezept auswählen", "Select Sub Recipe"},
+    {501, "&Unterrezept", "&SubRecipe"},
+    {502, "&Dateiname", "&File Name"},
+    {510, "Es muss ein gültiges Unterrezept und ein Item für den Dateinamen gewählt werden",
+     "Please choose a valid SubRecipe and an Item which describes the File Name"},
+    {511, "Es muss ein gültiges Unterrezept gewählt werden", "Please choose a valid SubRecipe"},
+    {550, "Initialisierung Unterrezeptdialog fehlgeschlagen", "Error: Initializing SubRecipe Dalog"},
+    {551, "Zurückschreiben Unterrezeptdialog fehlgeschlagen", "Error: Write Back SubRecipe Dalog"},
+    {600, "FRECIPE", "FRECIPE"},
+    {601, "Standard", "Standard"},
+    {602, "Erweitert", "Extended"},
+    {603, "Name", "Name"},
+    {604, "Rezeptdateiname", "Recipe File Name"},
+    {605, "Dateiendung", "File Extension"},
+    {606, "Kommentar", "Comment"},
+    {607, "Erweitert", "Extended"},
+    {608, "Beschreibungsvariable", "Description Variable"},
+    {609, "Ladetrigger", "Load Trigger"},
+    {610, "Bitnummer", "Bitnumber"},
+    {611, "Speichertrigger", "Save Trigger"},
+    {612, "Lesetrigger", "Read Trigger"},
+    {613, "Schreibtrigger", "Write Trigger"},
+    {614, "Automatisch laden", "automatic Save"},
+    {615, "Definition &aktiv", "Definition &active"},
+    {621, "Rezeptdefinition", "Recipe Definition"},
+    {622, "Rezeptdateipfad", "Recipe File Path"},
+    {623, "Änderungshistorie aktivieren", "activate Change History"},
+    {624, "Rezeptdateien verschlüsseln", "Crypt Recipe Files"},
+    {630, "Rezeptwerte...", "Recipe Value"},
+    {631, "absolut", "absolute"},
+    {632, "relativ", "relative"},
+    {633, "Normfaktor", "Norm Factor"},
+    {634, "Sollfaktorvariable", "Multiply Factor Variable"},
+    {635, "Unterrezeptwerte hier speichern", "Save Sub Recipe Values here"},
+    {640, "Optionen", "Options"},
+    {641, "Transferverhalten", "Transfer behaviour"},
+    {642, "Dateioptionen", "File Options"},
+    {643, "geänderte Werte direkt schreiben", "Write changed values immediate"},
+    {644, "geänderte Werte direkt speichern", "Save changed values immediate"},
+    {700, "Optionen", "Options"},
+    {701, "&Editorfont", "&Editor Font"},
+    {702, "Abfrage vor &Löschen", "Request before &Delete"},
+    {703, "&Statuszeile anzeigen", "Display &Status Line"},
+    {704, "Einstellungen &automatisch beim Verlassen speichern", ""},
+});
+
 class TextTest : public ::testing::TestWithParam<Texts> {};
 
 TEST_P(TextTest, StandsInBothLanguages) {
@@ -38,42 +123,11 @@ TEST_P(TextTest, StandsInBothLanguages) {
 
 std::string numberOf(const ::testing::TestParamInfo<Texts>& row) { return std::to_string(row.param.id); }
 
-INSTANTIATE_TEST_SUITE_P(
-    Uneven, TextTest,
-    ::testing::Values(
-        Texts{212, "&Variablen hinzufügen/löschen        ", "Add/Delete Variable"}, Texts{402, ": ", ": "},
-        Texts{410, "Wollen Sie wirklich das selektierte Rezept und alle darin enthaltenen Elemente löschen ?",
-              "You really want to delete this Recipe and all included Elements ?"},
-        Texts{411, "Wollen Sie wirklich die selektierten Rezeptelemente löschen ?",
-              "You really want to delete the selected Elements"},
-        Texts{422, "Rezepte:", "Recipes"},
-        Texts{550, "Initialisierung Unterrezeptdialog fehlgeschlagen", "Error: Initializing SubRecipe Dalog"},
-        Texts{551, "Zurückschreiben Unterrezeptdialog fehlgeschlagen", "Error: Write Back SubRecipe Dalog"},
-        Texts{614, "Automatisch laden", "automatic Save"},
-        Texts{704, "Einstellungen &automatisch beim Verlassen speichern", ""}),
-    numberOf);
-
-INSTANTIATE_TEST_SUITE_P(
-    OfEachGroup, TextTest,
-    ::testing::Values(
-        Texts{10, "OK", "OK"}, Texts{11, "Abbrechen", "Cancel"}, Texts{12, "&Hilfe", "&Help"},
-        Texts{30, "Strg+", "Ctrl+"}, Texts{31, "Umsch+", "Shift+"}, Texts{32, "Alt+", "Alt+"},
-        Texts{102, "Rezepte", "Recipes"}, Texts{103, "Unterrezepte", "Sub Recipes"}, Texts{206, "&Löschen", "&Delete"},
-        Texts{221, "Ansicht aktualisieren", "&Actualize Database Connection"}, Texts{303, "Dateiname", "File Name"},
-        Texts{401, "HelvixStudio Rezepteditor", "HelvixStudio Recipe Editor"},
-        Texts{510, "Es muss ein gültiges Unterrezept und ein Item für den Dateinamen gewählt werden",
-              "Please choose a valid SubRecipe and an Item which describes the File Name"},
-        Texts{600, "FRECIPE", "FRECIPE"}, Texts{623, "Änderungshistorie aktivieren", "activate Change History"},
-        Texts{644, "geänderte Werte direkt speichern", "Save changed values immediate"},
-        Texts{703, "&Statuszeile anzeigen", "Display &Status Line"}),
-    numberOf);
+INSTANTIATE_TEST_SUITE_P(Every, TextTest, ::testing::ValuesIn(allTexts), numberOf);
 
 TEST(ResourceTable, HoldsSeventyNineTexts) {
-    const std::set<std::int32_t> expected{
-        10,  11,  12,  30,  31,  32,  102, 103, 202, 203, 204, 205, 206, 210, 211, 212, 213, 214, 215, 220,
-        221, 222, 223, 224, 225, 226, 301, 302, 303, 401, 402, 410, 411, 421, 422, 423, 500, 501, 502, 510,
-        511, 550, 551, 600, 601, 602, 603, 604, 605, 606, 607, 608, 609, 610, 611, 612, 613, 614, 615, 621,
-        622, 623, 624, 630, 631, 632, 633, 634, 635, 640, 641, 642, 643, 644, 700, 701, 702, 703, 704};
+    std::set<std::int32_t> expected;
+    for (const Texts& row : allTexts) expected.insert(row.id);
     ASSERT_EQ(expected.size(), 79U);
     for (const std::int32_t language : {german, english}) {
         const ResourceTable table = tableFor(language);
@@ -104,6 +158,7 @@ TEST(ResourceTable, NamesAnUnknownNumberWithoutTheLanguagesOffset) {
     EXPECT_EQ(tableFor(english).GetResource(9999), "Resource 9999 not found");
     EXPECT_EQ(tableFor(english).GetResource(310), "Resource 310 not found");
     EXPECT_EQ(tableFor(german).GetResource(-1), "Resource -1 not found");
+    EXPECT_EQ(tableFor(english).GetResource(2147483647), "Resource 2147483647 not found");
 }
 
 TEST(ResourceTable, KeepsTheFirstTextOfANumber) {

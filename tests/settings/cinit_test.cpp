@@ -81,6 +81,16 @@ TEST_F(CInitTest, HasItsDefaultTextAsOneResource) {
     EXPECT_EQ(std::count(text.begin(), text.end(), '\r'), 35);
 }
 
+TEST_F(CInitTest, ShowsAndSizesBothColumnsByDefault) {
+    loadDefaults();
+    for (const char* column : {"VarRecipe", "ChildID"}) {
+        for (const char* property : {"AllowSizing", "Visible"}) {
+            const std::string entry = "tdbRM.Columns(\"" + std::string(column) + "\")." + property;
+            EXPECT_EQ(read(entry), Variant(true)) << entry;
+        }
+    }
+}
+
 TEST_F(CInitTest, FailsWithoutADefaultText) {
     EXPECT_EQ(errorOf([&] { inits.LoadDefaultInit("other"); }), 326);
     EXPECT_EQ(inits.root().Count(), 0);
@@ -207,6 +217,7 @@ TEST_F(CInitTest, WritesNumbersInTheUsersLocaleAndReadsThemBack) {
     EXPECT_EQ(english.ReadAValueFromCInits("tdbRMColOrders", Variant()), Variant(",0,1,2,3"));
     english.SaveInits("");
     EXPECT_EQ(stored("Me.Font.Size"), "8.25");
+    EXPECT_EQ(stored("tdbRMColOrders"), ",0,1,2,3");
 }
 
 TEST_F(CInitTest, SavesToTheFileOfTheLastLoadWithoutAPath) {

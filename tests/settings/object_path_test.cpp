@@ -63,6 +63,8 @@ TEST_F(ObjectPathTest, AssignsNumbersAsWholeOnesRoundingHalvesToEven) {
 TEST_F(ObjectPathTest, AssignsTextAsText) {
     set("Me.Caption", Variant("-5"));
     EXPECT_EQ(window->caption(), "-5");
+    set("Me.Caption", Variant("-5,50"));
+    EXPECT_EQ(window->caption(), "-5,50") << "no number on the way";
     set("Me.PosLeft", Variant("-5"));
     EXPECT_EQ(window->posLeft, -5);
 }
