@@ -15,7 +15,7 @@ using sqlite::Statement;
 
 namespace {
 
-constexpr std::int64_t mostVariables = 10'000;  // a plant has no more; recipes use them again and again
+constexpr std::int64_t usualVariables = 10'000;  // a plant has no more; recipes use them again and again
 constexpr std::int64_t blockSize = 32;
 
 // The file is thrown away when anything goes wrong, so nothing has to be safe before it is finished.
@@ -26,7 +26,8 @@ class Generator {
     Generator(const GeneratePlan& plan, const std::string& file, const Output& output)
         : plan_(plan),
           database_(file),
-          variables_(std::min(mostVariables, std::max(plan.members, plan.bigMembers))),
+          membersEach_(plan.recipes == 0 ? 0 : (plan.members + plan.recipes - 1) / plan.recipes),
+          variables_(std::max({std::min(usualVariables, plan.members), membersEach_, plan.bigMembers})),
           progress_(output, plan.recipes + plan.members + plan.bigMembers) {}
 
     void run() {
@@ -79,21 +80,28 @@ class Generator {
             std::int64_t& written = takeBig ? big : spread;
             const std::int64_t end = std::min(written + blockSize, takeBig ? plan_.bigMembers : plan_.members);
             for (; written < end; ++written) {
-                addMember(insert, takeBig ? 1 : firstSpread + written % plan_.recipes, written);
+                if (takeBig) addMember(insert, 1, written);
+                else addMember(insert, firstSpread + written % plan_.recipes, spreadVariable(written));
             }
         }
     }
 
-    void addMember(Statement& insert, std::int64_t recipe, std::int64_t number) {
+    // A recipe has each of its variables once.
+    [[nodiscard]] std::int64_t spreadVariable(std::int64_t written) const {
+        return (written % plan_.recipes * membersEach_ + written / plan_.recipes) % variables_;
+    }
+
+    void addMember(Statement& insert, std::int64_t recipe, std::int64_t variable) {
         const ResetGuard guard(insert);
         insert.bind(1, recipe);
-        insert.bind(2, Variant(variableName(number % variables_)));
+        insert.bind(2, Variant(variableName(variable)));
         insert.step();
         progress_.reach(++done_);
     }
 
     const GeneratePlan& plan_;
     sqlite::Database database_;
+    std::int64_t membersEach_;
     std::int64_t variables_;
     Progress progress_;
     std::int64_t done_ = 0;

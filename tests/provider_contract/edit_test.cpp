@@ -137,6 +137,33 @@ TEST_P(Edit, AddNewWithValuesStoresAtOnce) {
     EXPECT_EQ(stored("TrcpRecipeMember", "ChildID"), "2");
 }
 
+TEST_P(Edit, ARecipeHasAVariableOnce) {
+    const auto recordset = members();
+    const auto add = [&](std::int32_t parent, const char* variable, std::int32_t child = 0) {
+        recordset->addNew(Values{{"ParentID", parent}, {"VarRecipe", variable}, {"ChildID", child}});
+    };
+    add(1, "Tank.Level");
+    EXPECT_EQ(errorOf([&] { add(1, "TANK.Level"); }), ado::dbErrDuplicate);
+    recordset->cancelUpdate();
+    EXPECT_EQ(stored("TrcpRecipeMember", "VarRecipe"), "Tank.Level");
+    add(2, "Tank.Level");
+    add(1, "Tank.Temp");
+    recordset->field("VarRecipe").setValue("tank.level");
+    EXPECT_EQ(errorOf([&] { recordset->update(); }), ado::dbErrDuplicate);
+    recordset->cancelUpdate();
+    EXPECT_EQ(recordset->field("VarRecipe").value(), Variant("Tank.Temp"));
+}
+
+TEST_P(Edit, EmptyVariablesAndThoseOfSubRecipesMayRepeat) {
+    const auto recordset = members();
+    for (int i = 0; i < 2; ++i) {
+        recordset->addNew(Values{{"ParentID", 1}, {"VarRecipe", ""}, {"ChildID", 0}});
+        recordset->addNew(Values{{"ParentID", 1}, {"VarRecipe", "CIP.Datei"}, {"ChildID", 2}});
+    }
+    recordset->addNew(Values{{"ParentID", 1}, {"VarRecipe", "CIP.Datei"}, {"ChildID", 0}});
+    EXPECT_EQ(recordset->recordCount(), 5);
+}
+
 TEST_P(Edit, AddNewWithAnUnknownColumnStoresNothing) {
     const auto recordset = recipes();
     EXPECT_EQ(errorOf([&] { recordset->addNew(Values{{"Name", "D"}, {"NoColumn", 1}}); }), ado::adErrItemNotFound);
@@ -186,7 +213,7 @@ TEST_P(Edit, ANewRowStandsAtTheEndEvenOfAnOrderedRecordset) {
 
 TEST_P(Edit, ManyNewRowsNeedNoKeysToBeRead) {
     const auto recordset = members();
-    for (int i = 0; i < 300; ++i) recordset->addNew(Values{{"VarRecipe", "V"}, {"ParentID", 1}, {"ChildID", 0}});
+    for (int i = 0; i < 300; ++i) recordset->addNew(Values{{"VarRecipe", "V"}, {"ParentID", i}, {"ChildID", 0}});
     EXPECT_EQ(recordset->field("ID").value(), Variant(300));
     EXPECT_EQ(recordset->recordCount(), 300);
 }

@@ -148,7 +148,9 @@ TEST_P(Fault, AReplacementFailsAsAWholeWhereverItFails) {
             Recordset command;
             command.open("DELETE * FROM TrcpRecipeMember WHERE ParentID = 1", connection_);
             const auto table = members();
-            for (int i = 0; i < 5; ++i) table->addNew(Values{{"ParentID", 1}, {"VarRecipe", "N"}, {"ChildID", 0}});
+            for (int i = 0; i < 5; ++i) {
+                table->addNew(Values{{"ParentID", 1}, {"VarRecipe", "N" + std::to_string(i)}, {"ChildID", 0}});
+            }
             connection_->commitTrans();
         } catch (const automation::Error&) {
             plan_.disarm();

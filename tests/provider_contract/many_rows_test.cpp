@@ -63,7 +63,7 @@ TEST_P(ManyRows, AreConvertedToTheColumnsTypes) {
 }
 
 TEST_P(ManyRows, AreSeenByTheRecordsetsOnTheConnection) {
-    addVariables(7, 2);
+    addVariables(8, 2);
     const auto storing = members();
     const auto copy = storing->clone();
     EXPECT_EQ(storing->recordCount(), 2);

@@ -154,9 +154,9 @@ TEST_P(Schema, NamesAreUniqueIgnoringCaseAlsoOfUmlauts) {
     EXPECT_EQ(stored("TrcpRecipe", "Name"), "MÜhle,Cola");
 }
 
-TEST_P(Schema, MembersMayHaveEqualNames) {
+TEST_P(Schema, MembersOfTwoRecipesMayHaveEqualNames) {
     addVariables(1, 1);
-    addVariables(1, 1);
+    addVariables(2, 1);
     EXPECT_EQ(stored("TrcpRecipeMember", "VarRecipe"), "V1,V1");
 }
 

@@ -18,7 +18,8 @@ class Durability : public ProjectTest {
         const auto connection = connect();
         connection->beginTrans();
         const auto members = open(connection, "TrcpRecipeMember");
-        for (int i = 0; i < 400; ++i) members->addNew(member("a variable with a name of some length"));
+        for (int i = 0; i < 400; ++i)
+            members->addNew(member("a variable with a name of some length " + std::to_string(i)));
         open(connection, "TrcpRecipe")->addNew(Values{{"Name", "Cola"}});
         connection->commitTrans();
         connection->close();
@@ -35,7 +36,7 @@ class Durability : public ProjectTest {
         ado::Recordset command;
         command.open("DELETE * FROM TrcpRecipeMember WHERE ParentID = 1", connection);
         const auto members = open(connection, "TrcpRecipeMember");
-        for (int i = 0; i < 5; ++i) members->addNew(member("new"));
+        for (int i = 0; i < 5; ++i) members->addNew(member("new " + std::to_string(i)));
         connection->commitTrans();
     }
 

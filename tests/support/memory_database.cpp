@@ -9,8 +9,8 @@ using automation::Error;
 using automation::Null;
 using automation::Variant;
 
-MemoryTable::MemoryTable(std::string name, std::vector<MemoryColumn> columns)
-    : name_(std::move(name)), definitions_(std::move(columns)) {
+MemoryTable::MemoryTable(std::string name, std::vector<MemoryColumn> columns, Conflict conflict)
+    : name_(std::move(name)), definitions_(std::move(columns)), conflict_(conflict) {
     for (const MemoryColumn& definition : definitions_) columns_.push_back(definition.column);
 }
 
@@ -62,6 +62,12 @@ void MemoryTable::requireUnique(ado::Key key, const Row& row) const {
                                                  columns_[i].name + "\" of table \"" + name_ + "\".");
         }
     }
+    if (conflict_ == nullptr) return;
+    for (const auto& [other, values] : rows_) {
+        if (other != key && conflict_(row, values)) {
+            throw Error(ado::dbErrDuplicate, "Table \"" + name_ + "\" has such a row already.");
+        }
+    }
 }
 
 MemoryTable& MemoryDatabase::addTable(MemoryTable table) { return tables_.emplace_back(std::move(table)); }
@@ -88,6 +94,16 @@ MemoryColumn uniqueText(std::string name) {
     return column;
 }
 
+// A recipe has a variable once; sub-recipes may share the variable of their file name.
+bool sameVariable(const MemoryTable::Row& row, const MemoryTable::Row& other) {
+    constexpr std::size_t parent = 1, variable = 2, child = 3;
+    const auto isVariable = [](const MemoryTable::Row& each) {
+        return toText(each[child]) == "0" && !toText(each[variable]).empty();
+    };
+    return isVariable(row) && isVariable(other) && toText(row[parent]) == toText(other[parent]) &&
+           automation::equalIgnoreCase(toText(row[variable]), toText(other[variable]));
+}
+
 }  // namespace
 
 MemoryDatabase MemoryDatabase::withRecipeTables() {
@@ -111,7 +127,8 @@ MemoryDatabase MemoryDatabase::withRecipeTables() {
                         boolean("SaveChanges"),
                         boolean("CryptEngine"),
                         integer("Options")}});
-    database.addTable({"TrcpRecipeMember", {key("ID"), integer("ParentID"), text("VarRecipe"), integer("ChildID")}});
+    database.addTable(
+        {"TrcpRecipeMember", {key("ID"), integer("ParentID"), text("VarRecipe"), integer("ChildID")}, &sameVariable});
     return database;
 }
 

@@ -22,7 +22,10 @@ class MemoryTable {
   public:
     using Row = std::vector<automation::Variant>;
 
-    MemoryTable(std::string name, std::vector<MemoryColumn> columns);
+    /// Whether two rows may not stand in the table together, beyond its unique columns.
+    using Conflict = bool (*)(const Row& row, const Row& other);
+
+    MemoryTable(std::string name, std::vector<MemoryColumn> columns, Conflict conflict = nullptr);
 
     [[nodiscard]] const std::string& name() const { return name_; }
     [[nodiscard]] const std::vector<ado::Column>& columns() const { return columns_; }
@@ -40,6 +43,7 @@ class MemoryTable {
     std::string name_;
     std::vector<MemoryColumn> definitions_;
     std::vector<ado::Column> columns_;
+    Conflict conflict_;
     std::map<ado::Key, Row> rows_;
     ado::Key lastKey_ = 0;
 };

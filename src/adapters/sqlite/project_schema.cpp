@@ -39,10 +39,13 @@ CREATE TABLE ThxVariable (
 );
 )";
 
-// The first one holds all that a member query asks for, so its keys are read from it alone.
+// The first one holds all that a member query asks for, so its keys are read from it alone. The last one refuses a
+// variable that the recipe has already; sub-recipes may share the variable of their file name.
 constexpr const char* indexes = R"(
 CREATE INDEX IrcpRecipeMember_ParentID_ChildID ON TrcpRecipeMember (ParentID, ChildID);
 CREATE INDEX IrcpRecipeMember_ChildID ON TrcpRecipeMember (ChildID);
+CREATE UNIQUE INDEX IrcpRecipeMember_Variable ON TrcpRecipeMember (ParentID, VarRecipe)
+    WHERE ChildID = 0 AND VarRecipe <> '';
 )";
 
 }  // namespace

@@ -30,10 +30,14 @@ constexpr std::array<Cause, 10> causes = {{
     {SQLITE_NOMEM, "Not enough memory for the file '", "'."},
 }};
 
-// "UNIQUE constraint failed: Table.Column" names the column; so does NOT NULL.
+// "UNIQUE constraint failed: Table.Column" names the column; so does NOT NULL. Of several columns the last one tells
+// the rows of its group apart.
 std::string_view columnIn(std::string_view message) {
-    const auto colon = message.rfind(": ");
-    return colon == std::string_view::npos ? message : message.substr(colon + 2);
+    for (const std::string_view separator : {", ", ": "}) {
+        const auto found = message.rfind(separator);
+        if (found != std::string_view::npos) return message.substr(found + separator.size());
+    }
+    return message;
 }
 
 Error constraintError(std::string_view message) {
