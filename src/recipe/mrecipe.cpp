@@ -1,0 +1,126 @@
+#include "recipe/mrecipe.h"
+
+#include <algorithm>
+#include <array>
+
+#include "automation/text.h"
+#include "recipe/field_text.h"
+#include "recipe/schema.h"
+#include "recipe/stored_row.h"
+
+namespace hx::recipe {
+
+using automation::NumberFormat;
+using automation::Variant;
+using dialogs::FRecipe;
+using forms::CheckState;
+
+namespace {
+
+namespace column = schema::recipe;
+
+// These texts are German in every language.
+constexpr std::string_view notRead = "Initialisierung Rezept-Dialog fehlgegangen";
+constexpr std::string_view notWritten = "Zurückschreiben von Rezept-Dialog fehlgegangen";
+
+/// How one column passes into the dialog and back.
+struct Transfer {
+    std::string_view column;
+    void (*read)(const ado::Field&, FRecipe&, const NumberFormat&);
+    void (*write)(ado::Field&, const FRecipe&);
+};
+
+template <auto Box>
+void readText(const ado::Field& field, FRecipe& dialog, const NumberFormat& format) {
+    (dialog.*Box)->setText(FieldToText(field, format));
+}
+
+template <auto Box>
+constexpr Transfer text(std::string_view name) {
+    return {name, readText<Box>,
+            [](ado::Field& field, const FRecipe& dialog) { TextToField(field, (dialog.*Box)->text()); }};
+}
+
+template <auto Box>
+constexpr Transfer check(std::string_view name) {
+    return {name,
+            [](const ado::Field& field, FRecipe& dialog, const NumberFormat&) {
+                (dialog.*Box)->setValue(FieldToCheck(field));
+            },
+            [](ado::Field& field, const FRecipe& dialog) { CheckToField(field, (dialog.*Box)->value()); }};
+}
+
+void readStandardValue(const ado::Field& field, FRecipe& dialog, const NumberFormat& format) {
+    readText<&FRecipe::txtStandardValue>(field, dialog, format);
+    const bool absolute = dialog.txtStandardValue->text() == "0";
+    dialog.optRecipeAbsrel.at(absolute ? FRecipe::absolute : FRecipe::relative)->setValue(true);
+}
+
+CheckState stateOf(bool checked) { return checked ? CheckState::checked : CheckState::unchecked; }
+
+void readOptions(const ado::Field& field, FRecipe& dialog, const NumberFormat&) {
+    const TransferOptions options = SplitOptions(field.value());
+    dialog.chkWriteThru->setValue(stateOf(options.writeThrough));
+    dialog.chkSaveThru->setValue(stateOf(options.saveThrough));
+}
+
+void writeOptions(ado::Field& field, const FRecipe& dialog) {
+    const auto set = [](const forms::CheckBox& box) { return box.value() != CheckState::unchecked; };
+    field.setValue(JoinOptions({set(*dialog.chkWriteThru), set(*dialog.chkSaveThru)}));
+}
+
+constexpr auto transfers = std::to_array<Transfer>({
+    text<&FRecipe::txtName>(column::name),
+    text<&FRecipe::txtRecipeName>(column::varRecipeName),
+    // Its type takes more than a text of variable length: it is stored as it is.
+    {column::filePath, readText<&FRecipe::cboFilePath>,
+     [](ado::Field& field, const FRecipe& dialog) { field.setValue(dialog.cboFilePath->text()); }},
+    text<&FRecipe::txtDescription>(column::varDescription),
+    text<&FRecipe::txtFileExtension>(column::fileExtension),
+    check<&FRecipe::chkEnabled>(column::enabled),
+    text<&FRecipe::txtComment>(column::comment),
+    text<&FRecipe::txtVarSave>(column::varSave),
+    text<&FRecipe::txtVarLoad>(column::varLoad),
+    text<&FRecipe::txtVarRead>(column::varRead),
+    text<&FRecipe::txtVarWrite>(column::varWrite),
+    {column::standardValue, readStandardValue, text<&FRecipe::txtStandardValue>(column::standardValue).write},
+    text<&FRecipe::txtVarSetValue>(column::varSetValue),
+    check<&FRecipe::chkSaveSubRecipes>(column::saveSubRecipes),
+    check<&FRecipe::chkSaveChanges>(column::saveChanges),
+    check<&FRecipe::chkCryptEngine>(column::cryptEngine),
+    {column::options, readOptions, writeOptions},
+});
+
+const Transfer* transferOf(std::string_view name) {
+    const auto found = std::ranges::find_if(
+        transfers, [&](const Transfer& transfer) { return automation::equalIgnoreCase(transfer.column, name); });
+    return found != transfers.end() ? &*found : nullptr;
+}
+
+}  // namespace
+
+bool EditRecipe(ado::Recordset& recipes, RecipeWindow& window) {
+    const auto dialog = std::make_shared<FRecipe>(window.services(), window.texts(), window.help());
+    if (!ReadRecipeToDialog(recipes, *dialog, window.services().numberFormat)) {
+        window.tell(notRead);
+        return false;
+    }
+    showOver(window, *dialog);
+    if (dialog->cancelled()) return false;
+    storeOrRestore(recipes, WriteDialogToRecipe(recipes, *dialog), [&] { window.tell(notWritten); });
+    return true;
+}
+
+bool ReadRecipeToDialog(ado::Recordset& recipes, FRecipe& dialog, const NumberFormat& format) {
+    return forEachField(recipes, [&](const ado::Field& field) {
+        if (const Transfer* transfer = transferOf(field.name())) transfer->read(field, dialog, format);
+    });
+}
+
+bool WriteDialogToRecipe(ado::Recordset& recipes, const FRecipe& dialog) {
+    return forEachField(recipes, [&](ado::Field& field) {
+        if (const Transfer* transfer = transferOf(field.name())) transfer->write(field, dialog);
+    });
+}
+
+}  // namespace hx::recipe

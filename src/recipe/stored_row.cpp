@@ -1,0 +1,36 @@
+#include "recipe/stored_row.h"
+
+namespace hx::recipe {
+
+using automation::Error;
+
+bool forEachField(ado::Recordset& recordset, const std::function<void(ado::Field&)>& use) noexcept {
+    try {
+        const std::size_t count = recordset.fieldCount();
+        for (std::size_t i = 0; i < count; ++i) use(recordset.field(i));
+        return true;
+    } catch (const std::exception&) {
+        return false;
+    }
+}
+
+void showOver(RecipeWindow& window, dialogs::Dialog& dialog) {
+    forms::Form& owner = window.editorWindow();
+    dialog.setOwner(owner.share());
+    dialog.showModal(owner.handle());
+}
+
+void storeOrRestore(ado::Recordset& recordset, bool written, const std::function<void()>& tell) {
+    if (!written) {
+        tell();
+        return recordset.resync(ado::adAffectCurrent);
+    }
+    try {
+        recordset.update();
+    } catch (const Error&) {
+        recordset.cancelUpdate();
+        throw;
+    }
+}
+
+}  // namespace hx::recipe

@@ -1,0 +1,351 @@
+#include "recipe/mrecipe.h"
+
+#include "automation/convert.h"
+#include "dialog_window.h"
+
+namespace hx::recipe {
+namespace {
+
+using automation::Error;
+using automation::Null;
+using automation::Variant;
+using dialogs::FRecipe;
+using forms::CheckState;
+
+/// The columns of the table, by number.
+enum Column : std::size_t {
+    ID,
+    Name,
+    VarRecipeName,
+    VarDescription,
+    FilePath,
+    FileExtension,
+    Enabled,
+    Comment,
+    VarLoad,
+    VarSave,
+    VarRead,
+    VarWrite,
+    StandardValue,
+    VarSetValue,
+    SaveSubRecipes,
+    SaveChanges,
+    CryptEngine,
+    Options
+};
+
+struct MRecipe : DialogTest {
+    explicit MRecipe(const headless::HostOptions& options = {}) : DialogTest(options) {
+        plant.addRecipe("Cola");
+        id = plant.addRecipe("Tee");
+        plant.addRecipe("Wasser");
+    }
+
+    void store(Column column, const Variant& value) {
+        const std::vector<ado::ColumnValue> values = {{column, value}};
+        plant.database.table("TrcpRecipe").update(id, values);
+    }
+    [[nodiscard]] Variant stored(Column column) { return DialogTest::stored("TrcpRecipe", id, column); }
+    [[nodiscard]] std::vector<Variant> storedRow() { return *plant.database.table("TrcpRecipe").row(id); }
+
+    /// Positions the recipes and edits; the script works on the dialog.
+    bool edit() {
+        OpenAndMoveFirst(recipes);
+        recipes.find("ID=" + std::to_string(id));
+        return EditRecipe(recipes, *window);
+    }
+    /// The user changes something and presses OK.
+    bool editAndConfirm(const std::function<void(FRecipe&)>& change = [](FRecipe&) {}) {
+        inDialog<FRecipe>("FRecipe", [change](FRecipe& dialog) {
+            change(dialog);
+            dialog.cmdOk->click();
+        });
+        return edit();
+    }
+    /// Looks at the filled dialog, which is then cancelled.
+    void lookAt(const std::function<void(FRecipe&)>& look) {
+        inDialog<FRecipe>("FRecipe", [look](FRecipe& dialog) {
+            look(dialog);
+            dialog.cmdCancel->click();
+        });
+        EXPECT_FALSE(edit());
+        EXPECT_EQ(host.record.modals.size(), 1U);
+    }
+
+    ado::Recordset& recipes = *plant.data.rsRecipes;
+    std::int32_t id = 0;
+};
+
+TEST_F(MRecipe, ANormFactorOfZeroOpensWithAbsoluteSelected) {
+    lookAt([](FRecipe& dialog) {
+        EXPECT_TRUE(dialog.optRecipeAbsrel[FRecipe::absolute]->value());
+        EXPECT_FALSE(dialog.optRecipeAbsrel[FRecipe::relative]->value());
+        EXPECT_EQ(dialog.txtStandardValue->text(), "0");
+        EXPECT_FALSE(dialog.txtStandardValue->enabled());
+    });
+}
+
+TEST_F(MRecipe, ANormFactorOfAHalfOpensWithRelativeSelected) {
+    store(StandardValue, 0.5);
+    lookAt([](FRecipe& dialog) {
+        EXPECT_TRUE(dialog.optRecipeAbsrel[FRecipe::relative]->value());
+        EXPECT_FALSE(dialog.optRecipeAbsrel[FRecipe::absolute]->value());
+        EXPECT_EQ(dialog.txtStandardValue->text(), "0.5");
+        EXPECT_TRUE(dialog.txtStandardValue->enabled());
+    });
+}
+
+TEST_F(MRecipe, AMissingNormFactorOpensWithRelativeSelectedAndNoText) {
+    store(StandardValue, Null{});
+    lookAt([](FRecipe& dialog) {
+        EXPECT_TRUE(dialog.optRecipeAbsrel[FRecipe::relative]->value());
+        EXPECT_EQ(dialog.txtStandardValue->text(), "");
+    });
+}
+
+struct MRecipeWithComma : MRecipe {
+    MRecipeWithComma() : MRecipe({.decimalPoint = ","}) {}
+};
+
+TEST_F(MRecipeWithComma, TheNormFactorIsShownWithAPoint) {
+    store(StandardValue, 1.5);
+    lookAt([](FRecipe& dialog) { EXPECT_EQ(dialog.txtStandardValue->text(), "1.5"); });
+}
+
+TEST_F(MRecipe, ATypedCommaIsADecimalPoint) {
+    EXPECT_TRUE(editAndConfirm([](FRecipe& dialog) {
+        dialog.optRecipeAbsrel[FRecipe::relative]->click();
+        dialog.txtStandardValue->setText("1,25");
+    }));
+    EXPECT_EQ(stored(StandardValue), Variant(1.25));
+}
+
+TEST_F(MRecipe, ANormFactorThatIsNoNumberIsItsLeadingNumber) {
+    for (const auto& [text, number] : {std::pair("12abc", 12.0), std::pair("abc", 0.0)}) {
+        editAndConfirm([text = text](FRecipe& dialog) { dialog.txtStandardValue->setText(text); });
+        EXPECT_EQ(stored(StandardValue), Variant(number)) << text;
+    }
+}
+
+TEST_F(MRecipe, CancellingLeavesEveryColumnUnchanged) {
+    store(VarSave, "Tank.Save");
+    const std::vector<Variant> before = storedRow();
+    inDialog<FRecipe>("FRecipe", [](FRecipe& dialog) {
+        dialog.txtName->setText("Kaffee");
+        dialog.txtVarSave->setText("");
+        dialog.chkEnabled->click();
+        dialog.cmdCancel->click();
+    });
+    EXPECT_FALSE(edit());
+    EXPECT_EQ(storedRow(), before);
+    EXPECT_EQ(recipes.editMode(), ado::adEditNone);
+}
+
+TEST_F(MRecipe, ClosingByTheFrameCancels) {
+    const std::vector<Variant> before = storedRow();
+    inDialog<FRecipe>("FRecipe", [](FRecipe& dialog) { dialog.txtName->setText("Kaffee"); });
+    EXPECT_FALSE(edit());
+    EXPECT_EQ(storedRow(), before);
+    EXPECT_TRUE(host.record.modals.at(0).closedByFrame);
+}
+
+TEST_F(MRecipe, OptionTwoOpensWithSaveThroughAloneAndIsWrittenBackAsTwo) {
+    store(Options, 2);
+    editAndConfirm([](FRecipe& dialog) {
+        EXPECT_EQ(dialog.chkWriteThru->value(), CheckState::unchecked);
+        EXPECT_EQ(dialog.chkSaveThru->value(), CheckState::checked);
+    });
+    EXPECT_EQ(stored(Options), Variant(2));
+}
+
+TEST_F(MRecipe, OptionThreeChecksBothBoxes) {
+    store(Options, 3);
+    editAndConfirm([](FRecipe& dialog) {
+        EXPECT_EQ(dialog.chkWriteThru->value(), CheckState::checked);
+        EXPECT_EQ(dialog.chkSaveThru->value(), CheckState::checked);
+    });
+    EXPECT_EQ(stored(Options), Variant(3));
+}
+
+TEST_F(MRecipe, AnOptionWithoutMeaningChecksNeitherBoxAndIsWrittenBackAsZero) {
+    store(Options, 4);
+    editAndConfirm([](FRecipe& dialog) {
+        EXPECT_EQ(dialog.chkWriteThru->value(), CheckState::unchecked);
+        EXPECT_EQ(dialog.chkSaveThru->value(), CheckState::unchecked);
+    });
+    EXPECT_EQ(stored(Options), Variant(0));
+}
+
+TEST_F(MRecipe, AGreyedBoxCountsAsAnOption) {
+    editAndConfirm([](FRecipe& dialog) { dialog.chkWriteThru->setValue(CheckState::greyed); });
+    EXPECT_EQ(stored(Options), Variant(1));
+}
+
+TEST_F(MRecipe, ANullFilePathOpensEmptyAndIsStoredAsAnEmptyString) {
+    store(FilePath, Null{});
+    editAndConfirm([](FRecipe& dialog) { EXPECT_EQ(dialog.cboFilePath->text(), ""); });
+    EXPECT_EQ(stored(FilePath), Variant(""));
+}
+
+TEST_F(MRecipe, NullTextsOpenEmpty) {
+    for (const Column column : {VarRecipeName, Comment, VarSetValue}) store(column, Null{});
+    lookAt([](FRecipe& dialog) {
+        EXPECT_EQ(dialog.txtRecipeName->text(), "");
+        EXPECT_EQ(dialog.txtComment->text(), "");
+        EXPECT_EQ(dialog.txtVarSetValue->text(), "");
+    });
+}
+
+/// A column and the text box that shows it.
+struct TextRow {
+    Column column;
+    std::shared_ptr<forms::TextBox> FRecipe::*box;
+};
+constexpr TextRow textRows[] = {
+    {Name, &FRecipe::txtName},
+    {VarRecipeName, &FRecipe::txtRecipeName},
+    {VarDescription, &FRecipe::txtDescription},
+    {FileExtension, &FRecipe::txtFileExtension},
+    {Comment, &FRecipe::txtComment},
+    {VarLoad, &FRecipe::txtVarLoad},
+    {VarSave, &FRecipe::txtVarSave},
+    {VarRead, &FRecipe::txtVarRead},
+    {VarWrite, &FRecipe::txtVarWrite},
+    {VarSetValue, &FRecipe::txtVarSetValue},
+};
+
+TEST_F(MRecipe, EveryTextPassesIntoItsFieldAndBack) {
+    store(StandardValue, 2.0);
+    for (const TextRow& row : textRows) store(row.column, "a" + std::to_string(row.column % 10));
+    store(FilePath, "<ProjectDir>\\Rezepte");
+    editAndConfirm([](FRecipe& dialog) {
+        for (const TextRow& row : textRows) {
+            EXPECT_EQ((dialog.*row.box)->text(), "a" + std::to_string(row.column % 10)) << row.column;
+            (dialog.*row.box)->setText("b" + std::to_string(row.column % 10));
+        }
+        EXPECT_EQ(dialog.cboFilePath->text(), "<ProjectDir>\\Rezepte");
+        dialog.cboFilePath->setText("D:\\Rezepte");
+    });
+    for (const TextRow& row : textRows) {
+        EXPECT_EQ(stored(row.column), Variant("b" + std::to_string(row.column % 10))) << row.column;
+    }
+    EXPECT_EQ(stored(FilePath), Variant("D:\\Rezepte"));
+    EXPECT_EQ(stored(StandardValue), Variant(2.0));
+}
+
+/// A column and the check box that shows it.
+struct CheckRow {
+    Column column;
+    std::shared_ptr<forms::CheckBox> FRecipe::*box;
+};
+constexpr CheckRow checkRows[] = {
+    {Enabled, &FRecipe::chkEnabled},
+    {SaveSubRecipes, &FRecipe::chkSaveSubRecipes},
+    {SaveChanges, &FRecipe::chkSaveChanges},
+    {CryptEngine, &FRecipe::chkCryptEngine},
+};
+
+TEST_F(MRecipe, EveryYesAndNoPassesIntoItsBoxAndBack) {
+    for (const CheckRow& set : checkRows) {
+        for (const CheckRow& row : checkRows) store(row.column, row.column == set.column);
+        editAndConfirm([&](FRecipe& dialog) {
+            for (const CheckRow& row : checkRows) {
+                const bool checked = (dialog.*row.box)->value() == CheckState::checked;
+                EXPECT_EQ(checked, row.column == set.column) << row.column;
+                (dialog.*row.box)->click();
+            }
+        });
+        for (const CheckRow& row : checkRows) {
+            EXPECT_EQ(stored(row.column), Variant(row.column != set.column)) << row.column;
+        }
+    }
+}
+
+TEST_F(MRecipe, ARelativeRecipeKeepsItsFactorVariableAndAnAbsoluteOneItsOwn) {
+    store(VarSetValue, "Factor");
+    lookAt([](FRecipe& dialog) { EXPECT_EQ(dialog.txtVarSetValue->text(), "Factor"); });
+}
+
+TEST_F(MRecipe, TheDialogBelongsToTheEditorWindow) {
+    lookAt([this](FRecipe& dialog) { EXPECT_EQ(dialog.owner(), window->share()); });
+    EXPECT_EQ(host.record.modals.at(0).owner, window->handle());
+    EXPECT_NE(window->handle(), 0);
+}
+
+TEST_F(MRecipe, TheOtherRecipesStayAsTheyAre) {
+    editAndConfirm([](FRecipe& dialog) { dialog.txtComment->setText("Neu"); });
+    EXPECT_EQ(DialogTest::stored("TrcpRecipe", id - 1, Comment), Variant(""));
+    EXPECT_EQ(DialogTest::stored("TrcpRecipe", id + 1, Comment), Variant(""));
+    EXPECT_EQ(stored(ID), Variant(id));
+}
+
+TEST_F(MRecipe, AColumnWithoutAControlIsNeitherReadNorWritten) {
+    using support::MemoryColumn;
+    plant.database = support::MemoryDatabase();
+    plant.database.addTable(support::MemoryTable("TrcpRecipe", {MemoryColumn{{"ID", ado::adInteger, 4, true, false}, 0},
+                                                                MemoryColumn{{"HostData", ado::adVarWChar, 20}, "host"},
+                                                                MemoryColumn{{"name", ado::adVarWChar, 20}, ""}}));
+    id = plant.addRecipe("theirs");
+    store(static_cast<Column>(2), "Tee");
+    editAndConfirm([](FRecipe& dialog) {
+        EXPECT_EQ(dialog.txtName->text(), "Tee");
+        dialog.txtName->setText("Kaffee");
+    });
+    EXPECT_EQ(storedRow(), (std::vector<Variant>{id, "theirs", "Kaffee"}));
+}
+
+TEST_F(MRecipe, ARowThatCannotBeReadIsNotEdited) {
+    OpenAndMoveFirst(recipes);
+    EXPECT_EQ(recipes.recordCount(), 3);
+    plant.faults.arm(1, support::FaultPlan::Kind::read);
+    EXPECT_FALSE(EditRecipe(recipes, *window));
+    expectMessage("Initialisierung Rezept-Dialog fehlgegangen");
+    EXPECT_TRUE(host.record.modals.empty());
+}
+
+TEST_F(MRecipe, WithoutARowNothingIsEdited) {
+    recipes.open();
+    recipes.moveLast();
+    recipes.moveNext();
+    EXPECT_FALSE(EditRecipe(recipes, *window));
+    expectMessage("Initialisierung Rezept-Dialog fehlgegangen");
+}
+
+TEST_F(MRecipe, ValuesThatDoNotFitLeaveTheRowAsItIsStored) {
+    const std::vector<Variant> before = storedRow();
+    EXPECT_TRUE(editAndConfirm([](FRecipe& dialog) {
+        dialog.txtName->setText("Kaffee");
+        dialog.txtComment->setText(std::string(300, 'x'));
+    }));
+    expectMessage("Zurückschreiben von Rezept-Dialog fehlgegangen");
+    EXPECT_EQ(storedRow(), before);
+    EXPECT_EQ(recipes.editMode(), ado::adEditNone);
+    EXPECT_EQ(recipes.field("Name").value(), Variant("Tee"));
+}
+
+TEST_F(MRecipe, ADuplicateNameReachesTheCallerAndLeavesTheRowAsItIsStored) {
+    const std::vector<Variant> before = storedRow();
+    try {
+        editAndConfirm([](FRecipe& dialog) {
+            dialog.txtName->setText("COLA");
+            dialog.txtComment->setText("Neu");
+        });
+        FAIL() << "the name exists already";
+    } catch (const Error& error) {
+        EXPECT_EQ(error.number(), ado::dbErrDuplicate);
+    }
+    EXPECT_EQ(messages(), std::vector<std::string>{});
+    EXPECT_EQ(storedRow(), before);
+    EXPECT_EQ(recipes.editMode(), ado::adEditNone);
+}
+
+TEST_F(MRecipe, ARowThatCannotBeStoredReachesTheCaller) {
+    const std::vector<Variant> before = storedRow();
+    plant.faults.arm(1, support::FaultPlan::Kind::update);
+    EXPECT_THROW(editAndConfirm([](FRecipe& dialog) { dialog.txtComment->setText("Neu"); }), Error);
+    EXPECT_EQ(storedRow(), before);
+    EXPECT_EQ(recipes.editMode(), ado::adEditNone);
+}
+
+}  // namespace
+}  // namespace hx::recipe
