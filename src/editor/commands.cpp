@@ -1,10 +1,12 @@
 #include "editor/commands.h"
 
+#include <algorithm>
 #include <array>
 
 #include "editor/frmtabgrid.h"
 #include "editor/guard.h"
 #include "editor/tools.h"
+#include "recipe/node_key.h"
 
 namespace hx::editor {
 
@@ -44,9 +46,21 @@ void frmtabgrid::abr_ToolClick(forms::Tool& tool) {
     }
 }
 
-void Commands::mnuRecipeFunc(std::int16_t) {}
+bool Commands::showsOneOf(Nodes nodes) const {
+    if (nodes == anyNode) return true;
+    const std::string_view type = recipe::KeyPrefix(window_.nodeKey());
+    return ((nodes & recipeNode) != 0 && type == recipe::prefixRecipe) ||
+           ((nodes & subRecipesNode) != 0 && type == recipe::prefixSubRecipes);
+}
 
-void Commands::mnuRecipeMember(std::int16_t) {}
+void Commands::run(std::span<const Row> rows, std::int16_t index, std::string_view procedure) {
+    const auto row = std::ranges::find(rows, index, &Row::index);
+    if (row == rows.end() || !showsOneOf(row->nodes)) return;
+    guard(addIn_, procedure, [this, command = row->command] {
+        const auto keep = window_.share();  // the window may end while a dialog is open
+        (this->*command)();
+    });
+}
 
 void Commands::mnuShowEditor(std::int16_t) {
     guard(addIn_, "mnuShowEditor", [this] {

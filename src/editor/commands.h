@@ -1,16 +1,24 @@
 #pragma once
 
 #include <cstdint>
+#include <span>
+#include <string>
+#include <vector>
 
 #include "automation/dispatch.h"
 #include "editor/add_in.h"
+
+namespace hx::recipe {
+class RecipeNodes;
+}
 
 namespace hx::editor {
 
 class frmtabgrid;
 
 /// What the tools of the bar run. Each procedure takes the fixed number of a command; a number without a command does
-/// nothing. Errors are shown under the procedure's name. A command may end the window.
+/// nothing. A command that acts on a recipe does nothing either while the window shows a node of another kind. Errors
+/// are shown under the procedure's name. A command may end the window.
 class Commands {
   public:
     Commands(frmtabgrid& window, AddIn& addIn) : window_(window), addIn_(addIn) {}
@@ -18,19 +26,51 @@ class Commands {
     Commands(const Commands&) = delete;
     Commands& operator=(const Commands&) = delete;
 
-    /// 0 new, 1 edit, 2 delete recipe: none of them exists yet.
+    /// 0 new, 1 edit, 2 delete recipe.
     virtual void mnuRecipeFunc(std::int16_t index);
-    /// 0 add or delete variables, 1 new sub-recipe, 2 delete members, 3 edit sub-recipe: none of them exists yet.
+    /// 0 add or delete variables, 1 new sub-recipe, 2 delete the selected members, 3 edit sub-recipe.
     virtual void mnuRecipeMember(std::int16_t index);
-    /// 0 statistic, 2 refresh, 5 recipe-server configuration, 7 report; 6, the options, does not exist yet.
+    /// 0 statistic, 2 refresh, 5 recipe-server configuration, 6 options, 7 report.
     virtual void mnuOption(std::int16_t index);
     /// Any number: shows the editor's window in front.
     virtual void mnuShowEditor(std::int16_t index);
 
   private:
+    /// Kinds of nodes that a command can act on.
+    enum Nodes : unsigned { recipeNode = 1, subRecipesNode = 2, membersNode = 3, anyNode = 7 };
+    struct Row {
+        std::int16_t index;
+        Nodes nodes;
+        void (Commands::*command)();
+    };
+    void run(std::span<const Row> rows, std::int16_t index, std::string_view procedure);
+    [[nodiscard]] bool showsOneOf(Nodes nodes) const;
+
+    // --- recipes
+    void newRecipe();
+    void editRecipe();
+    void deleteRecipe();
+    void recipeRenamed(std::int32_t id, const std::string& name);
+    void recipeDeleted(std::int32_t id);
+    [[nodiscard]] recipe::RecipeNodes nodes(host::ProjectExplorer& explorer) const;
+
+    // --- members
+    void chooseVariables();
+    void newSubRecipe();
+    void deleteMembers();
+    void editSubRecipe();
+    [[nodiscard]] std::vector<std::string> shownVariables() const;
+    [[nodiscard]] std::vector<std::int32_t> selectedMembers() const;
+    [[nodiscard]] ado::Bookmark rowLeftByDeletion() const;
+
+    /// The user's answer to the question, which is not asked when the option "RequestOnDelete" is off.
+    [[nodiscard]] bool mayDelete(std::int32_t question);
+
+    // --- options
     void statistic();
     void refresh();
     void configureRecipeServer();
+    void editorOptions();
     void report();
     [[nodiscard]] automation::ObjectRef sibling(std::string_view programId);
 

@@ -133,16 +133,32 @@ void frmtabgrid::refreshSubRecipeNames() { memberGrid_->refreshSubRecipeNames();
 
 void frmtabgrid::refreshMembers() { memberGrid_->refreshMembers(); }
 
+void frmtabgrid::refreshMembersAt(const ado::Bookmark& row) { memberGrid_->refreshMembersAt(row); }
+
+bool frmtabgrid::finishEdit() { return memberGrid_->finishEdit(); }
+
+void frmtabgrid::showNode(const std::string& key) {
+    SwitchGrids(key);
+    tdbRM->setAllowUpdate(recipe::KeyPrefix(key) != recipe::prefixRoot);
+    setNodeKey(key);
+    refreshMembers();
+    MakeMyCaption(key, recipeName(key));
+    MenuSwitcher(key, false);
+}
+
 std::string frmtabgrid::recipeName(const std::string& key) const {
     const std::int32_t id = recipe::KeyId(key);
     if (id <= 0 || data_ == nullptr) return {};
     return nameOfRecipe(data_->CnnRecipes, id).value_or(std::string());
 }
 
-ado::Recordset& frmtabgrid::memberRecordset() {
+recipe::DataEnvironment& frmtabgrid::requireData() const {
     if (data_ == nullptr) throw automation::Error(automation::errFail, "The editor has no database now");
-    return *data_->rstabRecipeMembers;
+    return *data_;
 }
+
+ado::Recordset& frmtabgrid::recipeRecordset() { return *requireData().rsRecipes; }
+ado::Recordset& frmtabgrid::memberRecordset() { return *requireData().rstabRecipeMembers; }
 
 std::optional<double> frmtabgrid::hostOffset(float (*offset)(const host::WindowOperations&, forms::WindowHandle,
                                                              forms::WindowHandle)) const {

@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "dialogs/mconfigeditor.h"
 #include "editor/add_in.h"
 #include "forms/bar.h"
 #include "forms/form.h"
@@ -13,7 +14,7 @@
 #include "forms/status_bar.h"
 #include "forms/tool_bar.h"
 #include "recipe/data_environment.h"
-#include "recipe/hierarchy.h"
+#include "recipe/recipe_window.h"
 #include "settings/cinit.h"
 
 namespace hx::editor {
@@ -27,7 +28,7 @@ class Menus;
 class SplitBar;
 
 /// The recipe editor's window: the members of the explorer's node in a grid, menus, tool bar and status line.
-class frmtabgrid : public forms::Form, public recipe::MemberView {
+class frmtabgrid : public forms::Form, public recipe::RecipeWindow, public dialogs::ConfigurableWindow {
   public:
     explicit frmtabgrid(AddIn& addIn);
     ~frmtabgrid() override;
@@ -60,7 +61,7 @@ class frmtabgrid : public forms::Form, public recipe::MemberView {
     /// Runs the tool's command, which may end the window; a disabled tool beeps.
     void abr_ToolClick(forms::Tool& tool);
     /// Lays out tool bar, status line and grid in the area that the menu leaves free.
-    void abr_Resize();
+    void abr_Resize() override;
     /// Builds the grid's columns from the member recordset and applies the stored layout.
     void bindGrid();
     /// Forgets and rebuilds the names of sub-recipes in the grid.
@@ -68,6 +69,12 @@ class frmtabgrid : public forms::Form, public recipe::MemberView {
     /// RefreshMemberView for the current node. Where its members are shown already, the current row and the selected
     /// rows stay. A pending edit is written first; when that fails, nothing else happens.
     void refreshMembers();
+    /// refreshMembers, after which this row is current, when it is among the members, and none is selected.
+    void refreshMembersAt(const ado::Bookmark& row);
+    /// Writes a pending edit. False when that failed: the user has been told, and the edit waits to be corrected.
+    [[nodiscard]] bool finishEdit();
+    /// Shows a node of the recipe branch, as a click on it does.
+    void showNode(const std::string& key);
     /// The name of the node's recipe, empty for the root or when it is gone.
     [[nodiscard]] std::string recipeName(const std::string& key) const;
 
@@ -85,16 +92,22 @@ class frmtabgrid : public forms::Form, public recipe::MemberView {
     void setPosTop(double twips);
 
     // --- settings
-    [[nodiscard]] settings::CInit& inits();
+    [[nodiscard]] settings::CInit& inits() override;
     /// HXEditors.ini in the folder of the project file.
     [[nodiscard]] std::string settingsFile() const;
     /// Applies the stored properties of a control or of the window ("Me"). What cannot be applied is named in one
     /// message; the other entries get their values.
     void applySettings(const std::string& name);
 
-    // --- MemberView
+    // --- RecipeWindow and ConfigurableWindow
+    [[nodiscard]] forms::Form& editorWindow() override { return *this; }
+    [[nodiscard]] forms::StatusBar& statusBar() override { return *sb; }
+    [[nodiscard]] const host::Services& services() const override { return addIn_.services(); }
+    [[nodiscard]] const resources::ResourceTable& texts() const override { return addIn_.texts(); }
+    [[nodiscard]] resources::Help& help() override { return addIn_.help(); }
+    /// Throws errFail while the window has no data environment; the same for the members.
+    [[nodiscard]] ado::Recordset& recipeRecordset() override;
     [[nodiscard]] forms::Grid& memberGrid() override { return *tdbRM; }
-    /// Throws errFail while the window has no data environment.
     [[nodiscard]] ado::Recordset& memberRecordset() override;
     [[nodiscard]] bool saveFirst() const override { return saveFirst_; }
     void setSubRecipeView(bool subRecipes) override { subRecipeView_ = subRecipes; }
@@ -103,6 +116,7 @@ class frmtabgrid : public forms::Form, public recipe::MemberView {
     [[nodiscard]] const automation::MemberTable& members() const override;
 
   private:
+    [[nodiscard]] recipe::DataEnvironment& requireData() const;
     void onLoad();
     void onQueryUnload(bool& cancel, forms::UnloadMode mode);
     void showInHost();

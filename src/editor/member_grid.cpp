@@ -101,10 +101,18 @@ void MemberGrid::refreshSubRecipeNames() {
 }
 
 void MemberGrid::refreshMembers() {
-    if (!window_.dataEnvironment() || (holdsEdit() && !finishRow())) return;
+    if (!window_.dataEnvironment() || !finishEdit()) return;
     const bool again = shownKey_ == window_.nodeKey() && window_.memberRecordset().state() == ado::adStateOpen;
     const ado::Bookmark current = again ? grid_.bookmark() : ado::Bookmark();
     const std::vector<ado::Bookmark> selected = again ? grid_.selectedRows().bookmarks() : std::vector<ado::Bookmark>();
+    readMembers(current, selected);
+}
+
+void MemberGrid::refreshMembersAt(const ado::Bookmark& row) {
+    if (window_.dataEnvironment() && finishEdit()) readMembers(row, {});
+}
+
+void MemberGrid::readMembers(const ado::Bookmark& current, const std::vector<ado::Bookmark>& selected) {
     shownKey_.clear();
     recipe::RefreshMemberView(window_, addIn_.texts());
     shownKey_ = window_.nodeKey();

@@ -38,8 +38,13 @@ class MemberGrid {
     /// Shows the members of the window's node. When these are shown already, the current row and the selected rows
     /// stay. A pending edit is written first; when that fails, nothing else happens.
     void refreshMembers();
+    /// The same, but the current row is this one, when it is still there, and none is selected.
+    void refreshMembersAt(const ado::Bookmark& row);
+    /// finishRow where there is anything to write.
+    [[nodiscard]] bool finishEdit() { return !holdsEdit() || finishRow(); }
 
   private:
+    void readMembers(const ado::Bookmark& current, const std::vector<ado::Bookmark>& selected);
     void addColumn(const std::string& field);
     void standOn(const ado::Bookmark& row);
     void select(std::vector<ado::Bookmark> rows);

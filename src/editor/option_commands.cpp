@@ -29,22 +29,14 @@ class Released {
 }  // namespace
 
 void Commands::mnuOption(std::int16_t index) {
-    struct Row {
-        std::int16_t index;
-        void (Commands::*command)();
-    };
     static constexpr auto rows = std::to_array<Row>({
-        {0, &Commands::statistic},
-        {2, &Commands::refresh},
-        {5, &Commands::configureRecipeServer},
-        {7, &Commands::report},
+        {0, anyNode, &Commands::statistic},
+        {2, anyNode, &Commands::refresh},
+        {5, anyNode, &Commands::configureRecipeServer},
+        {6, anyNode, &Commands::editorOptions},
+        {7, anyNode, &Commands::report},
     });
-    for (const Row& row : rows) {
-        if (row.index == index) {
-            guard(addIn_, "mnuOption", [this, command = row.command] { (this->*command)(); });
-            return;
-        }
-    }
+    run(rows, index, "mnuOption");
 }
 
 void Commands::statistic() {
@@ -65,6 +57,11 @@ void Commands::configureRecipeServer() {
     if (server == nullptr) return;
     const std::array<Variant, 2> arguments = {Variant(window_.secondPath()), Variant(window_.handle())};
     server->get("Show", arguments);
+}
+
+void Commands::editorOptions() {
+    constexpr std::int32_t readAgain = 1;
+    if (dialogs::ShowConfigEditor(window_, addIn_.services(), addIn_.help()) == readAgain) refresh();
 }
 
 void Commands::report() {

@@ -19,6 +19,7 @@ void FaultPlan::pass(Kind kind) {
     if (kind_ != Kind::any && kind_ != kind) return;
     if (++count_ != nth_) return;
     fired_ = true;
+    if (instead) return instead();
     throw automation::Error(error_);
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -18,6 +19,8 @@ class FaultPlan {
     void arm(int nth, Kind kind = Kind::any,
              automation::Error error = {ado::dbErrUnspecified, "The disk cannot be written."});
     void disarm() { nth_ = 0; }
+    /// Called in place of failing, when it is set.
+    std::function<void()> instead;
     /// How many operations of the armed kind there were.
     [[nodiscard]] int count() const { return count_; }
     [[nodiscard]] bool fired() const { return fired_; }

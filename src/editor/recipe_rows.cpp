@@ -1,0 +1,151 @@
+#include "editor/recipe_rows.h"
+
+#include <algorithm>
+#include <array>
+
+#include "ado/transaction.h"
+#include "recipe/hierarchy.h"
+#include "recipe/schema.h"
+
+namespace hx::editor {
+
+using automation::Error;
+using automation::Variant;
+namespace schema = recipe::schema;
+
+namespace {
+
+std::string newName(std::int32_t attempt) {
+    const std::string name = "Neues Rezept";
+    return attempt == 1 ? name : name + "(" + std::to_string(attempt) + ")";
+}
+
+bool tryToAdd(ado::Recordset& recipes, const std::string& name) {
+    try {
+        recipes.addNew(std::to_array<std::pair<std::string, Variant>>({{std::string(schema::recipe::name), name}}));
+        return true;
+    } catch (const Error& error) {
+        recipes.cancelUpdate();
+        if (error.number() != ado::dbErrDuplicate) throw;  // no other name would be taken either
+        return false;
+    }
+}
+
+// One statement: through a recordset a million members would take many times as long. It is a recordset of its own that
+// carries it out, so that no other can ever be opened with such a source again.
+void deleteAllMembers(std::int32_t recipe, const std::shared_ptr<ado::Connection>& connection) {
+    ado::Recordset command;
+    command.open("DELETE * FROM " + std::string(schema::memberTable) + " WHERE ParentID = " + std::to_string(recipe),
+                 connection, ado::adOpenKeyset, ado::adLockOptimistic, ado::adCmdText);
+}
+
+/// Runs the steps in one transaction: a crash half way leaves the old state. When a step fails, what the steps before
+/// it have deleted stays deleted.
+template <class Steps>
+void deleting(ado::Connection& connection, Steps&& steps) {
+    ado::Transaction transaction(connection);
+    try {
+        steps();
+    } catch (const Error&) {
+        transaction.commit();
+        throw;
+    }
+    transaction.commit();
+}
+
+// Only the rows between the first and the last of them: however many others the recipe has, little moves when one goes.
+std::string between(const std::string& query, const std::vector<std::int32_t>& ids) {
+    return query + " And ID >= " + std::to_string(ids.front()) + " And ID <= " + std::to_string(ids.back()) +
+           " ORDER BY ID";
+}
+
+/// The members of one recipe, made from names.
+class NewVariables : public ado::RowSource {
+  public:
+    NewVariables(const std::vector<std::string>& names, std::int32_t recipe) : names_(names), recipe_(recipe) {}
+    static constexpr std::size_t fieldCount = 3;
+    static std::array<std::string, fieldCount> fields() {
+        using namespace schema::member;
+        return {std::string(varRecipe), std::string(parentId), std::string(childId)};
+    }
+    bool next(std::span<Variant> values) override {
+        if (given_ == names_.size()) return false;
+        values[0] = names_[given_++];
+        values[1] = recipe_;
+        values[2] = 0;
+        return true;
+    }
+
+  private:
+    const std::vector<std::string>& names_;
+    std::int32_t recipe_;
+    std::size_t given_ = 0;
+};
+
+}  // namespace
+
+std::string addRecipe(ado::Recordset& recipes) {
+    if (recipes.state() == ado::adStateClosed) recipes.open();
+    std::int32_t attempt = 1;
+    while (!tryToAdd(recipes, newName(attempt))) ++attempt;
+    return newName(attempt);
+}
+
+bool findRecipe(ado::Recordset& recipes, const std::string& criterion) {
+    if (!recipe::OpenAndMoveFirst(recipes)) return false;
+    recipes.find(criterion);
+    return !recipes.eof();
+}
+
+void deleteRecipeWithMembers(ado::Recordset& recipes, std::int32_t id, bool& deleted) {
+    bool recipeGone = false;
+    const auto& connection = recipes.activeConnection();
+    const std::uint64_t rollbacks = connection->rollbacks();
+    try {
+        deleting(*connection, [&] {
+            recipes.remove();
+            recipes.update();
+            recipeGone = true;
+            deleteAllMembers(id, connection);
+        });
+    } catch (const Error&) {
+        deleted = recipeGone && connection->rollbacks() == rollbacks;
+        throw;
+    }
+    deleted = true;
+}
+
+void deleteMembersOf(const std::string& nodeKey, std::vector<std::int32_t> ids,
+                     const std::shared_ptr<ado::Connection>& connection) {
+    if (ids.empty()) return;
+    std::ranges::sort(ids);
+    deleting(*connection, [&] {
+        ado::Recordset members;
+        members.open(between(recipe::memberQuery(nodeKey), ids), connection, ado::adOpenKeyset, ado::adLockOptimistic,
+                     ado::adCmdText);
+        for (const std::int32_t id : ids) {
+            if (members.recordCount() == 0) return;
+            members.moveFirst();
+            members.find("ID=" + std::to_string(id));
+            if (members.eof()) continue;
+            members.remove();
+            members.update();
+        }
+    });
+}
+
+void replaceMembers(std::int32_t recipe, const std::vector<std::string>& variables,
+                    const std::shared_ptr<ado::Connection>& connection) {
+    ado::Transaction transaction(*connection);
+    deleteAllMembers(recipe, connection);
+    if (!variables.empty()) {
+        ado::Recordset members;
+        members.open(std::string(schema::memberTable), connection, ado::adOpenKeyset, ado::adLockOptimistic,
+                     ado::adCmdTableDirect);
+        NewVariables rows(variables, recipe);
+        members.addNew(NewVariables::fields(), rows);
+    }
+    transaction.commit();
+}
+
+}  // namespace hx::editor

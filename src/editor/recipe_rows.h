@@ -1,0 +1,33 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "ado/recordset.h"
+
+/// What the commands do to the rows of recipes and members. The database's errors reach the caller.
+namespace hx::editor {
+
+/// Stores a recipe under the first free name, "Neues Rezept", "Neues Rezept(2)", ...; it is then the current row. The
+/// refused names stay in the connection's errors. Gives the name.
+std::string addRecipe(ado::Recordset& recipes);
+
+/// Opens the recipes where needed and stands on the one that meets the criterion. False when there is none.
+[[nodiscard]] bool findRecipe(ado::Recordset& recipes, const std::string& criterion);
+
+/// Deletes the current recipe and its members. Members of others that include it stay. All in one transaction; when
+/// the database fails, what was deleted before stays deleted. `deleted` becomes true when the recipe is gone for good.
+void deleteRecipeWithMembers(ado::Recordset& recipes, std::int32_t id, bool& deleted);
+
+/// Deletes those of the node's members. All in one transaction; when the database fails, what was deleted before stays
+/// deleted. A member that is gone already is passed over.
+void deleteMembersOf(const std::string& nodeKey, std::vector<std::int32_t> members,
+                     const std::shared_ptr<ado::Connection>& connection);
+
+/// Deletes every member of the recipe, its sub-recipes too, and stores the variables in their order: all or nothing.
+void replaceMembers(std::int32_t recipe, const std::vector<std::string>& variables,
+                    const std::shared_ptr<ado::Connection>& connection);
+
+}  // namespace hx::editor

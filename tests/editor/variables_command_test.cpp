@@ -1,0 +1,189 @@
+#include "command_window.h"
+#include "dialogs/fmulti_select_items.h"
+
+namespace hx::editor {
+namespace {
+
+using automation::Variant;
+using dialogs::FMultiSelectItems;
+
+struct ChooseVariables : CommandWindow {
+    ChooseVariables() { show(mixKey); }
+
+    /// The user's selection, confirmed by OK.
+    void choose(const std::optional<Texts>& names) {
+        inDialog<FMultiSelectItems>("FMultiSelectItems", [names](FMultiSelectItems& dialog) {
+            dialog.hxMI->setSelectedItems(names);
+            dialog.cmdOk->click();
+        });
+        click("mnuRecipeMemberNewVariable");
+    }
+    static Texts named(const std::string& prefix, int count) {
+        Texts names;
+        for (int i = 0; i < count; ++i) names.push_back(prefix + std::to_string(i));
+        return names;
+    }
+    const Texts variables = {"Tank.Level", "Tank.Temp", "Pump.Speed"};
+    const Texts others = {"2 Sugar.Mass 0"};
+};
+
+TEST_F(ChooseVariables, ShowsTheRecipesVariablesAsTheSelection) {
+    inDialog<FMultiSelectItems>("FMultiSelectItems", [this](FMultiSelectItems& dialog) {
+        EXPECT_EQ(dialog.hxMI->selectedItems(), variables);
+        EXPECT_EQ(dialog.hxMI->itemFilter(), 256);
+        EXPECT_EQ(dialog.owner(), window->share());
+        EXPECT_TRUE(addIn.busyFlag.isSet());
+        EXPECT_FALSE(dialog.cancelled());
+        dialog.cmdCancel->click();
+    });
+    click("mnuRecipeMemberNewVariable");
+    ASSERT_EQ(host.record.modals.size(), 1U);
+    EXPECT_EQ(host.record.modals[0].owner, window->handle());
+    EXPECT_FALSE(addIn.busyFlag.isSet());
+}
+
+TEST_F(ChooseVariables, WithoutVariablesStartsWithNoSelection) {
+    show("RCPR" + std::to_string(water));
+    inDialog<FMultiSelectItems>("FMultiSelectItems", [](FMultiSelectItems& dialog) {
+        EXPECT_FALSE(dialog.hxMI->selectedItems().has_value());
+        dialog.cmdCancel->click();
+    });
+    click("mnuRecipeMemberNewVariable");
+    EXPECT_EQ(host.record.modals.size(), 1U);
+}
+
+TEST_F(ChooseVariables, CancelledRefreshesTheViewAndKeepsTheRow) {
+    grid().setRow(2);
+    selectRows({0});
+    inDialog<FMultiSelectItems>("FMultiSelectItems", [this](FMultiSelectItems& dialog) {
+        dialog.hxMI->setSelectedItems(Texts{"Other"});
+        addMember(mix, "Late");
+        dialog.cmdCancel->click();
+    });
+    click("mnuRecipeMemberNewVariable");
+    EXPECT_EQ(shown("VarRecipe"), (Texts{"Tank.Level", "Tank.Temp", "Pump.Speed", "Late"}));
+    EXPECT_EQ(grid().row(), 2);
+    EXPECT_EQ(storedMembers().size(), 7U);
+    expectAtRest();
+}
+
+TEST_F(ChooseVariables, ReplacesTheMembersInTheOrderOfTheSelection) {
+    choose(Texts{"Pump.Speed", "Valve.Open", "Tank.Level"});
+    EXPECT_EQ(storedMembers(), (Texts{"2 Sugar.Mass 0", "1 Pump.Speed 0", "1 Valve.Open 0", "1 Tank.Level 0"}));
+    EXPECT_EQ(shown("VarRecipe"), (Texts{"Pump.Speed", "Valve.Open", "Tank.Level"}));
+    EXPECT_EQ(messages(), Texts{});
+    EXPECT_EQ(host.record.pointers.back(), forms::Pointer::standard);
+    expectAtRest();
+}
+
+TEST_F(ChooseVariables, DeletesTheSubRecipesOfTheRecipeToo) {
+    choose(variables);
+    EXPECT_EQ(storedMembers(), (Texts{"2 Sugar.Mass 0", "1 Tank.Level 0", "1 Tank.Temp 0", "1 Pump.Speed 0"}));
+    show(mixSubRecipes);
+    EXPECT_EQ(grid().rowCount(), 0);
+}
+
+TEST_F(ChooseVariables, WithAnEmptySelectionLeavesTheRecipeWithoutAnyMember) {
+    choose(std::nullopt);
+    EXPECT_EQ(storedMembers(), others);
+    EXPECT_EQ(grid().rowCount(), 0);
+    EXPECT_EQ(messages(), Texts{});
+    expectAtRest();
+}
+
+TEST_F(ChooseVariables, ClosedByTheFrameCountsAsOk) {
+    inDialog<FMultiSelectItems>("FMultiSelectItems",
+                                [](FMultiSelectItems& dialog) { dialog.hxMI->setSelectedItems(Texts{"Other"}); });
+    click("mnuRecipeMemberNewVariable");
+    EXPECT_TRUE(host.record.modals.at(0).closedByFrame);
+    EXPECT_EQ(storedMembers(), (Texts{"2 Sugar.Mass 0", "1 Other 0"}));
+}
+
+TEST_F(ChooseVariables, StoresManyVariables) {
+    const Texts many = named("Area.Value", 300);
+    choose(many);
+    EXPECT_EQ(shown("VarRecipe"), many);
+    EXPECT_EQ(storedMembers().size(), 301U);
+}
+
+TEST_F(ChooseVariables, WritesAPendingEditFirst) {
+    type(0, "Tank.Pressure");
+    inDialog<FMultiSelectItems>("FMultiSelectItems", [](FMultiSelectItems& dialog) {
+        EXPECT_EQ(dialog.hxMI->selectedItems()->at(0), "Tank.Pressure");
+        dialog.cmdCancel->click();
+    });
+    click("mnuRecipeMemberNewVariable");
+    EXPECT_EQ(storedVariable(1), "Tank.Pressure");
+    EXPECT_EQ(host.record.modals.size(), 1U);
+}
+
+TEST_F(ChooseVariables, EndsWhenAPendingEditCannotBeWritten) {
+    type(0, "Tank.Pressure");
+    faults.arm(1, support::FaultPlan::Kind::update);
+    click("mnuRecipeMemberNewVariable");
+    EXPECT_EQ(messages(), (Texts{"-2147467259: The disk cannot be written."}));
+    EXPECT_TRUE(host.record.modals.empty());
+    EXPECT_TRUE(grid().dataChanged()) << "the edit waits to be corrected";
+}
+
+TEST_F(ChooseVariables, StartsFromWhatIsStoredNow) {
+    database.table("TrcpRecipeMember").remove(1);
+    addMember(mix, "Late");
+    inDialog<FMultiSelectItems>("FMultiSelectItems", [](FMultiSelectItems& dialog) {
+        EXPECT_EQ(dialog.hxMI->selectedItems(), (Texts{"Tank.Temp", "Pump.Speed", "Late"}));
+        dialog.cmdCancel->click();
+    });
+    click("mnuRecipeMemberNewVariable");
+    EXPECT_EQ(host.record.modals.size(), 1U);
+}
+
+TEST_F(ChooseVariables, OpensTheMembersAgainWhenTheyAreClosed) {
+    members().close();
+    inDialog<FMultiSelectItems>("FMultiSelectItems", [this](FMultiSelectItems& dialog) {
+        EXPECT_EQ(dialog.hxMI->selectedItems(), variables);
+        dialog.cmdCancel->click();
+    });
+    click("mnuRecipeMemberNewVariable");
+    EXPECT_EQ(host.record.modals.size(), 1U);
+}
+
+TEST_F(ChooseVariables, ThatCannotBeStoredLeaveTheOldOnes) {
+    const Texts before = storedMembers();
+    faults.arm(2, support::FaultPlan::Kind::insert);
+    choose(Texts{"A", "B", "C"});
+    EXPECT_TRUE(faults.fired());
+    EXPECT_EQ(messages(), (Texts{"-2147467259: The disk cannot be written."}));
+    EXPECT_EQ(host.record.messages[0].title, "mnuRecipeMember");
+    EXPECT_EQ(storedMembers(), before);
+    EXPECT_EQ(shown("VarRecipe"), variables);
+    expectAtRest();
+}
+
+TEST_F(ChooseVariables, OfWhichOneIsTooLongLeaveTheOldOnes) {
+    const Texts before = storedMembers();
+    choose(Texts{"A", std::string(300, 'x')});
+    ASSERT_EQ(messages().size(), 1U);
+    EXPECT_NE(messages()[0].find("VarRecipe"), std::string::npos);
+    EXPECT_EQ(storedMembers(), before);
+    expectAtRest();
+}
+
+TEST_F(ChooseVariables, AreAllOldOrAllNewWhateverFails) {
+    const Texts before = storedMembers();
+    const Texts after = {"2 Sugar.Mass 0", "1 A 0", "1 B 0"};
+    inDialog<FMultiSelectItems>("FMultiSelectItems", [](FMultiSelectItems& dialog) {
+        dialog.hxMI->setSelectedItems(Texts{"A", "B"});
+        dialog.cmdOk->click();
+    });
+    withEachFault([this] { show(mixKey); }, [this] { click("mnuRecipeMemberNewVariable"); },
+                  [&] {
+                      EXPECT_TRUE(storedMembers() == before || storedMembers() == after);
+                      const bool replaced = storedMembers() == after;
+                      window->refreshMembers();
+                      EXPECT_EQ(shown("VarRecipe"), replaced ? (Texts{"A", "B"}) : variables);
+                  });
+    EXPECT_EQ(storedMembers(), after);
+}
+
+}  // namespace
+}  // namespace hx::editor
