@@ -1,5 +1,7 @@
 #include "addin/explorer_nodes.h"
 
+#include <array>
+
 #include "addin/trap.h"
 #include "automation/convert.h"
 #include "recipe/hierarchy.h"
@@ -59,14 +61,10 @@ void addRecipeNodes(ado::Recordset& recipes, host::ProjectExplorer& explorer, co
     const Closing closing(recipes);
     if (!recipe::OpenAndMoveFirst(recipes)) return;
     recipe::RecipeNodes nodes(explorer, texts.GetResource(text::subRecipes));
-    const ado::Field& id = recipes.field(recipe::schema::recipe::id);
-    const ado::Field& name = recipes.field(recipe::schema::recipe::name);
-    // The count is of the rows that the recordset opened with; one that somebody deletes meanwhile ends the walk early.
-    for (std::int32_t left = recipes.recordCount(); left > 0 && !recipes.eof(); --left) {
-        const automation::Variant text = name.value();
-        nodes.add(automation::toInt32(id.value()), text.isString() ? std::string_view(text.asString()) : "");
-        recipes.moveNext();
-    }
+    constexpr std::array fields = {recipe::schema::recipe::id, recipe::schema::recipe::name};
+    recipes.getRows(ado::adGetRowsRest, fields, [&](std::span<const automation::Variant> row) {
+        nodes.add(automation::toInt32(row[0]), row[1].isString() ? std::string_view(row[1].asString()) : "");
+    });
 }
 
 void removeRecipeNodes(host::ProjectExplorer& explorer) {

@@ -1,7 +1,7 @@
 #include "ado/key_list.h"
 
 #include <algorithm>
-#include <array>
+#include <limits>
 #include <utility>
 
 #include "ado/keyset.h"
@@ -24,6 +24,12 @@ std::optional<Key> soughtKey(const Criterion& criterion, const std::vector<Colum
 
 }  // namespace
 
+automation::Variant keyValue(Key key) {
+    using Limits = std::numeric_limits<std::int32_t>;
+    if (key >= Limits::min() && key <= Limits::max()) return static_cast<std::int32_t>(key);
+    return static_cast<double>(key);
+}
+
 const KeySet& KeyList::keys() {
     owner_.refresh();
     if (!keys_) {
@@ -45,18 +51,17 @@ const Page& KeyList::page(std::size_t position, ColumnMask columns) {
     owner_.refresh();
     if (const Page* cached = pages_.find(position, columns)) return *cached;
     owner_.want(columns);
-    return pages_.add(readPage(position), position);
+    const std::size_t first = position - position % PageCache::rowsPerPage;
+    const std::size_t count = std::min(PageCache::rowsPerPage, size() - first);
+    return pages_.add(read(first, count, owner_.wanted()), position);
 }
 
-Page KeyList::readPage(std::size_t position) {
+Page KeyList::read(std::size_t first, std::size_t count, ColumnMask columns) {
     const KeySet& all = keys();
-    const std::size_t first = position - position % PageCache::rowsPerPage;
-    const std::size_t count = std::min(PageCache::rowsPerPage, all.size() - first);
-    std::array<Key, PageCache::rowsPerPage> asked{};
+    std::vector<Key> asked(count);
     for (std::size_t i = 0; i < count; ++i) asked[i] = all[first + i];
-    const ColumnMask mask = owner_.wanted();
-    Page page(first, count, owner_.columns().size(), mask);
-    owner_.readRows(std::span(asked).first(count), mask, page);
+    Page page(first, count, owner_.columns().size(), columns);
+    owner_.readRows(asked, columns, page);
     return page;
 }
 

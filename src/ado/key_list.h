@@ -12,6 +12,9 @@ namespace hx::ado {
 
 class Keyset;
 
+/// A key as the value of its column.
+[[nodiscard]] automation::Variant keyValue(Key key);
+
 /// The keys of a keyset's rows under one filter, in the order of the command, with the pages that were read of them.
 /// The keys are read when first needed. Cursors that are attached stay on their rows.
 class KeyList {
@@ -34,6 +37,9 @@ class KeyList {
         return found.exists(position) ? &found.value(position, column) : nullptr;
     }
 
+    /// The rows from `first` on, with only these columns; they are not kept.
+    [[nodiscard]] Page read(std::size_t first, std::size_t count, ColumnMask columns);
+
     void attach(Cursor& cursor) { cursors_.push_back(&cursor); }
     void detach(Cursor& cursor) noexcept { std::erase(cursors_, &cursor); }
 
@@ -47,7 +53,6 @@ class KeyList {
   private:
     const KeySet& keys();
     const Page& page(std::size_t position, ColumnMask columns);
-    Page readPage(std::size_t position);
     std::optional<std::size_t> scan(const Criterion& criterion, std::size_t start, std::size_t count,
                                     SearchDirection direction);
     std::optional<std::size_t> firstOf(const KeySet& hits, std::size_t start, SearchDirection direction);

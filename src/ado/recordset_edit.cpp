@@ -1,5 +1,3 @@
-#include <limits>
-
 #include "ado/errors.h"
 #include "ado/keyset.h"
 #include "ado/recordset.h"
@@ -10,16 +8,6 @@ namespace hx::ado {
 using automation::Null;
 using automation::Variant;
 using Place = Cursor::Place;
-
-namespace {
-
-Variant keyValue(Key key) {
-    using Limits = std::numeric_limits<std::int32_t>;
-    if (key >= Limits::min() && key <= Limits::max()) return static_cast<std::int32_t>(key);
-    return static_cast<double>(key);
-}
-
-}  // namespace
 
 EditMode Recordset::editMode() const noexcept {
     if (edit_->pending()) return edit_->mode();

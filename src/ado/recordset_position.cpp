@@ -9,6 +9,12 @@ namespace hx::ado {
 
 using Place = Cursor::Place;
 
+namespace {
+
+constexpr std::size_t rowsReadTogether = 1024;
+
+}  // namespace
+
 // Works out which row the cursor stands on, when it was moved without asking for the keys or the keys were dropped.
 void Recordset::settle() const {
     requireOpen().refresh();
@@ -93,6 +99,31 @@ void Recordset::movePrevious() {
             return placeBackward(list_->size());
         default: return placeBackward(cursor_->position);
     }
+}
+
+void Recordset::getRows(std::int32_t rows, std::span<const std::string_view> fields, const RowReceiver& receive) {
+    leaveRow();
+    settle();
+    if (cursor_->place == Place::eof) throwNoCurrentRecord();
+    std::vector<std::size_t> columns;
+    ColumnMask mask = 0;
+    for (const std::string_view field : fields) mask |= columnBit(columns.emplace_back(columnNumber(field)));
+    std::vector<automation::Variant> values(columns.size());
+    const std::size_t size = list_->size();
+    std::size_t at = cursor_->place == Place::bof ? 0 : cursor_->position;
+    std::size_t left = rows < 0 ? size - at : std::min<std::size_t>(static_cast<std::size_t>(rows), size - at);
+    while (left > 0) {
+        const std::size_t count = std::min(left, rowsReadTogether);
+        Page page = list_->read(at, count, mask);
+        for (const std::size_t end = at + count; at < end; ++at, --left) {
+            if (!page.exists(at)) continue;
+            for (std::size_t i = 0; i < columns.size(); ++i) {
+                values[i] = keyset_->columns()[columns[i]].isKey ? keyValue(list_->key(at)) : page.take(at, columns[i]);
+            }
+            receive(values);
+        }
+    }
+    placeForward(at);
 }
 
 std::int32_t Recordset::absolutePosition() const {

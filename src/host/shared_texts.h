@@ -15,10 +15,11 @@ class SharedTexts {
     SharedTexts() { clear(); }
     /// The number of a text, which is kept from now on.
     [[nodiscard]] std::uint32_t numberOf(std::string_view text) {
+        if (text.empty()) return 0;
         if (texts_[last_] == text) return last_;  // neighbours tend to share theirs
         const auto next = static_cast<std::uint32_t>(texts_.size());
         const auto same = [&](std::uint32_t number) { return texts_[number] == text; };
-        const auto known = text.empty() ? 0 : index_.insert(KeyIndex::hashOf(text), next, same);
+        const auto known = index_.insert(KeyIndex::hashOf(text), next, same);
         last_ = known != KeyIndex::none ? known : next;
         if (last_ == next) texts_.append() = text;
         return last_;

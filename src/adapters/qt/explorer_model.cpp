@@ -156,7 +156,7 @@ QModelIndex ExplorerModel::parent(const QModelIndex& index) const {
 
 int ExplorerModel::rowCount(const QModelIndex& parent) const {
     const Id id = idOf(parent);
-    const auto known = published_.find(id);
+    const auto known = published_.empty() ? published_.end() : published_.find(id);
     return known != published_.end() ? known->second : static_cast<int>(tree_.childCount(id));
 }
 
