@@ -12,6 +12,8 @@ namespace help_context {
 inline constexpr std::int32_t root = 100001, recipe = 100019, subRecipes = 100020;  ///< nodes of the explorer
 inline constexpr std::int32_t recipeDialog = 100030, subRecipeDialog = 100031, itemsDialog = 100032,
                               configurationDialog = 100033;
+inline constexpr std::int32_t grid = 100040, keys = 100041;
+inline constexpr std::int32_t overview = 100042, menus = 100043, report = 100044, settings = 100045, messages = 100046;
 }  // namespace help_context
 
 /// The add-in's help file and the calls on it.
