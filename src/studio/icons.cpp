@@ -21,4 +21,9 @@ const char* const openProject = R"svg(<svg xmlns="http://www.w3.org/2000/svg" vi
 <path d="M1.500 13.500v-10h4.500l1.400 1.800h5.100v2.200" fill="#f2c14e" stroke="#9a7420" stroke-linejoin="round"/>
 <path d="M1.500 13.500l2.200-6h11l-2.200 6z" fill="#f8d985" stroke="#9a7420" stroke-linejoin="round"/></svg>)svg";
 
+const char* const help = R"svg(<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 16 16">
+<circle cx="8" cy="8" r="7" fill="#1f5c8b"/>
+<path d="M5.800 6.300a2.300 2.300 0 1 1 3.500 1.900c-0.900 0.600-1.300 1-1.300 1.900" fill="none" stroke="#fff" stroke-width="1.600"
+ stroke-linecap="round"/><circle cx="8" cy="12.300" r="1" fill="#fff"/></svg>)svg";
+
 }  // namespace hx::studio::icons

@@ -7,5 +7,6 @@ extern const char* const studio;
 extern const char* const project;
 extern const char* const newProject;
 extern const char* const openProject;
+extern const char* const help;
 
 }  // namespace hx::studio::icons

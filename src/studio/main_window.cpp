@@ -13,6 +13,7 @@
 #include "adapters/qt/svg_icon.h"
 #include "adapters/qt/text.h"
 #include "adapters/sqlite/project_file.h"
+#include "resources/help.h"
 #include "studio/icons.h"
 #include "studio/options.h"
 
@@ -123,12 +124,32 @@ bool MainWindow::openProject(const QString& path) {
 
 void MainWindow::startAddIn() {
     try {
+        installHelp();
         project_->startAddIn();
     } catch (const automation::Error& error) {
         warn(Text::addInNotLoaded, qt::toQt(error.message()));
     }
     tree_.setCurrentIndex(explorer_.model().find(qt::QtExplorer::projectKey));
     tree_.setFocus(Qt::OtherFocusReason);
+}
+
+// Before the add-in starts: it then looks for its help.
+void MainWindow::installHelp() {
+    HelpFile& help = host_.helpFile();
+    help.nameCommonFolder();
+    if (help.install(host_.wording().language()) == HelpFile::Result::failed) {
+        statusBar()->showMessage(say(Text::helpNotInstalled).arg(help.path()), messageTime);
+    }
+}
+
+void MainWindow::showHelp() {
+    try {
+        installHelp();
+        host_.help().showContext(documentsHandle_, qt::fromQt(host_.helpFile().path()),
+                                 resources::help_context::overview);
+    } catch (const automation::Error& error) {
+        warn(Text::registryNotWritten, qt::toQt(error.message()));
+    }
 }
 
 void MainWindow::closeProject() {
@@ -193,6 +214,7 @@ void MainWindow::showAbout() {
 void MainWindow::closeEvent(QCloseEvent* event) {
     if (!preferences_.saveWindow(saveGeometry(), saveState())) warn(Text::settingsNotWritten, preferences_.file());
     closeProject();
+    host_.help().closeAll();
     event->accept();
 }
 

@@ -42,6 +42,7 @@ class MainWindow : public QMainWindow, private StudioCommands {
     void chooseProject() override;
     void openRecent(const QString& path) override { openProject(path); }
     void clearRecent() override;
+    void showHelp() override;
     void showAbout() override;
     [[nodiscard]] QStringList recentProjects() const override { return preferences_.recent(); }
 
@@ -49,6 +50,7 @@ class MainWindow : public QMainWindow, private StudioCommands {
     void restoreWindow();
     void readLanguage();
     void useLanguage(std::int32_t lcid);
+    void installHelp();
     void startAddIn();
     void showProject();
     void warn(Text text, const QString& detail);

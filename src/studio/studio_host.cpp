@@ -17,7 +17,8 @@ automation::NumberFormat systemFormat() { return {qt::fromQt(QLocale::system().d
 StudioHost::StudioHost(const QString& configFolder, const QStringList& moduleFolders)
     : screen_(windows_, wording_),
       registry_(qt::fromQt(configFolder + QStringLiteral("/registry.ini"))),
-      help_(screen_, wording_),
+      help_(screen_, windows_, wording_),
+      helpFile_(registry_, moduleFolders, configFolder + QStringLiteral("/common")),
       components_(moduleFolders),
       variables_(provider_),
       items_(variables_, windows_, wording_),

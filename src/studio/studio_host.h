@@ -15,6 +15,7 @@
 #include "host/ini_text_file.h"
 #include "host/registry_file.h"
 #include "host/services.h"
+#include "studio/help_file.h"
 #include "studio/project_variables.h"
 
 namespace hx::studio {
@@ -32,6 +33,8 @@ class StudioHost {
     [[nodiscard]] host::Registry& registry() noexcept { return registry_; }
     [[nodiscard]] host::Clipboard& clipboard() noexcept { return clipboard_; }
     [[nodiscard]] qt::ModuleComponents& components() noexcept { return components_; }
+    [[nodiscard]] qt::QtHelpViewer& help() noexcept { return help_; }
+    [[nodiscard]] HelpFile& helpFile() noexcept { return helpFile_; }
 
     /// The project whose variables and folder the choices offer; empty for none.
     void setProjectFile(const QString& path);
@@ -45,6 +48,7 @@ class StudioHost {
     host::IniTextFile iniFile_;
     qt::QtClipboard clipboard_;
     qt::QtHelpViewer help_;
+    HelpFile helpFile_;
     qt::ModuleComponents components_;
     ProjectVariables variables_;
     qt::QtItemSelection items_;

@@ -25,6 +25,7 @@ StudioMenus::StudioMenus(QMainWindow& window, StudioCommands& commands, QAction&
       exit_(&window),
       german_(&window),
       english_(&window),
+      showHelp_(&window),
       about_(&window),
       languages_(this) {
     build(window);
@@ -34,6 +35,7 @@ StudioMenus::StudioMenus(QMainWindow& window, StudioCommands& commands, QAction&
     connect(&exit_, &QAction::triggered, &window, &QWidget::close);
     connect(&german_, &QAction::triggered, this, [this] { commands_.chooseLanguage(qt::Wording::german); });
     connect(&english_, &QAction::triggered, this, [this] { commands_.chooseLanguage(qt::Wording::english); });
+    connect(&showHelp_, &QAction::triggered, this, [this] { commands_.showHelp(); });
     connect(&about_, &QAction::triggered, this, [this] { commands_.showAbout(); });
     connect(&recent_, &QMenu::aboutToShow, this, [this] { fillRecent(); });
     retranslate();
@@ -41,9 +43,11 @@ StudioMenus::StudioMenus(QMainWindow& window, StudioCommands& commands, QAction&
 
 void StudioMenus::build(QMainWindow& window) {
     const std::pair<QObject*, const char*> names[] = {
-        {&file_, "menuFile"},   {&recent_, "menuRecent"},   {&view_, "menuView"},         {&language_, "menuLanguage"},
-        {&help_, "menuHelp"},   {&new_, "actionNew"},       {&open_, "actionOpen"},       {&close_, "actionClose"},
-        {&exit_, "actionExit"}, {&german_, "actionGerman"}, {&english_, "actionEnglish"}, {&about_, "actionAbout"}};
+        {&file_, "menuFile"},         {&recent_, "menuRecent"},     {&view_, "menuView"},
+        {&language_, "menuLanguage"}, {&help_, "menuHelp"},         {&new_, "actionNew"},
+        {&open_, "actionOpen"},       {&close_, "actionClose"},     {&exit_, "actionExit"},
+        {&german_, "actionGerman"},   {&english_, "actionEnglish"}, {&about_, "actionAbout"},
+        {&showHelp_, "actionHelp"}};
     for (const auto& [object, name] : names) object->setObjectName(QLatin1StringView(name));
     new_.setShortcut(QKeySequence::New);
     new_.setIcon(qt::svgIcon(icons::newProject));
@@ -62,19 +66,28 @@ void StudioMenus::build(QMainWindow& window) {
     file_.addAction(&exit_);
     view_.addAction(&showExplorer_);
     language_.addActions({&german_, &english_});
+    showHelp_.setIcon(qt::svgIcon(icons::help));
+    help_.addAction(&showHelp_);
+    help_.addSeparator();
     help_.addAction(&about_);
     for (QMenu* menu : {&file_, &view_, &language_, &help_}) window.menuBar()->addMenu(menu);
 }
 
 void StudioMenus::retranslate() {
-    const std::pair<QAction*, Text> actions[] = {
-        {file_.menuAction(), Text::fileMenu}, {recent_.menuAction(), Text::recentProjects},
-        {view_.menuAction(), Text::viewMenu}, {language_.menuAction(), Text::languageMenu},
-        {help_.menuAction(), Text::helpMenu}, {&new_, Text::newProject},
-        {&open_, Text::openProject},          {&close_, Text::closeProject},
-        {&exit_, Text::exitStudio},           {&german_, Text::german},
-        {&english_, Text::english},           {&about_, Text::about},
-        {&showExplorer_, Text::explorer}};
+    const std::pair<QAction*, Text> actions[] = {{file_.menuAction(), Text::fileMenu},
+                                                 {recent_.menuAction(), Text::recentProjects},
+                                                 {view_.menuAction(), Text::viewMenu},
+                                                 {language_.menuAction(), Text::languageMenu},
+                                                 {help_.menuAction(), Text::helpMenu},
+                                                 {&new_, Text::newProject},
+                                                 {&open_, Text::openProject},
+                                                 {&close_, Text::closeProject},
+                                                 {&exit_, Text::exitStudio},
+                                                 {&german_, Text::german},
+                                                 {&english_, Text::english},
+                                                 {&showHelp_, Text::showHelp},
+                                                 {&about_, Text::about},
+                                                 {&showExplorer_, Text::explorer}};
     for (const auto& [action, text] : actions) action->setText(studioText(text, wording_));
     (wording_.isEnglish() ? english_ : german_).setChecked(true);
 }

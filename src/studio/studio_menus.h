@@ -20,6 +20,7 @@ class StudioCommands {
     virtual void clearRecent() = 0;
     virtual void closeProject() = 0;
     virtual void chooseLanguage(std::int32_t lcid) = 0;
+    virtual void showHelp() = 0;
     virtual void showAbout() = 0;
     [[nodiscard]] virtual QStringList recentProjects() const = 0;
 };
@@ -39,7 +40,7 @@ class StudioMenus : public QObject {
     QAction& showExplorer_;
     const qt::Wording& wording_;
     QMenu file_, recent_, view_, language_, help_;
-    QAction new_, open_, close_, exit_, german_, english_, about_;
+    QAction new_, open_, close_, exit_, german_, english_, showHelp_, about_;
     QActionGroup languages_;
 };
 

@@ -21,6 +21,8 @@ enum class Text {
     german,
     english,
     helpMenu,
+    showHelp,
+    helpNotInstalled,
     about,
     aboutText,
     ready,

@@ -82,7 +82,7 @@ TEST_F(ServicesTest, AFolderOfTheProjectBeginsWithItsPlaceholder) {
 }
 
 TEST_F(ServicesTest, AMissingHelpFileIsSaid) {
-    qt::QtHelpViewer help(screen, wording);
+    qt::QtHelpViewer help(screen, windows, wording);
     const BoxAnswers answers({"OK"});
     help.showContext(0, "/nowhere\\helpfiles\\Rezeptsystem.chm", 100001);
     ASSERT_EQ(answers.shown().size(), 1u);
