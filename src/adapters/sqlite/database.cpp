@@ -21,8 +21,12 @@ constexpr const char* settings =
     "PRAGMA synchronous=EXTRA;"
     "PRAGMA foreign_keys=OFF;"
     "PRAGMA temp_store=MEMORY;"
-    "PRAGMA cache_size=-2000;"
     "PRAGMA mmap_size=0;";
+
+// Reading needs little. A transaction that changes many rows goes to all indexes at random: with few pages in memory it
+// reads and writes each of them many times.
+constexpr const char* smallCache = "PRAGMA cache_size=-2000";
+constexpr const char* largeCache = "PRAGMA cache_size=-32000";
 
 }  // namespace
 
@@ -40,6 +44,7 @@ Database::Database(const std::string& path) : path_(path), collecting_(std::make
     check(sqlite3_db_config(handle, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr));
     check(registerFunctions(handle, collecting_.get()));
     execute(settings);
+    useLargeCache(false);
 }
 
 Database::~Database() = default;
@@ -67,6 +72,11 @@ std::int64_t Database::number(const std::string& sql) {
     Statement& statement = prepared(sql);
     const ResetGuard guard(statement);
     return statement.step() ? statement.key(0) : 0;
+}
+
+// A cache that keeps its size costs time or memory, nothing else.
+void Database::useLargeCache(bool large) noexcept {
+    (void)sqlite3_exec(handle(), large ? largeCache : smallCache, nullptr, nullptr, nullptr);
 }
 
 ado::KeySet Database::collect(Statement& statement) {

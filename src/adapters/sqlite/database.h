@@ -34,6 +34,9 @@ class Database {
     /// The integer in the first column of the first row, 0 when there is none.
     [[nodiscard]] std::int64_t number(const std::string& sql);
 
+    /// Lets the connection keep more pages of the file in memory, or as few as before, the rest being given back.
+    void useLargeCache(bool large) noexcept;
+
     /// Runs a statement that hands its keys to the function hx_keys.
     [[nodiscard]] ado::KeySet collect(Statement& statement);
 

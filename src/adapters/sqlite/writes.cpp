@@ -144,18 +144,21 @@ void Writes::begin() {
     // IMMEDIATE takes the lock now, while nothing has been written that a refusal would undo.
     database_.execute("BEGIN IMMEDIATE");
     inTransaction_ = true;
+    database_.useLargeCache(true);
 }
 
 void Writes::commit() {
     requireTransaction();
     database_.execute("COMMIT");
     inTransaction_ = false;
+    database_.useLargeCache(false);
 }
 
 void Writes::rollback() {
     // After some errors (disk full, disk errors) SQLite has rolled back already.
     if (database_.inTransaction()) database_.execute("ROLLBACK");
     inTransaction_ = false;
+    database_.useLargeCache(false);
 }
 
 // When SQLite has rolled a transaction back by itself, what follows must not be written as if it had not.
