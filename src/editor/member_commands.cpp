@@ -1,6 +1,8 @@
+#include <algorithm>
 #include <array>
 
 #include "automation/convert.h"
+#include "automation/text.h"
 #include "dialogs/fmulti_select_items.h"
 #include "editor/commands.h"
 #include "editor/database_work.h"
@@ -107,14 +109,19 @@ void Commands::editSubRecipe() {
     if (edited) window_.refreshMembers();
 }
 
+// A bookmark of a row whose ID is its key says it already; else the row is asked.
 std::vector<std::int32_t> Commands::selectedMembers() const {
     const auto rows = window_.memberRecordset().clone();
+    const auto isKey = [](const ado::Column& column) {
+        return column.isKey && automation::equalIgnoreCase(column.name, member::id);
+    };
+    const bool known = std::ranges::any_of(rows->columns(), isKey);
     const ado::Field& id = rows->field(member::id);
     std::vector<std::int32_t> ids;
     for (const ado::Bookmark& row : window_.tdbRM->selectedRows().bookmarks()) {
-        if (rows->indexOf(row) < 0) continue;
-        rows->setBookmark(row);
-        ids.push_back(automation::toInt32(id.value()));
+        if (!known && rows->indexOf(row) < 0) continue;
+        if (!known) rows->setBookmark(row);
+        ids.push_back(known ? static_cast<std::int32_t>(row.key()) : automation::toInt32(id.value()));
     }
     return ids;
 }
