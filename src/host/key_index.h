@@ -29,7 +29,7 @@ class KeyIndex {
     /// Adds a number, unless there is one for which `matches` holds: gives that one, else none.
     template <class Matches>
     Id insert(std::uint32_t hash, Id id, Matches matches) {
-        if ((count_ + 1) * 3 > slots_.size() * 2) grow();
+        if ((count_ + 1) * 2 > slots_.size()) grow();
         std::size_t at = hash & mask();
         for (; slots_[at].id != none; at = (at + 1) & mask()) {
             if (slots_[at].hash == hash && matches(slots_[at].id)) return slots_[at].id;
@@ -53,7 +53,7 @@ class KeyIndex {
     void place(Slot slot) noexcept;
     void grow();
 
-    std::vector<Slot> slots_;  ///< a power of two, at most two thirds full
+    std::vector<Slot> slots_;  ///< a power of two, at most half full
     std::size_t count_ = 0;
 };
 

@@ -30,8 +30,8 @@ NodeTree::Id NodeTree::add(const NewNode& node) {
     }
     takeSlot();
     Node& made = nodes_[id];
-    made.key = node.key;
-    made.caption = node.caption;
+    made.key = packed_.keep(node.key);
+    made.caption = packed_.keep(node.caption);
     made.tag = texts_.numberOf(node.tag);
     made.image = texts_.numberOf(node.image);
     made.options = node.options;
@@ -88,14 +88,33 @@ std::size_t NodeTree::row(Id id) const noexcept {
     return static_cast<std::size_t>(std::lower_bound(first, siblings.ids.end(), nodes_[id].ordinal, before) - first);
 }
 
-const std::string& NodeTree::key(Id id) const noexcept { return nodes_[id].key; }
-const std::string& NodeTree::caption(Id id) const noexcept { return nodes_[id].caption; }
+std::string_view NodeTree::key(Id id) const noexcept { return nodes_[id].key; }
+std::string_view NodeTree::caption(Id id) const noexcept { return nodes_[id].caption; }
 const std::string& NodeTree::tag(Id id) const noexcept { return texts_[nodes_[id].tag]; }
 const std::string& NodeTree::image(Id id) const noexcept { return texts_[nodes_[id].image]; }
 const std::array<bool, 3>& NodeTree::options(Id id) const noexcept { return nodes_[id].options; }
 std::int32_t NodeTree::number(Id id) const noexcept { return nodes_[id].number; }
 
-void NodeTree::setCaption(Id id, std::string_view caption) { nodes_[id].caption = caption; }
+void NodeTree::setCaption(Id id, std::string_view caption) {
+    const std::size_t before = nodes_[id].caption.size();
+    nodes_[id].caption = packed_.keep(caption);
+    dropped(before);
+}
+
+// Packs the texts afresh when most of them are of no use: each is then moved once on average.
+void NodeTree::dropped(std::size_t bytes) {
+    constexpr std::size_t worthIt = 64 * 1024;
+    dropped_ += bytes;
+    if (dropped_ < worthIt || dropped_ * 2 < packed_.size()) return;
+    PackedTexts packed;
+    for (std::size_t i = 0; i < nodes_.size(); ++i) {
+        Node& node = nodes_[i];
+        node.key = packed.keep(node.key);
+        node.caption = packed.keep(node.caption);
+    }
+    packed_ = std::move(packed);
+    dropped_ = 0;
+}
 
 std::size_t NodeTree::size() const noexcept { return index_.size(); }
 
@@ -115,7 +134,7 @@ std::vector<std::string> NodeTree::childKeys(std::string_view key, std::int32_t 
             continue;
         }
         const Id next = child(place.id, place.row++);
-        keys.push_back(nodes_[next].key);
+        keys.emplace_back(nodes_[next].key);
         if (path.size() < static_cast<std::size_t>(levels)) path.push_back({next, 0});
     }
     return keys;
@@ -128,6 +147,8 @@ void NodeTree::clear() {
     lists_.clear();
     lists_.append();
     freeLists_.clear();
+    packed_.clear();
+    dropped_ = 0;
     texts_.clear();
     index_.clear();
     last_ = root;
@@ -188,6 +209,7 @@ void NodeTree::detach(Id id) {
 }
 
 void NodeTree::release(Id id) {
+    std::size_t bytes = 0;
     std::vector<Id> doomed{id};  // a list, not recursion: a chain of nodes may be deep
     while (!doomed.empty()) {
         const Id next = doomed.back();
@@ -195,6 +217,7 @@ void NodeTree::release(Id id) {
         for (std::size_t i = 0; i < childCount(next); ++i) doomed.push_back(child(next, i));
         Node& node = nodes_[next];
         index_.erase(KeyIndex::hashOf(node.key), next);
+        bytes += node.key.size() + node.caption.size();
         if (node.list != 0) {
             lists_[node.list] = Children{};
             freeLists_.push_back(node.list);
@@ -202,6 +225,7 @@ void NodeTree::release(Id id) {
         node = Node{};
         free_.push_back(next);
     }
+    dropped(bytes);
 }
 
 }  // namespace hx::host

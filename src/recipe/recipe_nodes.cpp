@@ -37,12 +37,12 @@ void RecipeNodes::add(std::int32_t id, std::string_view name) {
     node.parent = rootKey;
     node.caption = name;
     node.key = recipe.view();
-    node.image = KeyImage(recipe.view());
+    node.image = recipeImage_;
     explorer_.addNode(node);
     node.parent = recipe.view();
     node.caption = subRecipesCaption_;
     node.key = subRecipes.view();
-    node.image = KeyImage(subRecipes.view());
+    node.image = subRecipesImage_;
     explorer_.addNode(node);
 }
 

@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "host/project_explorer.h"
+#include "recipe/node_key.h"
 
 /// The nodes of single recipes in the project explorer. The explorer's errors reach the caller.
 namespace hx::recipe {
@@ -24,6 +25,7 @@ class RecipeNodes {
   private:
     host::ProjectExplorer& explorer_;
     std::string subRecipesCaption_;
+    std::string_view recipeImage_ = KeyImage(prefixRecipe), subRecipesImage_ = KeyImage(prefixSubRecipes);
 };
 
 }  // namespace hx::recipe

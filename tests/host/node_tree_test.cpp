@@ -101,6 +101,24 @@ TEST(NodeTree, TakesAKeyAgainOnceItsNodeIsGone) {
     EXPECT_EQ(tree.childCount(id), 0U);
 }
 
+TEST(NodeTree, KeepsItsTextsThroughManyRenamesAndRemovals) {
+    constexpr int count = 200;
+    NodeTree tree = branch(count);
+    for (int round = 0; round < 50; ++round) {
+        for (int i = 0; i < count; ++i) {
+            tree.setCaption(tree.find(keyOf(i)), "Grüner Tee " + std::string(static_cast<std::size_t>(round), 'x'));
+        }
+        tree.remove(tree.find(keyOf(round)));
+        tree.add(node("RCPE0", keyOf(round)));
+    }
+    const std::string longText(200'000, 'y');
+    tree.setCaption(tree.find(keyOf(7)), longText);
+    EXPECT_EQ(tree.caption(tree.find(keyOf(7))), longText);
+    EXPECT_EQ(tree.caption(tree.find(keyOf(199))), "Grüner Tee " + std::string(49, 'x'));
+    EXPECT_EQ(tree.caption(tree.find("RCPU60")), "RCPU60");
+    EXPECT_EQ(tree.caption(tree.find(keyOf(49))), keyOf(49));
+}
+
 TEST(NodeTree, ListsKeysInTreeOrderDownToALevel) {
     const NodeTree tree = branch(2);
     EXPECT_EQ(tree.childKeys("RCPE0", 1), (Keys{"RCPR0", "RCPR1"}));

@@ -42,7 +42,7 @@ bool ProjectExplorer::isExpanded(std::string_view key) const {
 }
 
 host::NodeEvent ProjectExplorer::eventOf(std::string_view key) const {
-    return {project_, std::string(key), tree_.caption(require(key))};
+    return {project_, std::string(key), std::string(tree_.caption(require(key)))};
 }
 
 void ProjectExplorer::select(std::string_view key) {

@@ -29,8 +29,10 @@ class ExplorerModel : public QAbstractItemModel {
     [[nodiscard]] std::vector<std::string> childKeys(std::string_view key, std::int32_t levels);
     /// The published node of a key; invalid when unknown.
     [[nodiscard]] QModelIndex find(std::string_view key);
-    [[nodiscard]] const std::string& key(const QModelIndex& index) const { return tree_.key(idOf(index)); }
-    [[nodiscard]] const std::string& caption(const QModelIndex& index) const { return tree_.caption(idOf(index)); }
+    [[nodiscard]] std::string key(const QModelIndex& index) const { return std::string(tree_.key(idOf(index))); }
+    [[nodiscard]] std::string caption(const QModelIndex& index) const {
+        return std::string(tree_.caption(idOf(index)));
+    }
     void setImage(const std::string& key, const QIcon& icon);
     [[nodiscard]] bool hasImage(const std::string& key) const { return images_.contains(key); }
 
