@@ -26,9 +26,8 @@ class Page : public RowSink {
     [[nodiscard]] const automation::Variant& value(std::size_t position, std::size_t column) const noexcept {
         return values_[(position - first_) * width_ + slot(column)];
     }
-    /// Takes the value out of the page.
-    [[nodiscard]] automation::Variant take(std::size_t position, std::size_t column) noexcept {
-        return std::move(values_[(position - first_) * width_ + slot(column)]);
+    [[nodiscard]] automation::Variant& value(std::size_t position, std::size_t column) noexcept {
+        return values_[(position - first_) * width_ + slot(column)];
     }
     /// The row at `position` left the list.
     void erased(std::size_t position);

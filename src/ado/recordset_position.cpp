@@ -107,7 +107,11 @@ void Recordset::getRows(std::int32_t rows, std::span<const std::string_view> fie
     if (cursor_->place == Place::eof) throwNoCurrentRecord();
     std::vector<std::size_t> columns;
     ColumnMask mask = 0;
-    for (const std::string_view field : fields) mask |= columnBit(columns.emplace_back(columnNumber(field)));
+    std::vector<bool> isKey;
+    for (const std::string_view field : fields) {
+        mask |= columnBit(columns.emplace_back(columnNumber(field)));
+        isKey.push_back(keyset_->columns()[columns.back()].isKey);
+    }
     std::vector<automation::Variant> values(columns.size());
     const std::size_t size = list_->size();
     std::size_t at = cursor_->place == Place::bof ? 0 : cursor_->position;
@@ -118,7 +122,8 @@ void Recordset::getRows(std::int32_t rows, std::span<const std::string_view> fie
         for (const std::size_t end = at + count; at < end; ++at, --left) {
             if (!page.exists(at)) continue;
             for (std::size_t i = 0; i < columns.size(); ++i) {
-                values[i] = keyset_->columns()[columns[i]].isKey ? keyValue(list_->key(at)) : page.take(at, columns[i]);
+                if (isKey[i]) values[i] = keyValue(list_->key(at));
+                else std::swap(values[i], page.value(at, columns[i]));
             }
             receive(values);
         }

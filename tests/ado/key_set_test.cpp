@@ -1,6 +1,7 @@
 #include "ado/key_set.h"
 
 #include <gtest/gtest.h>
+#include <vector>
 
 namespace hx::ado {
 
@@ -37,6 +38,19 @@ TEST(KeySet, FindsAKeyAmongUnorderedOnesFromAnyHint) {
         EXPECT_EQ(keys.find(2, hint), 3U) << hint;
         EXPECT_EQ(keys.find(3, hint), 4U) << hint;
         EXPECT_EQ(keys.find(6, hint), std::nullopt) << hint;
+    }
+}
+
+TEST(KeySet, SortsKeysThatLieCloseAndKeysThatLieFarApart) {
+    for (const Key factor : {Key{1}, Key{1000}, Key{1} << 33}) {
+        KeySet keys;
+        for (const Key key : {5, -3, 9, 0, 7, 12, -8}) keys.append(key * factor);
+        keys.sort(false);
+        const std::vector<Key> sorted = {-8, -3, 0, 5, 7, 9, 12};
+        for (std::size_t i = 0; i < sorted.size(); ++i) EXPECT_EQ(keys[i], sorted[i] * factor);
+        EXPECT_TRUE(keys.ascending());
+        keys.sort(true);
+        for (std::size_t i = 0; i < sorted.size(); ++i) EXPECT_EQ(keys[i], sorted[sorted.size() - 1 - i] * factor);
     }
 }
 
