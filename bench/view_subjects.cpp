@@ -151,7 +151,6 @@ class ExplorerWindow {
     void paint() {
         tree_.expand(explorer.model().find(recipe::rootKey));
         Desktop::settle();
-        tree_.viewport()->repaint();
     }
 
   private:
@@ -188,7 +187,6 @@ class PeerTree {
         root_->addChildren(recipes);
         root_->setExpanded(true);
         Desktop::settle();
-        tree_.viewport()->repaint();
     }
 
   private:
