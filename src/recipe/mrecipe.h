@@ -3,7 +3,7 @@
 #include "dialogs/frecipe.h"
 #include "recipe/recipe_window.h"
 
-/// The way of a recipe's properties between its row and the dialog.
+/// The way of a recipe's properties between its row and the dialog: the module MRecipe.
 namespace hx::recipe {
 
 /// Lets the user edit the current row. False when the dialog was cancelled or could not be filled: the row is as it

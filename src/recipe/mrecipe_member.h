@@ -3,8 +3,8 @@
 #include "dialogs/fsub_recipe.h"
 #include "recipe/recipe_window.h"
 
-/// Sub-recipes as members of a recipe. Any recipe can be included in any other and in itself, also in a circle: who
-/// follows them must guard against that.
+/// Sub-recipes as members of a recipe: the module MRecipeMember. Any recipe can be included in any other and in itself,
+/// also in a circle: who follows them must guard against that.
 namespace hx::recipe {
 
 /// Lets the user choose a recipe that the window's recipe includes from now on. False when the dialog was cancelled:
