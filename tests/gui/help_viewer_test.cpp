@@ -364,6 +364,35 @@ TEST_F(StudioHelpTest, TheHelpSpeaksTheLanguageOfTheStudio) {
     EXPECT_EQ(helpAt("Recipes/Limonade/Sub Recipes"), "Sub-Recipes - Recipe System Help");
 }
 
+TEST_F(StudioHelpTest, F1InTheRecipeDialogOpensItsTopicBesideIt) {
+    start();
+    open(makeProject());
+    click("Rezepte");
+    click("Rezepte/Limonade");
+    tree().setFocus();
+    std::string title;
+    QTimer::singleShot(100, &window(), [&] {
+        QWidget* dialog = QApplication::activeModalWidget();
+        ASSERT_NE(dialog, nullptr);
+        EXPECT_EQ(dialog->objectName(), "FRecipe");
+        QTest::keyClick(dialog->focusWidget(), Qt::Key_F1);
+        handleEvents();
+        if (host().help().window() != nullptr) {
+            title = qt::fromQt(host().help().window()->windowTitle());
+            clickContents(*host().help().window(), "Tasten");
+        }
+        dialog->activateWindow();
+        EXPECT_TRUE(waitUntil([dialog] { return dialog->isActiveWindow(); }));
+        QTest::keyClick(dialog, Qt::Key_Escape);
+    });
+    QTest::keyClick(&tree(), Qt::Key_F9);
+    handleEvents();
+    EXPECT_EQ(title, "Rezeptdefinition - Hilfe zum Rezeptsystem");
+    ASSERT_NE(host().help().window(), nullptr);
+    EXPECT_TRUE(host().help().window()->isVisible());
+    EXPECT_EQ(host().help().window()->windowTitle(), "Tasten - Hilfe zum Rezeptsystem");
+}
+
 TEST_F(StudioHelpTest, TheHelpClosesWithTheEditor) {
     start();
     open(makeProject());
