@@ -146,13 +146,17 @@ void Connect::NodeMouseUp(const host::NodeEvent& node, const host::NodeMouse& mo
     event("Connect: NodeMouseUp", [&] {
         const auto window = openWindow();
         if (!window) return;
+        const std::string shown = window->nodeKey();
         window->MenuSwitcher(node.key, true);
         // Whatever becomes of the menu, the bar must not keep the entries made for it.
         trap(services_.screen, "Connect: NodeMouseUp", [&] {
             if (const NodeMenu* menu = menuOf(node.key)) popUp(*window, menu->popUp);
         });
-        // A command of the menu may have closed the window and opened another.
-        if (const auto current = openWindow()) current->MenuSwitcher(node.key, false);
+        // A command of the menu may have closed the window and opened another, or deleted the node and shown the next.
+        if (const auto current = openWindow()) {
+            const bool moved = current == window && current->nodeKey() != shown;
+            current->MenuSwitcher(moved ? current->nodeKey() : node.key, false);
+        }
     });
 }
 

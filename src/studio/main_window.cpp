@@ -28,6 +28,9 @@ const QString title = QStringLiteral("HelvixStudio");
 const QString extension = QStringLiteral(".hxs");
 constexpr std::string_view languageValue = "LCID";
 
+// The connection string puts the path between other values, with nothing around it.
+bool canBeNamed(const QString& path) { return !path.contains(';') && !path.contains('"'); }
+
 }  // namespace
 
 MainWindow::MainWindow(StudioHost& host, Preferences& preferences)
@@ -108,6 +111,10 @@ bool MainWindow::openProject(const QString& path) {
         warn(Text::notProjectName, file.absoluteFilePath());
         return false;
     }
+    if (!canBeNamed(file.absoluteFilePath())) {
+        warn(Text::notProjectPath, file.absoluteFilePath());
+        return false;
+    }
     closeProject();
     try {
         project_ = std::make_unique<Project>(path, host_, explorer_);
@@ -163,6 +170,10 @@ bool MainWindow::createProject(const QString& path) {
     const QString file = path.endsWith(extension, Qt::CaseInsensitive) ? path : path + extension;
     if (QFileInfo::exists(file)) {
         warn(Text::fileExists, file);
+        return false;
+    }
+    if (!canBeNamed(QFileInfo(file).absoluteFilePath())) {
+        warn(Text::notProjectPath, file);
         return false;
     }
     try {

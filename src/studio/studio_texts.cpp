@@ -47,6 +47,8 @@ constexpr auto entries = std::to_array<Entry>({
     {Text::fileNotCreated, "Das Projekt konnte nicht angelegt werden:\n%1", "The project could not be created:\n%1"},
     {Text::notProjectName, "Der Name einer Projektdatei endet auf \".hxs\":\n%1",
      "The name of a project file ends in \".hxs\":\n%1"},
+    {Text::notProjectPath, "Name und Ordner eines Projekts dürfen kein \";\" und kein \"\"\" enthalten:\n%1",
+     "The name and the folder of a project must not contain \";\" or \"\"\":\n%1"},
     {Text::addInNotLoaded, "Der Rezepteditor steht nicht zur Verfügung.\n%1",
      "The recipe editor is not available.\n%1"},
     {Text::addInWrong, "Das Modul ist kein Add-In des Studios.", "The module is no add-in of the studio."},

@@ -37,6 +37,7 @@ enum class Text {
     fileExists,
     fileNotCreated,
     notProjectName,
+    notProjectPath,
     addInNotLoaded,
     addInWrong,
     registryNotWritten,

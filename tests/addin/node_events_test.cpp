@@ -196,6 +196,17 @@ TEST_F(NodeEvents, ACommandOfTheMenuMayReplaceTheWindow) {
     EXPECT_EQ(studio.boxes(), Texts{});
 }
 
+TEST_F(NodeEvents, ACommandOfTheMenuMayDeleteTheNode) {
+    studio.click("RCPR1");
+    studio.host.script.onPopUp = [](forms::Band&) { return std::string("mnuRecipeDelete"); };
+    studio.host.script.onMessage = [](const headless::Message&) { return forms::message::Answer::yes; };
+    studio.rightClick("RCPR1");
+    EXPECT_EQ(record.messages.size(), 1u) << "the question";
+    EXPECT_EQ(studio.nodes(), (Texts{"RCPE0", "RCPR2", "RCPU2"}));
+    EXPECT_NE(studio.window().nodeKey(), "RCPR1");
+    EXPECT_FALSE(visible("mnuRecipeEdit")) << "the menus are those of the node that is shown";
+}
+
 TEST_F(NodeEvents, CtrlCBeepsOnAnyNodeAndDoesNothingElse) {
     std::int32_t beeps = 0;
     for (const char* node : {"RCPE0", "RCPR1", "RCPU1", "VARS1", ""}) {

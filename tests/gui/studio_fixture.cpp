@@ -154,6 +154,14 @@ std::vector<std::string> StudioTest::stored(const QString& file, int recipe) {
     return result;
 }
 
+void StudioTest::store(const QString& file, int recipe, const std::string& variable) {
+    sqlite::Provider provider;
+    ado::Recordset rows;
+    rows.open("TrcpRecipeMember", connect(provider, file));
+    rows.addNew(std::vector<std::pair<std::string, automation::Variant>>{
+        {"ParentID", recipe}, {"VarRecipe", variable}, {"ChildID", 0}});
+}
+
 std::string StudioTest::titleOfEditor() {
     return editorWindow() == nullptr ? "no editor" : qt::fromQt(editorWindow()->windowTitle());
 }

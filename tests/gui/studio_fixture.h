@@ -47,6 +47,8 @@ class StudioTest : public testing::Test {
     void edit(int row, const QString& caption, const QString& text);
     /// The VarRecipe values of a recipe in the project file.
     [[nodiscard]] std::vector<std::string> stored(const QString& file, int recipe);
+    /// Adds a variable to a recipe in the project file, as another program does.
+    void store(const QString& file, int recipe, const std::string& variable);
     [[nodiscard]] std::string titleOfEditor();
 
     QTemporaryDir folder;

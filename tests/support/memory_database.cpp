@@ -9,8 +9,8 @@ using automation::Error;
 using automation::Null;
 using automation::Variant;
 
-MemoryTable::MemoryTable(std::string name, std::vector<MemoryColumn> columns, Conflict conflict)
-    : name_(std::move(name)), definitions_(std::move(columns)), conflict_(conflict) {
+MemoryTable::MemoryTable(std::string name, std::vector<MemoryColumn> columns, Identity identity)
+    : name_(std::move(name)), definitions_(std::move(columns)), identity_(identity) {
     for (const MemoryColumn& definition : definitions_) columns_.push_back(definition.column);
 }
 
@@ -26,6 +26,7 @@ ado::Key MemoryTable::insert(std::span<const ado::ColumnValue> values) {
     row[0] = static_cast<std::int32_t>(key);
     for (const ado::ColumnValue& value : values) row[value.column] = value.value;
     requireUnique(key, row);
+    if (const std::string identity = identityOf(row); !identity.empty()) identities_[identity] = key;
     rows_.emplace(key, std::move(row));
     lastKey_ = key;
     return key;
@@ -36,11 +37,13 @@ void MemoryTable::update(ado::Key key, std::span<const ado::ColumnValue> values)
     Row changed = stored;
     for (const ado::ColumnValue& value : values) changed[value.column] = value.value;
     requireUnique(key, changed);
+    identities_.erase(identityOf(stored));
+    if (const std::string identity = identityOf(changed); !identity.empty()) identities_[identity] = key;
     stored = std::move(changed);
 }
 
 void MemoryTable::remove(ado::Key key) {
-    require(key);
+    identities_.erase(identityOf(require(key)));
     rows_.erase(key);
 }
 
@@ -62,11 +65,10 @@ void MemoryTable::requireUnique(ado::Key key, const Row& row) const {
                                                  columns_[i].name + "\" of table \"" + name_ + "\".");
         }
     }
-    if (conflict_ == nullptr) return;
-    for (const auto& [other, values] : rows_) {
-        if (other != key && conflict_(row, values)) {
-            throw Error(ado::dbErrDuplicate, "Table \"" + name_ + "\" has such a row already.");
-        }
+    const std::string identity = identityOf(row);
+    const auto same = identity.empty() ? identities_.end() : identities_.find(identity);
+    if (same != identities_.end() && same->second != key) {
+        throw Error(ado::dbErrDuplicate, "Table \"" + name_ + "\" has such a row already.");
     }
 }
 
@@ -95,13 +97,11 @@ MemoryColumn uniqueText(std::string name) {
 }
 
 // A recipe has a variable once; sub-recipes may share the variable of their file name.
-bool sameVariable(const MemoryTable::Row& row, const MemoryTable::Row& other) {
+std::string variableOf(const MemoryTable::Row& row) {
     constexpr std::size_t parent = 1, variable = 2, child = 3;
-    const auto isVariable = [](const MemoryTable::Row& each) {
-        return toText(each[child]) == "0" && !toText(each[variable]).empty();
-    };
-    return isVariable(row) && isVariable(other) && toText(row[parent]) == toText(other[parent]) &&
-           automation::equalIgnoreCase(toText(row[variable]), toText(other[variable]));
+    const std::string name = toText(row[variable]);
+    if (toText(row[child]) != "0" || name.empty()) return {};
+    return toText(row[parent]) + "/" + automation::foldCase(name);
 }
 
 }  // namespace
@@ -128,7 +128,7 @@ MemoryDatabase MemoryDatabase::withRecipeTables() {
                         boolean("CryptEngine"),
                         integer("Options")}});
     database.addTable(
-        {"TrcpRecipeMember", {key("ID"), integer("ParentID"), text("VarRecipe"), integer("ChildID")}, &sameVariable});
+        {"TrcpRecipeMember", {key("ID"), integer("ParentID"), text("VarRecipe"), integer("ChildID")}, &variableOf});
     return database;
 }
 

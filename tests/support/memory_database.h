@@ -22,10 +22,10 @@ class MemoryTable {
   public:
     using Row = std::vector<automation::Variant>;
 
-    /// Whether two rows may not stand in the table together, beyond its unique columns.
-    using Conflict = bool (*)(const Row& row, const Row& other);
+    /// What no two rows of the table share, beyond its unique columns; empty for a row that shares with any.
+    using Identity = std::string (*)(const Row& row);
 
-    MemoryTable(std::string name, std::vector<MemoryColumn> columns, Conflict conflict = nullptr);
+    MemoryTable(std::string name, std::vector<MemoryColumn> columns, Identity identity = nullptr);
 
     [[nodiscard]] const std::string& name() const { return name_; }
     [[nodiscard]] const std::vector<ado::Column>& columns() const { return columns_; }
@@ -38,12 +38,14 @@ class MemoryTable {
 
   private:
     void requireUnique(ado::Key key, const Row& row) const;
+    [[nodiscard]] std::string identityOf(const Row& row) const { return identity_ == nullptr ? "" : identity_(row); }
     Row& require(ado::Key key);
 
     std::string name_;
     std::vector<MemoryColumn> definitions_;
     std::vector<ado::Column> columns_;
-    Conflict conflict_;
+    Identity identity_;
+    std::map<std::string, ado::Key> identities_;
     std::map<ado::Key, Row> rows_;
     ado::Key lastKey_ = 0;
 };

@@ -1,0 +1,79 @@
+#include <QMenu>
+#include <QTest>
+#include <QTimer>
+
+#include "adapters/qt/text.h"
+#include "adapters/sqlite/project_file.h"
+#include "gui/studio_fixture.h"
+
+namespace hx::gui {
+namespace {
+
+using Texts = std::vector<std::string>;
+
+TEST_F(StudioTest, OpensAProjectWhoseNameLooksLikeAFile) {
+    start();
+    makeProject("Anlage");
+    open(makeProject("Anlage.hxs"));
+    EXPECT_EQ(window().windowTitle(), "HelvixStudio - Anlage.hxs");
+    click("Rezepte");
+    click("Rezepte/Limonade");
+    edit(0, "Variable", "Mischer.Honig");
+    click("Rezepte");
+    EXPECT_EQ(stored(folder.filePath("Anlage.hxs.hxs"), 1), (Texts{"Mischer.Honig", "Mischer.Wasser"}));
+    EXPECT_EQ(stored(folder.filePath("Anlage.hxs"), 1), (Texts{"Mischer.Zucker", "Mischer.Wasser"}));
+}
+
+TEST_F(StudioTest, RefusesAPathThatNoConnectionStringCanName) {
+    start();
+    for (const char* name : {"Anlage;2", "Anlage\"2"}) {
+        const QString file = folder.filePath(QString(name) + ".hxs");
+        sqlite::createProject(qt::fromQt(file));
+        const BoxAnswers answers({"OK"});
+        EXPECT_FALSE(window().openProject(file));
+        ASSERT_EQ(answers.shown().size(), 1U);
+        EXPECT_NE(answers.shown()[0].text.find(qt::fromQt(file)), std::string::npos) << answers.shown()[0].text;
+        EXPECT_EQ(window().windowTitle(), "HelvixStudio");
+    }
+}
+
+TEST_F(StudioTest, TheMenuOfANodeOfSubRecipesShowsTheEditorAlone) {
+    start();
+    open(makeProject());
+    click("Rezepte");
+    QStringList shown;
+    QTimer::singleShot(200, [&] {
+        auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        ASSERT_NE(menu, nullptr);
+        for (const QAction* action : menu->actions()) shown.append(action->text().section('\t', 0, 0));
+        menu->close();
+    });
+    click("Rezepte/Limonade/Unterrezepte", Qt::RightButton);
+    EXPECT_EQ(shown, (QStringList{"Editor anzeigen"}));
+}
+
+// The module runs as the built library: its window procedure sees the window become active.
+TEST_F(StudioTest, TheEditorReadsItsMembersAfreshWhenItIsActivated) {
+    start();
+    const QString file = makeProject();
+    open(file);
+    click("Rezepte");
+    click("Rezepte/Limonade");
+    QMdiSubWindow* editor = editorWindow();
+    ASSERT_NE(editor, nullptr);
+    QWidget other;
+    QMdiSubWindow* beside = documents().addSubWindow(&other);
+    beside->show();
+    documents().setActiveSubWindow(beside);
+    handleEvents();
+    store(file, 1, "Mischer.Aroma");
+    EXPECT_EQ(texts("Variable"), (Texts{"Mischer.Zucker", "Mischer.Wasser"}));
+    documents().setActiveSubWindow(editor);
+    handleEvents();
+    EXPECT_EQ(texts("Variable"), (Texts{"Mischer.Zucker", "Mischer.Wasser", "Mischer.Aroma"}));
+    documents().removeSubWindow(&other);
+    delete beside;
+}
+
+}  // namespace
+}  // namespace hx::gui
