@@ -1,5 +1,7 @@
 #include "forms/grid.h"
 
+#include <algorithm>
+
 #include "automation/convert.h"
 #include "automation/text.h"
 #include "forms/known_value.h"
@@ -118,6 +120,8 @@ void Grid::editorClosed() {
 bool Grid::caretAtEnd() const {
     return !editorOpen_ || static_cast<std::size_t>(editorCaret_) >= automation::characterCount(editorText_);
 }
+
+bool Grid::claims(const KeyEvent& key) const { return std::ranges::find(claimed_, key) != claimed_.end(); }
 
 GridHit Grid::hitTest(double x, double y) const { return hitTester_ ? hitTester_(x, y) : GridHit::nowhere; }
 

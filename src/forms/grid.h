@@ -11,6 +11,7 @@
 #include "ado/recordset.h"
 #include "forms/control.h"
 #include "forms/grid_column.h"
+#include "forms/input.h"
 
 namespace hx::forms {
 
@@ -134,6 +135,13 @@ class Grid : public Control {
     void cancelUpdate();  ///< drops the pending row; the stored values show again
     /// Raises errorEvent; when its response stays 1, shows "code: description" in a message box of the form's screen.
     void reportError(std::int32_t code, const std::string& description);
+    /// Asks the view for the text of an open cell editor, which goes into its cell; the editor closes. One whose text
+    /// cannot be taken stays open.
+    void settle() { changed.raise("Settle"); }
+
+    // --- keys that a view gives to the grid although a window around it has a shortcut of the same name
+    void claimKeys(std::vector<KeyEvent> keys) { claimed_ = std::move(keys); }
+    [[nodiscard]] bool claims(const KeyEvent& key) const;
 
     // --- sorting: the text is appended to ORDER BY
     [[nodiscard]] const std::string& sortText() const noexcept { return sortText_; }
@@ -144,6 +152,9 @@ class Grid : public Control {
     void headClick(std::int32_t column);
 
     // --- what a view reports
+    /// What the view could not read or hand over, told when the user can be asked. Raises viewErrorEvent, then as
+    /// reportError.
+    void viewFailed(const automation::Error& error);
     void buttonClick(std::int32_t row, std::int32_t column);  ///< makes the cell current, then raises buttonClickEvent
     /// The cell editor's text and caret while it is open, so that key handlers can ask; closed by editorClosed.
     void editorReported(const std::string& text, std::int32_t caret);
@@ -163,7 +174,7 @@ class Grid : public Control {
     Event<> columnsChanged;          ///< columns were added, removed or reordered
     Event<> currentCellChanged;
     Event<bool&> leavingRowEvent;  ///< the current row has changed data; set true to stay
-    Event<GridError&> errorEvent;
+    Event<GridError&> errorEvent, viewErrorEvent;
     Event<std::int32_t> headClickEvent, buttonClickEvent;  ///< column number
 
     [[nodiscard]] const automation::MemberTable& members() const override;
@@ -179,6 +190,7 @@ class Grid : public Control {
     void leaveHiddenColumn();
     bool leaveRow();
     bool tryUpdate();
+    void showError(const GridError& error) const;
     void moveTo(std::int32_t row);
     void changeCell(std::int32_t column, const std::string& text);
     void dropEdit();
@@ -192,6 +204,7 @@ class Grid : public Control {
     std::vector<std::shared_ptr<Split>> splits_;
     std::shared_ptr<SelectedRows> selectedRows_;
     std::function<GridHit(double, double)> hitTester_;
+    std::vector<KeyEvent> claimed_;
     std::int32_t col_ = 0, editorCaret_ = 0;
     MultiSelect multiSelect_ = MultiSelect::simple;
     bool allowUpdate_ = true, allowAddNew_ = false, addNewMode_ = false, dataChanged_ = false, editorOpen_ = false;

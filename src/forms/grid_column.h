@@ -12,7 +12,8 @@
 namespace hx::forms {
 
 /// Turns stored values into display texts. A source is asked for each value when it is first shown; its answers are
-/// kept until clear(). A value without a text shows nothing.
+/// kept until clear(). A value without a text shows nothing. What the source throws is thrown on, and it is asked
+/// again.
 class ValueItems {
   public:
     using Source = std::function<std::optional<std::string>(const automation::Variant&)>;

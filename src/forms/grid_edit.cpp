@@ -174,8 +174,20 @@ void Grid::reportError(std::int32_t code, const std::string& description) {
     const auto keep = share();
     GridError error{code, description};
     errorEvent.raise(error);
+    showError(error);
+}
+
+void Grid::viewFailed(const Error& error) {
+    const auto keep = share();
+    GridError reported{error.number(), error.description()};
+    viewErrorEvent.raise(reported);
+    showError(reported);
+}
+
+void Grid::showError(const GridError& error) const {
     if (error.response == 0 || form() == nullptr) return;
-    form()->screen().messageBox(std::to_string(code) + ": " + description, message::ok, message::defaultTitle);
+    form()->screen().messageBox(std::to_string(error.code) + ": " + error.description, message::ok,
+                                message::defaultTitle);
 }
 
 void Grid::buttonClick(std::int32_t row, std::int32_t column) {

@@ -25,6 +25,7 @@ struct KeyEvent {
     std::int16_t shift = 0;
     [[nodiscard]] bool swallowed() const noexcept { return code == 0; }
     void swallow() noexcept { code = 0; }
+    friend bool operator==(const KeyEvent&, const KeyEvent&) = default;
 };
 
 /// A character typed (its Unicode code point).

@@ -219,6 +219,19 @@ TEST_F(GridTranslations, AskTheSourceOnceForEachValueUntilTheyAreCleared) {
     EXPECT_EQ(asked, 2);
 }
 
+TEST_F(GridTranslations, AskTheSourceAgainForWhatItCouldNotTell) {
+    int asked = 0;
+    ValueItems& items = grid.column(Variant("Options")).valueItems();
+    items.setSource([&](const Variant&) -> std::optional<std::string> {
+        if (++asked == 1) throw automation::Error(7, "busy");
+        return "da";
+    });
+    EXPECT_EQ(errorNumber([&] { (void)text(0, "Options"); }), 7);
+    EXPECT_EQ(text(0, "Options"), "da");
+    EXPECT_EQ(text(1, "Options"), "da");
+    EXPECT_EQ(asked, 2);
+}
+
 TEST(ValueItems, TellKindsOfValuesApart) {
     ValueItems items;
     EXPECT_EQ(items.display(Variant(1.5)), "1.5");

@@ -329,6 +329,38 @@ TEST_F(GridEdit, TheOpenEditorTellsWhereTheCaretStands) {
     EXPECT_TRUE(grid.caretAtEnd());
 }
 
+TEST_F(GridEdit, SettlingAsksTheViewForAnOpenEditor) {
+    int asked = 0;
+    grid.changed.connect([&](std::string_view property) { asked += property == "Settle" ? 1 : 0; });
+    grid.settle();
+    EXPECT_EQ(asked, 1);
+}
+
+TEST_F(GridEdit, AFailureOfItsViewIsShownUnlessAHandlerDoes) {
+    grid.viewFailed(automation::Error(7, "No disk"));
+    EXPECT_EQ(screen.calls, std::vector<std::string>{"message 7: No disk | 0 | " + std::string(message::defaultTitle)});
+    screen.calls.clear();
+    std::string seen;
+    grid.viewErrorEvent.connect([&](GridError& error) {
+        seen = std::to_string(error.code) + " " + error.description;
+        error.response = 0;
+    });
+    int others = 0;
+    grid.errorEvent.connect([&](GridError&) { ++others; });
+    grid.viewFailed(automation::Error(8, "No file"));
+    EXPECT_EQ(seen, "8 No file");
+    EXPECT_EQ(others, 0);
+    EXPECT_EQ(screen.calls, std::vector<std::string>{});
+}
+
+TEST_F(GridEdit, ClaimsTheKeysThatItIsGiven) {
+    EXPECT_FALSE(grid.claims({key::o, shift::ctrl}));
+    grid.claimKeys({{key::o, shift::ctrl}, {key::f9, shift::none}});
+    EXPECT_TRUE(grid.claims({key::o, shift::ctrl}));
+    EXPECT_TRUE(grid.claims({key::f9, shift::none}));
+    EXPECT_FALSE(grid.claims({key::o, shift::none}));
+}
+
 TEST_F(GridEdit, AClickOnACellsButtonMakesTheCellCurrentFirst) {
     std::string seen;
     grid.buttonClickEvent.connect([&](std::int32_t column) {
