@@ -43,6 +43,7 @@ MemberGrid::MemberGrid(frmtabgrid& window, AddIn& addIn) : window_(window), addI
     grid_.setDataMember("tabRecipeMembers");
     subscriptions_.push_back(grid_.leavingRowEvent.subscribe([this](bool& stay) { leavingRow(stay); }));
     subscriptions_.push_back(grid_.errorEvent.subscribe([this](forms::GridError& error) { reportedError(error); }));
+    subscriptions_.push_back(grid_.viewErrorEvent.subscribe([this](forms::GridError& error) { viewFailed(error); }));
     subscriptions_.push_back(grid_.buttonClickEvent.subscribe([this](std::int32_t column) { buttonClicked(column); }));
     subscriptions_.push_back(grid_.headClickEvent.subscribe(
         [this](std::int32_t) { guard(addIn_, "tdbRM_HeadClick", [this] { window_.refreshMembers(); }); }));
@@ -76,7 +77,7 @@ void MemberGrid::addColumn(const std::string& field) {
         column.valueItems().setSource([this](const Variant& id) -> std::optional<std::string> {
             const auto& data = window_.dataEnvironment();
             if (data == nullptr || !id.isNumber()) return {};
-            return nameOfRecipe(data->CnnRecipes, automation::toInt32(id));
+            return readNameOfRecipe(data->CnnRecipes, automation::toInt32(id));
         });
     }
 }

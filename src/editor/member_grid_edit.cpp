@@ -40,6 +40,7 @@ void MemberGrid::clearErrors() {
 }
 
 void MemberGrid::verifyAdds() {
+    grid_.settle();
     const std::string_view type = recipe::KeyPrefix(window_.nodeKey());
     if (type != recipe::prefixRecipe && type != recipe::prefixSubRecipes) return;
     const auto write = [this] {
@@ -90,6 +91,12 @@ void MemberGrid::reportedError(forms::GridError& error) {
     grid_.setFocus();
 }
 
+void MemberGrid::viewFailed(forms::GridError& error) {
+    error.response = 0;
+    const Busy busy(addIn_.busy());
+    showError(window_.screen(), Error(error.code, error.description), "tdbRM");
+}
+
 void MemberGrid::resetStaleRows(std::int32_t code) {
     const std::string text = addIn_.texts().GetResource(staleRowText);
     {
@@ -135,6 +142,7 @@ void MemberGrid::buttonClicked(std::int32_t column) {
 }
 
 void MemberGrid::chooseVariable() {
+    grid_.settle();
     const std::int32_t row = grid_.row();
     if (row < 0 && !grid_.addNewMode()) return;
     const std::int32_t column = grid_.columnNumber(Variant(member::varRecipe));

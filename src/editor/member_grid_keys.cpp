@@ -75,6 +75,9 @@ MemberGridKeys::MemberGridKeys(frmtabgrid& window, MemberGrid& members, Menus& m
     subscriptions_.push_back(grid_.keyDownEvent.subscribe([this](forms::KeyEvent& event) { run(down, event); }));
     subscriptions_.push_back(grid_.keyUpEvent.subscribe([this](forms::KeyEvent& event) { run(up, event); }));
     subscriptions_.push_back(grid_.keyPressEvent.subscribe([this](forms::KeyPress& event) { keyPress(event); }));
+    std::vector<forms::KeyEvent> own;
+    for (const Row& row : down) own.push_back({row.code, row.shift});
+    grid_.claimKeys(std::move(own));
 }
 
 void MemberGridKeys::run(std::span<const Row> rows, forms::KeyEvent& event) {

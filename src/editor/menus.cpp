@@ -119,6 +119,7 @@ void Menus::menuOpening(const forms::Tool& tool) {
 }
 
 void Menus::runMemberTool(std::string_view name) {
+    window_.tdbRM->settle();
     window_.MenuSwitcher(window_.nodeKey(), false);
     window_.abr_ToolClick(window_.abr->band(Variant(band::member)).tool(Variant(name)));
 }
@@ -126,7 +127,12 @@ void Menus::runMemberTool(std::string_view name) {
 void Menus::popUpMembers() {
     const auto keep = window_.share();  // a command of the menu may close the window
     window_.MenuSwitcher(window_.nodeKey(), true);
-    window_.screen().popUp(*window_.abr, window_.abr->band(Variant(band::member)));
+    try {
+        window_.screen().popUp(*window_.abr, window_.abr->band(Variant(band::member)));
+    } catch (...) {
+        window_.MenuSwitcher(window_.nodeKey(), false);
+        throw;
+    }
     window_.MenuSwitcher(window_.nodeKey(), false);
 }
 

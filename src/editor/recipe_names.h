@@ -12,5 +12,8 @@ namespace hx::editor {
 /// null), or the name cannot be read.
 [[nodiscard]] std::optional<std::string> nameOfRecipe(const std::shared_ptr<ado::Connection>& connection,
                                                       std::int32_t id) noexcept;
+/// The same, but what keeps the name from being read is thrown.
+[[nodiscard]] std::optional<std::string> readNameOfRecipe(const std::shared_ptr<ado::Connection>& connection,
+                                                          std::int32_t id);
 
 }  // namespace hx::editor

@@ -42,7 +42,12 @@ void RefreshMemberView(MemberView& view, const resources::ResourceTable& texts) 
     CloseRecordset(members, view.saveFirst());
     members.setSource(memberQuery(view.nodeKey()) + order);
     members.setCommandType(ado::adCmdText);
-    members.open();
+    try {
+        members.open();
+    } catch (...) {
+        grid.reload();  // the rows that it showed are gone
+        throw;
+    }
     grid.reload();
     const bool subRecipes = KeyPrefix(view.nodeKey()) == prefixSubRecipes;
     view.setSubRecipeView(subRecipes);

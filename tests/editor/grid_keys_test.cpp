@@ -126,6 +126,41 @@ TEST_F(GridKeys, ControlDeleteRefreshesTheMenusAndRunsTheDelete) {
     EXPECT_EQ(host.record.beeps, 1);
 }
 
+TEST_F(GridKeys, ACommandGetsWhatIsBeingTypedInTheOpenEditor) {
+    std::string typed;
+    Texts seen;
+    const auto editor = grid().changed.subscribe([&](std::string_view property) {
+        if (property == "Settle") type(1, typed);
+    });
+    host.script.onItem = [&](const std::string& current) {
+        seen.push_back(current);
+        return "";
+    };
+    grid().setRow(1);
+    grid().setCol(columnNumber("VarRecipe"));
+    typed = "A";
+    EXPECT_TRUE(press(key::f9));
+    typed = "B";
+    forms::KeyPress space{key::space};
+    grid().keyPress(space);
+    EXPECT_EQ(seen, (Texts{"A", "B"}));
+    typed = "C";
+    EXPECT_TRUE(press(key::f8));
+    EXPECT_EQ(shown("VarRecipe")[1], "C");
+    selectRows({0});
+    typed = "D";
+    EXPECT_TRUE(press(key::del, shift::ctrl));
+    EXPECT_EQ(shown("VarRecipe")[1], "D");
+    EXPECT_EQ(commands, (Texts{"mnuRecipeMember(0)", "mnuRecipeMember(2)"}));
+}
+
+TEST_F(GridKeys, ItsKeysAreClaimedFromTheWindowsAround) {
+    EXPECT_TRUE(grid().claims({key::o, shift::ctrl}));
+    EXPECT_TRUE(grid().claims({key::pageDown, shift::ctrl}));
+    EXPECT_FALSE(grid().claims({key::o, shift::none}));
+    EXPECT_FALSE(grid().claims({key::c, shift::ctrl}));
+}
+
 TEST_F(GridKeys, AltF6IsSwallowedAndGivesTheExplorerTheKeyboard) {
     EXPECT_TRUE(press(key::f6, shift::alt));
     EXPECT_EQ(host.explorer.activations(), 1);

@@ -92,6 +92,14 @@ TEST_F(GridMouse, AChosenEntryIsClicked) {
     EXPECT_EQ(commands, (Texts{"mnuRecipeMember(1)"}));
 }
 
+TEST_F(GridMouse, TheMenuBarIsAsBeforeAfterAMenuThatFailed) {
+    host.script.onPopUp = [](forms::Band&) -> std::string { throw automation::Error(7, "No menu."); };
+    rightClick();
+    EXPECT_EQ(messages(), Texts{"7: No menu."});
+    EXPECT_EQ(window->abr->band(automation::Variant("mnuMain")).find("mnuShowEditor"), nullptr);
+    EXPECT_FALSE(tool("mnuRecipeMemberDescriptor").visible());
+}
+
 TEST_F(GridMouse, OtherButtonsShowNoMenu) {
     grid().mouseUp({button::left, 0, 10, 10});
     grid().mouseUp({button::middle, 0, 10, 10});

@@ -154,12 +154,26 @@ TEST_F(MemberGrid, KeepsTheNamesUntilTheyAreRefreshed) {
     EXPECT_EQ(shown("ChildID"), (Texts{"Melasse", "Wasser"}));
 }
 
-TEST_F(MemberGrid, ShowsNothingForANameThatCannotBeRead) {
+TEST_F(MemberGrid, AsksAgainForANameThatCouldNotBeRead) {
     show(mixSubRecipes);
     faults.arm(1, support::FaultPlan::Kind::open);
-    EXPECT_EQ(grid().text(0, columnNumber("ChildID")), "");
+    EXPECT_THROW((void)grid().text(0, columnNumber("ChildID")), automation::Error);
     EXPECT_TRUE(faults.fired());
     EXPECT_EQ(messages(), Texts{});
+    EXPECT_EQ(shown("ChildID"), (Texts{"Sirup", "Wasser"}));
+}
+
+TEST_F(MemberGrid, TellsWhatItsViewCouldNotRead) {
+    bool busy = false;
+    host.script.onMessage = [&](const headless::Message& message) {
+        busy = addIn.busyFlag.isSet();
+        return message.defaultButton;
+    };
+    grid().viewFailed(automation::Error(7, "The disk cannot be read."));
+    EXPECT_EQ(messages(), Texts{"7: The disk cannot be read."});
+    EXPECT_EQ(host.record.messages[0].title, "tdbRM");
+    EXPECT_TRUE(busy);
+    EXPECT_EQ(host.record.beeps, 0);
 }
 
 TEST_F(MemberGrid, ShowsNoRowsForTheRoot) {
@@ -258,3 +272,15 @@ TEST_F(MemberGrid, ARefreshThatFailsReachesItsCaller) {
 
 }  // namespace
 }  // namespace hx::editor
+TEST_F(MemberGrid, ShowsNoRowsAfterARefreshThatFails) {
+    show(mixKey);
+    std::vector<std::int32_t> counts;
+    const auto watch = grid().rowsChanged.subscribe([&] { counts.push_back(grid().rowCount()); });
+    faults.arm(1, support::FaultPlan::Kind::open);
+    EXPECT_THROW(show(mixSubRecipes), automation::Error);
+    EXPECT_EQ(counts, std::vector<std::int32_t>{0});
+    counts.clear();
+    show(mixSubRecipes);
+    EXPECT_EQ(shown("ChildID"), (Texts{"Sirup", "Wasser"}));
+}
+

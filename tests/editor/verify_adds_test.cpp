@@ -25,6 +25,14 @@ TEST_F(VerifyAdds, WritesAPendingEdit) {
     EXPECT_FALSE(grid().dataChanged());
 }
 
+TEST_F(VerifyAdds, WritesWhatIsBeingTyped) {
+    const auto editor = grid().changed.subscribe([this](std::string_view property) {
+        if (property == "Settle") type(0, "Tank.Pressure");
+    });
+    window->VerifyAdds();
+    EXPECT_EQ(storedVariable(1), "Tank.Pressure");
+}
+
 TEST_F(VerifyAdds, WritesAPendingEditOfASubRecipe) {
     show(mixSubRecipes);
     type(0, "File.Other");
