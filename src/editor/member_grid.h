@@ -51,8 +51,8 @@ class MemberGrid {
     void leavingRow(bool& stay);
     void buttonClicked(std::int32_t column);
     void reportedError(forms::GridError& error);
-    void resetStaleRows(std::int32_t code);
     void viewFailed(forms::GridError& error);
+    void resetStaleRows(std::int32_t code);
     void refuseDuplicate();
     void showRefusals(std::int32_t code);
     void showRefusal(const ado::ProviderError& error);

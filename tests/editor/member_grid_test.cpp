@@ -270,8 +270,6 @@ TEST_F(MemberGrid, ARefreshThatFailsReachesItsCaller) {
     EXPECT_THROW(show(mixKey), automation::Error);
 }
 
-}  // namespace
-}  // namespace hx::editor
 TEST_F(MemberGrid, ShowsNoRowsAfterARefreshThatFails) {
     show(mixKey);
     std::vector<std::int32_t> counts;
@@ -284,3 +282,5 @@ TEST_F(MemberGrid, ShowsNoRowsAfterARefreshThatFails) {
     EXPECT_EQ(shown("ChildID"), (Texts{"Sirup", "Wasser"}));
 }
 
+}  // namespace
+}  // namespace hx::editor
