@@ -8,7 +8,7 @@ namespace hx::gui {
 DemoForm::DemoForm(forms::Screen& screen)
     : Form("demo", screen),
       database_(provider_.add("demo.hxs")),
-      connection_(std::make_shared<ado::Connection>(provider_)),
+      connection_(std::make_shared<ado::Connection>(faulty_)),
       rows_(std::make_shared<ado::Recordset>()) {
     setCaption("Demo");
     move(0, 0, 9000, 6000);
@@ -38,7 +38,8 @@ support::MemoryTable& DemoForm::table() { return database_.table("TrcpRecipeMemb
 
 void DemoForm::fill(int count) {
     using automation::Variant;
-    for (int i = 1; i <= count; ++i) {
+    const int before = static_cast<int>(table().rows().size());
+    for (int i = before + 1; i <= before + count; ++i) {
         const std::array<ado::ColumnValue, 3> row{
             {{1, Variant(std::int32_t{1})}, {2, Variant(std::int32_t{0})}, {3, Variant("Var" + std::to_string(i))}}};
         const auto& columns = table().columns();

@@ -9,6 +9,7 @@
 #include "forms/simple_controls.h"
 #include "forms/status_bar.h"
 #include "forms/tool_bar.h"
+#include "support/faulty_provider.h"
 #include "support/memory_provider.h"
 
 namespace hx::gui {
@@ -24,6 +25,7 @@ class DemoForm : public forms::Form {
     std::shared_ptr<forms::Grid> grid;
     std::shared_ptr<forms::StatusBar> sb;
     std::shared_ptr<forms::PictureBox> split;
+    support::FaultPlan faults;  ///< of the database
 
     /// Adds members to the table and shows all of them.
     void fill(int rows);
@@ -34,6 +36,7 @@ class DemoForm : public forms::Form {
     void layOut();
     support::MemoryProvider provider_;
     support::MemoryDatabase& database_;
+    support::FaultyProvider faulty_{provider_, faults};
     std::shared_ptr<ado::Connection> connection_;
     std::shared_ptr<ado::Recordset> rows_;
 };

@@ -1,64 +1,14 @@
 #include <QHeaderView>
-#include <QLineEdit>
 #include <QScrollBar>
-#include <QTableView>
-#include <QTest>
-#include <algorithm>
 
-#include "automation/convert.h"
-#include "gui/demo_form.h"
-#include "gui/desktop.h"
+#include "gui/grid_fixture.h"
 
 namespace hx::gui {
 namespace {
 
-using automation::Variant;
 constexpr std::int16_t altKey = 18;
 
-class GridViewTest : public Desktop {
-  protected:
-    std::shared_ptr<DemoForm> form = std::make_shared<DemoForm>(screen);
-
-    void show(int rows) {
-        form->fill(rows);
-        form->show();
-        windowOf(*form).activateWindow();
-        ASSERT_TRUE(waitUntil([this] { return windowOf(*form).isActiveWindow(); }));
-        table().setFocus();
-    }
-    [[nodiscard]] QTableView& table() { return find<QTableView>(windowOf(*form), "grid.Splits(1)"); }
-    [[nodiscard]] QTableView& leftTable() { return find<QTableView>(windowOf(*form), "grid.Splits(0)"); }
-    [[nodiscard]] forms::Grid& grid() { return *form->grid; }
-    [[nodiscard]] int numberOf(const char* field) {
-        for (std::size_t i = 0; i < grid().columns().size(); ++i) {
-            if (grid().columns()[i]->dataField() == field) return static_cast<int>(i);
-        }
-        throw std::runtime_error(field);
-    }
-    [[nodiscard]] QRect cell(int row, const char* field) {
-        return table().visualRect(table().model()->index(row, numberOf(field)));
-    }
-    void click(int row, const char* field, Qt::KeyboardModifiers modifiers = {}) {
-        QTest::mouseClick(table().viewport(), Qt::LeftButton, modifiers, cell(row, field).center() - QPoint(30, 0));
-    }
-    void clickSelector(int row, Qt::KeyboardModifiers modifiers = {}) {
-        QHeaderView& header = *table().verticalHeader();
-        QTest::mouseClick(header.viewport(), Qt::LeftButton, modifiers,
-                          QPoint(5, header.sectionViewportPosition(row) + 5));
-    }
-    void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
-        QTest::keyClick(QApplication::focusWidget(), key, modifiers);
-        handleEvents();  // an editor closes behind the key
-    }
-    [[nodiscard]] QLineEdit* editor() { return table().findChild<QLineEdit*>("cellEditor"); }
-    [[nodiscard]] std::string stored(int key) {
-        return automation::toText((*form->table().row(key))[numberInTable("VarRecipe")]);
-    }
-    [[nodiscard]] std::size_t numberInTable(const char* field) {
-        const auto& columns = form->table().columns();
-        return static_cast<std::size_t>(std::ranges::find(columns, field, &ado::Column::name) - columns.begin());
-    }
-};
+using GridViewTest = GridFixture;
 
 TEST_F(GridViewTest, ShowsTheTextsOfTheGridInItsColumns) {
     show(3);
@@ -265,6 +215,17 @@ TEST_F(GridViewTest, TheFirstSplitIsASecondTableThatScrollsAlong) {
     grid().split(0).setSize(0);
     EXPECT_FALSE(leftTable().isVisible());
     EXPECT_FALSE(table().verticalHeader()->isHidden());
+}
+
+TEST_F(GridViewTest, EndsWithItsWindowAndWithTheStatusLineWhileThatIsShown) {
+    show(3);
+    const auto bottom = [this] { return table().mapTo(&windowOf(*form), QPoint(0, table().height())).y(); };
+    const double enough = grid().height() + 2 * form->sb->height();
+    grid().setHeight(enough);
+    EXPECT_EQ(bottom(), find<QWidget>(windowOf(*form), "sb").y());
+    form->sb->setVisible(false);
+    grid().setHeight(enough + 15);
+    EXPECT_EQ(bottom(), windowOf(*form).height());
 }
 
 TEST_F(GridViewTest, TellsWhatLiesUnderAPoint) {

@@ -11,13 +11,20 @@ void FaultPlan::arm(int nth, Kind kind, automation::Error error) {
     nth_ = nth;
     count_ = 0;
     fired_ = false;
+    lasting_ = false;
     kind_ = kind;
     error_ = std::move(error);
 }
 
+void FaultPlan::armFrom(int nth, Kind kind, automation::Error error) {
+    arm(nth, kind, std::move(error));
+    lasting_ = true;
+}
+
 void FaultPlan::pass(Kind kind) {
     if (kind_ != Kind::any && kind_ != kind) return;
-    if (++count_ != nth_) return;
+    ++count_;
+    if (lasting_ ? nth_ == 0 || count_ < nth_ : count_ != nth_) return;
     fired_ = true;
     if (instead) return instead();
     throw automation::Error(error_);

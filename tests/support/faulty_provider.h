@@ -18,6 +18,9 @@ class FaultPlan {
     /// The n-th operation of the kind fails with this error, and no other. The operation then has had no effect.
     void arm(int nth, Kind kind = Kind::any,
              automation::Error error = {ado::dbErrUnspecified, "The disk cannot be written."});
+    /// The same for the n-th operation and all after it.
+    void armFrom(int nth, Kind kind = Kind::any,
+                 automation::Error error = {ado::dbErrUnspecified, "The disk cannot be read."});
     void disarm() { nth_ = 0; }
     /// Called in place of failing, when it is set.
     std::function<void()> instead;
@@ -32,6 +35,7 @@ class FaultPlan {
     int nth_ = 0;
     int count_ = 0;
     bool fired_ = false;
+    bool lasting_ = false;
     Kind kind_ = Kind::any;
     automation::Error error_{ado::dbErrUnspecified, {}};
 };

@@ -207,6 +207,7 @@ bool FormView::reportKey(QKeyEvent& event, forms::Control& control) {
     const auto keep = control.share();
     const auto keepForm = form_->share();
     const bool down = event.type() == QEvent::KeyPress;
+    if (!down && event.isAutoRepeat()) return false;  // the key is still held
     const bool previews = form_->keyPreview() && &control != form_;
     if (forms::KeyEvent key{virtualKey(event), shiftState(event.modifiers())}; key.code != 0) {
         const auto report = [&](forms::Control& to) { down ? to.keyDown(key) : to.keyUp(key); };
@@ -222,6 +223,7 @@ bool FormView::reportKey(QKeyEvent& event, forms::Control& control) {
 }
 
 int FormView::freeBottom(const QWidget& area, int bottom) const {
+    bottom = std::min(bottom, area.height());
     for (const auto& view : views_) {
         const QWidget& bar = view->widget();
         if (dynamic_cast<const StatusBarView*>(view.get()) == nullptr || bar.parentWidget() != &area) continue;

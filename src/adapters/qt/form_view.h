@@ -53,7 +53,7 @@ class FormView : public QObject {
 
     /// Reports a key that went down or up in a control: to the form first when it previews keys. True when swallowed.
     bool reportKey(QKeyEvent& event, forms::Control& control);
-    /// The bottom edge that a control may reach to, so that it covers no status line; in pixels of its area.
+    /// The bottom edge that a control may reach to, within its area and covering no status line; in pixels of it.
     [[nodiscard]] int freeBottom(const QWidget& area, int bottom) const;
 
   protected:

@@ -9,36 +9,42 @@ namespace {
 
 bool isNumber(ado::DataType type) { return type == ado::adSmallInt || type == ado::adInteger || type == ado::adDouble; }
 
-Qt::Alignment alignmentOf(const forms::Column& column, const ado::Recordset* rows) {
-    if (rows == nullptr || rows->state() != ado::adStateOpen || column.valueItems().translates()) return Qt::AlignLeft;
+bool showsNumbers(const forms::Column& column, const ado::Recordset* rows) {
+    if (rows == nullptr || rows->state() != ado::adStateOpen || column.valueItems().translates()) return false;
     for (const ado::Column& field : rows->columns()) {
-        if (automation::equalIgnoreCase(field.name, column.dataField())) {
-            return isNumber(field.type) ? Qt::AlignRight : Qt::AlignLeft;
-        }
+        if (automation::equalIgnoreCase(field.name, column.dataField())) return isNumber(field.type);
     }
-    return Qt::AlignLeft;
+    return false;
 }
 
 }  // namespace
 
-GridModel::GridModel(forms::Grid& grid) : grid_(&grid) { refresh(); }
+GridModel::GridModel(forms::Grid& grid, GridErrors::Report report) : grid_(&grid), errors_(std::move(report)) {
+    refresh();
+}
 
 int GridModel::rowCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : rows_; }
 
 int GridModel::columnCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : columns_; }
 
+QString GridModel::text(int row, int column) const noexcept {
+    QString shown;
+    errors_.read([&] { shown = toQt(grid_->text(row, column)); });
+    return shown;
+}
+
 QVariant GridModel::data(const QModelIndex& index, int role) const {
     if (grid_ == nullptr || !index.isValid()) return {};
-    if (role == Qt::DisplayRole || role == Qt::EditRole) return toQt(grid_->text(index.row(), index.column()));
-    if (role == Qt::TextAlignmentRole)
-        return QVariant::fromValue(alignments_[static_cast<std::size_t>(index.column())]);
+    if (role == Qt::DisplayRole || role == Qt::EditRole) return text(index.row(), index.column());
+    if (role == Qt::TextAlignmentRole) {
+        return QVariant::fromValue(isRightAligned(index.column()) ? Qt::AlignRight : Qt::AlignLeft);
+    }
     return {};
 }
 
 QVariant GridModel::headerData(int section, Qt::Orientation orientation, int role) const {
     if (grid_ == nullptr || orientation != Qt::Horizontal || section >= columns_) return {};
     if (role == Qt::DisplayRole) return toQt(grid_->columns()[static_cast<std::size_t>(section)]->caption());
-    if (role == Qt::TextAlignmentRole) return QVariant::fromValue(Qt::AlignLeft | Qt::AlignVCenter);
     return {};
 }
 
@@ -50,30 +56,39 @@ Qt::ItemFlags GridModel::flags(const QModelIndex& index) const {
 
 bool GridModel::setData(const QModelIndex& index, const QVariant& value, int role) {
     if (grid_ == nullptr || !index.isValid() || role != Qt::EditRole) return false;
-    const std::string text = fromQt(value.toString());
-    if (text == grid_->text(index.row(), index.column())) return true;
-    grid_->setText(index.row(), index.column(), text);
-    return true;
+    return errors_.run([&] {
+        const std::string text = fromQt(value.toString());
+        if (text != grid_->text(index.row(), index.column())) grid_->setText(index.row(), index.column(), text);
+    });
 }
 
 void GridModel::refresh() {
-    const int rows = grid_->rowCount();
-    const int columns = static_cast<int>(grid_->columns().size());
+    int rows = 0;
+    std::vector<bool> rightAligned(grid_->columns().size());
+    errors_.read([&] {
+        rightAligned = readAlignments();
+        rows = grid_->rowCount();
+    });
+    const int columns = static_cast<int>(rightAligned.size());
+    followCurrentRow();
     if (rows == rows_ && columns == columns_) {
-        readAlignments();
+        rightAligned_ = std::move(rightAligned);
         if (rows > 0 && columns > 0) emit dataChanged(index(0, 0), index(rows - 1, columns - 1));
         return;
     }
     beginResetModel();
     rows_ = rows;
     columns_ = columns;
-    readAlignments();
+    rightAligned_ = std::move(rightAligned);
     endResetModel();
 }
 
-void GridModel::readAlignments() {
-    alignments_.clear();
-    for (const auto& column : grid_->columns()) alignments_.push_back(alignmentOf(*column, grid_->dataSource().get()));
+std::vector<bool> GridModel::readAlignments() const {
+    std::vector<bool> rightAligned;
+    for (const auto& column : grid_->columns()) {
+        rightAligned.push_back(showsNumbers(*column, grid_->dataSource().get()));
+    }
+    return rightAligned;
 }
 
 void GridModel::refreshRow(int row) {
@@ -84,13 +99,20 @@ void GridModel::detach() {
     beginResetModel();
     grid_ = nullptr;
     rows_ = columns_ = 0;
+    currentRow_ = -1;
     endResetModel();
 }
 
+void GridModel::followCurrentRow() {
+    int row = -1;
+    if (grid_ != nullptr) errors_.read([&] { row = grid_->row(); });
+    currentRow_ = row;
+}
+
 QModelIndex GridModel::currentCell() const {
-    const int row = grid_->row();
-    const int column = grid_->col();
-    return row >= 0 && row < rows_ && column < columns_ ? index(row, column) : QModelIndex();
+    const int column = grid_ == nullptr ? -1 : grid_->col();
+    return currentRow_ >= 0 && currentRow_ < rows_ && column >= 0 && column < columns_ ? index(currentRow_, column)
+                                                                                       : QModelIndex();
 }
 
 }  // namespace hx::qt

@@ -5,11 +5,12 @@
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QScopedValueRollback>
 #include <QScrollBar>
 #include <algorithm>
 
-#include "adapters/qt/form_view.h"
+#include "adapters/qt/grid_cell.h"
 #include "adapters/qt/grid_view.h"
 #include "adapters/qt/record_selector.h"
 #include "adapters/qt/text.h"
@@ -40,7 +41,7 @@ std::pair<std::string, Qt::SortOrder> parseSort(std::string_view sort) {
 }  // namespace
 
 GridPane::GridPane(GridView& owner, GridModel& model, QWidget* parent)
-    : QTableView(parent), owner_(owner), model_(model), delegate_(model) {
+    : QTableView(parent), owner_(owner), model_(model), delegate_(model), painter_(model, *this) {
     setItemDelegate(&delegate_);
     setVerticalHeader(std::make_unique<RecordSelector>(model, this).release());  // the table owns it
     setModel(&model);
@@ -51,10 +52,11 @@ GridPane::GridPane(GridView& owner, GridModel& model, QWidget* parent)
     setHorizontalScrollMode(ScrollPerPixel);
     setTabKeyNavigation(false);
     setCornerButtonEnabled(false);
-    setAlternatingRowColors(true);
     setWordWrap(false);
     setFrameShape(QFrame::StyledPanel);
     viewport()->setMouseTracking(true);
+    viewport()->setAutoFillBackground(false);
+    viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
     editSoon_.setSingleShot(true);
     connect(&editSoon_, &QTimer::timeout, this, [this] {
         if (state() == NoState && currentIndex().flags().testFlag(Qt::ItemIsEditable)) edit(currentIndex());
@@ -139,6 +141,11 @@ void GridPane::settle() {
     }
 }
 
+void GridPane::returnToEditor() {
+    QLineEdit* line = editor();
+    if (line != nullptr && window()->focusWidget() == this) line->setFocus(Qt::OtherFocusReason);
+}
+
 void GridPane::dropEditor() {
     editSoon_.stop();
     if (QLineEdit* line = editor()) closeEditor(line, QAbstractItemDelegate::RevertModelCache);
@@ -150,14 +157,47 @@ bool GridPane::edit(const QModelIndex& index, EditTrigger trigger, QEvent* event
     return opened;
 }
 
+// A text that could not be handed over stays in its editor, where the user can try again. The message about it takes
+// the keyboard away from the editor, which is no reason to try.
+void GridPane::commitData(QWidget* editor) {
+    if (!owner_.telling()) QTableView::commitData(editor);
+}
+
 void GridPane::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) {
+    if (owner_.telling() && hint != QAbstractItemDelegate::RevertModelCache) return;
     owner_.editorClosed();
-    QTableView::closeEditor(editor, hint);
+    const bool next = hint == QAbstractItemDelegate::EditNextItem;
+    if (!next && hint != QAbstractItemDelegate::EditPreviousItem) return QTableView::closeEditor(editor, hint);
+    QTableView::closeEditor(editor, QAbstractItemDelegate::NoHint);
+    editNeighbour(next ? MoveNext : MovePrevious);
+}
+
+// Qt's own way would select the row, and edit a cell that did not become current.
+void GridPane::editNeighbour(CursorAction move) {
+    const QPersistentModelIndex cell = moveCursor(move, Qt::NoModifier);
+    if (!cell.isValid()) return;
+    selectionModel()->setCurrentIndex(cell, QItemSelectionModel::NoUpdate);
+    const bool there = cell.isValid() && currentIndex() == cell;
+    if (there && cell.flags().testFlag(Qt::ItemIsEditable)) edit(cell, AllEditTriggers, nullptr);
+}
+
+// Left and Right with Shift move when they are released, where the model says.
+QModelIndex GridPane::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) {
+    const bool sideways = action == MoveLeft || action == MoveRight;
+    if (sideways && modifiers.testFlag(Qt::ShiftModifier)) return currentIndex();
+    return QTableView::moveCursor(action, modifiers);
+}
+
+void GridPane::restartSelection() {
+    const QScopedValueRollback restarting(restarting_, true);
+    setCurrentIndex(currentIndex());
 }
 
 QItemSelectionModel::SelectionFlags GridPane::selectionCommand(const QModelIndex& index, const QEvent* event) const {
     const forms::Grid* grid = model_.grid();
-    if (grid == nullptr || grid->multiSelect() == forms::MultiSelect::none) return QItemSelectionModel::NoUpdate;
+    if (restarting_ || grid == nullptr || grid->multiSelect() == forms::MultiSelect::none) {
+        return QItemSelectionModel::NoUpdate;
+    }
     if (event == nullptr) return QTableView::selectionCommand(index, event);  // the selector of rows
     if (event->type() == QEvent::KeyPress) {
         const auto& key = static_cast<const QKeyEvent&>(*event);
@@ -176,15 +216,22 @@ QItemSelectionModel::SelectionFlags GridPane::selectionCommand(const QModelIndex
 
 QModelIndex GridPane::buttonAt(const QPoint& point) const {
     const QModelIndex index = indexAt(point);
-    return delegate_.hasButton(index) && GridDelegate::buttonRect(visualRect(index)).contains(point) ? index
-                                                                                                     : QModelIndex();
+    const bool inside =
+        index.isValid() && hasButton(model_, index.column()) && buttonRect(visualRect(index)).contains(point);
+    return inside ? index : QModelIndex();
 }
 
 void GridPane::hover(const QPoint& point) {
     const int row = rowAt(point.y());
-    if (row == delegate_.hoveredRow()) return;
-    delegate_.setHoveredRow(row);
+    if (row == painter_.hoveredRow()) return;
+    painter_.setHoveredRow(row);
     viewport()->update();
+}
+
+void GridPane::paintEvent(QPaintEvent* event) {
+    const GridErrors::Picture picture(model_.errors());
+    QPainter painter(viewport());
+    painter_.paint(painter, event->rect());
 }
 
 void GridPane::mousePressEvent(QMouseEvent* event) {
@@ -197,7 +244,7 @@ void GridPane::mousePressEvent(QMouseEvent* event) {
     if (pressedButton_.isValid()) {
         settle();
         selectionModel()->setCurrentIndex(pressedButton_, QItemSelectionModel::NoUpdate);
-        delegate_.setPressed(pressedButton_);
+        painter_.setPressed(pressedButton_);
         viewport()->update();
     } else {
         QTableView::mousePressEvent(event);
@@ -215,7 +262,7 @@ void GridPane::mouseReleaseEvent(QMouseEvent* event) {
     const QPoint point = event->position().toPoint();
     if (const QPersistentModelIndex button = pressedButton_; button.isValid()) {
         pressedButton_ = QModelIndex();
-        delegate_.setPressed(pressedButton_);
+        painter_.setPressed(pressedButton_);
         viewport()->update();
         owner_.reportMouse(*event, *viewport());
         if (buttonAt(point) == button) owner_.buttonClicked(button);
@@ -244,8 +291,7 @@ void GridPane::leaveEvent(QEvent* event) {
 void GridPane::keyPressEvent(QKeyEvent* event) {
     forms::Grid* grid = model_.grid();
     if (event->key() == Qt::Key_Escape && state() == NoState && grid != nullptr && grid->dataChanged()) {
-        grid->cancelUpdate();
-        return;
+        return owner_.giveUpEdit();
     }
     const QScopedValueRollback<const QEvent*> passing(passing_, event);
     QTableView::keyPressEvent(event);

@@ -4,6 +4,7 @@
 #include <QTimer>
 
 #include "adapters/qt/grid_delegate.h"
+#include "adapters/qt/grid_painter.h"
 #include "adapters/qt/grid_selection.h"
 
 class QLineEdit;
@@ -24,10 +25,14 @@ class GridPane : public QTableView {
     /// Columns in the grid's order, width and visibility; `fill`: the last one spans what is left.
     void layOutColumns(bool fill);
     void showSort();
-    /// Hands the open editor's text to the model and closes it; drops it.
+    /// Shift extends the selection from the current cell on.
+    void restartSelection();
+    /// Hands the open editor's text to the model and closes it, unless that fails; drops it.
     void settle();
     void dropEditor();
     [[nodiscard]] QLineEdit* editor() const;
+    /// Gives the keyboard back to an editor that had to wait.
+    void returnToEditor();
     [[nodiscard]] forms::GridHit hit(const QPoint& point) const;
     /// Where a menu for the current cell opens, in this widget.
     [[nodiscard]] QPoint currentCellPoint() const;
@@ -37,9 +42,12 @@ class GridPane : public QTableView {
   protected:
     using QTableView::edit;
     bool edit(const QModelIndex& index, EditTrigger trigger, QEvent* event) override;
+    void commitData(QWidget* editor) override;
     void closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) override;
+    QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
     [[nodiscard]] QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
                                                                        const QEvent* event) const override;
+    void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
@@ -54,6 +62,7 @@ class GridPane : public QTableView {
   private:
     [[nodiscard]] QModelIndex buttonAt(const QPoint& point) const;
     void hover(const QPoint& point);
+    void editNeighbour(CursorAction move);
     void setUpHeader();
     void sectionMoved(int column, int newVisual);
     void sectionResized(int column, int width);
@@ -61,10 +70,11 @@ class GridPane : public QTableView {
     GridView& owner_;
     GridModel& model_;
     GridDelegate delegate_;
+    GridPainter painter_;
     QTimer editSoon_;
     QPersistentModelIndex pressedButton_, pressedCurrent_;
     const QEvent* passing_ = nullptr;
-    bool layingOut_ = false;
+    bool layingOut_ = false, restarting_ = false;
     bool fill_ = false;
 };
 

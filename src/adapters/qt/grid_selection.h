@@ -7,7 +7,7 @@
 namespace hx::qt {
 
 /// Keeps the views' current cell and selected rows and the grid's the same. The grid decides whether its current row
-/// can be left.
+/// can be left. What fails is reported, and the views follow the grid again.
 class GridSelection : public QItemSelectionModel {
   public:
     explicit GridSelection(GridModel& model);
@@ -18,6 +18,8 @@ class GridSelection : public QItemSelectionModel {
     void followSelectedRows();
 
   private:
+    bool goTo(int row, int column);
+    [[nodiscard]] QItemSelection selectedIn(forms::Grid& grid) const;
     void report();
     GridModel& model_;
     bool following_ = false;

@@ -3,6 +3,8 @@
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QMouseEvent>
+#include <QPointer>
+#include <QScopeGuard>
 #include <QScrollBar>
 #include <algorithm>
 
@@ -13,7 +15,10 @@
 namespace hx::qt {
 
 GridView::GridView(forms::Grid& grid, FormView& form, QWidget& area)
-    : ControlView(grid, form), box_(&area), model_(grid), selection_(model_) {
+    : ControlView(grid, form),
+      box_(&area),
+      model_(grid, [this](const automation::Error& error) { report(error); }),
+      selection_(model_) {
     addPane(right_, 1);
     box_.setFocusPolicy(Qt::StrongFocus);
     box_.setFocusProxy(right_.get());
@@ -29,6 +34,7 @@ void GridView::addPane(std::unique_ptr<GridPane>& pane, int split) {
     pane->setObjectName(QStringLiteral("%1.Splits(%2)").arg(objectNameOf(*model())).arg(split));
     pane->setAccessibleName(accessibleName());
     pane->setSelectionModel(&selection_);
+    pane->setFocusPolicy(focusPolicy());
     pane->fitRows();
     watch(*pane);
     watch(*pane->horizontalHeader()->viewport());
@@ -73,7 +79,9 @@ void GridView::followColumns() {
             repaint();
         }));
     }
-    for (GridPane* pane : panes()) pane->dropEditor();
+    // What is being typed is for the same cell still when the columns have only changed their places.
+    const bool others = model_.columnCount() != static_cast<int>(grid()->columns().size());
+    for (GridPane* pane : panes()) others ? pane->dropEditor() : pane->settle();
     model_.refresh();
     layOutColumns();
     currentCellChanged();
@@ -84,11 +92,15 @@ void GridView::rowsChanged() {
     model_.refresh();
     selection_.followSelectedRows();
     currentCellChanged();
+    for (GridPane* pane : panes()) pane->restartSelection();
 }
 
 void GridView::currentCellChanged() {
+    model_.followCurrentRow();
     for (GridPane* pane : panes()) {
-        if (pane->editor() != nullptr && pane->currentIndex() != model_.currentCell()) pane->settle();
+        if (pane->editor() == nullptr || pane->currentIndex() == model_.currentCell()) continue;
+        pane->settle();
+        pane->dropEditor();  // it has nowhere to wait
     }
     selection_.followCurrentCell();
     if (const QModelIndex cell = model_.currentCell(); cell.isValid()) right_->scrollTo(cell);
@@ -96,6 +108,7 @@ void GridView::currentCellChanged() {
 }
 
 void GridView::repaint() {
+    model_.followCurrentRow();
     for (GridPane* pane : panes()) {
         pane->viewport()->update();
         pane->verticalHeader()->viewport()->update();
@@ -124,6 +137,7 @@ void GridView::place() {
                 &QScrollBar::setValue);
         left_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
         left_->showSort();
+        placeInTabOrder(*left_);
     }
     const bool both = split > 0;
     if (left_) {
@@ -137,6 +151,40 @@ void GridView::place() {
     right_->setHorizontalScrollBarPolicy(both ? Qt::ScrollBarAlwaysOn : Qt::ScrollBarAsNeeded);
     right_->setGeometry(split, 0, box_.width() - split, box_.height());
     layOutColumns();
+}
+
+// Right before the other one: as the last that was made it would come at the end of the whole window.
+void GridView::placeInTabOrder(GridPane& left) {
+    box_.setFocusProxy(nullptr);
+    QWidget::setTabOrder(right_->previousInFocusChain(), &left);
+    box_.setFocusProxy(right_.get());
+}
+
+void GridView::report(const automation::Error& error) {
+    // While one message waits or is shown, all that fails is of the same trouble.
+    if (std::exchange(telling_, true)) return;
+    QMetaObject::invokeMethod(
+        this, [this, error] { tell(error); }, Qt::QueuedConnection);
+}
+
+void GridView::tell(const automation::Error& error) {
+    // The window may end while the message is shown.
+    const auto told = qScopeGuard([view = QPointer(this)] {
+        if (view) view->goOn();
+    });
+    if (grid() == nullptr) return;
+    const auto keep = model()->share();
+    const auto keepForm = form().model()->share();
+    grid()->viewFailed(error);
+}
+
+void GridView::goOn() {
+    telling_ = false;
+    for (GridPane* pane : panes()) pane->returnToEditor();
+}
+
+void GridView::giveUpEdit() {
+    model_.errors().run([this] { grid()->cancelUpdate(); });
 }
 
 void GridView::settle() {
@@ -165,7 +213,7 @@ void GridView::columnResized(int column, int pixels) {
 void GridView::buttonClicked(const QModelIndex& cell) {
     const auto keep = model()->share();
     const auto keepForm = form().model()->share();
-    grid()->buttonClick(cell.row(), cell.column());
+    model_.errors().run([&] { grid()->buttonClick(cell.row(), cell.column()); });
 }
 
 void GridView::editorOpened(QLineEdit& editor) {
@@ -229,15 +277,26 @@ bool GridView::eventFilter(QObject* watched, QEvent* event) {
     for (const GridPane* pane : panes()) {
         if (event == pane->passing()) return false;
     }
+    if (event->type() == QEvent::ShortcutOverride && claims(static_cast<QKeyEvent&>(*event))) {
+        event->accept();
+        return true;
+    }
     return ControlView::eventFilter(watched, event);
 }
+
+bool GridView::claims(const QKeyEvent& event) const {
+    return grid()->claims({virtualKey(event), shiftState(event.modifiers())});
+}
+
+Qt::FocusPolicy GridView::focusPolicy() const { return model()->tabStop() ? Qt::StrongFocus : Qt::ClickFocus; }
 
 void GridView::show(std::string_view property) {
     if (property == "SortText") {
         for (GridPane* pane : panes()) pane->showSort();
     } else if (property == "TabStop") {
-        const auto policy = model()->tabStop() ? Qt::StrongFocus : Qt::ClickFocus;
-        for (GridPane* pane : panes()) pane->setFocusPolicy(policy);
+        for (GridPane* pane : panes()) pane->setFocusPolicy(focusPolicy());
+    } else if (property == "Settle") {
+        return settle();
     } else {
         ControlView::show(property);
     }

@@ -20,6 +20,7 @@ class GridView : public ControlView {
     [[nodiscard]] QWidget& widget() override { return box_; }
     void layOut() override;
     void settle() override;
+    void containerResized() override { layOut(); }
     void detach() override;
 
     // --- what a table reports
@@ -31,7 +32,11 @@ class GridView : public ControlView {
     void editorClosed();
     void reportMouse(const QMouseEvent& event, QWidget& part);
     void reportMenuKey(GridPane& pane);
+    /// Leaves the rows that were edited as they were stored.
+    void giveUpEdit();
     [[nodiscard]] int pixels(double twips) const { return units().pixels(twips); }
+    /// From a failure until the user has been told of it.
+    [[nodiscard]] bool telling() const noexcept { return telling_; }
 
   protected:
     void show(std::string_view property) override;
@@ -49,13 +54,20 @@ class GridView : public ControlView {
     void currentCellChanged();
     void layOutColumns();
     void place();
+    void placeInTabOrder(GridPane& left);
     void repaint();
+    void report(const automation::Error& error);
+    void tell(const automation::Error& error);
+    void goOn();
+    [[nodiscard]] Qt::FocusPolicy focusPolicy() const;
+    [[nodiscard]] bool claims(const QKeyEvent& event) const;
     [[nodiscard]] forms::GridHit hitTest(double x, double y) const;
 
     QWidget box_;
     GridModel model_;
     GridSelection selection_;
     std::unique_ptr<GridPane> right_, left_;
+    bool telling_ = false;
     std::vector<forms::Subscription> subscriptions_, columnChanges_;
 };
 

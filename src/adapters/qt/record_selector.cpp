@@ -38,7 +38,7 @@ void RecordSelector::paintSection(QPainter* painter, const QRect& rect, int row)
     painter->drawLine(rect.bottomLeft(), rect.bottomRight());
     painter->drawLine(rect.topRight(), rect.bottomRight());
     const forms::Grid* grid = model_.grid();
-    if (grid == nullptr || row != grid->row()) return;
+    if (grid == nullptr || row != model_.currentRow()) return;
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
     painter->setPen(Qt::NoPen);
