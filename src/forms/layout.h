@@ -14,6 +14,7 @@ struct LayoutRow {
     Control* label = nullptr;      ///< none: the field takes the label's place too (check boxes, frames, tab strips)
     Control* field = nullptr;      ///< none: the label takes the field's place too
     Control* button = nullptr;     ///< a small one behind the field
+    int characters = 0;            ///< the field is this long; 0: it reaches to the right edge
     bool grows = false;            ///< takes the height that is left over; a dialog with such a row can be resized
 };
 

@@ -37,6 +37,7 @@ StudioHost::StudioHost(const QString& configFolder, const QStringList& moduleFol
                 .numberFormat = systemFormat(),
                 .moduleFile = {}} {
     components_.setServices(services_);
+    screen_.setVariables(variables_);
 }
 
 void StudioHost::setProjectFile(const QString& path) {

@@ -74,9 +74,8 @@ TEST_F(ServicesTest, ACancelledChoiceIsEmpty) {
 TEST_F(ServicesTest, AFolderOfTheProjectBeginsWithItsPlaceholder) {
     qt::QtPathSelection folders(windows, wording);
     folders.setProjectFolder("/plant/project");
-    EXPECT_EQ(folders.shorten("/plant/project"), "<ProjectDir>");
-    EXPECT_EQ(folders.shorten("/plant/project/rcp"), "<ProjectDir>/rcp");
-    EXPECT_EQ(folders.shorten("/plant/project2"), "/plant/project2");
+    EXPECT_EQ(folders.shorten("/plant/project", ""), "<ProjectDir>");
+    EXPECT_EQ(folders.shorten("/plant/project2", "<ProjectDir>\\rcp"), "/plant/project2");
     EXPECT_EQ(folders.expand("<ProjectDir>\\rcp"), "/plant/project/rcp");
     EXPECT_EQ(folders.expand("/elsewhere"), "/elsewhere");
 }

@@ -12,6 +12,11 @@ ComboBoxView::ComboBoxView(forms::ComboBox& box, FormView& form, QWidget& area)
     combo_.setEditable(box.style() == forms::ComboBox::Style::dropDownCombo);
     combo_.setInsertPolicy(QComboBox::NoInsert);
     combo_.setMaxVisibleItems(20);
+    // The width does not follow from the entries: there may be thousands.
+    combo_.setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    combo_.setMinimumContentsLength(1);
+    // What is completed by itself would not reach the model.
+    if (combo_.isEditable()) combo_.setCompleter(nullptr);
     watch(combo_);
     if (QLineEdit* line = combo_.lineEdit()) {
         watch(*line);
@@ -30,11 +35,12 @@ void ComboBoxView::typed(const QString& text) {
     modelOf<forms::ComboBox>(*this)->setText(fromQt(text));
 }
 
+// A list only grows at its end or is cleared, and each step is told: what is there already stays.
 void ComboBoxView::showList() {
     const auto& box = *modelOf<forms::ComboBox>(*this);
     const QSignalBlocker quiet(combo_);
-    combo_.clear();
-    for (std::int32_t i = 0; i < box.listCount(); ++i) combo_.addItem(toQt(box.list(i)));
+    if (box.listCount() < combo_.count()) combo_.clear();
+    for (std::int32_t i = combo_.count(); i < box.listCount(); ++i) combo_.addItem(toQt(box.list(i)));
     showChoice();
 }
 

@@ -1,5 +1,7 @@
 #include "adapters/qt/command_button_view.h"
 
+#include <QKeyEvent>
+
 #include "adapters/qt/form_view.h"
 #include "adapters/qt/text.h"
 
@@ -9,6 +11,15 @@ CommandButtonView::CommandButtonView(forms::CommandButton& button, FormView& for
     : ControlView(button, form), button_(&area) {
     watch(button_);
     connect(&button_, &QPushButton::clicked, this, &CommandButtonView::clicked);
+}
+
+bool CommandButtonView::eventFilter(QObject* watched, QEvent* event) {
+    if (ControlView::eventFilter(watched, event)) return true;
+    if (model() == nullptr || event->type() != QEvent::KeyPress) return false;
+    const int key = static_cast<QKeyEvent*>(event)->key();
+    if (key != Qt::Key_Return && key != Qt::Key_Enter) return false;
+    button_.click();
+    return true;
 }
 
 void CommandButtonView::clicked() {

@@ -59,6 +59,7 @@ QString ControlView::accessibleName() const {
 }
 
 void ControlView::layOut() {
+    if (form_.laidOut()) return;
     const QRect rect(units().pixels(control_->left()), units().pixels(control_->top()),
                      units().pixels(control_->width()), units().pixels(control_->height()));
     if (rect.isEmpty()) {

@@ -3,21 +3,32 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QEventLoop>
+#include <QLineEdit>
 #include <QScopedValueRollback>
+#include <QScreen>
 #include <algorithm>
 
 #include "adapters/qt/fonts.h"
 #include "adapters/qt/keys.h"
 #include "adapters/qt/label_view.h"
 #include "adapters/qt/status_bar_view.h"
+#include "adapters/qt/tab_strip_view.h"
 #include "adapters/qt/text.h"
 #include "adapters/qt/view_factory.h"
 #include "forms/simple_controls.h"
 
 namespace hx::qt {
 
-FormView::FormView(forms::Form& form, const Units& units, PopUpPlace& popUps)
-    : form_(&form), units_(units), popUps_(popUps) {
+namespace {
+
+// A dialog has a title and can be closed; it is neither maximised nor minimised.
+constexpr Qt::WindowFlags dialogFlags =
+    Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
+
+}  // namespace
+
+FormView::FormView(forms::Form& form, ViewServices& services)
+    : form_(&form), services_(services), laidOut_(!form.layout().empty()) {
     widget_.setObjectName(toQt(form.name()));
     widget_.installEventFilter(this);
     for (const auto property : {"Caption", "Font", "Enabled", "Bounds"}) apply(property);
@@ -30,7 +41,6 @@ FormView::FormView(forms::Form& form, const Units& units, PopUpPlace& popUps)
 FormView::~FormView() {
     if (document_) document_->removeEventFilter(this);
     widget_.removeEventFilter(this);
-    while (!views_.empty()) views_.pop_back();
 }
 
 QWidget& FormView::frame() noexcept { return document_ ? *document_ : widget_; }
@@ -38,22 +48,28 @@ QWidget& FormView::frame() noexcept { return document_ ? *document_ : widget_; }
 void FormView::build() {
     auto waiting = form_->controls();
     while (!waiting.empty()) {
-        const auto known = std::stable_partition(waiting.begin(), waiting.end(),
-                                                 [this](const auto& control) { return areaFor(*control) != nullptr; });
+        const auto known = std::stable_partition(waiting.begin(), waiting.end(), [this](const auto& control) {
+            return areaOf(control->container()) != nullptr;
+        });
         const bool stuck = known == waiting.begin();
         const auto end = stuck ? waiting.end() : known;
         for (auto control = waiting.begin(); control != end; ++control) {
-            QWidget* area = areaFor(**control);
+            QWidget* area = areaOf((*control)->container());
             views_.push_back(makeView(**control, *this, area == nullptr ? widget_ : *area));
             views_.back()->start();
         }
         waiting.erase(waiting.begin(), end);
     }
+    if (laidOut_) layout_ = std::make_unique<FormLayout>(form_->layout(), *this);
     for (const auto& view : views_) view->containerResized();
 }
 
-QWidget* FormView::areaFor(const forms::Control& control) {
-    const forms::Control* container = control.container();
+ControlView* FormView::viewOf(const forms::Control& control) const {
+    const auto found = std::ranges::find(views_, &control, [](const auto& view) { return view->model(); });
+    return found == views_.end() ? nullptr : found->get();
+}
+
+QWidget* FormView::areaOf(const forms::Control* container) {
     if (container == nullptr || container == form_) return &widget_;
     for (const auto& view : views_) {
         if (QWidget* area = view->areaOf(*container)) return area;
@@ -71,7 +87,7 @@ void FormView::orderTabs() {
         if (auto* next = dynamic_cast<LabelView*>(view)) label = next;
         if (view->widget().focusPolicy() == Qt::NoFocus) continue;
         if (previous != nullptr) QWidget::setTabOrder(previous, &view->widget());
-        if (label != nullptr) label->setBuddy(view->widget());
+        if (label != nullptr && !label->hasBuddy()) label->setBuddy(view->widget());
         previous = &view->widget();
         label = nullptr;
     }
@@ -88,9 +104,10 @@ void FormView::apply(std::string_view property) {
 }
 
 void FormView::applyBounds() {
+    if (laidOut_) return;
     const QScopedValueRollback applying(applying_, true);
-    const QSize size(units_.pixels(form_->width()), units_.pixels(form_->height()));
-    const QPoint place(units_.pixels(form_->left()), units_.pixels(form_->top()));
+    const QSize size(units().pixels(form_->width()), units().pixels(form_->height()));
+    const QPoint place(units().pixels(form_->left()), units().pixels(form_->top()));
     if (frame().isMaximized() || frame().isMinimized()) return;
     if (!size.isEmpty()) frame().resize(size);
     if (document_) document_->move(place);
@@ -155,26 +172,50 @@ void FormView::bringToFront() {
     }
 }
 
-// Where the keyboard starts in a window that has not had it yet.
+// Where the keyboard starts in a window that has not had it yet: behind the tabs, in the first field of the page.
 QWidget& FormView::firstField() {
     ControlView* first = nullptr;
     for (const auto& view : views_) {
         const QWidget& field = view->widget();
-        const bool reached = (field.focusPolicy() & Qt::TabFocus) != 0 && field.isVisible() && field.isEnabled();
+        const bool reached = (field.focusPolicy() & Qt::TabFocus) != 0 && field.isVisible() && field.isEnabled() &&
+                             dynamic_cast<const TabStripView*>(view.get()) == nullptr;
         if (reached && (first == nullptr || view->model()->tabIndex() < first->model()->tabIndex())) first = view.get();
     }
     return first == nullptr ? widget_ : first->widget();
 }
 
 void FormView::runModal(QWidget* owner) {
-    widget_.setParent(owner == nullptr ? nullptr : owner->window(), Qt::Dialog);
+    QWidget* over = owner == nullptr ? nullptr : owner->window();
+    if (widget_.parentWidget() != over || widget_.windowFlags() != dialogFlags) widget_.setParent(over, dialogFlags);
     widget_.setWindowModality(Qt::ApplicationModal);
+    if (laidOut_) placeOver(over);
     QEventLoop loop;
     const QScopedValueRollback modal(modal_, &loop);
     if (!form_->visible()) form_->setVisible(true);
     applyVisible();
+    if (widget_.focusWidget() == nullptr) startKeyboard();
     if (form_->visible()) loop.exec(QEventLoop::DialogExec);
-    if (form_ != nullptr) widget_.hide();
+    if (form_ == nullptr) return;
+    widget_.hide();
+    // The owner may end before the form does, and must not take the window along.
+    if (over != nullptr) widget_.setParent(nullptr, dialogFlags);
+}
+
+void FormView::startKeyboard() {
+    QWidget& field = firstField();
+    field.setFocus(Qt::TabFocusReason);
+    if (auto* line = qobject_cast<QLineEdit*>(&field)) line->selectAll();
+}
+
+void FormView::placeOver(const QWidget* window) {
+    widget_.adjustSize();
+    const QScreen* screen = window == nullptr ? QGuiApplication::primaryScreen() : window->screen();
+    const QRect free = screen->availableGeometry();
+    QRect place = widget_.rect();
+    if (window != nullptr) place.setSize(place.size() + window->frameSize() - window->size());  // as wide a frame
+    place.moveCenter(window == nullptr ? free.center() : window->frameGeometry().center());
+    widget_.move(std::max(free.left(), std::min(place.left(), free.right() - place.width())),
+                 std::max(free.top(), std::min(place.top(), free.bottom() - place.height())));
 }
 
 void FormView::settle() {
@@ -245,6 +286,9 @@ bool FormView::eventFilter(QObject* watched, QEvent* event) {
             if (inner) reportClientArea();
             if (watched == &frame()) reportBounds();
             return false;
+        case QEvent::LayoutRequest:
+            if (inner && layout_) layout_->fit();
+            return false;
         case QEvent::Move:
         case QEvent::WindowStateChange:
             if (watched == &frame()) reportBounds();
@@ -269,7 +313,7 @@ void FormView::reportClientArea() {
     if (widget_.size() == reported_) return;
     reported_ = widget_.size();
     const auto keep = form_->share();
-    form_->clientAreaChanged(units_.twips(reported_.width()), units_.twips(reported_.height()));
+    form_->clientAreaChanged(units().twips(reported_.width()), units().twips(reported_.height()));
     for (const auto& view : views_) {
         if (view->model() != nullptr) view->containerResized();
     }
@@ -282,8 +326,8 @@ void FormView::reportBounds() {
         const auto state = outer.isMinimized() ? forms::WindowState::minimised : forms::WindowState::maximised;
         form_->boundsReported(form_->left(), form_->top(), form_->width(), form_->height(), state);
     } else {
-        form_->boundsReported(units_.twips(outer.x()), units_.twips(outer.y()), units_.twips(outer.width()),
-                              units_.twips(outer.height()), forms::WindowState::normal);
+        form_->boundsReported(units().twips(outer.x()), units().twips(outer.y()), units().twips(outer.width()),
+                              units().twips(outer.height()), forms::WindowState::normal);
     }
 }
 

@@ -10,23 +10,36 @@
 #include <vector>
 
 #include "adapters/qt/control_view.h"
-#include "adapters/qt/popup_place.h"
-#include "adapters/qt/units.h"
+#include "adapters/qt/form_layout.h"
+#include "adapters/qt/view_services.h"
 #include "forms/form.h"
 
 class QEventLoop;
 
 namespace hx::qt {
 
-/// The window of a form and the views of its controls. A window of its own, or a document in an area of documents.
+/// The views of a form's controls; the last one ends first, as it may lie in one before it.
+class ViewList : public std::vector<std::unique_ptr<ControlView>> {
+  public:
+    ViewList() = default;
+    ViewList(const ViewList&) = delete;
+    ViewList& operator=(const ViewList&) = delete;
+    ~ViewList() {
+        while (!empty()) pop_back();
+    }
+};
+
+/// The window of a form and the views of its controls. A window of its own, or a document in an area of documents. A
+/// form with rows is a dialog: the toolkit lays it out, its size follows from its texts and fonts.
 class FormView : public QObject {
   public:
-    /// `popUps` is lent.
-    FormView(forms::Form& form, const Units& units, PopUpPlace& popUps);
+    /// The services are lent.
+    FormView(forms::Form& form, ViewServices& services);
     ~FormView() override;
 
-    [[nodiscard]] const Units& units() const noexcept { return units_; }
-    [[nodiscard]] PopUpPlace& popUps() const noexcept { return popUps_; }
+    [[nodiscard]] ViewServices& services() const noexcept { return services_; }
+    [[nodiscard]] const Units& units() const noexcept { return services_.units; }
+    [[nodiscard]] PopUpPlace& popUps() const noexcept { return services_.popUps; }
     /// Null after detach().
     [[nodiscard]] forms::Form* model() const noexcept { return form_; }
     /// The area inside the frame.
@@ -34,7 +47,13 @@ class FormView : public QObject {
     /// The outer window: the document window, or the widget itself.
     [[nodiscard]] QWidget& frame() noexcept;
     [[nodiscard]] QMdiSubWindow* documentWindow() const noexcept { return document_; }
-    [[nodiscard]] const std::vector<std::unique_ptr<ControlView>>& views() const noexcept { return views_; }
+    [[nodiscard]] const ViewList& views() const noexcept { return views_; }
+    /// The view of a control; null when it has none.
+    [[nodiscard]] ControlView* viewOf(const forms::Control& control) const;
+    /// The widget that the controls in `container` lie in; null for a container that is not shown.
+    [[nodiscard]] QWidget* areaOf(const forms::Control* container);
+    /// Whether the toolkit places the controls, not their Left, Top, Width and Height.
+    [[nodiscard]] bool laidOut() const noexcept { return laidOut_; }
 
     /// Places the window into an area of documents, with the place, size and state that the form names.
     void embedIn(QMdiArea& area);
@@ -61,8 +80,9 @@ class FormView : public QObject {
 
   private:
     void build();
-    [[nodiscard]] QWidget* areaFor(const forms::Control& control);
     void orderTabs();
+    void startKeyboard();
+    void placeOver(const QWidget* window);
     [[nodiscard]] QWidget& firstField();
     void apply(std::string_view property);
     void applyBounds();
@@ -73,11 +93,12 @@ class FormView : public QObject {
     void closed();
 
     forms::Form* form_;
-    Units units_;
-    PopUpPlace& popUps_;
+    ViewServices& services_;
+    const bool laidOut_;
     QWidget widget_;
     QPointer<QMdiSubWindow> document_;
-    std::vector<std::unique_ptr<ControlView>> views_;
+    ViewList views_;
+    std::unique_ptr<FormLayout> layout_;
     forms::Subscription changed_;
     QSize reported_;
     QEventLoop* modal_ = nullptr;

@@ -4,15 +4,15 @@
 #include <QDialogButtonBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QSortFilterProxyModel>
-#include <QTableView>
 #include <QVBoxLayout>
+#include <optional>
 
 #include "adapters/qt/variable_model.h"
+#include "adapters/qt/variable_table.h"
 
 namespace hx::qt {
 
-/// Chooses one variable: a search field over a list; what is typed must stand in the name or the comment.
+/// Chooses one variable: a search field over a list.
 class ItemDialog : public QDialog {
   public:
     ItemDialog(const Wording& wording, std::vector<Variable> variables, QWidget* owner);
@@ -20,24 +20,22 @@ class ItemDialog : public QDialog {
     void select(const QString& name);
     [[nodiscard]] QString selected() const;
 
-  protected:
-    bool eventFilter(QObject* watched, QEvent* event) override;
-
   private:
-    void setUpList();
+    void setUpTable();
     void setUpButtons(const Wording& wording);
     void search(const QString& text);
-    void refreshButtons();
+    void refresh();
 
+    const Wording& wording_;
     VariableModel model_;
-    QSortFilterProxyModel found_;
     QVBoxLayout column_{this};
     QHBoxLayout searchRow_;
     QLabel searchLabel_;
     QLineEdit searchField_;
-    QTableView list_;
-    QLabel empty_;
+    VariableTable table_;
+    QLabel count_;
     QDialogButtonBox buttons_;
+    std::optional<std::size_t> chosen_;  // number in the list
 };
 
 }  // namespace hx::qt

@@ -13,6 +13,9 @@ class LabelView : public ControlView {
     [[nodiscard]] QWidget& widget() override { return label_; }
     /// The field that the label stands for: it gets the mnemonic and the label's text as accessible name.
     void setBuddy(QWidget& field);
+    [[nodiscard]] bool hasBuddy() const { return label_.buddy() != nullptr; }
+    /// One line, for a label that stands before its field.
+    void keepOnOneLine() { label_.setWordWrap(false); }
 
   protected:
     void show(std::string_view property) override;

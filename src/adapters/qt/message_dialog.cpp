@@ -61,7 +61,9 @@ void MessageDialog::addButtons(const Wording& wording, std::int32_t style) {
     const auto buttons = buttonsOf(style);
     for (const ButtonRow& row : buttonRows) {
         if (std::ranges::find(buttons, row.button) == buttons.end()) continue;
-        box_.addButton(row.button)->setText(wording.text(row.word));
+        QPushButton& button = *box_.addButton(row.button);
+        button.setText(wording.text(row.word));
+        button.setIcon(QIcon());
     }
     const auto number = static_cast<std::size_t>((style & defaultMask) / forms::message::defaultButton2);
     box_.setDefaultButton(buttons[std::min(number, buttons.size() - 1)]);

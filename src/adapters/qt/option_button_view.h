@@ -19,6 +19,8 @@ class OptionButtonView : public ControlView {
 
   private:
     void toggled(bool on);
+    void showValue();
+    void showTabStop();
     QRadioButton button_;
 };
 

@@ -1,13 +1,10 @@
 #include "adapters/qt/qt_screen.h"
 
 #include <QApplication>
-#include <QDialogButtonBox>
-#include <QFontDialog>
-#include <QPushButton>
 #include <QScreen>
 
 #include "adapters/qt/band_menu.h"
-#include "adapters/qt/fonts.h"
+#include "adapters/qt/font_choice.h"
 #include "adapters/qt/message_dialog.h"
 #include "adapters/qt/text.h"
 
@@ -16,7 +13,7 @@ namespace hx::qt {
 QtScreen::QtScreen(QtWindows& windows, const Wording& wording)
     : windows_(windows),
       wording_(wording),
-      units_(Units::ofDpi(QGuiApplication::primaryScreen()->logicalDotsPerInchX())) {}
+      views_{.units = Units::ofDpi(QGuiApplication::primaryScreen()->logicalDotsPerInchX()), .wording = wording} {}
 
 QtScreen::~QtScreen() {
     for (auto& [form, shown] : shown_) shown.view->detach();
@@ -33,7 +30,7 @@ void QtScreen::settle() {
 }
 
 forms::WindowHandle QtScreen::createWindow(forms::Form& form) {
-    auto view = std::make_unique<FormView>(form, units_, popUps_);
+    auto view = std::make_unique<FormView>(form, views_);
     const auto handle = windows_.add(*view);
     shown_[&form] = {handle, std::move(view)};
     return handle;
@@ -72,21 +69,12 @@ void QtScreen::popUp(forms::Bar& bar, forms::Band& band) {
     });
     menu.setObjectName(toQt(band.name()));
     menu.fill(bar.popUpTools(band));
-    menu.exec(popUps_.point());
+    menu.exec(views_.popUps.point());
     if (chosen) bar.click(*chosen);
 }
 
 bool QtScreen::chooseFont(forms::Font::Values& font) {
-    QFontDialog dialog(toQt(font), QApplication::activeWindow());
-    dialog.setWindowTitle(wording_.text(Word::chooseFont));
-    dialog.setOption(QFontDialog::DontUseNativeDialog);
-    if (auto* buttons = dialog.findChild<QDialogButtonBox*>()) {
-        buttons->button(QDialogButtonBox::Ok)->setText(wording_.text(Word::ok));
-        buttons->button(QDialogButtonBox::Cancel)->setText(wording_.text(Word::cancel));
-    }
-    if (dialog.exec() != QDialog::Accepted) return false;
-    font = fromQt(dialog.selectedFont(), font);
-    return true;
+    return qt::chooseFont(font, wording_, QApplication::activeWindow());
 }
 
 void QtScreen::beep() { QApplication::beep(); }

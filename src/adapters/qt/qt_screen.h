@@ -4,10 +4,8 @@
 #include <memory>
 
 #include "adapters/qt/form_view.h"
-#include "adapters/qt/popup_place.h"
 #include "adapters/qt/qt_windows.h"
-#include "adapters/qt/units.h"
-#include "adapters/qt/wording.h"
+#include "adapters/qt/view_services.h"
 #include "forms/screen.h"
 
 namespace hx::qt {
@@ -30,12 +28,14 @@ class QtScreen : public forms::Screen {
     [[nodiscard]] forms::Pointer pointer() const override { return pointer_; }
     void setPointer(forms::Pointer pointer) override;
     void sendKeys(forms::Form& form, std::string_view keys) override;
-    [[nodiscard]] double twipsPerPixel() const override { return units_.twipsPerPixel(); }
+    [[nodiscard]] double twipsPerPixel() const override { return views_.units.twipsPerPixel(); }
 
+    /// The project's variables, lent: what dialogs that are shown from now on offer.
+    void setVariables(const VariableSource& variables) { views_.variables = &variables; }
     /// Gives to the models what is being typed in any window.
     void settle();
-    [[nodiscard]] const Units& units() const noexcept { return units_; }
-    [[nodiscard]] PopUpPlace& popUps() noexcept { return popUps_; }
+    [[nodiscard]] const Units& units() const noexcept { return views_.units; }
+    [[nodiscard]] PopUpPlace& popUps() noexcept { return views_.popUps; }
 
   private:
     struct Shown {
@@ -46,8 +46,7 @@ class QtScreen : public forms::Screen {
 
     QtWindows& windows_;
     const Wording& wording_;
-    Units units_;
-    PopUpPlace popUps_;
+    ViewServices views_;
     std::map<const forms::Form*, Shown> shown_;
     forms::Pointer pointer_ = forms::Pointer::standard;
 };

@@ -1,6 +1,10 @@
 #include "adapters/qt/variable_model.h"
 
+#include <algorithm>
+#include <numeric>
+
 #include "adapters/qt/text.h"
+#include "adapters/qt/variable_filter.h"
 
 namespace hx::qt {
 
@@ -10,13 +14,16 @@ constexpr std::array<std::string Variable::*, 3> fields = {&Variable::name, &Var
 
 }  // namespace
 
-VariableModel::VariableModel(std::vector<Variable> variables, const Wording& wording)
-    : variables_(std::move(variables)),
+VariableModel::VariableModel(std::unique_ptr<const VariableList> list, const Wording& wording)
+    : list_(std::move(list)),
+      shown_(list_->size()),
       headers_{wording.text(Word::variableName), wording.text(Word::variableType),
-               wording.text(Word::variableComment)} {}
+               wording.text(Word::variableComment)} {
+    std::iota(shown_.begin(), shown_.end(), std::size_t{0});
+}
 
 int VariableModel::rowCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : static_cast<int>(variables_.size());
+    return parent.isValid() ? 0 : static_cast<int>(shown_.size());
 }
 
 int VariableModel::columnCount(const QModelIndex& parent) const {
@@ -25,8 +32,7 @@ int VariableModel::columnCount(const QModelIndex& parent) const {
 
 QVariant VariableModel::data(const QModelIndex& index, int role) const {
     if (role != Qt::DisplayRole || !index.isValid()) return {};
-    const Variable& variable = variables_[static_cast<std::size_t>(index.row())];
-    return toQt(variable.*fields[static_cast<std::size_t>(index.column())]);
+    return toQt((*list_)[numberOf(index.row())].*fields[static_cast<std::size_t>(index.column())]);
 }
 
 QVariant VariableModel::headerData(int section, Qt::Orientation orientation, int role) const {
@@ -34,11 +40,36 @@ QVariant VariableModel::headerData(int section, Qt::Orientation orientation, int
     return headers_[static_cast<std::size_t>(section)];
 }
 
-int VariableModel::find(const QString& name) const {
-    for (std::size_t row = 0; row < variables_.size(); ++row) {
-        if (toQt(variables_[row].name).compare(name, Qt::CaseInsensitive) == 0) return static_cast<int>(row);
+void VariableModel::search(const QString& text) {
+    beginResetModel();
+    text_ = text;
+    collect();
+    endResetModel();
+}
+
+void VariableModel::replaceList(std::unique_ptr<const VariableList> list) {
+    beginResetModel();
+    list_ = std::move(list);
+    collect();
+    endResetModel();
+}
+
+void VariableModel::collect() {
+    const VariableFilter filter(fromQt(text_));
+    shown_.clear();
+    for (std::size_t number = 0; number < list_->size(); ++number) {
+        if (offers(number) && filter.matches(list_->folded(number))) shown_.push_back(number);
     }
-    return -1;
+}
+
+int VariableModel::rowOf(std::size_t number) const {
+    const auto found = std::ranges::lower_bound(shown_, number);
+    return found == shown_.end() || *found != number ? -1 : static_cast<int>(found - shown_.begin());
+}
+
+int VariableModel::find(const QString& name) const {
+    const auto number = list_->find(fromQt(name));
+    return number ? rowOf(*number) : -1;
 }
 
 }  // namespace hx::qt

@@ -7,6 +7,7 @@
 #include "adapters/qt/frame_view.h"
 #include "adapters/qt/grid_view.h"
 #include "adapters/qt/label_view.h"
+#include "adapters/qt/multi_items_view.h"
 #include "adapters/qt/option_button_view.h"
 #include "adapters/qt/picture_box_view.h"
 #include "adapters/qt/status_bar_view.h"
@@ -41,6 +42,7 @@ constexpr Maker makers[] = {
     &makeFor<forms::OptionButton, OptionButtonView>,
     &makeFor<forms::CommandButton, CommandButtonView>,
     &makeFor<forms::TabStrip, TabStripView>,
+    &makeFor<forms::HXMultiItems, MultiItemsView>,
 };
 
 }  // namespace

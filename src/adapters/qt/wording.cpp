@@ -1,5 +1,6 @@
 #include "adapters/qt/wording.h"
 
+#include <QLocale>
 #include <array>
 
 namespace hx::qt {
@@ -23,6 +24,16 @@ constexpr auto entries = std::to_array<Entry>({
     {Word::variableType, "Typ", "Type"},
     {Word::variableComment, "Kommentar", "Comment"},
     {Word::noVariables, "Die Variablenliste des Projekts ist leer.", "The project's variable list is empty."},
+    {Word::searchHint, "Wörter in Name, Typ oder Kommentar; -Wort schließt aus",
+     "words in name, type or comment; -word excludes"},
+    {Word::variables, "Variablen", "Variables"},
+    {Word::shownCount, "%1 von %2", "%1 of %2"},
+    {Word::checkedCount, "%1 von %2, %3 ausgewählt", "%1 of %2, %3 checked"},
+    {Word::missingCount, "%1, davon %2 nicht in der Variablenliste", "%1, %2 of them not in the variable list"},
+    {Word::missingVariable, "fehlt in der Variablenliste", "missing in the variable list"},
+    {Word::onlyChecked, "&nur ausgewählte", "&only checked"},
+    {Word::chooseSubject, "%1 auswählen", "Select %1"},
+    {Word::choose, "Auswählen", "Select"},
     {Word::chooseFolder, "Ordner auswählen", "Select Folder"},
     {Word::chooseFont, "Schriftart auswählen", "Select Font"},
     {Word::helpMissing, "Die Hilfedatei \"%1\" wurde nicht gefunden.", "The help file \"%1\" was not found."},
@@ -35,6 +46,11 @@ QString Wording::text(Word word) const {
         if (entry.word == word) return QString::fromUtf8(isEnglish() ? entry.english : entry.german);
     }
     return {};
+}
+
+QString Wording::number(std::size_t value) const {
+    const QLocale locale(isEnglish() ? QLocale::English : QLocale::German);
+    return locale.toString(static_cast<qulonglong>(value));
 }
 
 }  // namespace hx::qt

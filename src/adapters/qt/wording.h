@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <cstddef>
 #include <cstdint>
 
 namespace hx::qt {
@@ -17,6 +18,15 @@ enum class Word {
     variableType,
     variableComment,
     noVariables,
+    searchHint,
+    variables,
+    shownCount,
+    checkedCount,
+    missingCount,
+    missingVariable,
+    onlyChecked,
+    chooseSubject,
+    choose,
     chooseFolder,
     chooseFont,
     helpMissing
@@ -30,6 +40,8 @@ class Wording {
     void setLanguage(std::int32_t lcid) noexcept { language_ = lcid; }
     [[nodiscard]] bool isEnglish() const noexcept { return language_ == english; }
     [[nodiscard]] QString text(Word word) const;
+    /// With the language's separators of thousands.
+    [[nodiscard]] QString number(std::size_t value) const;
 
   private:
     std::int32_t language_ = german;
