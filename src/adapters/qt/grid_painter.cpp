@@ -17,25 +17,38 @@ void GridPainter::paint(QPainter& painter, const QRect& part) {
     widths_.use(table_.font());
     painter.setFont(table_.font());
     const std::vector<Column> columns = model_.grid() == nullptr ? std::vector<Column>() : columnsIn(part);
-    const int left = columns.empty() ? part.left() : columns.front().left;
-    const int right = columns.empty() ? part.left() : columns.back().left + columns.back().width + 1;
-    int row = columns.empty() ? -1 : table_.rowAt(std::max(0, part.top()));
-    int bottom = row < 0 ? part.top() : table_.rowViewportPosition(row);
-    for (; row >= 0 && row < model_.rowCount() && bottom <= part.bottom(); ++row) {
+    const int bottom = columns.empty() ? part.top() : paintRows(painter, part, columns);
+    paintRest(painter, part, columns, bottom);
+}
+
+int GridPainter::paintRows(QPainter& painter, const QRect& part, const std::vector<Column>& columns) {
+    const int first = table_.rowAt(std::max(0, part.top()));
+    if (first < 0) return part.top();
+    const int left = columns.front().left;
+    const int right = columns.back().left + columns.back().width + 1;
+    int bottom = table_.rowViewportPosition(first);
+    for (int row = first; row < model_.rowCount() && bottom <= part.bottom(); ++row) {
         const int height = table_.rowHeight(row);
         paintRow(painter, row, QRect(left, bottom, right - left, height), columns);
         bottom += height;
     }
-    const int top = row < 0 ? bottom : part.top();
     for (const Column& column : columns) {
-        painter.fillRect(column.left + column.width, top, 1, bottom - top, colors_.line);
+        painter.fillRect(column.left + column.width, part.top(), 1, bottom - part.top(), colors_.line);
     }
-    // Beside the columns, and below the rows.
-    if (right <= part.right())
-        painter.fillRect(right, part.top(), part.right() - right + 1, part.height(), colors_.base);
-    if (left > part.left()) painter.fillRect(part.left(), part.top(), left - part.left(), part.height(), colors_.base);
-    if (bottom <= part.bottom())
-        painter.fillRect(part.left(), bottom, part.width(), part.bottom() - bottom + 1, colors_.base);
+    return bottom;
+}
+
+// Beside the columns, and below the rows.
+void GridPainter::paintRest(QPainter& painter, const QRect& part, const std::vector<Column>& columns, int bottom) {
+    const int left = columns.empty() ? part.left() : columns.front().left;
+    const int right = columns.empty() ? part.left() : columns.back().left + columns.back().width + 1;
+    const auto fill = [&](int x, int y, int endX, int endY) {
+        if (x < endX && y < endY) painter.fillRect(x, y, endX - x, endY - y, colors_.base);
+    };
+    const int endX = part.right() + 1, endY = part.bottom() + 1;
+    fill(part.left(), part.top(), left, bottom);
+    fill(right, part.top(), endX, bottom);
+    fill(part.left(), bottom, endX, endY);
 }
 
 std::vector<GridPainter::Column> GridPainter::columnsIn(const QRect& part) const {

@@ -39,6 +39,9 @@ class GridPainter {
 
     [[nodiscard]] std::vector<Column> columnsIn(const QRect& part) const;
     [[nodiscard]] Colors colors() const;
+    /// The lower edge of the last row that was drawn.
+    int paintRows(QPainter& painter, const QRect& part, const std::vector<Column>& columns);
+    void paintRest(QPainter& painter, const QRect& part, const std::vector<Column>& columns, int bottom);
     void paintRow(QPainter& painter, int row, const QRect& rect, const std::vector<Column>& columns);
     void paintText(QPainter& painter, const QString& text, const QRect& rect, bool rightAligned) const;
     void paintFrame(QPainter& painter, const QRect& cell) const;
