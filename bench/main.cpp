@@ -81,6 +81,34 @@ Row fillExplorer(const Project& project, int rounds) {
     return {"add all recipes to the explorer", costs[0], costs[1], {}, {.atLeastPeer = 4.0}};
 }
 
+/// A project with as many variables as a large plant has.
+Project plant(const Project& project) {
+    constexpr std::int64_t variables = 100'000;
+    const std::int64_t few = std::min<std::int64_t>(project.recipes, 1000);
+    return makeProject(std::filesystem::path(project.path).parent_path().string(), few,
+                       std::min(project.big, variables));
+}
+
+Row openVariables(const Project& project, int rounds) {
+    const Project large = plant(project);
+    const auto costs = compare({choose_variables::open(large)}, rounds, fewRuns);
+    return {"open the dialog for " + std::to_string(large.big) + " variables",
+            costs[0],
+            {},
+            {},
+            {.atMostMilliseconds = 200.0, .worstCounts = true}};
+}
+
+Row filterVariables(const Project& project, int rounds) {
+    const auto costs = compare({choose_variables::filter(plant(project))}, rounds, manyRuns);
+    return {"type another filter there", costs[0], {}, {}, {.atMostMilliseconds = 100.0, .worstCounts = true}};
+}
+
+Row checkAllVariables(const Project& project, int rounds) {
+    const auto costs = compare({choose_variables::checkAll(plant(project))}, rounds, fewRuns);
+    return {"check or uncheck all variables there", costs[0], {}, {}, {}};
+}
+
 Row findLastByNumber(const Project& project, int rounds) {
     return findRecipe(project, rounds, "open the recipes and find the last by number",
                       "ID=" + std::to_string(project.recipes + 1));
@@ -107,6 +135,9 @@ constexpr auto measurements = std::to_array<Measurement>({
     {"find-number", &findLastByNumber},
     {"find-name", &findLastByName},
     {"statistic", &countAll},
+    {"variables", &openVariables},
+    {"variables-filter", &filterVariables},
+    {"variables-check", &checkAllVariables},
 });
 
 std::vector<Row> measureAll(const Project& project, const Options& options) {

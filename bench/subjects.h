@@ -53,4 +53,12 @@ namespace show_grid {
 [[nodiscard]] Subject anyPage(const Project& project);
 }  // namespace show_grid
 
+/// Opens the dialog for a recipe's variables, with all variables of the project and 1,000 of them checked, from reading
+/// the list to seeing it; or types another filter in the open dialog; or checks all variables that are found.
+namespace choose_variables {
+[[nodiscard]] Subject open(const Project& project);
+[[nodiscard]] Subject filter(const Project& project);
+[[nodiscard]] Subject checkAll(const Project& project);
+}  // namespace choose_variables
+
 }  // namespace hx::bench

@@ -1,5 +1,4 @@
 // What the user sees, drawn by Qt without a display.
-#include <QApplication>
 #include <QScrollBar>
 #include <QSqlDatabase>
 #include <QSqlError>
@@ -12,10 +11,8 @@
 #include "adapters/qt/explorer_tree.h"
 #include "adapters/qt/qt_clipboard.h"
 #include "adapters/qt/qt_explorer.h"
-#include "adapters/qt/qt_screen.h"
-#include "adapters/qt/qt_windows.h"
-#include "adapters/qt/wording.h"
 #include "addin/explorer_nodes.h"
+#include "bench/desktop.h"
 #include "bench/editor_data.h"
 #include "bench/subjects.h"
 #include "forms/form.h"
@@ -24,29 +21,6 @@
 namespace hx::bench {
 
 namespace {
-
-/// An application without a display, with a screen for forms.
-class Desktop {
-  public:
-    static void settle() {
-        QCoreApplication::sendPostedEvents();
-        QCoreApplication::processEvents();
-    }
-
-  private:
-    struct Offscreen {
-        Offscreen() { qputenv("QT_QPA_PLATFORM", "offscreen"); }
-    } offscreen_;  // before the application
-    int count_ = 1;
-    char name_[9] = "hx_bench";
-    char* arguments_[2] = {name_, nullptr};
-    QApplication application_{count_, arguments_};
-
-  public:
-    qt::Wording wording;
-    qt::QtWindows windows;
-    qt::QtScreen screen{windows, wording};
-};
 
 /// A form with nothing but the member grid.
 class GridForm : public forms::Form {

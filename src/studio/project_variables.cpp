@@ -1,27 +1,17 @@
 #include "studio/project_variables.h"
 
-#include <memory>
-
-#include "ado/recordset.h"
-#include "automation/convert.h"
+#include "adapters/sqlite/database.h"
 
 namespace hx::studio {
 
+// In one statement: a recordset would ask for each page of a list of which every row is wanted.
 std::vector<qt::Variable> ProjectVariables::variables() const {
     std::vector<qt::Variable> result;
     if (file_.empty()) return result;
-    const auto connection = std::make_shared<ado::Connection>(provider_);
-    connection->open("Data Source=" + file_ + ";Mode=Read;");
-    ado::Recordset rows;
-    rows.open("SELECT * FROM ThxVariable ORDER BY Name", connection);
-    result.reserve(static_cast<std::size_t>(rows.recordCount()));
-    for (; !rows.eof(); rows.moveNext()) {
-        result.push_back({automation::toText(rows.field("Name").value()),
-                          automation::toText(rows.field("Type").value()),
-                          automation::toText(rows.field("Comment").value())});
-    }
-    rows.close();
-    connection->close();
+    sqlite::Database database(file_);
+    result.reserve(static_cast<std::size_t>(database.number("SELECT COUNT(*) FROM ThxVariable")));
+    sqlite::Statement rows(database, "SELECT Name, Type, Comment FROM ThxVariable ORDER BY Name");
+    while (rows.step()) result.push_back({rows.text(0), rows.text(1), rows.text(2)});
     return result;
 }
 

@@ -20,7 +20,6 @@ StudioHost::StudioHost(const QString& configFolder, const QStringList& moduleFol
       help_(screen_, windows_, wording_),
       helpFile_(registry_, moduleFolders, configFolder + QStringLiteral("/common")),
       components_(moduleFolders),
-      variables_(provider_),
       items_(variables_, windows_, wording_),
       folders_(windows_, wording_),
       services_{.screen = screen_,

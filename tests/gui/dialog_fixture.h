@@ -52,17 +52,16 @@ class DialogFixture : public Desktop {
     void showDuring(forms::Form& dialog, const std::function<void(QWidget& window)>& action);
     /// Shows the dialog with the keyboard in it, until the end of the test.
     QWidget& show(forms::Form& dialog);
-    /// Runs `action` on the modal window that comes next.
-    template <class W>
-    static void inNextModal(std::function<void(W&)> action) {
-        const QWidget* before = QApplication::activeModalWidget();
-        QTimer::singleShot(0, [before, action] { waitForModal<W>(before, action); });
-    }
 
   private:
     QWidget desk_;  // has the keyboard while no dialog has
-    template <class W>
-    static void waitForModal(const QWidget* before, const std::function<void(W&)>& action) {
+};
+
+/// Runs `action` on the modal window that comes next.
+template <class W>
+void inNextModal(std::function<void(W&)> action) {
+    const QWidget* before = QApplication::activeModalWidget();
+    QTimer::singleShot(0, [before, action] {
         QWidget* window = nullptr;
         const bool came = waitUntil([&] {
             window = QApplication::activeModalWidget();
@@ -71,8 +70,8 @@ class DialogFixture : public Desktop {
         auto* wanted = dynamic_cast<W*>(window);
         if (came && wanted != nullptr) return action(*wanted);
         ADD_FAILURE() << "the expected window did not come";
-    }
-};
+    });
+}
 
 /// The widget that has the keyboard; a test failure when none has.
 [[nodiscard]] QWidget& focused();
