@@ -57,7 +57,9 @@ frmtabgrid::frmtabgrid(AddIn& addIn)
     }));
 }
 
-frmtabgrid::~frmtabgrid() = default;
+frmtabgrid::~frmtabgrid() {
+    if (inits_) inits_->Motherobject = nullptr;  // somebody may keep the settings
+}
 
 void frmtabgrid::setCommands(std::unique_ptr<Commands> commands) { commands_ = std::move(commands); }
 

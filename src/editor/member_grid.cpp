@@ -45,8 +45,14 @@ MemberGrid::MemberGrid(frmtabgrid& window, AddIn& addIn) : window_(window), addI
     subscriptions_.push_back(grid_.errorEvent.subscribe([this](forms::GridError& error) { reportedError(error); }));
     subscriptions_.push_back(grid_.viewErrorEvent.subscribe([this](forms::GridError& error) { viewFailed(error); }));
     subscriptions_.push_back(grid_.buttonClickEvent.subscribe([this](std::int32_t column) { buttonClicked(column); }));
-    subscriptions_.push_back(grid_.headClickEvent.subscribe(
-        [this](std::int32_t) { guard(addIn_, "tdbRM_HeadClick", [this] { window_.refreshMembers(); }); }));
+    subscriptions_.push_back(grid_.headClickEvent.subscribe([this](std::int32_t) { sorted(); }));
+}
+
+void MemberGrid::sorted() {
+    guard(addIn_, "tdbRM_HeadClick", [this] {
+        const recipe::WaitCursor wait(window_.screen());
+        window_.refreshMembers();
+    });
 }
 
 void MemberGrid::build(const std::shared_ptr<ado::Recordset>& members) {

@@ -48,6 +48,7 @@ class MemberGrid {
     void addColumn(const std::string& field);
     void standOn(const ado::Bookmark& row);
     void select(std::vector<ado::Bookmark> rows);
+    void sorted();
     void leavingRow(bool& stay);
     void buttonClicked(std::int32_t column);
     void reportedError(forms::GridError& error);

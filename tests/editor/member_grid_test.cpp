@@ -183,7 +183,9 @@ TEST_F(MemberGrid, ShowsNoRowsForTheRoot) {
 
 TEST_F(MemberGrid, SortsByTheClickedHeader) {
     show(mixKey);
+    host.record.pointers.clear();
     grid().headClick(columnNumber("VarRecipe"));
+    EXPECT_EQ(host.record.pointers, (std::vector{forms::Pointer::hourglass, forms::Pointer::standard}));
     EXPECT_EQ(shown("VarRecipe"), (Texts{"Pump.Speed", "Tank.Level", "Tank.Temp"}));
     grid().headClick(columnNumber("VarRecipe"));
     EXPECT_EQ(shown("VarRecipe"), (Texts{"Tank.Temp", "Tank.Level", "Pump.Speed"}));

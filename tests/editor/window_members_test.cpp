@@ -92,6 +92,15 @@ TEST_F(ByName, TheSettingsAreReached) {
     EXPECT_EQ(inits.get(), &window->inits());
 }
 
+TEST_F(ByName, SettingsThatOutliveTheWindowHaveNoWindow) {
+    const auto inits = std::dynamic_pointer_cast<settings::CInit>(window->get("inits").asObject());
+    ASSERT_NE(inits, nullptr);
+    window->unload(forms::UnloadMode::byCode);
+    window.reset();
+    constexpr std::int32_t noObject = 91;
+    EXPECT_EQ(numberOf([&] { inits->SetInitToControl("Me"); }), noObject);
+}
+
 TEST_F(ByName, AClickByNameOnAToolThatIsNotThereFails) {
     EXPECT_EQ(numberOf([&] { call("abr_ToolClick", {Variant("mnuNothing")}); }), automation::errBadIndex);
 }
