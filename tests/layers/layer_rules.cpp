@@ -30,7 +30,8 @@ constexpr std::array layers{
     Layer{"resources", Ground::StandardLibrary, 4},     Layer{"settings", Ground::StandardLibrary, 5},
     Layer{"dialogs", Ground::StandardLibrary, 6},       Layer{"recipe", Ground::StandardLibrary, 7},
     Layer{"editor", Ground::StandardLibrary, 8},        Layer{"addin", Ground::StandardLibrary, 9},
-    Layer{"adapters/", Ground::Anything, adapterLevel}, Layer{"studio", Ground::Anything, programLevel},
+    Layer{"adapters/", Ground::Anything, adapterLevel}, Layer{"report", Ground::StandardLibrary, adapterLevel},
+    Layer{"report/", Ground::Anything, programLevel},   Layer{"studio", Ground::Anything, programLevel},
     Layer{"cli", Ground::Anything, programLevel},
 };
 
@@ -137,12 +138,15 @@ static_assert(std::ranges::is_sorted(standardHeaders));
 
 bool isStandardHeader(std::string_view name) { return std::ranges::binary_search(standardHeaders, name); }
 
-/// The folder below src/ that a path lies in: one name, or two for an adapter. Empty for a bare file name.
+/// The folder below src/ that a path lies in: one name, or two for an adapter and for what draws the report. Empty for
+/// a bare file name.
 std::string_view folderOf(std::string_view path) {
     const auto first = path.find('/');
     if (first == std::string_view::npos) return {};
-    if (path.substr(0, first) != "adapters") return path.substr(0, first);
-    return path.substr(0, path.find('/', first + 1));
+    const auto name = path.substr(0, first);
+    const auto second = path.find('/', first + 1);
+    if (name == "adapters" || (name == "report" && second != std::string_view::npos)) return path.substr(0, second);
+    return name;
 }
 
 std::optional<Layer> layerOf(std::string_view folder) {

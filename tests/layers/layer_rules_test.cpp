@@ -59,6 +59,23 @@ TEST(LayerRules, AProgramIncludesAnything) {
                 IsEmpty());
 }
 
+TEST(LayerRules, WhatTheReportSaysStandsOnTheStandardLibraryAndTheEditorsFolders) {
+    EXPECT_THAT(wrongIncludes("report/report.cpp", "#include \"report/report.h\"\n#include \"recipe/schema.h\"\n"),
+                IsEmpty());
+    EXPECT_THAT(
+        wrongIncludes("report/report.cpp",
+                      "#include <QString>\n#include \"adapters/qt/text.h\"\n#include \"report/preview/pages.h\"\n"),
+        ElementsAre("report/report.cpp:1: includes QString: report stands on the standard library alone",
+                    "report/report.cpp:2: includes adapters/qt/text.h: report may not include adapters/qt",
+                    "report/report.cpp:3: includes report/preview/pages.h: report may not include report/preview"));
+}
+
+TEST(LayerRules, WhatDrawsTheReportIncludesAnything) {
+    EXPECT_THAT(wrongIncludes("report/preview/pages.cpp",
+                              "#include <QPainter>\n#include \"adapters/qt/text.h\"\n#include \"report/report.h\"\n"),
+                IsEmpty());
+}
+
 TEST(LayerRules, AHeaderOfTheTreeIsNamedByItsFolder) {
     EXPECT_THAT(
         wrongIncludes("ado/field.cpp", "#include \"field.h\"\n"),

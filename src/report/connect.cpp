@@ -1,0 +1,67 @@
+#include "report/connect.h"
+
+#include <utility>
+
+#include "automation/member_rows.h"
+#include "automation/text.h"
+#include "recipe/hierarchy.h"
+
+namespace hx::report {
+
+namespace {
+
+ProjectData read(const host::Services& services, const std::string& path) {
+    const recipe::WaitCursor wait(services.screen);
+    return readProject(services.database, path);
+}
+
+}  // namespace
+
+Connect::Connect(const host::Services& services, std::unique_ptr<Viewer> viewer)
+    : services_(services), viewer_(std::move(viewer)) {}
+
+void Connect::Show(const std::string& subject, const std::string& path, forms::WindowHandle window) {
+    const Texts texts = readTexts();
+    const auto cannot = [&](const std::string& reason) {
+        say(texts, texts.text(Text::cannotMake) + "\r\n\r\n" + reason, forms::message::critical);
+    };
+    try {
+        if (!automation::equalIgnoreCase(subject, recipeSubject)) {
+            return say(texts, texts.text(Text::unknownSubject, {subject, recipeSubject}), forms::message::exclamation);
+        }
+        const Report report(read(services_, path), texts, path, Moment::now());
+        if (report.recipes().empty()) {
+            return say(texts, texts.text(Text::noRecipes, {report.projectName()}), forms::message::information);
+        }
+        viewer_->show(report, window);
+    } catch (const automation::Error& error) {
+        cannot(error.message());
+    } catch (const std::exception& error) {
+        cannot(error.what());
+    }
+}
+
+Texts Connect::readTexts() {
+    Texts texts;
+    try {
+        texts.init(services_.registry);
+    } catch (const automation::Error& error) {
+        say(texts, error.message(), forms::message::critical);
+    }
+    return texts;
+}
+
+void Connect::say(const Texts& texts, const std::string& text, std::int32_t style) {
+    services_.screen.messageBox(text, forms::message::ok | style, texts.text(Text::title));
+}
+
+const automation::MemberTable& Connect::members() const {
+    using automation::method;
+    static constexpr automation::Member rows[] = {
+        method<&Connect::Show>("Show", "Shows the report on a subject of a project file over a window"),
+    };
+    static constexpr automation::MemberTable table{"Connect", rows};
+    return table;
+}
+
+}  // namespace hx::report

@@ -1,0 +1,135 @@
+#include "report/report.h"
+
+#include <utility>
+
+#include "automation/convert.h"
+#include "host/paths.h"
+
+namespace hx::report {
+
+namespace {
+
+/// Captions of the editor's recipe dialog.
+namespace caption {
+constexpr std::int32_t standard = 601, extended = 602, options = 640;
+constexpr std::int32_t fileName = 604, description = 608, filePath = 622, fileExtension = 605, comment = 606,
+                       active = 615;
+constexpr std::int32_t loadTrigger = 609, saveTrigger = 611, readTrigger = 612, writeTrigger = 613;
+constexpr std::int32_t values = 630, absolute = 631, relative = 632, normFactor = 633, factorVariable = 634;
+constexpr std::int32_t writeThrough = 643, saveThrough = 644, saveSubRecipes = 635, saveChanges = 623, crypted = 624;
+}  // namespace caption
+
+std::string nameOfFile(std::string_view path) {
+    const std::string_view file = host::PathStyle::fileOf(path);
+    return std::string(file.substr(0, file.rfind('.')));
+}
+
+std::string withoutDots(std::string text) { return text.substr(0, text.find_last_not_of('.') + 1); }
+
+}  // namespace
+
+Report::Report(ProjectData data, Texts texts, std::string projectFile, const Moment& created)
+    : data_(std::move(data)),
+      graph_(data_),
+      texts_(std::move(texts)),
+      projectFile_(std::move(projectFile)),
+      projectName_(nameOfFile(projectFile_)),
+      created_(created) {
+    find();
+}
+
+std::string Report::fullTitle() const { return texts_.text(Text::title) + " – " + projectName_; }
+
+std::vector<Property> Report::summary() const {
+    std::size_t variables = 0, subRecipes = 0;
+    for (const RecipeData& recipe : recipes()) {
+        variables += recipe.variables.size();
+        subRecipes += recipe.subRecipes.size();
+    }
+    const std::string content = texts_.text(
+        Text::contentSummary, {texts_.number(recipes().size()), texts_.number(variables), texts_.number(subRecipes)});
+    return {{texts_.text(Text::project), projectName_},
+            {texts_.text(Text::projectFile), projectFile_},
+            {texts_.text(Text::created), created()},
+            {texts_.text(Text::content), content}};
+}
+
+void Report::find() {
+    std::size_t more = 0;
+    const auto add = [&](std::string finding) {
+        if (findings_.size() < mostFindings) findings_.push_back(std::move(finding));
+        else ++more;
+    };
+    if (data_.orphans() > 0) add(texts_.text(Text::findingOrphans, {texts_.number(data_.orphans())}));
+    for (std::size_t i = 0; i < recipes().size(); ++i) {
+        if (graph_.inCycle(i)) add(texts_.text(Text::findingCycle, {nameOf(i)}));
+        for (const Inclusion& inclusion : recipes()[i].subRecipes) {
+            if (data_.find(inclusion.child)) continue;
+            add(texts_.text(Text::findingMissing, {nameOf(i), std::to_string(inclusion.child)}));
+        }
+    }
+    if (more > 0) findings_.push_back(texts_.text(Text::moreFindings, {texts_.number(more)}));
+}
+
+std::string Report::nameOf(std::size_t recipe) const {
+    const std::string& name = recipes()[recipe].name;
+    return name.empty() ? texts_.text(Text::noName) : name;
+}
+
+Section Report::section(std::size_t recipe) const {
+    const RecipeData& data = recipes()[recipe];
+    return {&data,
+            groupsOf(data),
+            texts_.caption(caption::options),
+            switchesOf(data),
+            graph_.tree(recipe),
+            graph_.uses(recipe)};
+}
+
+std::vector<PropertyGroup> Report::groupsOf(const RecipeData& recipe) const {
+    const auto named = [this](std::int32_t number, std::string value) {
+        return Property{withoutDots(texts_.caption(number)), std::move(value)};
+    };
+    const bool relative = recipe.normFactor != 0;
+    PropertyGroup standard{
+        texts_.caption(caption::standard),
+        {named(caption::fileName, recipe.fileNameVariable), named(caption::description, recipe.descriptionVariable),
+         named(caption::filePath, recipe.filePath), named(caption::fileExtension, recipe.fileExtension),
+         named(caption::comment, recipe.comment),
+         named(caption::active, texts_.text(recipe.enabled ? Text::yes : Text::no))}};
+    PropertyGroup extended{
+        texts_.caption(caption::extended),
+        {named(caption::loadTrigger, recipe.loadTrigger), named(caption::saveTrigger, recipe.saveTrigger),
+         named(caption::readTrigger, recipe.readTrigger), named(caption::writeTrigger, recipe.writeTrigger),
+         named(caption::values, texts_.caption(relative ? caption::relative : caption::absolute)),
+         // As the dialog shows it: with a point in every language.
+         named(caption::normFactor, automation::numberToText(recipe.normFactor)),
+         named(caption::factorVariable, recipe.factorVariable)}};
+    return {std::move(standard), std::move(extended)};
+}
+
+std::vector<Switch> Report::switchesOf(const RecipeData& recipe) const {
+    return {{texts_.caption(caption::writeThrough), recipe.writeThrough},
+            {texts_.caption(caption::saveThrough), recipe.saveThrough},
+            {texts_.caption(caption::saveSubRecipes), recipe.saveSubRecipes},
+            {texts_.caption(caption::saveChanges), recipe.saveChanges},
+            {texts_.caption(caption::crypted), recipe.crypted}};
+}
+
+std::string Report::branchName(const Branch& branch) const {
+    if (branch.recipe) return nameOf(*branch.recipe);
+    return texts_.text(Text::missingName, {std::to_string(branch.inclusion->child)});
+}
+
+std::string Report::branchNote(const Branch& branch) const {
+    switch (branch.mark) {
+        case BranchMark::none: return {};
+        case BranchMark::cycle: return texts_.text(Text::branchCycle);
+        case BranchMark::missing: return texts_.text(Text::branchMissing);
+        case BranchMark::repeated: return texts_.text(Text::branchRepeated);
+        case BranchMark::deeper: return texts_.text(Text::branchDeeper);
+    }
+    return {};
+}
+
+}  // namespace hx::report

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "adapters/headless/memory_registry.h"
+#include "report/report.h"
+
+namespace hx::report {
+
+constexpr std::int32_t german = 1031, english = 1033;
+constexpr Moment someDay{2025, 3, 5, 14, 7};
+
+inline Texts textsIn(std::int32_t language) {
+    headless::MemoryRegistry registry;
+    registry.writeNumber(host::registry_keys::helvix, "LCID", language);
+    Texts texts;
+    texts.init(registry);
+    return texts;
+}
+
+/// A recipe that includes those with these IDs.
+inline RecipeData recipe(std::int32_t id, std::string name, const std::vector<std::int32_t>& children = {}) {
+    RecipeData data;
+    data.id = id;
+    data.name = std::move(name);
+    data.enabled = true;
+    for (const std::int32_t child : children) data.subRecipes.push_back({child, ""});
+    return data;
+}
+
+}  // namespace hx::report
