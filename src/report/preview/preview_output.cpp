@@ -1,0 +1,100 @@
+#include <QAbstractButton>
+#include <QDialogButtonBox>
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QPrintDialog>
+#include <QPrinter>
+
+#include "adapters/qt/dialog_buttons.h"
+#include "adapters/qt/text.h"
+#include "report/preview/preview_window.h"
+
+/// How the preview's report leaves the window: on paper and in files.
+namespace hx::report {
+
+namespace {
+
+bool isSameFile(const QString& a, const QString& b) {
+    const QString one = QFileInfo(a).canonicalFilePath();
+    return !one.isEmpty() && one == QFileInfo(b).canonicalFilePath();
+}
+
+PageRange rangeOf(const QPrinter& printer, const Pages& pages, int current) {
+    const int last = pages.count() - 1;
+    if (printer.printRange() == QPrinter::CurrentPage) return {current, current};
+    if (printer.printRange() != QPrinter::PageRange || printer.fromPage() == 0) return {0, last};
+    return {std::clamp(printer.fromPage() - 1, 0, last), std::clamp(printer.toPage() - 1, 0, last)};
+}
+
+}  // namespace
+
+void PreviewWindow::save(const FileKind& kind) {
+    const QString path = askForFile(kind);
+    if (!path.isEmpty()) saved(path, kind.write(path));
+}
+
+// A file that may not be written leads back to the choice. Empty when the user gives up.
+QString PreviewWindow::askForFile(const FileKind& kind) {
+    QString proposed = qt::toQt(report_.projectName()) + '.' + QLatin1StringView(kind.suffix);
+    qt::Wording wording;
+    if (report_.texts().isEnglish()) wording.setLanguage(qt::Wording::english);
+    while (true) {
+        QFileDialog dialog(this, text(kind.hint), folder_, text(kind.kinds));
+        dialog.setObjectName(QStringLiteral("reportFileDialog"));
+        dialog.setAcceptMode(QFileDialog::AcceptSave);
+        dialog.setOption(QFileDialog::DontConfirmOverwrite);  // asked in the studio's own words
+        dialog.setDefaultSuffix(QLatin1StringView(kind.suffix));
+        dialog.setLabelText(QFileDialog::Accept, text(PreviewText::save));
+        dialog.setLabelText(QFileDialog::Reject, text(PreviewText::cancel));
+        if (auto* buttons = dialog.findChild<QDialogButtonBox*>()) qt::dressButtons(*buttons, wording);
+        dialog.selectFile(proposed);
+        if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return {};
+        const QString path = dialog.selectedFiles().constFirst();
+        folder_ = QFileInfo(path).absolutePath();
+        proposed = QFileInfo(path).fileName();
+        if (mayWrite(path)) return path;
+    }
+}
+
+bool PreviewWindow::mayWrite(const QString& path) {
+    if (!QFileInfo::exists(path)) return true;
+    const QString shown = QDir::toNativeSeparators(path);
+    if (isSameFile(path, qt::toQt(report_.projectFile()))) {
+        say(text(PreviewText::notOverProject).arg(shown), forms::message::ok | forms::message::exclamation);
+        return false;
+    }
+    constexpr std::int32_t style = forms::message::yesNo | forms::message::question | forms::message::defaultButton2;
+    return say(text(PreviewText::overwrite).arg(shown), style) == forms::message::Answer::yes;
+}
+
+void PreviewWindow::print() {
+    QPrinter printer(QPrinter::HighResolution);
+    printer.setPageSize(QPageSize(QPageSize::A4));
+    printer.setFullPage(true);
+    printer.setDocName(qt::toQt(report_.fullTitle()));
+    printer.setCreator(QStringLiteral("HXProjectReport"));
+    QPrintDialog dialog(&printer, this);
+    dialog.setObjectName(QStringLiteral("reportPrintDialog"));
+    dialog.setOption(QAbstractPrintDialog::PrintCurrentPage);
+    dialog.setMinMax(1, pages_.count());
+    dialog.setFromTo(1, pages_.count());
+    dialog.setPrintRange(QAbstractPrintDialog::AllPages);
+    if (auto* buttons = dialog.findChild<QDialogButtonBox*>()) {
+        for (QAbstractButton* button : buttons->buttons()) button->setIcon(QIcon());
+    }
+    if (dialog.exec() != QDialog::Accepted) return;
+    const int current = view_.page();
+    // The printer may have paper of another size.
+    const QSizeF paper = printer.pageLayout().fullRect(QPageLayout::Point).size() * 20;
+    const Pages sheets(report_, paper);
+    const PageRange range = rangeOf(printer, sheets, std::min(current, sheets.count() - 1));
+    if (const QString file = printer.outputFileName(); !file.isEmpty()) {
+        return saved(file, savePdf(report_, sheets, range, file));
+    }
+    const QString name = printer.printerName();
+    if (paintPages(sheets, range, printer)) status_.showMessage(text(PreviewText::printed).arg(name), 15000);
+    else say(text(PreviewText::notPrinted).arg(name), forms::message::ok | forms::message::critical);
+}
+
+}  // namespace hx::report

@@ -1,0 +1,275 @@
+#include "report/preview/preview_window.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QGuiApplication>
+#include <QScreen>
+#include <QToolButton>
+#include <QVBoxLayout>
+#include <cmath>
+
+#include "adapters/qt/svg_icon.h"
+#include "adapters/qt/text.h"
+#include "report/preview/preview_icons.h"
+#include "resources/help.h"
+
+namespace hx::report {
+
+namespace {
+
+constexpr int listWidth = 230, iconSize = 20, noteTime = 15000;
+constexpr QSize usualSize(1080, 860);
+
+struct ZoomEntry {
+    PageView::Fit fit;
+    int percent;
+};
+constexpr auto zoomEntries = std::to_array<ZoomEntry>({
+    {PageView::Fit::width, 0},
+    {PageView::Fit::page, 0},
+    {PageView::Fit::none, 50},
+    {PageView::Fit::none, 75},
+    {PageView::Fit::none, 100},
+    {PageView::Fit::none, 125},
+    {PageView::Fit::none, 150},
+    {PageView::Fit::none, 200},
+    {PageView::Fit::none, 400},
+});
+
+QString percentText(double zoom) { return QStringLiteral("%1 %").arg(std::lround(zoom * 100)); }
+
+QStringList namesOf(const Report& report) {
+    QStringList names;
+    for (std::size_t i = 0; i < report.recipes().size(); ++i) names.append(qt::toQt(report.nameOf(i)));
+    return names;
+}
+
+}  // namespace
+
+PreviewWindow::PreviewWindow(const Report& report, const host::Services& services, forms::WindowHandle handle,
+                             QWidget* owner)
+    : QDialog(owner, Qt::Dialog | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowMaximizeButtonHint |
+                         Qt::WindowCloseButtonHint),
+      report_(report),
+      services_(services),
+      handle_(handle),
+      pages_(report, usualPaper()),
+      folder_(QFileInfo(qt::toQt(report.projectFile())).absolutePath()),
+      print_(this),
+      pdf_(this),
+      html_(this),
+      first_(this),
+      previous_(this),
+      next_(this),
+      last_(this),
+      zoomIn_(this),
+      zoomOut_(this),
+      width_(this),
+      whole_(this),
+      close_(this),
+      help_(this),
+      names_(namesOf(report)),
+      recipes_(&splitter_),
+      view_(pages_, &splitter_) {
+    setObjectName(QStringLiteral("reportPreview"));
+    setWindowTitle(qt::toQt(report.fullTitle()));
+    setWindowIcon(qt::svgIcon(QByteArray(icons::report)));
+    setAttribute(Qt::WA_QuitOnClose, false);  // the studio ends with its own windows
+    setUpTools();
+    setUpPanes();
+    setUpKeys();
+    view_.changed = [this] { showState(); };
+    place(owner);
+    view_.setFit(PageView::Fit::width);
+    view_.setFocus();
+}
+
+void PreviewWindow::addTool(QAction& action, const char* name, const char* icon, PreviewText caption,
+                            const QKeySequence& key, const std::function<void()>& run, bool withText) {
+    action.setObjectName(QLatin1StringView(name));
+    action.setText(text(caption));
+    action.setIcon(qt::svgIcon(QByteArray(icon)));
+    action.setShortcut(key);
+    const PreviewText hint = caption == PreviewText::savePdf    ? PreviewText::savePdfHint
+                             : caption == PreviewText::saveHtml ? PreviewText::saveHtmlHint
+                                                                : caption;
+    action.setToolTip(QStringLiteral("%1 (%2)").arg(text(hint), key.toString(QKeySequence::NativeText)));
+    connect(&action, &QAction::triggered, this, run);
+    bar_.addAction(&action);
+    auto* button = qobject_cast<QToolButton*>(bar_.widgetForAction(&action));
+    button->setFocusPolicy(Qt::TabFocus);
+    button->setAccessibleName(text(hint));
+    if (withText) button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+}
+
+void PreviewWindow::setUpTools() {
+    bar_.setObjectName(QStringLiteral("reportBar"));
+    bar_.setAccessibleName(text(PreviewText::tools));
+    bar_.setIconSize(QSize(iconSize, iconSize));
+    addTool(
+        print_, "reportPrint", icons::print, PreviewText::print, QKeySequence::Print, [this] { print(); }, true);
+    addTool(
+        pdf_, "reportPdf", icons::pdf, PreviewText::savePdf, QKeySequence(Qt::CTRL | Qt::Key_S),
+        [this] {
+            save({PreviewText::savePdfHint, PreviewText::fileKindPdf, "pdf", [this](const QString& path) {
+                      return savePdf(report_, pages_, {0, pages_.count() - 1}, path);
+                  }});
+        },
+        true);
+    addTool(
+        html_, "reportHtml", icons::html, PreviewText::saveHtml, QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S),
+        [this] {
+            save({PreviewText::saveHtmlHint, PreviewText::fileKindHtml, "html",
+                  [this](const QString& path) { return saveHtml(report_, path); }});
+        },
+        true);
+    bar_.addSeparator();
+    addPageTools();
+    bar_.addSeparator();
+    addZoomTools();
+    auto* space = std::make_unique<QWidget>().release();
+    space->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    bar_.addWidget(space);  // owned by the bar
+    addTool(
+        close_, "reportClose", icons::close, PreviewText::close, QKeySequence(Qt::Key_Escape), [this] { close(); },
+        true);
+}
+
+void PreviewWindow::addPageTools() {
+    addTool(first_, "reportFirst", icons::firstPage, PreviewText::firstPage, QKeySequence(Qt::CTRL | Qt::Key_Home),
+            [this] { view_.showPage(0); });
+    addTool(previous_, "reportPrevious", icons::previousPage, PreviewText::previousPage,
+            QKeySequence(Qt::CTRL | Qt::Key_PageUp), [this] { view_.showPage(view_.page() - 1); });
+    pageLabel_.setText(text(PreviewText::page));
+    pageLabel_.setContentsMargins(4, 0, 4, 0);
+    page_.setObjectName(QStringLiteral("reportPage"));
+    page_.setAccessibleName(text(PreviewText::page));
+    page_.setButtonSymbols(QAbstractSpinBox::NoButtons);
+    page_.setAlignment(Qt::AlignRight);
+    page_.setRange(1, pages_.count());
+    page_.setKeyboardTracking(false);
+    count_.setText(
+        text(PreviewText::ofPages).arg(qt::toQt(report_.texts().number(static_cast<std::size_t>(pages_.count())))));
+    count_.setContentsMargins(4, 0, 4, 0);
+    for (QWidget* widget :
+         {static_cast<QWidget*>(&pageLabel_), static_cast<QWidget*>(&page_), static_cast<QWidget*>(&count_)}) {
+        bar_.addWidget(widget);
+    }
+    connect(&page_, &QSpinBox::valueChanged, this, [this](int page) { view_.showPage(page - 1); });
+    addTool(next_, "reportNext", icons::nextPage, PreviewText::nextPage, QKeySequence(Qt::CTRL | Qt::Key_PageDown),
+            [this] { view_.showPage(view_.page() + 1); });
+    addTool(last_, "reportLast", icons::lastPage, PreviewText::lastPage, QKeySequence(Qt::CTRL | Qt::Key_End),
+            [this] { view_.showPage(pages_.count() - 1); });
+}
+
+void PreviewWindow::addZoomTools() {
+    addTool(zoomOut_, "reportZoomOut", icons::zoomOut, PreviewText::zoomOut, QKeySequence(Qt::CTRL | Qt::Key_Minus),
+            [this] { view_.zoomStep(-1); });
+    zoom_.setObjectName(QStringLiteral("reportZoom"));
+    zoom_.setAccessibleName(text(PreviewText::zoom));
+    zoom_.setToolTip(text(PreviewText::zoom));
+    for (const ZoomEntry& entry : zoomEntries) {
+        const bool isWidth = entry.fit == PageView::Fit::width;
+        zoom_.addItem(entry.percent > 0 ? percentText(entry.percent / 100.0)
+                                        : text(isWidth ? PreviewText::fitWidth : PreviewText::fitPage));
+    }
+    connect(&zoom_, &QComboBox::activated, this, [this](int index) { chooseZoom(index); });
+    bar_.addWidget(&zoom_);
+    addTool(zoomIn_, "reportZoomIn", icons::zoomIn, PreviewText::zoomIn, QKeySequence(Qt::CTRL | Qt::Key_Plus),
+            [this] { view_.zoomStep(1); });
+    addTool(width_, "reportFitWidth", icons::fitWidth, PreviewText::fitWidth, QKeySequence(Qt::CTRL | Qt::Key_0),
+            [this] { view_.setFit(PageView::Fit::width); });
+    addTool(whole_, "reportFitPage", icons::fitPage, PreviewText::fitPage, QKeySequence(Qt::CTRL | Qt::Key_1),
+            [this] { view_.setFit(PageView::Fit::page); });
+}
+
+void PreviewWindow::setUpPanes() {
+    recipes_.setObjectName(QStringLiteral("reportRecipes"));
+    recipes_.setAccessibleName(text(PreviewText::recipes));
+    recipes_.setModel(&names_);
+    recipes_.setEditTriggers(QAbstractItemView::NoEditTriggers);
+    recipes_.setUniformItemSizes(true);
+    recipes_.setFrameShape(QFrame::NoFrame);
+    recipes_.setTextElideMode(Qt::ElideRight);
+    recipes_.setStyleSheet(QStringLiteral("QListView { padding: 4px 2px; } QListView::item { padding: 3px 6px; }"));
+    connect(&recipes_, &QListView::clicked, this, [this](const QModelIndex& index) { showRecipe(index); });
+    connect(recipes_.selectionModel(), &QItemSelectionModel::currentChanged, this, [this](const QModelIndex& index) {
+        if (recipes_.hasFocus()) showRecipe(index);
+    });
+    view_.setAccessibleName(text(PreviewText::pages));
+    splitter_.setObjectName(QStringLiteral("reportSplitter"));
+    splitter_.setStretchFactor(1, 1);
+    splitter_.setSizes({listWidth, usualSize.width() - listWidth});
+    splitter_.setHandleWidth(1);
+    status_.setSizeGripEnabled(true);
+    status_.setObjectName(QStringLiteral("reportStatus"));
+    auto layout = std::make_unique<QVBoxLayout>(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(&bar_);
+    layout->addWidget(&splitter_, 1);
+    layout->addWidget(&status_);
+    layout.release();  // owned by the window
+}
+
+void PreviewWindow::setUpKeys() {
+    // The plus of the number block, and the one that is typed with Shift on some keyboards.
+    zoomIn_.setShortcuts({QKeySequence(Qt::CTRL | Qt::Key_Plus), QKeySequence(Qt::CTRL | Qt::Key_Equal),
+                          QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Plus)});
+    help_.setShortcut(QKeySequence(Qt::Key_F1));
+    connect(&help_, &QAction::triggered, this, [this] { showHelp(); });
+    addAction(&help_);
+}
+
+// As large as there is room for beside the frame of the screen, in the middle of the owner.
+void PreviewWindow::place(const QWidget* owner) {
+    const QScreen* screen = owner != nullptr ? owner->screen() : QGuiApplication::primaryScreen();
+    const QRect room = screen->availableGeometry();
+    QRect own(QPoint(), usualSize.boundedTo(room.size() * 0.92));
+    own.moveCenter(owner != nullptr ? owner->frameGeometry().center() : room.center());
+    own.moveLeft(std::clamp(own.left(), room.left(), std::max(room.left(), room.right() - own.width())));
+    own.moveTop(std::clamp(own.top(), room.top(), std::max(room.top(), room.bottom() - own.height())));
+    setGeometry(own);
+}
+
+void PreviewWindow::showState() {
+    const int page = view_.page();
+    const QSignalBlocker quiet(page_);
+    page_.setValue(page + 1);
+    for (QAction* back : {&first_, &previous_}) back->setEnabled(page > 0);
+    for (QAction* on : {&next_, &last_}) on->setEnabled(page + 1 < pages_.count());
+    const auto entry = std::ranges::find_if(zoomEntries, [this](const ZoomEntry& one) {
+        return one.fit == view_.fit() && (one.percent == 0 || std::lround(view_.zoom() * 100) == one.percent);
+    });
+    const bool listed = entry != zoomEntries.end();
+    zoom_.setPlaceholderText(percentText(view_.zoom()));
+    zoom_.setCurrentIndex(listed ? static_cast<int>(entry - zoomEntries.begin()) : -1);
+}
+
+void PreviewWindow::chooseZoom(int index) {
+    const ZoomEntry& entry = zoomEntries[static_cast<std::size_t>(index)];
+    if (entry.fit != PageView::Fit::none) view_.setFit(entry.fit);
+    else view_.setZoom(entry.percent / 100.0);
+}
+
+void PreviewWindow::showRecipe(const QModelIndex& index) {
+    if (index.isValid()) view_.showRecipe(static_cast<std::size_t>(index.row()));
+}
+
+void PreviewWindow::saved(const QString& path, const QString& problem) {
+    const QString shown = QDir::toNativeSeparators(path);
+    if (problem.isEmpty()) status_.showMessage(text(PreviewText::saved).arg(shown), noteTime);
+    else say(text(PreviewText::notSaved).arg(shown, problem), forms::message::ok | forms::message::critical);
+}
+
+forms::message::Answer PreviewWindow::say(const QString& message, std::int32_t style) {
+    return services_.screen.messageBox(qt::fromQt(message), style, report_.texts().text(Text::title));
+}
+
+void PreviewWindow::showHelp() {
+    resources::Help help(services_);
+    help.SetHelpFile();
+    help.ShowHelp(handle_, resources::help_context::report);
+}
+
+}  // namespace hx::report

@@ -1,0 +1,77 @@
+#pragma once
+
+#include <QAction>
+#include <QComboBox>
+#include <QDialog>
+#include <QLabel>
+#include <QListView>
+#include <QSpinBox>
+#include <QSplitter>
+#include <QStatusBar>
+#include <QStringListModel>
+#include <QToolBar>
+#include <functional>
+
+#include "host/services.h"
+#include "report/preview/output.h"
+#include "report/preview/page_view.h"
+#include "report/preview/preview_texts.h"
+
+namespace hx::report {
+
+/// The preview of a report: its pages, a list of its recipes, and a tool bar with print, save as PDF or HTML, pages and
+/// zoom. Everything in it works by keyboard.
+class PreviewWindow : public QDialog {
+  public:
+    /// Report and services are lent. Messages and help appear over the host's window `handle`.
+    PreviewWindow(const Report& report, const host::Services& services, forms::WindowHandle handle, QWidget* owner);
+
+    [[nodiscard]] const Pages& pages() const noexcept { return pages_; }
+
+  private:
+    /// A kind of file that the report can be saved as.
+    struct FileKind {
+        PreviewText hint, kinds;
+        const char* suffix;
+        std::function<QString(const QString& path)> write;
+    };
+
+    void setUpTools();
+    void addTool(QAction& action, const char* name, const char* icon, PreviewText text, const QKeySequence& key,
+                 const std::function<void()>& run, bool withText = false);
+    void addPageTools();
+    void addZoomTools();
+    void setUpPanes();
+    void setUpKeys();
+    void place(const QWidget* owner);
+    void showState();
+    void chooseZoom(int index);
+    void showRecipe(const QModelIndex& index);
+
+    void print();
+    void save(const FileKind& kind);
+    [[nodiscard]] QString askForFile(const FileKind& kind);
+    [[nodiscard]] bool mayWrite(const QString& path);
+    void saved(const QString& path, const QString& problem);
+    forms::message::Answer say(const QString& text, std::int32_t style);
+    void showHelp();
+    [[nodiscard]] QString text(PreviewText text) const { return previewText(text, report_.texts()); }
+
+    const Report& report_;
+    const host::Services& services_;
+    forms::WindowHandle handle_;
+    Pages pages_;
+    QString folder_;
+    QToolBar bar_;
+    QAction print_, pdf_, html_, first_, previous_, next_, last_, zoomIn_, zoomOut_, width_, whole_, close_, help_;
+    QSpinBox page_;
+    QLabel pageLabel_, count_;
+    QComboBox zoom_;
+    QSplitter splitter_;
+    QStringListModel names_;
+    QListView recipes_;
+    PageView view_;
+    QStatusBar status_;
+};
+
+}  // namespace hx::report
