@@ -9,7 +9,7 @@
 #include "forms/status_bar.h"
 #include "resources/resource_table.h"
 
-/// Shared data-access routines of the editor.
+/// Shared data-access routines of the editor: the module MHXRCPHirarchFunc.
 namespace hx::recipe {
 
 /// What RefreshMemberView needs of the editor window.
