@@ -99,9 +99,13 @@ void frmtabgrid::showInHost() {
 }
 
 void frmtabgrid::onKeyDown(forms::KeyEvent& event) {
-    if (event.code != forms::key::f6 || event.shift != forms::shift::alt) return;
-    event.swallow();
-    if (host::ProjectExplorer* explorer = addIn_.explorer()) explorer->activate();
+    if (event.code == forms::key::f1 && event.shift == forms::shift::none) {
+        event.swallow();
+        addIn_.help().ShowHelp(handle(), resources::help_context::grid);
+    } else if (event.code == forms::key::f6 && event.shift == forms::shift::alt) {
+        event.swallow();
+        if (host::ProjectExplorer* explorer = addIn_.explorer()) explorer->activate();
+    }
 }
 
 void frmtabgrid::SwitchGrids(const std::string& key) {

@@ -61,7 +61,8 @@ MemberGridKeys::MemberGridKeys(frmtabgrid& window, MemberGrid& members, Menus& m
         {key::f8, shift::none, &Keys::newMember},
         {key::f9, shift::none, &Keys::editMember},
         {key::del, shift::ctrl, &Keys::deleteMembers},
-        {key::f6, shift::alt, &Keys::toExplorer},
+        {key::f6, shift::alt, &Keys::windowKey},
+        {key::f1, shift::none, &Keys::windowKey},
         {key::left, shift::alt, &Keys::swallow},
         {key::right, shift::alt, &Keys::swallow},
         {key::pageUp, shift::ctrl, &Keys::firstColumn},
@@ -132,7 +133,7 @@ void MemberGridKeys::deleteMembers(forms::KeyEvent& event) {
     menus_.runMemberTool(tool::memberDelete);
 }
 
-void MemberGridKeys::toExplorer(forms::KeyEvent& event) { window_.onKeyDown(event); }
+void MemberGridKeys::windowKey(forms::KeyEvent& event) { window_.onKeyDown(event); }
 
 void MemberGridKeys::swallow(forms::KeyEvent& event) { event.swallow(); }
 

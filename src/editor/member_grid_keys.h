@@ -30,7 +30,7 @@ class MemberGridKeys {
     void newMember(forms::KeyEvent& event);
     void editMember(forms::KeyEvent& event);
     void deleteMembers(forms::KeyEvent& event);
-    void toExplorer(forms::KeyEvent& event);
+    void windowKey(forms::KeyEvent& event);
     void swallow(forms::KeyEvent& event);
     void firstColumn(forms::KeyEvent& event);
     void lastColumn(forms::KeyEvent& event);

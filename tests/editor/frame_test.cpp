@@ -158,6 +158,20 @@ TEST_F(Frame, NoOtherKeyDoesAnythingInTheWindow) {
     EXPECT_EQ(host.record.beeps, 0);
 }
 
+TEST_F(Frame, F1OpensTheHelpOfTheGrid) {
+    open();
+    const std::vector<forms::Control*> controls = {window.get(), window->abr.get(), window->tdbRM.get()};
+    for (forms::Control* control : controls) {
+        host.record.help.clear();
+        forms::KeyEvent event{forms::key::f1, forms::shift::none};
+        control->keyDown(event);
+        EXPECT_TRUE(event.swallowed());
+        ASSERT_EQ(host.record.help.size(), 1u);
+        EXPECT_EQ(host.record.help[0].context, resources::help_context::grid);
+        EXPECT_EQ(host.record.help[0].owner, window->handle());
+    }
+}
+
 TEST_F(Frame, AltF6WithoutAnExplorerDoesNothing) {
     addIn.node = nullptr;
     forms::KeyEvent event{forms::key::f6, forms::shift::alt};
