@@ -124,12 +124,29 @@ TEST_F(RecipeDialogTest, ThePagesAreReachedByKeyboard) {
     showDuring(*dialog, [this](QWidget&) {
         press(Qt::Key_Tab, Qt::ControlModifier);
         EXPECT_EQ(dialog->tab->tab(), 1);
+        EXPECT_EQ(focused().objectName(), "txtVarLoad");
+        press(Qt::Key_F1);
+        EXPECT_EQ(host.record.help.size(), 1U);
         widget<QTabWidget>("tab").tabBar()->setFocus();
         press(Qt::Key_Right);
         EXPECT_EQ(dialog->tab->tab(), 2);
         EXPECT_TRUE(widget<QCheckBox>("chkCryptEngine").isVisible());
         EXPECT_FALSE(widget<QLineEdit>("txtName").isVisible());
     });
+}
+
+TEST_F(RecipeDialogTest, TheKeysOfTheDialogWorkOnTheTabsToo) {
+    showDuring(*dialog, [this](QWidget&) {
+        auto& bar = *widget<QTabWidget>("tab").tabBar();
+        QTest::mouseClick(&bar, Qt::LeftButton, {}, bar.tabRect(2).center());
+        EXPECT_EQ(dialog->tab->tab(), 2);
+        EXPECT_EQ(&focused(), &bar);
+        press(Qt::Key_F1);
+        EXPECT_EQ(host.record.help.size(), 1U);
+        press(Qt::Key_Return);
+        EXPECT_FALSE(dialog->visible());
+    });
+    EXPECT_FALSE(dialog->cancelled());
 }
 
 TEST_F(RecipeDialogTest, MnemonicsActOnTheShownPage) {

@@ -63,6 +63,8 @@ class FormView : public QObject {
     void bringToFront();
     /// Shows it over `owner` until the form is hidden or ends.
     void runModal(QWidget* owner);
+    /// Gives the keyboard to the first field that can be seen.
+    void startKeyboard();
     /// Gives to the models what is being typed.
     void settle();
     /// Sends keys to the control that has the keyboard, or to the form.
@@ -81,7 +83,6 @@ class FormView : public QObject {
   private:
     void build();
     void orderTabs();
-    void startKeyboard();
     void placeOver(const QWidget* window);
     [[nodiscard]] QWidget& firstField();
     void apply(std::string_view property);

@@ -3,7 +3,6 @@
 #include <QApplication>
 #include <QDir>
 #include <QFileDialog>
-#include <QUrl>
 
 #include "adapters/qt/dialog_buttons.h"
 #include "adapters/qt/text.h"
@@ -60,9 +59,6 @@ std::string QtPathSelection::choose(forms::WindowHandle owner, const std::string
     dialog.setLabelText(QFileDialog::Accept, wording_.text(Word::choose));
     dialog.setLabelText(QFileDialog::Reject, wording_.text(Word::cancel));
     if (auto* buttons = dialog.findChild<QDialogButtonBox*>()) dressButtons(*buttons, wording_);
-    QList<QUrl> places = dialog.sidebarUrls();
-    if (!projectFolder_.isEmpty()) places.append(QUrl::fromLocalFile(projectFolder_));
-    dialog.setSidebarUrls(places);
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return current;
     const QString folder = QDir::cleanPath(dialog.selectedFiles().front());
     // The folder that was given keeps its spelling.

@@ -2,6 +2,7 @@
 
 #include <QSignalBlocker>
 
+#include "adapters/qt/form_view.h"
 #include "adapters/qt/text.h"
 
 namespace hx::qt {
@@ -24,9 +25,12 @@ QWidget* TabStripView::areaOf(const forms::Control& container) {
     return ControlView::areaOf(container);
 }
 
+// The controls of the new page may take the keyboard only now: without one that could, the page itself has got it.
 void TabStripView::chosen(int tab) {
     const auto keep = model()->share();
     modelOf<forms::TabStrip>(*this)->setTab(static_cast<std::int16_t>(tab));
+    if (model() == nullptr || pages_[static_cast<std::size_t>(tab)].get() != form().widget().focusWidget()) return;
+    form().startKeyboard();
 }
 
 void TabStripView::showCaptions() {

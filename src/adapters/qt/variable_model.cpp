@@ -62,6 +62,16 @@ void VariableModel::collect() {
     }
 }
 
+QString VariableModel::longest(int column) const {
+    const auto field = fields[static_cast<std::size_t>(column)];
+    const std::string* found = nullptr;
+    for (std::size_t number = 0; number < list_->size(); ++number) {
+        const std::string& text = (*list_)[number].*field;
+        if (found == nullptr || text.size() > found->size()) found = &text;
+    }
+    return found == nullptr ? QString() : toQt(*found);
+}
+
 int VariableModel::rowOf(std::size_t number) const {
     const auto found = std::ranges::lower_bound(shown_, number);
     return found == shown_.end() || *found != number ? -1 : static_cast<int>(found - shown_.begin());

@@ -31,6 +31,9 @@ class VariableModel : public QAbstractTableModel {
     /// Of the shown ones, ignoring case; -1 for none.
     [[nodiscard]] int find(const QString& name) const;
 
+    /// The longest text of a column, shown or not.
+    [[nodiscard]] QString longest(int column) const;
+
   protected:
     /// What a derived list lets through beside the words.
     [[nodiscard]] virtual bool offers(std::size_t) const { return true; }

@@ -3,12 +3,22 @@
 #include <QApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QScrollBar>
+#include <algorithm>
+#include <array>
 
 namespace hx::qt {
 
 namespace {
 
-constexpr int nameCharacters = 38, typeCharacters = 10, commentCharacters = 40, usualRows = 18;
+constexpr int usualRows = 18;
+
+/// How wide a column may be at first, in characters.
+struct Bounds {
+    int least, most;
+};
+
+constexpr std::array<Bounds, 3> bounds = {{{24, 60}, {8, 16}, {24, 50}}};
 
 bool movesInList(int key) {
     return key == Qt::Key_Up || key == Qt::Key_Down || key == Qt::Key_PageUp || key == Qt::Key_PageDown;
@@ -35,22 +45,26 @@ VariableTable::VariableTable(VariableModel& model, QLineEdit& search) : search_(
     horizontalHeader()->setHighlightSections(false);
     horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     horizontalHeader()->setStretchLastSection(true);
-    fitColumns();
+    fitColumns(model);
     search_.installEventFilter(this);
 }
 
-void VariableTable::fitColumns() {
+// The longest text decides; measuring each of many thousands would take its time.
+void VariableTable::fitColumns(const VariableModel& model) {
     const QFontMetrics font = fontMetrics();
     verticalHeader()->setMinimumSectionSize(1);
     verticalHeader()->setDefaultSectionSize(font.height() * 4 / 3);
-    setColumnWidth(VariableModel::nameColumn, font.averageCharWidth() * nameCharacters);
-    setColumnWidth(VariableModel::typeColumn, font.averageCharWidth() * typeCharacters);
+    width_ = verticalScrollBar()->sizeHint().width() + font.height();
+    for (int column = 0; column < static_cast<int>(bounds.size()); ++column) {
+        const auto [least, most] = bounds[static_cast<std::size_t>(column)];
+        const int wanted = font.horizontalAdvance(model.longest(column)) + 2 * font.height();
+        const int width = std::clamp(wanted, least * font.averageCharWidth(), most * font.averageCharWidth());
+        if (column != VariableModel::commentColumn) setColumnWidth(column, width);  // the last one takes the rest
+        width_ += width;
+    }
 }
 
-QSize VariableTable::sizeHint() const {
-    const int characters = nameCharacters + typeCharacters + commentCharacters;
-    return {fontMetrics().averageCharWidth() * characters, fontMetrics().height() * 4 / 3 * usualRows};
-}
+QSize VariableTable::sizeHint() const { return {width_, fontMetrics().height() * 4 / 3 * usualRows}; }
 
 void VariableTable::goTo(int row) {
     selectRow(row);

@@ -25,8 +25,9 @@ class VariableTable : public QTableView {
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
-    void fitColumns();
+    void fitColumns(const VariableModel& model);
     QLineEdit& search_;
+    int width_ = 0;  // that all columns want
     std::function<void()> toggle_;
 };
 
