@@ -46,7 +46,7 @@ class NextModal {
   private:
     void look() {
         QWidget* window = QApplication::activeModalWidget();
-        if (window == nullptr || window == before_ || !window->isVisible()) return;
+        if (window == nullptr || window == before_ || !window->isActiveWindow()) return;
         timer_.stop();
         auto* wanted = dynamic_cast<W*>(window);
         came_ = wanted != nullptr;

@@ -75,7 +75,8 @@ void Pages::place(std::size_t part) {
         // What is higher than half a page is parted all the same.
         while (end > row + 1 && heightOf(rows, row, end) > (bottom() - top) / 2) --end;
         const double before = y_ > top ? rows[row].before : 0, height = heightOf(rows, row, end);
-        if (y_ > top && y_ + before + height > bottom()) {
+        const bool behindFront = part == 1 && row == 0;  // the recipes begin on a page of their own
+        if (behindFront || (y_ > top && y_ + before + height > bottom())) {
             starts_.push_back({part, row});
             y_ = top + height;
         } else {

@@ -5,9 +5,11 @@
 #include <QFileInfo>
 #include <QPrintDialog>
 #include <QPrinter>
+#include <optional>
 
 #include "adapters/qt/dialog_buttons.h"
 #include "adapters/qt/text.h"
+#include "recipe/hierarchy.h"
 #include "report/preview/preview_window.h"
 
 /// How the preview's report leaves the window: on paper and in files.
@@ -31,7 +33,13 @@ PageRange rangeOf(const QPrinter& printer, const Pages& pages, int current) {
 
 void PreviewWindow::save(const FileKind& kind) {
     const QString path = askForFile(kind);
-    if (!path.isEmpty()) saved(path, kind.write(path));
+    if (path.isEmpty()) return;
+    QString problem;
+    {
+        const recipe::WaitCursor wait(services_.screen);
+        problem = kind.write(path);
+    }
+    saved(path, problem);
 }
 
 // A file that may not be written leads back to the choice. Empty when the user gives up.
@@ -84,16 +92,25 @@ void PreviewWindow::print() {
         for (QAbstractButton* button : buttons->buttons()) button->setIcon(QIcon());
     }
     if (dialog.exec() != QDialog::Accepted) return;
+    printTo(printer);
+}
+
+void PreviewWindow::printTo(QPrinter& printer) {
+    std::optional<recipe::WaitCursor> wait(services_.screen);
     const int current = view_.page();
     // The printer may have paper of another size.
     const QSizeF paper = printer.pageLayout().fullRect(QPageLayout::Point).size() * 20;
     const Pages sheets(report_, paper);
     const PageRange range = rangeOf(printer, sheets, std::min(current, sheets.count() - 1));
     if (const QString file = printer.outputFileName(); !file.isEmpty()) {
-        return saved(file, savePdf(report_, sheets, range, file));
+        const QString problem = savePdf(report_, sheets, range, file);
+        wait.reset();
+        return saved(file, problem);
     }
     const QString name = printer.printerName();
-    if (paintPages(sheets, range, printer)) status_.showMessage(text(PreviewText::printed).arg(name), 15000);
+    const bool done = paintPages(sheets, range, printer);
+    wait.reset();
+    if (done) status_.showMessage(text(PreviewText::printed).arg(name), 15000);
     else say(text(PreviewText::notPrinted).arg(name), forms::message::ok | forms::message::critical);
 }
 

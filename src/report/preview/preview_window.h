@@ -17,6 +17,8 @@
 #include "report/preview/page_view.h"
 #include "report/preview/preview_texts.h"
 
+class QPrinter;
+
 namespace hx::report {
 
 /// The preview of a report: its pages, a list of its recipes, and a tool bar with print, save as PDF or HTML, pages and
@@ -49,6 +51,7 @@ class PreviewWindow : public QDialog {
     void showRecipe(const QModelIndex& index);
 
     void print();
+    void printTo(QPrinter& printer);
     void save(const FileKind& kind);
     [[nodiscard]] QString askForFile(const FileKind& kind);
     [[nodiscard]] bool mayWrite(const QString& path);
