@@ -53,16 +53,16 @@ const Page& KeyList::page(std::size_t position, ColumnMask columns) {
     owner_.want(columns);
     const std::size_t first = position - position % PageCache::rowsPerPage;
     const std::size_t count = std::min(PageCache::rowsPerPage, size() - first);
-    return pages_.add(read(first, count, owner_.wanted()), position);
+    Page page(first, count, owner_.columns().size(), owner_.wanted());
+    read(first, count, owner_.wanted(), page);
+    return pages_.add(std::move(page), position);
 }
 
-Page KeyList::read(std::size_t first, std::size_t count, ColumnMask columns) {
+void KeyList::read(std::size_t first, std::size_t count, ColumnMask columns, RowSink& sink) {
     const KeySet& all = keys();
     std::vector<Key> asked(count);
     for (std::size_t i = 0; i < count; ++i) asked[i] = all[first + i];
-    Page page(first, count, owner_.columns().size(), columns);
-    owner_.readRows(asked, columns, page);
-    return page;
+    owner_.readRows(asked, columns, sink);
 }
 
 bool KeyList::matchesAt(const Criterion& criterion, std::size_t position) {

@@ -37,8 +37,8 @@ class KeyList {
         return found.exists(position) ? &found.value(position, column) : nullptr;
     }
 
-    /// The rows from `first` on, with only these columns; they are not kept.
-    [[nodiscard]] Page read(std::size_t first, std::size_t count, ColumnMask columns);
+    /// Gives `count` rows from `first` on to the sink, with only these columns; they are not kept.
+    void read(std::size_t first, std::size_t count, ColumnMask columns, RowSink& sink);
 
     void attach(Cursor& cursor) { cursors_.push_back(&cursor); }
     void detach(Cursor& cursor) noexcept { std::erase(cursors_, &cursor); }

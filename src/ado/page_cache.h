@@ -4,7 +4,6 @@
 #include <cstddef>
 #include <cstdint>
 #include <span>
-#include <utility>
 #include <vector>
 
 #include "ado/provider.h"
@@ -24,9 +23,6 @@ class Page : public RowSink {
     [[nodiscard]] bool exists(std::size_t position) const noexcept { return present_[position - first_]; }
     /// Of a column that the page holds.
     [[nodiscard]] const automation::Variant& value(std::size_t position, std::size_t column) const noexcept {
-        return values_[(position - first_) * width_ + slot(column)];
-    }
-    [[nodiscard]] automation::Variant& value(std::size_t position, std::size_t column) noexcept {
         return values_[(position - first_) * width_ + slot(column)];
     }
     /// The row at `position` left the list.

@@ -46,7 +46,7 @@ class RowSink {
   public:
     virtual ~RowSink() = default;
     /// `values` has one entry a column; entries outside the mask are empty. The sink may move them out.
-    /// `index` is the position of the key in the keys that were asked for; indices come in any order.
+    /// `index` is the position of the key in the keys that were asked for; indices rise.
     virtual void row(std::size_t index, std::span<automation::Variant> values) = 0;
 };
 

@@ -81,9 +81,10 @@ class Recordset : public automation::Dispatch {
     [[nodiscard]] automation::ObjectRef fields(const automation::Variant& nameOrIndex);
     [[nodiscard]] const std::vector<Column>& columns() const;
 
-    /// ADO's GetRows, a row at a time: gives the values of these fields in the current row and those behind it, at most
-    /// `rows` of them (adGetRowsRest for all), and moves behind the last one. Rows that somebody has deleted are left
-    /// out. The rows are read together and not kept, which is faster than a walk.
+    /// ADO's GetRows, a row at a time: gives the values of these fields (each named once) in the current row and those
+    /// behind it, at most `rows` of them (adGetRowsRest for all), and moves behind the last one. Rows that somebody has
+    /// deleted are left out. The rows are read together and not kept, which is faster than a walk; `receive` is called
+    /// while the database reads and must not use the connection.
     void getRows(std::int32_t rows, std::span<const std::string_view> fields, const RowReceiver& receive);
 
     // --- edits
