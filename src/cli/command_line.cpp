@@ -2,12 +2,13 @@
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
-#include <functional>
 
 #include "adapters/sqlite/project_file.h"
 #include "automation/error.h"
 #include "cli/build_sample.h"
+#include "cli/command.h"
 #include "cli/generate.h"
+#include "cli/verbs.h"
 
 namespace hx::cli {
 
@@ -15,18 +16,15 @@ namespace {
 
 constexpr std::int64_t most = 100'000'000;  // rows of one kind
 
-/// The command that the arguments choose; it runs after they have all been read.
-using Command = std::function<void()>;
-
 void addNew(CLI::App& app, Command& chosen, const Output& output) {
     CLI::App* command = app.add_subcommand("new", "Make an empty project.");
     const auto path = std::make_shared<std::string>();
     command->add_option("FILE", *path, "The project file to make; it must not exist yet.")->required();
     command->callback([path, &chosen, &output] {
-        chosen = [path, &output] {
+        chosen = Command::doing([path, &output] {
             sqlite::createProject(*path);
             output.results << "Made " << *path << ".\n";
-        };
+        });
     });
 }
 
@@ -43,7 +41,7 @@ void addGenerate(CLI::App& app, Command& chosen, const Output& output) {
     command->callback([plan, &chosen, &output] {
         if (plan->recipes == 0 && plan->members > 0)
             throw CLI::ValidationError("--members needs recipes to spread over");
-        chosen = [plan, &output] { generate(*plan, output); };
+        chosen = Command::doing([plan, &output] { generate(*plan, output); });
     });
 }
 
@@ -57,30 +55,30 @@ void addBuildSample(CLI::App& app, Command& chosen, const Output& output) {
     command->add_option("DIR", arguments->folder, "The folder with variables.csv and recipes.txt.")->required();
     command->add_option("FILE", arguments->path, "The project file to make; it must not exist yet.")->required();
     command->callback([arguments, &chosen, &output] {
-        chosen = [arguments, &output] { buildSample(arguments->folder, arguments->path, output); };
+        chosen = Command::doing([arguments, &output] { buildSample(arguments->folder, arguments->path, output); });
     });
 }
 
 int carryOut(const Command& command, const Output& output) {
     try {
-        command();
-        return succeeded;
+        return command.run();
     } catch (const std::exception& error) {
         output.problems << "hxrecipe: " << error.what() << "\n";
-        return failed;
+        return command.onFailure;
     }
 }
 
 }  // namespace
 
 int run(int argc, const char* const* argv, const Output& output) {
-    CLI::App app("Makes and fills project files of the recipe editor.", "hxrecipe");
+    CLI::App app("Makes, shows and checks project files of the recipe editor.", "hxrecipe");
     app.require_subcommand(1);
-    app.footer("Exit status: 0 done, 1 failed, 2 wrong usage.");
+    app.footer("Exit status: 0 done, 1 failed, 2 wrong usage; of check: 0 nothing found, 1 findings, 2 not checked.");
     Command chosen;
     addNew(app, chosen, output);
     addGenerate(app, chosen, output);
     addBuildSample(app, chosen, output);
+    addVerbs(app, chosen, output);
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& error) {

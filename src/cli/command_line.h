@@ -11,10 +11,11 @@ struct Output {
     bool problemsAreShown = false;  ///< problems go to a terminal: progress may be drawn there
 };
 
-/// Exit statuses.
-enum Status : int { succeeded = 0, failed = 1, wrongUsage = 2 };
+/// Exit statuses. A command that answers a question says `found` for findings or differences; when it cannot answer,
+/// it says `cannotTell`.
+enum Status : int { succeeded = 0, failed = 1, found = 1, wrongUsage = 2, cannotTell = 2 };
 
-/// Runs `hxrecipe` with these arguments: new, generate, build-sample. Never throws.
+/// Runs `hxrecipe` with these arguments. Never throws.
 int run(int argc, const char* const* argv, const Output& output);
 
 }  // namespace hx::cli

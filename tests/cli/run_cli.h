@@ -7,6 +7,8 @@
 #include <string>
 #include <vector>
 
+#include "adapters/sqlite/database.h"
+#include "adapters/sqlite/project_file.h"
 #include "adapters/sqlite/provider.h"
 #include "ado/recordset.h"
 #include "automation/convert.h"
@@ -37,6 +39,17 @@ class CliTest : public testing::Test {
         std::filesystem::create_directories(std::filesystem::path(folder_.file(name)).parent_path());
         std::ofstream(folder_.file(name), std::ios::binary) << text;
         return folder_.file(name);
+    }
+
+    static std::string contents(const std::string& path) {
+        std::ifstream file(path, std::ios::binary);
+        return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+    }
+
+    /// A new project after these statements.
+    static void makeProject(const std::string& path, const std::string& sql) {
+        sqlite::createProject(path);
+        sqlite::Database(path).execute(sql);
     }
 
     /// All values of all rows: columns joined by "|", rows by ",".

@@ -1,0 +1,181 @@
+#include "cli/check.h"
+
+#include <algorithm>
+#include <iterator>
+#include <map>
+#include <unordered_map>
+
+#include "automation/text.h"
+#include "cli/findings.h"
+#include "cli/name_set.h"
+#include "cli/recipe_graph.h"
+
+namespace hx::cli {
+
+using sqlite::Statement;
+
+namespace {
+
+constexpr std::string_view triggerColumns[] = {"VarLoad", "VarSave", "VarRead", "VarWrite"};
+
+bool isBlank(std::string_view text) { return automation::trim(text).empty(); }
+
+/// Reads each table once: with a million members every further pass would count.
+class Check {
+  public:
+    Check(ProjectReader& project, FindingWriter& findings) : project_(project), findings_(findings) {}
+
+    void run() {
+        readVariables();
+        readRecipes();
+        readMembers();
+        compareTriggers();
+        findCycles();
+    }
+
+  private:
+    struct TriggerUse {
+        std::size_t recipe;
+        std::string_view column;
+        std::string variable;
+    };
+    struct Member {
+        std::int64_t id, parent, child;
+        std::string variable;
+        const RecipeEntry* recipe;  // none when it does not exist
+    };
+
+    void readVariables() {
+        Statement select(project_.database(), "SELECT Name FROM ThxVariable");
+        while (select.step()) variables_.add(select.text(0));
+    }
+
+    void readRecipes() {
+        std::string columns = "ID, Name, SaveSubRecipes";
+        for (const std::string_view column : variableColumns) columns.append(", ").append(column);
+        recipes_ = project_.recipes();  // from here on they stay in place: findings point at them
+        numbers_.reserve(recipes_.size());
+        saves_.reserve(recipes_.size());
+        Statement select(project_.database(), "SELECT " + columns + " FROM TrcpRecipe ORDER BY ID");
+        for (std::size_t i = 0; select.step(); ++i) {
+            numbers_.emplace(recipes_[i].id, i);
+            saves_.push_back(select.value(2, ado::adBoolean) == automation::Variant(true));
+            for (std::size_t c = 0; c < std::size(variableColumns); ++c) {
+                readVariable(i, variableColumns[c], select.text(3 + static_cast<int>(c)));
+            }
+        }
+    }
+
+    void readVariable(std::size_t recipe, std::string_view column, const std::string& variable) {
+        if (isBlank(variable)) return;
+        if (std::ranges::find(triggerColumns, column) != std::end(triggerColumns)) {
+            triggers_[automation::foldCase(automation::trim(variable))].push_back({recipe, column, variable});
+        }
+        if (variables_.contains(variable)) return;
+        findings_.add(
+            {Severity::warning,
+             "unknown-variable",
+             &recipes_[recipe],
+             {},
+             std::string(column) + " names the variable " + inQuotes(variable) + ", which is not in the variable list.",
+             "Add the variable to the list or choose another one."});
+    }
+
+    void readMembers() {
+        Statement select(project_.database(), "SELECT ID, ParentID, ChildID, VarRecipe FROM TrcpRecipeMember");
+        while (select.step()) {
+            Member member{select.key(0), select.key(1), select.key(2), select.text(3), nullptr};
+            const auto recipe = numbers_.find(member.parent);
+            if (recipe != numbers_.end()) member.recipe = &recipes_[recipe->second];
+            else reportOrphan(member);
+            if (member.child != 0) readInclusion(member, recipe != numbers_.end() && saves_[recipe->second]);
+            if (!isBlank(member.variable) && !variables_.contains(member.variable)) reportUnknown(member);
+        }
+    }
+
+    void readInclusion(const Member& member, bool parentSaves) {
+        inclusions_.push_back({member.id, member.parent, member.child, {}});
+        if (!numbers_.contains(member.child)) {
+            findings_.add({Severity::error, "missing-sub-recipe", member.recipe, member.id,
+                           "The sub-recipe with the ID " + std::to_string(member.child) + " does not exist.",
+                           "Delete the member or choose an existing recipe."});
+        }
+        if (member.recipe == nullptr || parentSaves || !isBlank(member.variable)) return;
+        findings_.add({Severity::error, "no-file-name", member.recipe, member.id,
+                       "The sub-recipe" + nameOf(member.child) + " has no variable for its file name.",
+                       "Choose one, or let the recipe save the values of its sub-recipes."});
+    }
+
+    [[nodiscard]] std::string nameOf(std::int64_t recipe) const {
+        const auto found = numbers_.find(recipe);
+        return found == numbers_.end() ? std::string() : " " + inQuotes(recipes_[found->second].name);
+    }
+
+    void reportOrphan(const Member& member) {
+        findings_.add({Severity::error, "no-recipe", nullptr, member.id,
+                       "The recipe with the ID " + std::to_string(member.parent) +
+                           ", to which the member belongs, does not exist.",
+                       "Delete the member."});
+    }
+
+    void reportUnknown(const Member& member) {
+        findings_.add({Severity::warning, "unknown-variable", member.recipe, member.id,
+                       "The variable " + inQuotes(member.variable) + " is not in the variable list.",
+                       "Add the variable to the list or choose another one."});
+    }
+
+    void compareTriggers() {
+        for (const auto& [folded, uses] : triggers_) {
+            const TriggerUse& first = uses.front();
+            std::string others;
+            for (const TriggerUse& use : uses) {
+                if (use.recipe == first.recipe) continue;
+                others += (others.empty() ? "" : ", ") + inQuotes(recipes_[use.recipe].name) + " (" +
+                          std::string(use.column) + ")";
+            }
+            if (others.empty()) continue;
+            findings_.add({Severity::warning,
+                           "shared-trigger",
+                           &recipes_[first.recipe],
+                           {},
+                           "The trigger variable " + inQuotes(first.variable) + " (" + std::string(first.column) +
+                               ") also triggers " + others + ".",
+                           "Give each recipe a trigger of its own."});
+        }
+    }
+
+    void findCycles() {
+        const RecipeGraph graph(recipes_, inclusions_);
+        for (const auto& cycle : graph.cycles()) {
+            std::string way;
+            for (const std::size_t recipe : cycle) way += inQuotes(recipes_[recipe].name) + " > ";
+            findings_.add({Severity::error,
+                           "cycle",
+                           &recipes_[cycle.front()],
+                           {},
+                           "The recipe contains itself: " + way + inQuotes(recipes_[cycle.front()].name) + ".",
+                           "Delete one of these sub-recipes."});
+        }
+    }
+
+    ProjectReader& project_;
+    FindingWriter& findings_;
+    NameSet variables_;
+    std::vector<RecipeEntry> recipes_;
+    std::vector<bool> saves_;  // the values of sub-recipes
+    std::unordered_map<std::int64_t, std::size_t> numbers_;
+    std::vector<Inclusion> inclusions_;
+    std::map<std::string, std::vector<TriggerUse>> triggers_;  // by the folded name
+};
+
+}  // namespace
+
+int check(const std::string& path, bool json, const Output& output) {
+    ProjectReader project(path);
+    FindingWriter findings(json, output);
+    Check(project, findings).run();
+    findings.finish();
+    return findings.isEmpty() ? succeeded : found;
+}
+
+}  // namespace hx::cli

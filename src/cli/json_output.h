@@ -1,0 +1,20 @@
+#pragma once
+
+#include <nlohmann/json.hpp>
+#include <string>
+
+#include "cli/project_reader.h"
+
+namespace hx::cli {
+
+/// An object keeps the order in which its members were given.
+using Json = nlohmann::ordered_json;
+
+/// On one line. Bytes that are not UTF-8 become U+FFFD.
+[[nodiscard]] std::string jsonLine(const Json& value);
+/// {"id": ..., "name": ...}
+[[nodiscard]] Json recipeObject(const RecipeEntry& recipe);
+/// The value of a column of the current row: null, a number, text, or true and false for a yes/no column.
+[[nodiscard]] Json columnValue(const sqlite::Statement& row, int column);
+
+}  // namespace hx::cli

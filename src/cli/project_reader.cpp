@@ -1,0 +1,79 @@
+#include "cli/project_reader.h"
+
+#include <charconv>
+
+#include "adapters/sqlite/provider.h"
+
+namespace hx::cli {
+
+using automation::Variant;
+using sqlite::ResetGuard;
+using sqlite::Statement;
+
+namespace {
+
+// The provider says what is wrong with a file that is no project.
+const std::string& requireProject(const std::string& path) {
+    (void)sqlite::Provider().connect("Data Source=\"" + path + "\";Mode=Read;");
+    return path;
+}
+
+std::optional<std::int64_t> wholeId(const std::string& text) {
+    std::int64_t id = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), id);
+    if (error != std::errc() || end != text.data() + text.size()) return std::nullopt;
+    return id;
+}
+
+std::optional<RecipeEntry> firstRecipe(Statement& statement) {
+    if (!statement.step()) return std::nullopt;
+    return RecipeEntry{statement.key(0), statement.text(1)};
+}
+
+}  // namespace
+
+ProjectReader::ProjectReader(const std::string& path) : database_(requireProject(path)) {
+    // What is read stays the same to the end, whatever other programs write meanwhile.
+    database_.execute("PRAGMA query_only=ON; BEGIN;");
+}
+
+std::vector<RecipeEntry> ProjectReader::recipes() {
+    std::vector<RecipeEntry> recipes;
+    Statement select(database_, "SELECT ID, Name FROM TrcpRecipe ORDER BY ID");
+    while (select.step()) recipes.push_back({select.key(0), select.text(1)});
+    return recipes;
+}
+
+std::vector<Inclusion> ProjectReader::inclusions() {
+    std::vector<Inclusion> inclusions;
+    // Two ranges, as an index answers each of them at once.
+    Statement select(database_,
+                     "SELECT ID, ParentID, ChildID, VarRecipe FROM TrcpRecipeMember WHERE ChildID > 0 OR ChildID < 0 "
+                     "ORDER BY ID");
+    while (select.step()) inclusions.push_back({select.key(0), select.key(1), select.key(2), select.text(3)});
+    return inclusions;
+}
+
+std::optional<RecipeEntry> ProjectReader::findRecipe(const std::string& nameOrId) {
+    Statement byName(database_, "SELECT ID, Name FROM TrcpRecipe WHERE Name = ?1 COLLATE HXTEXT");
+    byName.bind(1, Variant(nameOrId));
+    if (auto found = firstRecipe(byName)) return found;
+    const auto id = wholeId(nameOrId);
+    if (!id) return std::nullopt;
+    Statement byId(database_, "SELECT ID, Name FROM TrcpRecipe WHERE ID = ?1");
+    byId.bind(1, *id);
+    return firstRecipe(byId);
+}
+
+std::string inQuotes(std::string_view text) {
+    constexpr std::string_view digits = "0123456789ABCDEF";
+    std::string result = "\"";
+    for (const char c : text) {
+        const auto byte = static_cast<unsigned char>(c);
+        if (byte >= 0x20 && byte != 0x7F) result += c;
+        else result.append("\\x").append(1, digits[byte >> 4]).append(1, digits[byte & 15]);
+    }
+    return result + "\"";
+}
+
+}  // namespace hx::cli

@@ -1,0 +1,52 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "adapters/sqlite/database.h"
+
+namespace hx::cli {
+
+struct RecipeEntry {
+    std::int64_t id = 0;
+    std::string name;
+};
+
+/// A member that is a sub-recipe.
+struct Inclusion {
+    std::int64_t member = 0;
+    std::int64_t parent = 0;
+    std::int64_t child = 0;  ///< may name no recipe
+    std::string fileVariable;
+};
+
+/// A project that is read and never changed; everything read is as of one moment. Throws automation::Error when the
+/// file cannot be read or is no project.
+class ProjectReader {
+  public:
+    explicit ProjectReader(const std::string& path);
+
+    /// For further queries; writing through it fails.
+    [[nodiscard]] sqlite::Database& database() { return database_; }
+    [[nodiscard]] const std::string& path() const { return database_.path(); }
+
+    [[nodiscard]] std::vector<RecipeEntry> recipes();   ///< by ID
+    [[nodiscard]] std::vector<Inclusion> inclusions();  ///< by the member's ID
+    /// The recipe with this name ignoring case, else the one with this ID; nothing when there is neither.
+    [[nodiscard]] std::optional<RecipeEntry> findRecipe(const std::string& nameOrId);
+
+  private:
+    sqlite::Database database_;
+};
+
+/// A row's value as the command line prints names: in quotation marks, with control characters made visible.
+[[nodiscard]] std::string inQuotes(std::string_view text);
+
+/// Columns of a recipe that name a variable.
+inline constexpr std::string_view variableColumns[] = {"VarRecipeName", "VarDescription", "VarLoad",    "VarSave",
+                                                       "VarRead",       "VarWrite",       "VarSetValue"};
+
+}  // namespace hx::cli
