@@ -1,6 +1,7 @@
 #include "adapters/qt/variable_list.h"
 
-#include <algorithm>
+#include <bit>
+#include <functional>
 
 #include "automation/text.h"
 
@@ -27,34 +28,52 @@ void appendFolded(std::string& to, std::string_view text) {
 }  // namespace
 
 VariableList::VariableList(std::vector<Variable> variables) : variables_(std::move(variables)) {
+    fold();
+    fillSlots();
+}
+
+void VariableList::fold() {
     ends_.reserve(size());
-    std::vector<std::size_t> nameEnds;
-    nameEnds.reserve(size());
     for (const Variable& variable : variables_) {
         appendFolded(folded_, variable.name);
-        nameEnds.push_back(folded_.size());
+        const std::size_t name = folded_.size();
         folded_ += lineEnd;
         appendFolded(folded_, variable.type);
         folded_ += lineEnd;
         appendFolded(folded_, variable.comment);
-        ends_.push_back(folded_.size());
+        ends_.push_back({name, folded_.size()});
     }
-    rows_.reserve(size());
+}
+
+// At most half full, so that a free slot is never far.
+void VariableList::fillSlots() {
+    slots_.assign(std::bit_ceil(2 * size() + 1), 0);
     for (std::size_t row = 0; row < size(); ++row) {
-        const std::size_t start = row == 0 ? 0 : ends_[row - 1];
-        rows_.try_emplace(std::string_view(folded_).substr(start, nameEnds[row] - start), row);
+        std::uint32_t& slot = slots_[slotOf(foldedName(row))];
+        if (slot == 0) slot = static_cast<std::uint32_t>(row + 1);
     }
+}
+
+std::size_t VariableList::slotOf(std::string_view name) const {
+    const std::size_t last = slots_.size() - 1;
+    std::size_t slot = std::hash<std::string_view>()(name) & last;
+    while (slots_[slot] != 0 && foldedName(slots_[slot] - 1) != name) slot = (slot + 1) & last;
+    return slot;
 }
 
 std::string_view VariableList::folded(std::size_t row) const {
-    const std::size_t start = row == 0 ? 0 : ends_[row - 1];
-    return std::string_view(folded_).substr(start, ends_[row] - start);
+    const std::size_t start = row == 0 ? 0 : ends_[row - 1].all;
+    return std::string_view(folded_).substr(start, ends_[row].all - start);
+}
+
+std::string_view VariableList::foldedName(std::size_t row) const {
+    const std::size_t start = row == 0 ? 0 : ends_[row - 1].all;
+    return std::string_view(folded_).substr(start, ends_[row].name - start);
 }
 
 std::optional<std::size_t> VariableList::find(std::string_view name) const {
-    const auto found = rows_.find(automation::foldCase(name));
-    if (found == rows_.end()) return {};
-    return found->second;
+    const std::uint32_t slot = slots_[slotOf(automation::foldCase(name))];
+    return slot == 0 ? std::nullopt : std::optional<std::size_t>(slot - 1);
 }
 
 }  // namespace hx::qt

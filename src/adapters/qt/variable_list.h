@@ -4,7 +4,6 @@
 #include <optional>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <vector>
 
 #include "adapters/qt/variable_source.h"
@@ -26,10 +25,20 @@ class VariableList {
     [[nodiscard]] std::optional<std::size_t> find(std::string_view name) const;
 
   private:
+    /// The end of a variable's name and of all its fields in folded_.
+    struct Ends {
+        std::size_t name, all;
+    };
+    [[nodiscard]] std::string_view foldedName(std::size_t row) const;
+    void fold();
+    void fillSlots();
+    /// The slot of a folded name, or the free one that it would get.
+    [[nodiscard]] std::size_t slotOf(std::string_view name) const;
+
     std::vector<Variable> variables_;
-    std::string folded_;                                      // of all variables, one after the other
-    std::vector<std::size_t> ends_;                           // in it
-    std::unordered_map<std::string_view, std::size_t> rows_;  // by the folded name
+    std::string folded_;  // of all variables, one after the other
+    std::vector<Ends> ends_;
+    std::vector<std::uint32_t> slots_;  // a hash table of rows + 1; 0 is free
 };
 
 }  // namespace hx::qt
