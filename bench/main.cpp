@@ -109,6 +109,39 @@ Row checkAllVariables(const Project& project, int rounds) {
     return {"check or uncheck all variables there", costs[0], {}, {}, {}};
 }
 
+Row reportRow(const std::string& name, const Subject& subject, int rounds, int runs, Goal goal) {
+    return {name, compare({subject}, rounds, runs)[0], {}, {}, goal};
+}
+
+Row readForReport(const Project& project, int rounds) {
+    return reportRow("report on 1,000 recipes, 20,000 members: read",
+                     make_report::readProject(make_report::plant(project)), rounds, fewRuns, {});
+}
+
+Row showReport(const Project& project, int rounds) {
+    return reportRow("read it, lay it out, show the first page", make_report::show(make_report::plant(project)), rounds,
+                     fewRuns, {.atMostMilliseconds = 500.0});
+}
+
+Row scrollReport(const Project& project, int rounds) {
+    return reportRow("show any page of it", make_report::scroll(make_report::plant(project)), rounds, manyRuns,
+                     {.atMostMilliseconds = 20.0});
+}
+
+Row reportAsHtml(const Project& project, int rounds) {
+    return reportRow("write it as HTML", make_report::html(make_report::plant(project)), rounds, fewRuns, {});
+}
+
+Row reportAsPdf(const Project& project, int rounds) {
+    return reportRow("lay it out and write it as PDF", make_report::pdf(make_report::plant(project)), rounds, fewRuns,
+                     {});
+}
+
+Row showLargeReport(const Project& project, int rounds) {
+    return reportRow("the same on the large project: show the first page", make_report::show(project.path),
+                     std::min(rounds, 2), 1, {});
+}
+
 Row findLastByNumber(const Project& project, int rounds) {
     return findRecipe(project, rounds, "open the recipes and find the last by number",
                       "ID=" + std::to_string(project.recipes + 1));
@@ -138,6 +171,12 @@ constexpr auto measurements = std::to_array<Measurement>({
     {"variables", &openVariables},
     {"variables-filter", &filterVariables},
     {"variables-check", &checkAllVariables},
+    {"report-read", &readForReport},
+    {"report", &showReport},
+    {"report-scroll", &scrollReport},
+    {"report-html", &reportAsHtml},
+    {"report-pdf", &reportAsPdf},
+    {"report-large", &showLargeReport},
 });
 
 std::vector<Row> measureAll(const Project& project, const Options& options) {

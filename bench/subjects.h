@@ -61,4 +61,16 @@ namespace choose_variables {
 [[nodiscard]] Subject checkAll(const Project& project);
 }  // namespace choose_variables
 
+/// Makes the report on a project: reads it; reads it, lays it out and draws the first page; draws another page; writes
+/// it as HTML; lays it out and writes it as PDF.
+namespace make_report {
+/// The file of a project of 1,000 recipes with 20,000 members, 1,900 of them sub-recipes, in the folder of another.
+[[nodiscard]] std::string plant(const Project& beside);
+[[nodiscard]] Subject readProject(const std::string& path);
+[[nodiscard]] Subject show(const std::string& path);
+[[nodiscard]] Subject scroll(const std::string& path);
+[[nodiscard]] Subject html(const std::string& path);
+[[nodiscard]] Subject pdf(const std::string& path);
+}  // namespace make_report
+
 }  // namespace hx::bench
