@@ -1,10 +1,10 @@
 // Our way and the limit's, on the level of the data.
 #include <array>
 #include <memory>
-#include <stdexcept>
 
 #include "bench/editor_data.h"
 #include "bench/limit_database.h"
+#include "bench/require.h"
 #include "bench/subjects.h"
 
 namespace hx::bench {
@@ -12,10 +12,6 @@ namespace hx::bench {
 namespace {
 
 constexpr std::size_t pageRows = 100;
-
-void require(bool condition, const char* what) {
-    if (!condition) throw std::runtime_error(what);
-}
 
 // Jumps through the rows in steps that share no factor with usual sizes.
 class Jumps {

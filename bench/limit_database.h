@@ -2,12 +2,13 @@
 
 #include <sqlite3.h>
 #include <string>
+#include <vector>
 
 #include "bench/projects.h"
 
 namespace hx::bench {
 
-/// A project read through SQLite's C API with its usual settings, and nothing else.
+/// A project read and written through SQLite's C API with its usual settings, and nothing else.
 class LimitDatabase {
   public:
     explicit LimitDatabase(const Project& project);
@@ -23,10 +24,17 @@ class LimitDatabase {
         (sqlite3_bind_int64(statement, ++index, parameters), ...);
         step(statement);
     }
+    /// The one number that a query gives.
+    [[nodiscard]] std::int64_t number(const std::string& sql);
+    /// Runs a statement that gives no rows.
+    void execute(const std::string& sql);
+    /// Adds variables to a recipe, in this order.
+    void addMembers(std::int32_t recipe, const std::vector<std::string>& variables);
 
   private:
     sqlite3_stmt* prepare(const std::string& sql);
     void step(sqlite3_stmt* statement);
+    void require(bool condition);
 
     sqlite3* handle_ = nullptr;
     std::int64_t sum_ = 0;  // so that nothing that is read can be left out

@@ -81,12 +81,29 @@ Row fillExplorer(const Project& project, int rounds) {
     return {"add all recipes to the explorer", costs[0], costs[1], {}, {.atLeastPeer = 4.0}};
 }
 
-/// A project with as many variables as a large plant has.
+/// A project with as many variables as a large plant has, all of them in the big recipe.
 Project plant(const Project& project) {
     constexpr std::int64_t variables = 100'000;
     const std::int64_t few = std::min<std::int64_t>(project.recipes, 1000);
     return makeProject(std::filesystem::path(project.path).parent_path().string(), few,
                        std::min(project.big, variables));
+}
+
+Row replaceVariables(const Project& project, int rounds) {
+    namespace subject = replace_variables;
+    const Project large = plant(project);
+    const auto costs = compare({subject::ours(large), {}, subject::limit(large)}, rounds, fewRuns);
+    return {"replace " + std::to_string(large.big) + " variables of a recipe",
+            costs[0],
+            {},
+            costs[2],
+            {.atMostOfLimit = 1.5}};
+}
+
+Row deleteRecipe(const Project& project, int rounds) {
+    namespace subject = delete_recipe;
+    const auto costs = compare({subject::ours(project), {}, subject::limit(project)}, rounds, 1);
+    return {"delete the big recipe with its members", costs[0], {}, costs[2], {.atMostOfLimit = 2.0}};
 }
 
 Row openVariables(const Project& project, int rounds) {
@@ -168,9 +185,11 @@ constexpr auto measurements = std::to_array<Measurement>({
     {"find-number", &findLastByNumber},
     {"find-name", &findLastByName},
     {"statistic", &countAll},
-    {"variables", &openVariables},
-    {"variables-filter", &filterVariables},
-    {"variables-check", &checkAllVariables},
+    {"replace-variables", &replaceVariables},
+    {"delete-recipe", &deleteRecipe},
+    {"open-variables", &openVariables},
+    {"filter-variables", &filterVariables},
+    {"check-variables", &checkAllVariables},
     {"report-read", &readForReport},
     {"report", &showReport},
     {"report-scroll", &scrollReport},

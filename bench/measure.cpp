@@ -40,7 +40,9 @@ double timed(const Work& work) {
     if (work.before) work.before();
     const auto start = Clock::now();
     work.action();
-    return std::chrono::duration<double, std::milli>(Clock::now() - start).count();
+    const double spent = std::chrono::duration<double, std::milli>(Clock::now() - start).count();
+    if (work.after) work.after();
+    return spent;
 }
 
 std::vector<double> runAll(const Subject& subject, int runs) {

@@ -8,14 +8,16 @@ namespace hx::bench {
 
 using Action = std::function<void()>;
 
-/// What is measured again and again; `before`, when there is one, runs before each time outside the clock.
+/// What is measured again and again; `before` and `after`, where given, run around each time outside the clock.
 struct Work {
     template <class Callable>
     Work(Callable timed) : action(std::move(timed)) {}  // a plain action is work too
-    Work(Action first, Action timed) : before(std::move(first)), action(std::move(timed)) {}
+    Work(Action first, Action timed, Action last = {})
+        : before(std::move(first)), action(std::move(timed)), after(std::move(last)) {}
 
     Action before;
     Action action;
+    Action after;
 };
 
 /// Prepares the work, outside the clock.

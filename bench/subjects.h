@@ -53,8 +53,22 @@ namespace show_grid {
 [[nodiscard]] Subject anyPage(const Project& project);
 }  // namespace show_grid
 
+/// Replaces all variables of the big recipe by the same in another order, as the command for its variables does, up to
+/// the grid that shows them. The limit deletes and inserts the same rows in one transaction.
+namespace replace_variables {
+[[nodiscard]] Subject ours(const Project& project);
+[[nodiscard]] Subject limit(const Project& project);
+}  // namespace replace_variables
+
+/// Deletes the big recipe with its members by the command; the limit deletes the members in one statement.
+namespace delete_recipe {
+[[nodiscard]] Subject ours(const Project& project);
+[[nodiscard]] Subject limit(const Project& project);
+}  // namespace delete_recipe
+
 /// Opens the dialog for a recipe's variables, with all variables of the project and 1,000 of them checked, from reading
-/// the list to seeing it; or types another filter in the open dialog; or checks all variables that are found.
+/// the list until it is painted; or types another filter in the open dialog, until the variables found are painted; or
+/// checks all variables that are found.
 namespace choose_variables {
 [[nodiscard]] Subject open(const Project& project);
 [[nodiscard]] Subject filter(const Project& project);
