@@ -1,6 +1,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <QTableView>
 #include <QTest>
@@ -62,6 +63,28 @@ TEST_F(ServicesTest, AVariableIsFoundByTypingAndChosenByEnter) {
         auto& search = find<QLineEdit>(dialog, "itemSearch");
         type(search, QString::fromUtf8("füll"));
         EXPECT_EQ(find<QTableView>(dialog, "itemList").model()->rowCount(), 1);
+        QTest::keyClick(&search, Qt::Key_Return);
+    });
+    EXPECT_EQ(chosen, "Tank.Füllstand");
+}
+
+TEST_F(ServicesTest, TheChosenVariableStaysChosenWhileItIsFound) {
+    const auto chosen = choose("Mischer.Ein", [](qt::ItemDialog& dialog) {
+        auto& search = find<QLineEdit>(dialog, "itemSearch");
+        type(search, "mischer");
+        EXPECT_EQ(dialog.selected(), "Mischer.Ein");
+        EXPECT_EQ(find<QLabel>(dialog, "itemCount").text(), "2 von 3");
+        type(search, QString::fromUtf8(" -läuft"));
+        EXPECT_EQ(dialog.selected(), "Mischer.Drehzahl");
+        type(search, " nirgends");
+        EXPECT_EQ(dialog.selected(), "");
+        QTest::keyClick(&search, Qt::Key_Return);
+        EXPECT_TRUE(dialog.isVisible()) << "nothing is chosen, so Enter does nothing";
+        search.clear();
+        EXPECT_EQ(dialog.selected(), "Mischer.Drehzahl") << "as it was before";
+        QTest::keyClick(&search, Qt::Key_Down);
+        QTest::keyClick(&search, Qt::Key_Down);
+        EXPECT_EQ(dialog.selected(), "Tank.Füllstand");
         QTest::keyClick(&search, Qt::Key_Return);
     });
     EXPECT_EQ(chosen, "Tank.Füllstand");
