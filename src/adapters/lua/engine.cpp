@@ -1,0 +1,103 @@
+#include "adapters/lua/engine.h"
+
+#include "adapters/lua/machine.h"
+#include "adapters/lua/protect.h"
+#include "adapters/lua/stack.h"
+
+namespace hx::lua {
+
+namespace {
+
+constexpr int tableUpvalue = 2;
+
+int callNative(lua_State* state) {
+    const auto* native = static_cast<const Engine::Native*>(lua_touserdata(state, lua_upvalueindex(1)));
+    const bool byColon = lua_rawequal(state, 1, lua_upvalueindex(tableUpvalue)) != 0;
+    return give(state, (*native)(valuesFrom(state, byColon ? 2 : 1)));
+}
+
+std::string takeMessage(lua_State* state) {
+    try {
+        protect(state, 1, 1, [](lua_State* inner) {
+            luaL_tolstring(inner, 1, nullptr);
+            return 1;
+        });
+    } catch (const Raised&) {
+        lua_settop(state, 0);
+        return "The error cannot be shown";
+    }
+    std::string message = textAt(state, -1);
+    lua_settop(state, 0);
+    return message;
+}
+
+void pushArguments(lua_State* state, const List& arguments) {
+    protect(state, 0, 0, [&](lua_State* inner) {
+        push(inner, arguments);
+        lua_setglobal(inner, "arg");
+        return 0;
+    });
+    protect(state, 0, static_cast<int>(arguments.size()), [&](lua_State* inner) {
+        for (const Value& argument : arguments) push(inner, argument);
+        return static_cast<int>(arguments.size());
+    });
+}
+
+}  // namespace
+
+Engine::Engine(EngineOptions options) : machine_(std::make_shared<Machine>(std::move(options))) {}
+
+void Engine::define(const std::string& table, const std::string& name, Native function) {
+    const Native* const kept = &machine_->natives.emplace_back(std::move(function));
+    protect(machine_->main, 0, 0, [&](lua_State* state) {
+        if (lua_getglobal(state, table.c_str()) != LUA_TTABLE) {
+            lua_newtable(state);
+            lua_pushvalue(state, -1);
+            lua_setglobal(state, table.c_str());
+            lua_replace(state, 1);
+        }
+        lua_pushlightuserdata(state, const_cast<Native*>(kept));
+        lua_pushvalue(state, 1);
+        lua_pushcclosure(state, guarded<callNative>, tableUpvalue);
+        lua_setfield(state, 1, name.c_str());
+        return 0;
+    });
+}
+
+void Engine::defineGlobal(const std::string& name, std::function<automation::Variant()> read) {
+    machine_->globals[name] = std::move(read);
+}
+
+void Engine::run(const std::string& text, const std::string& name, const std::vector<std::string>& arguments) {
+    lua_State* const state = machine_->main;
+    machine_->traceback.clear();
+    lua_settop(state, 0);
+    lua_pushcfunction(state, &keepTraceback);
+    const std::string shown = "@" + name;
+    if (luaL_loadbufferx(state, text.data(), text.size(), shown.c_str(), "t") != LUA_OK) {
+        throw MacroError(takeMessage(state), {});
+    }
+    try {
+        pushArguments(state, List(arguments.begin(), arguments.end()));
+    } catch (const Raised&) {
+        throw MacroError(takeMessage(state), {});
+    }
+    if (lua_pcall(state, static_cast<int>(arguments.size()), 0, 1) != LUA_OK) {
+        throw MacroError(takeMessage(state), machine_->traceback);
+    }
+    lua_settop(state, 0);
+}
+
+// The traceback is that of the call that returns.
+void Engine::fail(const automation::Error& error) {
+    lua_State* const state = machine_->current;
+    if (machine_->failing || lua_checkstack(state, 2) == 0) return;
+    pushError(state, error);
+    lua_rawseti(state, LUA_REGISTRYINDEX, machine_->failure);
+    machine_->traceback.clear();
+    machine_->failing = true;
+}
+
+bool Engine::failing() const noexcept { return machine_->failing; }
+
+}  // namespace hx::lua

@@ -1,0 +1,69 @@
+#pragma once
+
+#include <exception>
+#include <filesystem>
+#include <functional>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "adapters/lua/value.h"
+#include "automation/error.h"
+
+namespace hx::lua {
+
+struct Machine;
+
+/// A macro ended with an error that it did not catch.
+class MacroError : public std::exception {
+  public:
+    MacroError(std::string message, std::string traceback)
+        : message_(std::move(message)), traceback_(std::move(traceback)) {}
+    [[nodiscard]] const char* what() const noexcept override { return message_.c_str(); }
+    /// Where it happened, "stack traceback:" and a line a call; empty when the macro could not be read.
+    [[nodiscard]] const std::string& traceback() const noexcept { return traceback_; }
+
+  private:
+    std::string message_, traceback_;
+};
+
+struct EngineOptions {
+    /// Takes what the macro prints.
+    std::function<void(std::string_view)> print;
+    /// The folder whose files the macro may use; an empty path for none.
+    std::function<std::filesystem::path()> folder;
+    /// Gives the macro all of Lua's libraries, other files and processes too.
+    bool trusted = false;
+};
+
+/// Runs macros in Lua 5.4. Objects are reached by the names of their member tables, ignoring case; an Error is a table
+/// with the fields number and description. Global `null` is the database's null.
+class Engine {
+  public:
+    using Native = std::function<Value(Values)>;
+
+    explicit Engine(EngineOptions options);
+    Engine(const Engine&) = delete;
+    Engine& operator=(const Engine&) = delete;
+
+    /// Puts a function into a global table, which is made when it is missing.
+    void define(const std::string& table, const std::string& name, Native function);
+    /// A global that is asked for whenever the macro reads it.
+    void defineGlobal(const std::string& name, std::function<automation::Variant()> read);
+    /// Runs a macro's text; `name` stands in its messages, `arguments` are `...` and the global `arg`. Throws
+    /// MacroError.
+    void run(const std::string& text, const std::string& name, const std::vector<std::string>& arguments = {});
+
+    /// Lets the macro fail with this error once the call returns that it is running: for what the macro has answered
+    /// wrongly while functions of C++ lie between.
+    void fail(const automation::Error& error);
+    /// Whether a function of the macro has failed inside a call that has not returned yet: the macro is then not to be
+    /// asked any more.
+    [[nodiscard]] bool failing() const noexcept;
+
+  private:
+    std::shared_ptr<Machine> machine_;
+};
+
+}  // namespace hx::lua

@@ -1,0 +1,179 @@
+#include "adapters/lua/libraries.h"
+
+#include <array>
+#include <filesystem>
+#include <string>
+
+#include "adapters/lua/machine.h"
+#include "adapters/lua/protect.h"
+#include "adapters/lua/stack.h"
+#include "automation/error.h"
+#include "automation/text.h"
+
+namespace hx::lua {
+
+using automation::Error;
+
+namespace {
+
+constexpr std::string_view projectExtension = ".hxs";
+constexpr int modeArgument = 3;  // of load
+
+std::string shownText(lua_State* state, int index) {
+    lua_pushvalue(state, index);
+    protect(state, 1, 1, [](lua_State* inner) {
+        luaL_tolstring(inner, 1, nullptr);
+        return 1;
+    });
+    std::string text = textAt(state, -1);
+    lua_pop(state, 1);
+    return text;
+}
+
+std::string joined(lua_State* state, std::string_view separator) {
+    std::string line;
+    const int count = lua_gettop(state);
+    for (int i = 1; i <= count; ++i) {
+        if (i > 1) line += separator;
+        line += shownText(state, i);
+    }
+    return line;
+}
+
+int print(lua_State* state) {
+    Machine::of(state).options.print(joined(state, "\t") + "\n");
+    return 0;
+}
+
+int write(lua_State* state) {
+    Machine::of(state).options.print(joined(state, ""));
+    return 0;
+}
+
+// Calls the function that the first upvalue keeps with all arguments.
+int callOriginal(lua_State* state) {
+    lua_pushvalue(state, lua_upvalueindex(1));
+    lua_insert(state, 1);
+    protect(state, lua_gettop(state), LUA_MULTRET, [](lua_State* inner) {
+        lua_call(inner, lua_gettop(inner) - 1, LUA_MULTRET);
+        return lua_gettop(inner);
+    });
+    return lua_gettop(state);
+}
+
+bool isBelow(const std::filesystem::path& file, const std::filesystem::path& folder) {
+    const std::filesystem::path relative = file.lexically_relative(folder);
+    return !relative.empty() && *relative.begin() != ".." && *relative.begin() != ".";
+}
+
+std::string allowedFile(const Machine& machine, const std::string& name) {
+    const std::filesystem::path folder = machine.options.folder ? machine.options.folder() : std::filesystem::path();
+    if (folder.empty()) throw Error(automation::errFail, "No project is open whose folder a macro could use");
+    const std::filesystem::path root = std::filesystem::weakly_canonical(folder);
+    const std::filesystem::path file = std::filesystem::weakly_canonical(root / name);
+    if (!isBelow(file, root)) {
+        throw Error(automation::errFail, "The file '" + name + "' is not in the project's folder");
+    }
+    return file.string();
+}
+
+void replaceText(lua_State* state, int index, const std::string& text) {
+    give(state, text);
+    lua_replace(state, index);
+}
+
+// An open project is changed by the editor alone: a file written over it would be its end.
+void refuseProject(const std::string& file) {
+    if (!automation::equalIgnoreCase(std::filesystem::path(file).extension().string(), projectExtension)) return;
+    throw Error(automation::errFail, "The file '" + file + "' is a project and cannot be written by a macro");
+}
+
+int openFile(lua_State* state) {
+    const std::string file = allowedFile(Machine::of(state), textAt(state, 1));
+    const bool reads = lua_type(state, 2) != LUA_TSTRING || textAt(state, 2) == "r" || textAt(state, 2) == "rb";
+    if (!reads) refuseProject(file);
+    replaceText(state, 1, file);
+    return callOriginal(state);
+}
+
+int readLines(lua_State* state) {
+    replaceText(state, 1, allowedFile(Machine::of(state), textAt(state, 1)));
+    return callOriginal(state);
+}
+
+// Precompiled code is not checked by Lua and can do anything.
+int loadText(lua_State* state) {
+    if (lua_gettop(state) < modeArgument) lua_settop(state, modeArgument);
+    replaceText(state, modeArgument, "t");
+    return callOriginal(state);
+}
+
+// The table on top of the stack gets the function of its old one, or a guard around it.
+void wrap(lua_State* state, const char* name, lua_CFunction guard) {
+    lua_getfield(state, -1, name);
+    lua_pushcclosure(state, guard, 1);
+    lua_setfield(state, -2, name);
+}
+
+void openPlain(lua_State* state) {
+    struct Library {
+        const char* name;
+        lua_CFunction open;
+    };
+    static constexpr Library libraries[] = {{LUA_GNAME, luaopen_base},        {LUA_TABLIBNAME, luaopen_table},
+                                            {LUA_STRLIBNAME, luaopen_string}, {LUA_MATHLIBNAME, luaopen_math},
+                                            {LUA_UTF8LIBNAME, luaopen_utf8},  {LUA_COLIBNAME, luaopen_coroutine}};
+    for (const Library& library : libraries) {
+        luaL_requiref(state, library.name, library.open, 1);
+        lua_pop(state, 1);
+    }
+}
+
+void limitBase(lua_State* state) {
+    lua_pushglobaltable(state);
+    wrap(state, "load", guarded<loadText>);
+    for (const char* name : {"dofile", "loadfile"}) {
+        lua_pushnil(state);
+        lua_setfield(state, -2, name);
+    }
+    lua_pop(state, 1);
+}
+
+// A table with these functions of a library, under the library's name.
+template <std::size_t Count>
+void openParts(lua_State* state, const char* name, lua_CFunction open,
+               const std::array<const char*, Count>& functions) {
+    luaL_requiref(state, name, open, 0);
+    lua_newtable(state);
+    for (const char* function : functions) {
+        lua_getfield(state, -2, function);
+        lua_setfield(state, -2, function);
+    }
+    lua_pushvalue(state, -1);
+    lua_setglobal(state, name);
+    lua_remove(state, -2);
+}
+
+void openLimited(lua_State* state) {
+    openPlain(state);
+    limitBase(state);
+    openParts(state, LUA_OSLIBNAME, luaopen_os, std::to_array({"clock", "date", "difftime", "time"}));
+    lua_pop(state, 1);
+    openParts(state, LUA_IOLIBNAME, luaopen_io, std::to_array({"open", "lines", "type"}));
+    wrap(state, "open", guarded<openFile>);
+    wrap(state, "lines", guarded<readLines>);
+    lua_pushcfunction(state, guarded<write>);
+    lua_setfield(state, -2, "write");
+    lua_pop(state, 1);
+}
+
+}  // namespace
+
+void openLibraries(lua_State* state, bool trusted) {
+    if (trusted) luaL_openlibs(state);
+    else openLimited(state);
+    lua_pushcfunction(state, guarded<print>);
+    lua_setglobal(state, "print");
+}
+
+}  // namespace hx::lua
