@@ -8,6 +8,7 @@
 #include "cli/build_sample.h"
 #include "cli/command.h"
 #include "cli/generate.h"
+#include "cli/run_macro.h"
 #include "cli/verbs.h"
 
 namespace hx::cli {
@@ -79,6 +80,7 @@ int run(int argc, const char* const* argv, const Output& output) {
     addGenerate(app, chosen, output);
     addBuildSample(app, chosen, output);
     addVerbs(app, chosen, output);
+    addRunMacro(app, chosen, output);
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& error) {

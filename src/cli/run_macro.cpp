@@ -1,0 +1,112 @@
+#include "cli/run_macro.h"
+
+#include <algorithm>
+#include <array>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+
+#include "adapters/lua/engine.h"
+#include "automation/text.h"
+#include "cli/run_macro_globals.h"
+
+namespace hx::cli {
+
+namespace {
+
+constexpr std::int32_t german = 1031, english = 1033;
+
+std::string readMacro(const std::string& path) {
+    std::ifstream file(path, std::ios::binary);
+    std::string text{std::istreambuf_iterator<char>(file), {}};
+    if (file.bad() || !file.is_open()) throw automation::Error(automation::errFail, "Cannot read '" + path + "'");
+    return text;
+}
+
+/// The studio and its engine. The macro's answers end with it, before the project is closed.
+class MacroSession {
+  public:
+    MacroSession(const MacroPlan& plan, const Output& output)
+        : studio_(plan.studio),
+          engine_({.print = [&output](std::string_view text) { output.results << text << std::flush; },
+                   .folder = [this] { return std::filesystem::path(studio_.file()).parent_path(); },
+                   .trusted = plan.trusted}) {
+        defineProjects(engine_, studio_);
+        defineAnswers(engine_, studio_);
+        defineRecords(engine_, studio_);
+        defineData(engine_, studio_);
+    }
+    ~MacroSession() {
+        studio_.host().script = {};
+        studio_.closeProject();
+    }
+    MacroSession(const MacroSession&) = delete;
+    MacroSession& operator=(const MacroSession&) = delete;
+
+    void run(const MacroPlan& plan) {
+        const std::string text = readMacro(plan.macro);
+        if (!plan.project.empty()) studio_.openProject(plan.project);
+        engine_.run(text, plan.macro, plan.arguments);
+    }
+
+  private:
+    MacroStudio studio_;
+    lua::Engine engine_;
+};
+
+/// The decimal points of languages, by the first part of a locale's name.
+struct DecimalPoint {
+    std::string_view language;
+    const char* point;
+};
+constexpr auto decimalPoints = std::to_array<DecimalPoint>({
+    {"de_CH", "."}, {"de_LI", "."}, {"it_CH", "."}, {"C", "."},  {"POSIX", "."}, {"en", "."}, {"ja", "."}, {"ko", "."},
+    {"zh", "."},    {"cs", ","},    {"da", ","},    {"de", ","}, {"es", ","},    {"fi", ","}, {"fr", ","}, {"hu", ","},
+    {"it", ","},    {"nb", ","},    {"nl", ","},    {"pl", ","}, {"pt", ","},    {"ru", ","}, {"sv", ","}, {"tr", ","},
+});
+
+// "de-DE", "de_DE.UTF-8" and "de" alike.
+std::string decimalPointOf(const std::string& locale) {
+    const std::string name = automation::replaceAll(locale, "-", "_");
+    for (const DecimalPoint& row : decimalPoints) {
+        const std::string_view rest = std::string_view(name).substr(std::min(row.language.size(), name.size()));
+        const bool ends = rest.empty() || rest.front() == '_' || rest.front() == '.' || rest.front() == '@';
+        if (name.starts_with(row.language) && ends) return row.point;
+    }
+    throw CLI::ValidationError("--locale", "\"" + locale + "\" is not a known locale");
+}
+
+}  // namespace
+
+int runMacro(const MacroPlan& plan, const Output& output) {
+    MacroSession session(plan, output);
+    try {
+        session.run(plan);
+        return succeeded;
+    } catch (const lua::MacroError& error) {
+        output.problems << "hxrecipe: " << error.what() << "\n";
+        if (!error.traceback().empty()) output.problems << error.traceback() << "\n";
+        return failed;
+    }
+}
+
+void addRunMacro(CLI::App& app, Command& chosen, const Output& output) {
+    CLI::App* command = app.add_subcommand("run", "Run a macro on a studio without a screen.");
+    const auto plan = std::make_shared<MacroPlan>();
+    const auto locale = std::make_shared<std::string>("C");
+    command->add_option("MACRO", plan->macro, "The macro, a text in Lua 5.4.")->required()->check(CLI::ExistingFile);
+    command->add_option("ARG", plan->arguments, "What the macro gets as arguments; behind -- also with a dash.");
+    command->add_option("--project", plan->project, "The project file to open first.")->check(CLI::ExistingFile);
+    command->add_option("--lcid", plan->studio.lcid, "The language: 1031 German, 1033 English.")
+        ->check(CLI::IsMember({german, english}));
+    command->add_option("--locale", *locale, "How numbers are written, as de_DE.");
+    command->add_option("--config", plan->studio.config, "The folder of the registry; without one nothing is kept.");
+    command->add_flag("--trust", plan->trusted, "Let the macro use all files and start programs.");
+    command->footer("Exit status: 0 done, 1 the macro failed, 2 wrong usage.");
+    command->callback([plan, locale, &chosen, &output] {
+        plan->studio.decimalPoint = decimalPointOf(*locale);
+        chosen = Command{[plan, &output] { return runMacro(*plan, output); }, failed};
+    });
+}
+
+}  // namespace hx::cli

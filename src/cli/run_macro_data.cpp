@@ -1,0 +1,162 @@
+#include <memory>
+
+#include "adapters/sqlite/database.h"
+#include "automation/text.h"
+#include "cli/run_macro_arguments.h"
+#include "cli/run_macro_globals.h"
+
+namespace hx::cli {
+
+namespace {
+
+using automation::Error;
+using automation::Variant;
+using lua::Engine;
+using lua::Fields;
+using lua::Function;
+using lua::List;
+using lua::Value;
+using lua::Values;
+using Arguments = MacroArguments;
+
+// A missing value gives whatever fallback is asked with.
+Value readRegistry(const host::Registry& registry, const std::string& key, const std::string& value) {
+    const std::string text = registry.readString(key, value, "0");
+    if (text == registry.readString(key, value, "1")) return text;
+    const std::int32_t number = registry.readNumber(key, value, 0);
+    return number == registry.readNumber(key, value, 1) ? Value(number) : Value();
+}
+
+void writeRegistry(host::Registry& registry, const Arguments& given) {
+    const Variant data = given[2].toVariant();
+    if (data.isNumber()) return registry.writeNumber(given.text(0), given.text(1), automation::toInt32(data));
+    registry.writeString(given.text(0), given.text(1), given.text(2));
+}
+
+void defineRegistry(Engine& engine, MacroStudio& studio) {
+    engine.define("studio", "Registry", [&studio](Values given) {
+        const Arguments arguments(given);
+        return readRegistry(studio.host().services().registry, arguments.text(0), arguments.text(1));
+    });
+    engine.define("studio", "SetRegistry", [&studio](Values given) {
+        writeRegistry(studio.host().services().registry, Arguments(given));
+        return Value();
+    });
+}
+
+bool asksOnly(std::string_view sql) {
+    const std::string_view text = automation::trim(sql);
+    const auto word = text.substr(0, text.find_first_of(" \t\r\n(*"));
+    return automation::equalIgnoreCase(word, "SELECT") || automation::equalIgnoreCase(word, "WITH");
+}
+
+Fields rowOf(const sqlite::Statement& row) {
+    Fields fields;
+    for (int column = 0; column < row.columnCount(); ++column) {
+        fields.emplace_back(row.columnName(column), row.value(column, row.storedType(column)));
+    }
+    return fields;
+}
+
+Value query(const std::string& file, const std::string& sql) {
+    const sqlite::Database database(file);
+    if (!asksOnly(sql)) throw Error(automation::errFail, "Query takes a SELECT statement");
+    sqlite::Statement statement(database, sql);
+    if (!statement.isReadOnly()) throw Error(automation::errFail, "Query takes a statement that changes nothing");
+    List rows;
+    while (statement.step()) rows.emplace_back(rowOf(statement));
+    return rows;
+}
+
+Value variables(const std::string& file) {
+    const sqlite::Database database(file);
+    sqlite::Statement rows(database, "SELECT Name FROM ThxVariable ORDER BY Name");
+    List names;
+    while (rows.step()) names.emplace_back(rows.text(0));
+    return names;
+}
+
+/// Takes back what has been written unless it is kept.
+class Writing {
+  public:
+    explicit Writing(sqlite::Database& database) : database_(database) { database_.execute("BEGIN IMMEDIATE"); }
+    ~Writing() {
+        if (database_.inTransaction()) tryRollback();
+    }
+    Writing(const Writing&) = delete;
+    Writing& operator=(const Writing&) = delete;
+    void keep() { database_.execute("COMMIT"); }
+
+  private:
+    void tryRollback() noexcept {
+        try {
+            database_.execute("ROLLBACK");
+        } catch (const Error&) {
+            // Closing the database takes it back as well.
+        }
+    }
+    sqlite::Database& database_;
+};
+
+// A variable that stays keeps its type and comment.
+void setVariables(const std::string& file, const List& names) {
+    sqlite::Database database(file);
+    Writing writing(database);
+    database.execute("CREATE TEMP TABLE given (Name TEXT UNIQUE COLLATE NOCASE)");
+    sqlite::Statement insert(database, "INSERT INTO given VALUES (?1)");
+    for (const Value& name : names) {
+        const sqlite::ResetGuard guard(insert);
+        const Variant text = name.toVariant();
+        if (!text.isString() || text.asString().empty()) {
+            throw Error(automation::errTypeMismatch, "Type mismatch: the name of a variable must be a text");
+        }
+        insert.bind(1, text);
+        insert.step();
+    }
+    database.execute(
+        "DELETE FROM ThxVariable WHERE Name NOT IN (SELECT Name FROM given);"
+        "INSERT OR IGNORE INTO ThxVariable (Name) SELECT Name FROM given ORDER BY rowid;");
+    writing.keep();
+}
+
+void defineProjectData(Engine& engine, MacroStudio& studio) {
+    engine.define("studio", "Variables", [&studio](Values) { return variables(studio.requireFile()); });
+    engine.define("studio", "SetVariables", [&studio](Values given) {
+        setVariables(studio.requireFile(), Arguments(given)[0].list());
+        return Value();
+    });
+    engine.define("project", "Query",
+                  [&studio](Values given) { return query(studio.requireFile(), Arguments(given).text(0)); });
+}
+
+// A member that the macro's table does not have is an error for the editor, as of any component.
+Variant callMember(const Fields& functions, std::string_view member, automation::Args arguments) {
+    for (const auto& [name, function] : functions) {
+        if (!automation::equalIgnoreCase(name, member)) continue;
+        const List list(arguments.begin(), arguments.end());
+        return function.function()(list).toVariant();
+    }
+    throw Error(automation::errUnknownName, "The component has no member \"" + std::string(member) + "\"");
+}
+
+void registerComponent(MacroStudio& studio, const Arguments& given) {
+    const Value table = given[1];
+    const auto functions = std::make_shared<const Fields>(table.fields());
+    for (const auto& [name, function] : *functions) (void)function.function();
+    studio.host().components.standIn(given.text(0), [functions](std::string_view member, automation::Args arguments) {
+        return callMember(*functions, member, arguments);
+    });
+}
+
+}  // namespace
+
+void defineData(Engine& engine, MacroStudio& studio) {
+    defineRegistry(engine, studio);
+    defineProjectData(engine, studio);
+    engine.define("studio", "RegisterComponent", [&studio](Values given) {
+        registerComponent(studio, Arguments(given));
+        return Value();
+    });
+}
+
+}  // namespace hx::cli

@@ -1,0 +1,85 @@
+#include <utility>
+
+#include "adapters/headless/message_style.h"
+#include "automation/text.h"
+#include "cli/run_macro_arguments.h"
+#include "cli/run_macro_globals.h"
+
+namespace hx::cli {
+
+namespace {
+
+using lua::Engine;
+using lua::Fields;
+using lua::List;
+using lua::Value;
+using lua::Values;
+
+Value takeMessages(headless::Record& record) {
+    List list;
+    for (const headless::Message& box : std::exchange(record.messages, {})) {
+        List buttons;
+        for (const auto button : box.buttons) buttons.emplace_back(headless::nameOf(button));
+        list.emplace_back(Fields{{"text", box.text},
+                                 {"title", box.title},
+                                 {"buttons", std::move(buttons)},
+                                 {"answer", headless::nameOf(box.answer)}});
+    }
+    return list;
+}
+
+// A band that refused to open was not seen.
+Value takePopUps(headless::Record& record) {
+    List list;
+    for (const headless::PopUp& popUp : std::exchange(record.popUps, {})) {
+        if (!popUp.refused) list.emplace_back(popUp.band);
+    }
+    return list;
+}
+
+Value takeBeeps(headless::Record& record) { return std::exchange(record.beeps, 0); }
+
+Value takeHelp(headless::Record& record) {
+    List list;
+    for (const headless::HelpCall& call : std::exchange(record.help, {})) {
+        list.emplace_back(Fields{{"file", call.file}, {"context", call.context}});
+    }
+    return list;
+}
+
+List argumentsOf(const headless::ComponentCall& call) {
+    List list;
+    for (const automation::Variant& argument : call.arguments) list.emplace_back(argument);
+    return list;
+}
+
+// The calls of a component follow its creation; a component that was not there has none.
+Value takeComponents(headless::Record& record) {
+    List list;
+    auto calls = std::exchange(record.componentCalls, {});
+    auto call = calls.begin();
+    for (const std::string& programId : std::exchange(record.components, {})) {
+        Fields fields{{"progId", programId}};
+        if (call != calls.end() && automation::equalIgnoreCase(call->component, programId)) {
+            fields.emplace_back("member", call->member);
+            fields.emplace_back("arguments", argumentsOf(*call++));
+        }
+        list.emplace_back(std::move(fields));
+    }
+    return list;
+}
+
+}  // namespace
+
+void defineRecords(Engine& engine, MacroStudio& studio) {
+    const auto add = [&](const char* name, Value (*take)(headless::Record&)) {
+        engine.define("studio", name, [&studio, take](Values) { return take(studio.host().record); });
+    };
+    add("Messages", takeMessages);
+    add("Popups", takePopUps);
+    add("Beeps", takeBeeps);
+    add("Help", takeHelp);
+    add("Components", takeComponents);
+}
+
+}  // namespace hx::cli

@@ -1,0 +1,117 @@
+#include "cli/run_macro_studio.h"
+
+#include <algorithm>
+#include <filesystem>
+
+#include "adapters/sqlite/project_file.h"
+#include "automation/text.h"
+
+namespace hx::cli {
+
+namespace {
+
+constexpr std::string_view extension = ".hxs";
+constexpr const char* languageValue = "LCID";
+constexpr const char* folderValue = "Path";
+
+using automation::Error;
+
+bool isProjectFile(const std::string& path) {
+    return automation::equalIgnoreCase(std::filesystem::path(path).extension().string(), extension);
+}
+
+// The connection string puts the path between other values, with nothing around it.
+void requireNameable(const std::string& path) {
+    if (path.find_first_of(";\"") == std::string::npos) return;
+    throw Error(automation::errFail, "The path '" + path + "' holds a semicolon or a quotation mark");
+}
+
+std::string projectKey(const std::string& name) { return std::string(host::registry_keys::projects) + name; }
+
+headless::HostOptions hostOptions(const MacroStudioOptions& options, host::Registry* registry, host::IniFile* ini) {
+    headless::HostOptions made;
+    made.decimalPoint = options.decimalPoint;
+    made.registry = registry;
+    made.iniFile = ini;
+    return made;
+}
+
+}  // namespace
+
+MacroStudio::MacroStudio(const MacroStudioOptions& options) {
+    if (!options.config.empty()) {
+        const auto file = std::filesystem::path(options.config) / "registry.ini";
+        registry_ = std::make_unique<host::RegistryFile>(file.string());
+    }
+    host_ = std::make_unique<headless::Host>(provider_, hostOptions(options, registry_.get(), &iniFile_));
+    if (options.lcid) {
+        host_->services().registry.writeNumber(host::registry_keys::helvix, languageValue, *options.lcid);
+    }
+}
+
+MacroStudio::~MacroStudio() { closeProject(); }
+
+void MacroStudio::newProject(const std::string& path) {
+    const std::string file = isProjectFile(path) ? path : path + std::string(extension);
+    requireNameable(std::filesystem::absolute(file).string());
+    sqlite::createProject(file);
+    openProject(file);
+}
+
+void MacroStudio::openProject(const std::string& pathOrName) {
+    const std::string given = isProjectFile(pathOrName) ? pathOrName : fileOfName(pathOrName);
+    const auto file = std::filesystem::absolute(given).lexically_normal();
+    if (!std::filesystem::is_regular_file(file)) {
+        throw Error(automation::errFail, "There is no project file '" + file.string() + "'");
+    }
+    requireNameable(file.string());
+    closeProject();
+    const std::string name = file.stem().string();
+    host_->services().registry.writeString(projectKey(name), folderValue, file.parent_path().string());
+    file_ = file.string();
+    host_->explorer.setProject(name);
+    startAddIn(name);
+}
+
+std::string MacroStudio::fileOfName(const std::string& name) const {
+    const std::string folder = host_->services().registry.readString(projectKey(name), folderValue);
+    if (folder.empty()) throw Error(automation::errFail, "No project '" + name + "' is known");
+    return (std::filesystem::path(folder) / (name + std::string(extension))).string();
+}
+
+// By its name the add-in finds a project in the registry, always with a small extension; else by its file. A name that
+// looks like a file would be taken for one.
+void MacroStudio::startAddIn(const std::string& name) {
+    addIn_ = std::make_shared<addin::Connect>(host_->services());
+    const bool byName = file_.ends_with(extension) && !isProjectFile(std::string(automation::trim(name)));
+    addIn_->Initialize(byName ? name : file_, {}, &host_->explorer, nullptr);
+    addIn_->StartupComplete();
+}
+
+void MacroStudio::closeProject() {
+    if (!addIn_) return;
+    (void)editorWindow();
+    addIn_->Terminate();
+    formerAddIns_.push_back(std::move(addIn_));
+    addIn_.reset();
+    host_->explorer.setProject({});
+    file_.clear();
+}
+
+const std::string& MacroStudio::requireFile() const {
+    if (file_.empty()) throw Error(automation::errFail, "No project is open");
+    return file_;
+}
+
+addin::Connect& MacroStudio::requireAddIn() const {
+    if (!addIn_) throw Error(automation::errFail, "No project is open");
+    return *addIn_;
+}
+
+std::shared_ptr<editor::frmtabgrid> MacroStudio::editorWindow() {
+    const auto window = addIn_ ? addIn_->editorWindow() : nullptr;
+    if (window && std::ranges::find(windows_, window) == windows_.end()) windows_.push_back(window);
+    return window;
+}
+
+}  // namespace hx::cli
