@@ -74,7 +74,9 @@ int carryOut(const Command& command, const Output& output) {
 int run(int argc, const char* const* argv, const Output& output) {
     CLI::App app("Makes, shows and checks project files of the recipe editor.", "hxrecipe");
     app.require_subcommand(1);
-    app.footer("Exit status: 0 done, 1 failed, 2 wrong usage; of check: 0 nothing found, 1 findings, 2 not checked.");
+    app.footer(
+        "Exit status: 0 done, 1 failed, 2 wrong usage; of check and diff: 0 nothing found, 1 findings or "
+        "differences, 2 could not tell.");
     Command chosen;
     addNew(app, chosen, output);
     addGenerate(app, chosen, output);

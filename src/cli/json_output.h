@@ -3,6 +3,7 @@
 #include <nlohmann/json.hpp>
 #include <string>
 
+#include "cli/content.h"
 #include "cli/project_reader.h"
 
 namespace hx::cli {
@@ -16,5 +17,7 @@ using Json = nlohmann::ordered_json;
 [[nodiscard]] Json recipeObject(const RecipeEntry& recipe);
 /// The value of a column of the current row: null, a number, text, or true and false for a yes/no column.
 [[nodiscard]] Json columnValue(const sqlite::Statement& row, int column);
+
+[[nodiscard]] Json jsonOf(const Value& value);
 
 }  // namespace hx::cli

@@ -1,6 +1,6 @@
 #include "cli/name_set.h"
 
-#include <algorithm>
+#include <cstring>
 #include <functional>
 
 #include "automation/text.h"
@@ -10,48 +10,56 @@ namespace hx::cli {
 namespace {
 
 constexpr std::size_t firstSlots = 1024;
+constexpr int placeBits = 40;
+constexpr std::uint64_t placeMask = (std::uint64_t{1} << placeBits) - 1;
 
-std::uint32_t hashOf(std::string_view text) { return static_cast<std::uint32_t>(std::hash<std::string_view>()(text)); }
+std::size_t hashOf(std::string_view text) { return std::hash<std::string_view>()(text); }
+// The upper bits of the hash; the lower ones choose the slot.
+std::uint64_t tagOf(std::size_t hash) { return hash & ~placeMask; }
 
 }  // namespace
 
-NameSet::NameSet() : ends_{0}, slots_(firstSlots) {}
+NameSet::NameSet() : texts_(1, '\0'), slots_(firstSlots) {}
 
 void NameSet::add(std::string_view name) {
     const std::string_view folded = fold(name);
-    const std::uint32_t hash = hashOf(folded);
+    const std::size_t hash = hashOf(folded);
     const std::size_t at = slotOf(folded, hash);
-    if (slots_[at].entry != 0) return;
-    texts_.append(folded);
-    ends_.push_back(texts_.size());
-    slots_[at] = {hash, static_cast<std::uint32_t>(ends_.size() - 1)};
-    if (ends_.size() * 2 > slots_.size()) grow();
+    if (slots_[at] != 0) return;
+    slots_[at] = tagOf(hash) | texts_.size();
+    const std::size_t length = folded.size();
+    texts_.append(reinterpret_cast<const char*>(&length), sizeof length).append(folded);
+    if (++count_ * 2 > slots_.size()) grow();
 }
 
 bool NameSet::contains(std::string_view name) {
     const std::string_view folded = fold(name);
-    return slots_[slotOf(folded, hashOf(folded))].entry != 0;
+    return slots_[slotOf(folded, hashOf(folded))] != 0;
 }
 
-std::size_t NameSet::slotOf(std::string_view folded, std::uint32_t hash) const {
+std::size_t NameSet::slotOf(std::string_view folded, std::size_t hash) const {
     const std::size_t mask = slots_.size() - 1;
     for (std::size_t at = hash & mask;; at = (at + 1) & mask) {
-        const Slot& slot = slots_[at];
-        if (slot.entry == 0) return at;
-        if (slot.hash != hash) continue;
-        const std::size_t begin = ends_[slot.entry - 1];
-        if (std::string_view(texts_).substr(begin, ends_[slot.entry] - begin) == folded) return at;
+        const Slot slot = slots_[at];
+        if (slot == 0 || ((slot & ~placeMask) == tagOf(hash) && textAt(slot) == folded)) return at;
     }
+}
+
+std::string_view NameSet::textAt(Slot slot) const {
+    const char* place = texts_.data() + (slot & placeMask);
+    std::size_t length = 0;
+    std::memcpy(&length, place, sizeof length);
+    return {place + sizeof length, length};
 }
 
 void NameSet::grow() {
     std::vector<Slot> old(slots_.size() * 4);
     old.swap(slots_);
     const std::size_t mask = slots_.size() - 1;
-    for (const Slot& slot : old) {
-        if (slot.entry == 0) continue;
-        std::size_t at = slot.hash & mask;
-        while (slots_[at].entry != 0) at = (at + 1) & mask;
+    for (const Slot slot : old) {
+        if (slot == 0) continue;
+        std::size_t at = hashOf(textAt(slot)) & mask;
+        while (slots_[at] != 0) at = (at + 1) & mask;
         slots_[at] = slot;
     }
 }

@@ -16,19 +16,18 @@ class NameSet {
     [[nodiscard]] bool contains(std::string_view name);
 
   private:
-    struct Slot {
-        std::uint32_t hash = 0;
-        std::uint32_t entry = 0;  // 0: free, else its number counted from 1
-    };
+    /// Where the text stands, with some bits of its hash, so that a look at the slot nearly always suffices. 0: free.
+    using Slot = std::uint64_t;
 
-    [[nodiscard]] std::size_t slotOf(std::string_view folded, std::uint32_t hash) const;
+    [[nodiscard]] std::size_t slotOf(std::string_view folded, std::size_t hash) const;
+    [[nodiscard]] std::string_view textAt(Slot slot) const;
     void grow();
     /// Valid until the next call.
     [[nodiscard]] std::string_view fold(std::string_view name);
 
-    std::string texts_;
-    std::vector<std::size_t> ends_;  // of the texts; the first is 0
-    std::vector<Slot> slots_;        // a power of two, at most half used
+    std::string texts_;        // each behind its length
+    std::vector<Slot> slots_;  // a power of two, at most half used
+    std::size_t count_ = 0;
     std::string buffer_;
 };
 

@@ -12,9 +12,8 @@ using sqlite::Statement;
 
 namespace {
 
-// The provider says what is wrong with a file that is no project.
-const std::string& requireProject(const std::string& path) {
-    (void)sqlite::Provider().connect("Data Source=\"" + path + "\";Mode=Read;");
+const std::string& required(const std::string& path) {
+    requireProject(path);
     return path;
 }
 
@@ -32,7 +31,7 @@ std::optional<RecipeEntry> firstRecipe(Statement& statement) {
 
 }  // namespace
 
-ProjectReader::ProjectReader(const std::string& path) : database_(requireProject(path)) {
+ProjectReader::ProjectReader(const std::string& path) : database_(required(path)) {
     // What is read stays the same to the end, whatever other programs write meanwhile.
     database_.execute("PRAGMA query_only=ON; BEGIN;");
 }
@@ -63,6 +62,10 @@ std::optional<RecipeEntry> ProjectReader::findRecipe(const std::string& nameOrId
     Statement byId(database_, "SELECT ID, Name FROM TrcpRecipe WHERE ID = ?1");
     byId.bind(1, *id);
     return firstRecipe(byId);
+}
+
+void requireProject(const std::string& path) {
+    (void)sqlite::Provider().connect("Data Source=\"" + path + "\";Mode=Read;");
 }
 
 std::string inQuotes(std::string_view text) {

@@ -42,6 +42,9 @@ class ProjectReader {
     sqlite::Database database_;
 };
 
+/// Throws an automation::Error that says why the file is no project.
+void requireProject(const std::string& path);
+
 /// A row's value as the command line prints names: in quotation marks, with control characters made visible.
 [[nodiscard]] std::string inQuotes(std::string_view text);
 

@@ -1,6 +1,9 @@
 #include "cli/verbs.h"
 
 #include "cli/check.h"
+#include "cli/differences.h"
+#include "cli/export.h"
+#include "cli/import.h"
 #include "cli/list.h"
 #include "cli/show.h"
 #include "cli/where.h"
@@ -62,6 +65,59 @@ void addWhere(CLI::App& app, Command& chosen, const Output& output) {
     });
 }
 
+void addExport(CLI::App& app, Command& chosen, const Output& output) {
+    CLI::App* command = app.add_subcommand("export", "Write all recipes and members of a project as reviewable text.");
+    const auto arguments = std::make_shared<Arguments>();
+    command->add_option("FILE", arguments->path, "The project file; it is only read.")->required();
+    command->add_option("OUT.json", arguments->subject, "The file to write; only another export is replaced.")
+        ->required();
+    command->callback([arguments, &chosen, &output] {
+        chosen = Command::doing([arguments, &output] { exportProject(arguments->path, arguments->subject, output); });
+    });
+}
+
+void addImport(CLI::App& app, Command& chosen, const Output& output) {
+    CLI::App* command = app.add_subcommand("import", "Bring the recipes of an export into a project.");
+    struct ImportArguments {
+        std::string project, file, mode = "add";
+        bool dryRun = false;
+    };
+    const auto arguments = std::make_shared<ImportArguments>();
+    command->add_option("FILE", arguments->project, "The project file.")->required();
+    command->add_option("IN.json", arguments->file, "The export.")->required();
+    command->add_flag("--dry-run", arguments->dryRun, "Print what would change, and change nothing.");
+    command
+        ->add_option("--mode", arguments->mode,
+                     "add: recipes that the project lacks (default); update: also change those that it has; replace: "
+                     "also delete all others.")
+        ->check(CLI::IsMember({"add", "update", "replace"}));
+    command->callback([arguments, &chosen, &output] {
+        chosen = Command::doing([arguments, &output] {
+            const ImportMode mode = arguments->mode == "add"      ? ImportMode::add
+                                    : arguments->mode == "update" ? ImportMode::update
+                                                                  : ImportMode::replace;
+            if (arguments->dryRun) previewImport(arguments->project, arguments->file, mode, output);
+            else importContent(arguments->project, arguments->file, mode, output);
+        });
+    });
+}
+
+void addDiff(CLI::App& app, Command& chosen, const Output& output) {
+    CLI::App* command = app.add_subcommand("diff", "Show what differs between two projects or exports.");
+    const auto arguments = std::make_shared<Arguments>();
+    command->add_option("A", arguments->path, "A project file or an export.")->required();
+    command->add_option("B", arguments->subject, "A project file or an export.")->required();
+    command->add_flag("--json", arguments->json, "Print JSON, for other programs.");
+    command->footer("Exit status: 0 no differences, 1 differences, 2 the files could not be compared.");
+    command->callback([arguments, &chosen, &output] {
+        chosen = Command::asking([arguments, &output] {
+            const auto differences = compare(loadContent(arguments->path), loadContent(arguments->subject), {});
+            print(differences, arguments->json, output);
+            return static_cast<int>(differences.empty() ? succeeded : found);
+        });
+    });
+}
+
 }  // namespace
 
 void addVerbs(CLI::App& app, Command& chosen, const Output& output) {
@@ -69,6 +125,9 @@ void addVerbs(CLI::App& app, Command& chosen, const Output& output) {
     addShow(app, chosen, output);
     addCheck(app, chosen, output);
     addWhere(app, chosen, output);
+    addExport(app, chosen, output);
+    addImport(app, chosen, output);
+    addDiff(app, chosen, output);
 }
 
 }  // namespace hx::cli

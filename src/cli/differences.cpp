@@ -1,0 +1,170 @@
+#include "cli/differences.h"
+
+#include <algorithm>
+#include <unordered_map>
+
+#include "automation/text.h"
+#include "cli/project_reader.h"
+
+namespace hx::cli {
+
+using automation::foldCase;
+using Kind = Difference::Kind;
+
+namespace {
+
+std::string textIn(const ContentMember& member, std::string_view column) {
+    const Cell* cell = findCell(member.cells, column);
+    const auto* text = cell == nullptr ? nullptr : std::get_if<std::string>(&cell->value);
+    return text == nullptr ? std::string() : *text;
+}
+
+// What makes a member the same one.
+std::string identityOf(const ContentMember& member) {
+    const std::string parent = std::to_string(member.parent) + " ";  // 0 but for members without a recipe
+    if (member.childName) return parent + "s" + foldCase(*member.childName);
+    if (member.isSubRecipe()) return parent + "#" + std::to_string(member.child);
+    return parent + "v" + foldCase(textIn(member, "VarRecipe"));
+}
+
+std::string describe(const ContentMember& member) {
+    if (member.childName) return "sub-recipe " + inQuotes(*member.childName);
+    if (member.isSubRecipe()) return "missing sub-recipe with the ID " + std::to_string(member.child);
+    return "variable " + inQuotes(textIn(member, "VarRecipe"));
+}
+
+/// Finds what differs in the columns of a recipe or member.
+void compareCells(const std::vector<Cell>& before, const std::vector<Cell>& after, bool absentColumns,
+                  const Difference& place, std::vector<Difference>& differences) {
+    const auto add = [&](const std::string& column, const Value& from, const Value& to) {
+        Difference difference = place;
+        difference.column = column;
+        difference.before = from;
+        difference.after = to;
+        differences.push_back(std::move(difference));
+    };
+    for (const Cell& cell : after) {
+        const Cell* old = findCell(before, cell.column);
+        if (old == nullptr ? absentColumns : !isSame(old->value, cell.value)) {
+            add(cell.column, old == nullptr ? Value() : old->value, cell.value);
+        }
+    }
+    if (!absentColumns) return;
+    for (const Cell& cell : before) {
+        if (findCell(after, cell.column) == nullptr) add(cell.column, cell.value, {});
+    }
+}
+
+/// Compares the members of one recipe, or those without one.
+class Members {
+  public:
+    Members(const std::vector<ContentMember>& before, const std::vector<ContentMember>& after, bool absentColumns,
+            std::string recipe)
+        : before_(before),
+          after_(after),
+          absentColumns_(absentColumns),
+          recipe_(std::move(recipe)),
+          partners_(after.size(), none) {}
+
+    std::vector<Difference> compare() {
+        for (std::size_t i = 0; i < before_.size(); ++i) waiting_[identityOf(before_[i])].push_back(i);
+        pair(true);   // those that are the same in everything
+        pair(false);  // then those that have changed
+        std::vector<Difference> differences;
+        for (const auto& [identity, left] : waiting_) removed_.insert(removed_.end(), left.begin(), left.end());
+        std::ranges::sort(removed_);
+        for (const std::size_t i : removed_) differences.push_back(whole(Kind::removed, before_[i]));
+        for (std::size_t i = 0; i < after_.size(); ++i) {
+            if (partners_[i] == none) differences.push_back(whole(Kind::added, after_[i]));
+            else
+                compareCells(before_[partners_[i]].cells, after_[i].cells, absentColumns_,
+                             whole(Kind::changed, after_[i]), differences);
+        }
+        if (!isInOrder()) differences.push_back({Kind::changed, recipe_, "order of the members", {}, {}, {}});
+        return differences;
+    }
+
+  private:
+    static constexpr std::size_t none = static_cast<std::size_t>(-1);
+
+    void pair(bool sameInEverything) {
+        for (std::size_t i = 0; i < after_.size(); ++i) {
+            if (partners_[i] != none) continue;
+            const auto found = waiting_.find(identityOf(after_[i]));
+            if (found == waiting_.end()) continue;
+            auto& left = found->second;
+            const auto partner =
+                std::ranges::find_if(left, [&](std::size_t old) { return !sameInEverything || isEqual(old, i); });
+            if (partner == left.end()) continue;
+            partners_[i] = *partner;
+            left.erase(partner);
+        }
+    }
+
+    [[nodiscard]] bool isEqual(std::size_t old, std::size_t now) const {
+        std::vector<Difference> differences;
+        compareCells(before_[old].cells, after_[now].cells, absentColumns_, {}, differences);
+        return differences.empty();
+    }
+
+    [[nodiscard]] bool isInOrder() const {
+        std::vector<std::size_t> order;
+        std::ranges::copy_if(partners_, std::back_inserter(order), [](std::size_t i) { return i != none; });
+        return std::ranges::is_sorted(order);
+    }
+
+    [[nodiscard]] Difference whole(Kind kind, const ContentMember& member) const {
+        return {kind, recipe_, describe(member), {}, {}, {}};
+    }
+
+    const std::vector<ContentMember>& before_;
+    const std::vector<ContentMember>& after_;
+    bool absentColumns_;
+    std::string recipe_;
+    std::vector<std::size_t> partners_;  // in before_, of those in after_
+    std::unordered_map<std::string, std::vector<std::size_t>> waiting_;
+    std::vector<std::size_t> removed_;
+};
+
+void append(std::vector<Difference>& all, std::vector<Difference> more) {
+    std::ranges::move(more, std::back_inserter(all));
+}
+
+using ByName = std::unordered_map<std::string, const ContentRecipe*>;
+
+ByName byName(const Content& content) {
+    ByName names;
+    for (const ContentRecipe& recipe : content.recipes) names.emplace(foldCase(recipe.name()), &recipe);
+    return names;
+}
+
+}  // namespace
+
+std::vector<Difference> compare(const ContentRecipe& before, const ContentRecipe& after, bool absentColumns) {
+    std::vector<Difference> differences;
+    const Difference place{Kind::changed, before.name(), {}, {}, {}, {}};
+    compareCells(before.cells, after.cells, absentColumns, place, differences);
+    append(differences, Members(before.members, after.members, absentColumns, before.name()).compare());
+    return differences;
+}
+
+std::vector<Difference> compare(const Content& before, const Content& after, const Comparison& what) {
+    std::vector<Difference> differences;
+    const ByName old = byName(before);
+    const ByName now = byName(after);
+    for (const ContentRecipe& recipe : before.recipes) {
+        if (!what.removed || now.contains(foldCase(recipe.name()))) continue;
+        differences.push_back({Kind::removed, recipe.name(), {}, {}, {}, {}});
+    }
+    for (const ContentRecipe& recipe : after.recipes) {
+        const auto found = old.find(foldCase(recipe.name()));
+        if (found == old.end()) differences.push_back({Kind::added, recipe.name(), {}, {}, {}, {}});
+        else if (what.changed) append(differences, compare(*found->second, recipe, what.absentColumns));
+    }
+    for (Difference& difference : Members(before.orphans, after.orphans, what.absentColumns, {}).compare()) {
+        if (difference.kind != Kind::removed || what.removed) differences.push_back(std::move(difference));
+    }
+    return differences;
+}
+
+}  // namespace hx::cli

@@ -1,0 +1,84 @@
+#include "cli/export.h"
+
+#include <cerrno>
+#include <filesystem>
+#include <fstream>
+#include <stdlib.h>
+#include <sys/stat.h>
+#include <system_error>
+#include <unistd.h>
+
+#include "automation/error.h"
+#include "cli/content.h"
+#include "cli/project_reader.h"
+
+namespace hx::cli {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+[[noreturn]] void refuse(const std::string& problem) { throw automation::Error(automation::errFail, problem); }
+
+bool isExport(const std::string& path) {
+    constexpr std::string_view mark = "{\n  \"format\": \"hxrecipe\"";
+    std::string start(mark.size(), '\0');
+    std::ifstream file(path, std::ios::binary);
+    return file.read(start.data(), static_cast<std::streamsize>(start.size())) && start == mark;
+}
+
+/// A file that takes its place only when it is whole.
+class Replacement {
+  public:
+    explicit Replacement(std::string path) : path_(std::move(path)), temporary_(path_ + ".new-XXXXXX") {
+        const int file = mkstemp(temporary_.data());
+        if (file < 0) fail(errno);
+        const mode_t mask = umask(0);
+        umask(mask);
+        (void)fchmod(file, 0666 & ~mask);
+        ::close(file);
+        stream_.open(temporary_, std::ios::binary);
+    }
+    ~Replacement() {
+        if (!temporary_.empty()) unlink(temporary_.c_str());
+    }
+    Replacement(const Replacement&) = delete;
+    Replacement& operator=(const Replacement&) = delete;
+
+    [[nodiscard]] std::ostream& stream() { return stream_; }
+
+    void publish() {
+        stream_.close();
+        if (!stream_) fail(errno);
+        if (rename(temporary_.c_str(), path_.c_str()) != 0) fail(errno);
+        temporary_.clear();
+    }
+
+  private:
+    [[noreturn]] void fail(int code) const {
+        refuse("The file '" + path_ + "' cannot be written: " + std::generic_category().message(code) + ".");
+    }
+
+    std::string path_;
+    std::string temporary_;
+    std::ofstream stream_;
+};
+
+}  // namespace
+
+void exportProject(const std::string& path, const std::string& target, const Output& output) {
+    std::error_code ignored;
+    if (fs::exists(fs::symlink_status(target, ignored)) && !isExport(target)) {
+        refuse("The file '" + target + "' exists already and is no export.");
+    }
+    ProjectReader project(path);
+    const Content content = readContent(project.database());
+    Replacement file(target);
+    writeContent(content, file.stream());
+    file.publish();
+    std::size_t members = content.orphans.size();
+    for (const ContentRecipe& recipe : content.recipes) members += recipe.members.size();
+    output.results << "Wrote " << target << ": " << content.recipes.size() << " recipes, " << members << " members.\n";
+}
+
+}  // namespace hx::cli
