@@ -20,7 +20,6 @@ class FConfigEditor : public Dialog {
     [[nodiscard]] const automation::MemberTable& members() const override;
 
   private:
-    void onLoad();
     void onChooseFont();
 };
 

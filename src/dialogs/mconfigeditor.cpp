@@ -46,6 +46,11 @@ void say(forms::Screen& screen, std::string_view text) {
 
 }  // namespace
 
+bool asksBeforeDeleting(const settings::CInit& inits) {
+    const Variant option = inits.ReadAValueFromCInits(entry::requestOnDelete, Variant(true));
+    return option.isString() || automation::toBoolean(option);
+}
+
 std::int32_t ShowConfigEditor(ConfigurableWindow& window, const host::Services& services, resources::Help& help) {
     const auto dialog = std::make_shared<FConfigEditor>(services, help);
     if (!InitConfigEditor(window, *dialog)) {
@@ -64,7 +69,7 @@ bool InitConfigEditor(ConfigurableWindow& window, FConfigEditor& dialog) {
         resources::CopyFont(window.editorWindow().font(), font);
         dialog.txtEditorFont->setText(font.name());
         tickFrom(window.inits(), entry::saveOnExit, *dialog.chkSaveOnExit);
-        tickFrom(window.inits(), entry::requestOnDelete, *dialog.chkDelQuestion);
+        tickWhen(asksBeforeDeleting(window.inits()), *dialog.chkDelQuestion);
         tickWhen(window.statusBar().visible(), *dialog.chkShowStatusBar);
     });
 }

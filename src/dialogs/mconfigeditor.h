@@ -23,6 +23,9 @@ class ConfigurableWindow {
     virtual void abr_Resize() = 0;
 };
 
+/// Whether a deletion is confirmed first. Only a plain "no" turns the question off: a damaged entry does not.
+[[nodiscard]] bool asksBeforeDeleting(const settings::CInit& inits);
+
 /// Lets the user edit the options of the window; what is chosen goes to the window and its settings, which are written
 /// when the window closes. Always 0: nothing has to be read again. A failure is named in a message box.
 std::int32_t ShowConfigEditor(ConfigurableWindow& window, const host::Services& services, resources::Help& help);

@@ -4,6 +4,7 @@
 #include "automation/convert.h"
 #include "automation/text.h"
 #include "dialogs/fmulti_select_items.h"
+#include "dialogs/mconfigeditor.h"
 #include "editor/commands.h"
 #include "editor/database_work.h"
 #include "editor/frmtabgrid.h"
@@ -21,14 +22,8 @@ namespace member = recipe::schema::member;
 namespace {
 
 constexpr std::int32_t deleteMembersText = 411;
-constexpr std::string_view procedure = "mnuRecipeMember", requestOnDelete = "RequestOnDelete";
+constexpr std::string_view procedure = "mnuRecipeMember";
 constexpr std::int32_t itemFilter = 256;
-
-// Only a plain "no" turns the question off: a damaged entry does not.
-bool asksBeforeDeleting(const settings::CInit& inits) {
-    const Variant option = inits.ReadAValueFromCInits(std::string(requestOnDelete), Variant(true));
-    return option.isString() || automation::toBoolean(option);
-}
 
 }  // namespace
 
@@ -43,14 +38,14 @@ void Commands::mnuRecipeMember(std::int16_t index) {
 }
 
 bool Commands::mayDelete(std::int32_t question) {
-    if (!asksBeforeDeleting(window_.inits())) return true;
+    if (!dialogs::asksBeforeDeleting(window_.inits())) return true;
     const Busy busy(addIn_.busy());
     constexpr std::int32_t style = forms::message::yesNo + forms::message::defaultButton2;
     return window_.screen().messageBox(addIn_.texts().GetResource(question), style, forms::message::defaultTitle) ==
            forms::message::Answer::yes;
 }
 
-// By position, not by moving: the current row stays.
+// On a clone: the current row stays.
 std::vector<std::string> Commands::shownVariables() const {
     ado::Recordset& members = window_.memberRecordset();
     std::vector<std::string> names;

@@ -1,6 +1,7 @@
 #include <array>
 
 #include "editor/commands.h"
+#include "editor/database_work.h"
 #include "editor/frmtabgrid.h"
 #include "editor/guard.h"
 #include "editor/record_count.h"
@@ -40,7 +41,7 @@ void Commands::mnuOption(std::int16_t index) {
 }
 
 void Commands::statistic() {
-    if (!window_.dataEnvironment()) return;
+    const DatabaseWork work(window_.dataEnvironment());
     const recipe::DataEnvironment& data = *window_.dataEnvironment();
     const recipe::WaitCursor wait(window_.screen());
     std::int32_t recipes = countRecords(*data.rsRecipes);

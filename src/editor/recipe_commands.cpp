@@ -50,7 +50,10 @@ void Commands::newRecipe() {
     const std::int32_t id = automation::toInt32(work.recipes().field(schema::recipe::id).value());
     recipe::RenameRecipe(work.recipes(), name, name);
     transaction.commit();
-    if (host::ProjectExplorer* explorer = addIn_.explorer()) nodes(*explorer).add(id, name);
+    // The recipe is there: an explorer that refuses it keeps nothing else from showing it.
+    guard(addIn_, procedure, [&] {
+        if (host::ProjectExplorer* explorer = addIn_.explorer()) nodes(*explorer).add(id, name);
+    });
     window_.refreshSubRecipeNames();
     window_.refreshMembers();
 }

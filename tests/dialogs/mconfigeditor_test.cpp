@@ -104,6 +104,19 @@ TEST_F(MConfigeditorTest, TicksTheBoxesOfEntriesThatAreMissing) {
     EXPECT_EQ(host.record.modals.size(), 1U);
 }
 
+TEST_F(MConfigeditorTest, KeepsTheQuestionWhereItsEntryIsDamaged) {
+    for (const Variant& damaged : {Variant(1.0), Variant("perhaps")}) {
+        window->inits().WriteAValueToCInits("RequestOnDelete", damaged);
+        ASSERT_TRUE(asksBeforeDeleting(window->inits()));
+        edit([](FConfigEditor& dialog) {
+            EXPECT_EQ(dialog.chkDelQuestion->value(), CheckState::checked);
+            dialog.cmdOk->click();
+        });
+        EXPECT_TRUE(asksBeforeDeleting(window->inits()));
+    }
+    EXPECT_EQ(host.record.modals.size(), 2U);
+}
+
 TEST_F(MConfigeditorTest, LeavesFontOptionsAndStoreUnchangedWhenCancelled) {
     const Font::Values before = window->font().values(), gridBefore = window->tdbRM->font().values();
     const auto change = [&](FConfigEditor& dialog) {

@@ -45,6 +45,12 @@ TEST_F(OptionCommands, StatisticLeavesTheTablesClosedAndTheGridAsItIs) {
     EXPECT_EQ(host.screen.pointer(), forms::Pointer::standard);
 }
 
+TEST_F(OptionCommands, StatisticWithoutADatabaseIsReported) {
+    window->setDataEnvironment(nullptr);
+    window->abr->click("mnuOptionStatistik");
+    EXPECT_EQ(messages(), (Texts{"-2147467259: The editor has no database now"}));
+}
+
 TEST_F(OptionCommands, StatisticReportsADatabaseThatCannotBeRead) {
     const std::string before = window->sb->panel(2).text();
     faults.arm(1, support::FaultPlan::Kind::open);

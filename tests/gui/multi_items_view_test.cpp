@@ -88,6 +88,22 @@ TEST_F(MultiItemsViewTest, SpaceTogglesAllSelectedRowsAsTheCurrentOne) {
     });
 }
 
+TEST_F(MultiItemsViewTest, SpaceTakesTheCurrentRowAloneWhenItIsNotSelected) {
+    showDuring(*dialog, [this](QWidget&) {
+        press(Qt::Key_Down);
+        press(Qt::Key_Down, Qt::ControlModifier);
+        press(Qt::Key_Space);
+        EXPECT_EQ(selected(), Names{shown()[1]});
+        press(Qt::Key_Space);
+        EXPECT_EQ(selected(), Names());
+        press(Qt::Key_Down, Qt::ControlModifier);
+        press(Qt::Key_Space, Qt::ControlModifier);
+        EXPECT_EQ(selected(), Names()) << "Ctrl+Space selects the row";
+        press(Qt::Key_Space);
+        EXPECT_EQ(selected(), (Names{shown()[0], shown()[2]}));
+    });
+}
+
 TEST_F(MultiItemsViewTest, AllRowsThatAreFoundCanBeCheckedTogether) {
     showDuring(*dialog, [this](QWidget&) {
         search("tank");

@@ -144,15 +144,21 @@ TEST_F(MRecipeMember, CancellingLeavesTheMembersUnchanged) {
         dialog.cmdCancel->click();
     });
     members.open();
+    const auto before = storedRow(member);
     EXPECT_FALSE(AddSubRecipeMember(*window));
+    EXPECT_EQ(host.record.modals.size(), 1U);
     EXPECT_EQ(memberCount(), 2U);
+    EXPECT_EQ(storedRow(member), before);
     EXPECT_EQ(members.state(), ado::adStateOpen);
 }
 
 TEST_F(MRecipeMember, ClosingByTheFrameLeavesTheMembersUnchanged) {
     lookAt([](FSubRecipe& dialog) { dialog.txtVarRecipe->setText("File"); });
+    const auto before = storedRow(member);
     EXPECT_FALSE(AddSubRecipeMember(*window));
+    EXPECT_EQ(host.record.modals.size(), 1U);
     EXPECT_EQ(memberCount(), 2U);
+    EXPECT_EQ(storedRow(member), before);
 }
 
 TEST_F(MRecipeMember, AddingGivesDatabaseErrorsToTheCaller) {
@@ -215,6 +221,7 @@ TEST_F(MRecipeMember, CancellingAnEditLeavesTheRowUnchanged) {
         dialog.cmdCancel->click();
     });
     EXPECT_FALSE(edit());
+    EXPECT_EQ(host.record.modals.size(), 1U);
     EXPECT_EQ(storedRow(member), before);
     EXPECT_EQ(members.editMode(), ado::adEditNone);
 }

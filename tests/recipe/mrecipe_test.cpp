@@ -137,6 +137,7 @@ TEST_F(MRecipe, CancellingLeavesEveryColumnUnchanged) {
         dialog.cmdCancel->click();
     });
     EXPECT_FALSE(edit());
+    EXPECT_EQ(host.record.modals.size(), 1U);
     EXPECT_EQ(storedRow(), before);
     EXPECT_EQ(recipes.editMode(), ado::adEditNone);
 }
@@ -150,20 +151,22 @@ TEST_F(MRecipe, ClosingByTheFrameCancels) {
 }
 
 TEST_F(MRecipe, OptionTwoOpensWithSaveThroughAloneAndIsWrittenBackAsTwo) {
-    store(Options, 2);
-    editAndConfirm([](FRecipe& dialog) {
-        EXPECT_EQ(dialog.chkWriteThru->value(), CheckState::unchecked);
-        EXPECT_EQ(dialog.chkSaveThru->value(), CheckState::checked);
-    });
-    EXPECT_EQ(stored(Options), Variant(2));
+    for (const std::int32_t options : {2, 6}) {  // 4 means nothing: that it goes shows that the row is written
+        store(Options, options);
+        EXPECT_TRUE(editAndConfirm([](FRecipe& dialog) {
+            EXPECT_EQ(dialog.chkWriteThru->value(), CheckState::unchecked);
+            EXPECT_EQ(dialog.chkSaveThru->value(), CheckState::checked);
+        }));
+        EXPECT_EQ(stored(Options), Variant(2));
+    }
 }
 
 TEST_F(MRecipe, OptionThreeChecksBothBoxes) {
     store(Options, 3);
-    editAndConfirm([](FRecipe& dialog) {
+    EXPECT_TRUE(editAndConfirm([](FRecipe& dialog) {
         EXPECT_EQ(dialog.chkWriteThru->value(), CheckState::checked);
         EXPECT_EQ(dialog.chkSaveThru->value(), CheckState::checked);
-    });
+    }));
     EXPECT_EQ(stored(Options), Variant(3));
 }
 
@@ -262,8 +265,13 @@ TEST_F(MRecipe, EveryYesAndNoPassesIntoItsBoxAndBack) {
 }
 
 TEST_F(MRecipe, ARelativeRecipeKeepsItsFactorVariableAndAnAbsoluteOneItsOwn) {
-    store(VarSetValue, "Factor");
-    lookAt([](FRecipe& dialog) { EXPECT_EQ(dialog.txtVarSetValue->text(), "Factor"); });
+    for (const double factor : {0.0, 2.0}) {
+        store(StandardValue, factor);
+        store(VarSetValue, "Factor");
+        EXPECT_TRUE(editAndConfirm([](FRecipe& dialog) { EXPECT_EQ(dialog.txtVarSetValue->text(), "Factor"); }));
+        EXPECT_EQ(stored(VarSetValue), Variant("Factor"));
+        EXPECT_EQ(stored(StandardValue), Variant(factor));
+    }
 }
 
 TEST_F(MRecipe, TheDialogBelongsToTheEditorWindow) {

@@ -24,7 +24,7 @@ bool chooseFont(forms::Font::Values& font, const Wording& wording, QWidget* owne
     if (after.family() != before.family()) font.name = chosen.name;
     if (after.pointSizeF() != before.pointSizeF()) font.size = chosen.size;
     if (after.weight() != before.weight()) font.weight = chosen.weight;
-    font.italic = chosen.italic;
+    if (after.italic() != before.italic()) font.italic = chosen.italic;
     font.strikethrough = chosen.strikethrough;
     font.underline = chosen.underline;
     return true;

@@ -79,8 +79,9 @@ void MultiItemsView::toggle() {
     const QModelIndex current = table_.currentIndex();
     if (!current.isValid()) return;
     std::vector<std::string> names;
+    const bool withSelection = table_.selectionModel()->isRowSelected(current.row(), {});
     for (const QItemSelectionRange& range : table_.selectionModel()->selection()) {
-        for (int row = range.top(); row <= range.bottom(); ++row) names.push_back(model_.nameOf(row));
+        for (int row = range.top(); withSelection && row <= range.bottom(); ++row) names.push_back(model_.nameOf(row));
     }
     if (names.empty()) names.push_back(model_.nameOf(current.row()));
     model_.check(names, !model_.isChecked(current.row()));

@@ -71,8 +71,14 @@ void VariableTable::goTo(int row) {
     scrollTo(currentIndex(), QAbstractItemView::PositionAtCenter);
 }
 
+// Qt's own view would toggle the check mark of the current row with any modifier.
+void VariableTable::spacePressed(Qt::KeyboardModifiers modifiers) {
+    if (!modifiers.testFlag(Qt::ControlModifier)) return toggle_();
+    selectionModel()->select(currentIndex(), QItemSelectionModel::Toggle | QItemSelectionModel::Rows);
+}
+
 void VariableTable::keyPressEvent(QKeyEvent* event) {
-    if (toggle_ && event->key() == Qt::Key_Space) return toggle_();
+    if (toggle_ && event->key() == Qt::Key_Space) return spacePressed(event->modifiers());
     if (!isText(*event)) return QTableView::keyPressEvent(event);
     search_.setFocus(Qt::OtherFocusReason);
     QApplication::sendEvent(&search_, event);

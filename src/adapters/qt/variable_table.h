@@ -25,6 +25,7 @@ class VariableTable : public QTableView {
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
+    void spacePressed(Qt::KeyboardModifiers modifiers);
     void fitColumns(const VariableModel& model);
     QLineEdit& search_;
     int width_ = 0;  // that all columns want
