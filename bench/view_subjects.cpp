@@ -63,6 +63,7 @@ class GridWindow {
     }
     void scrollTo(int row) {
         table_->verticalScrollBar()->setValue(row);
+        table_->viewport()->update();  // a few rows have nowhere to scroll to
         paint();
         if (table_->rowAt(1) != row) throw std::runtime_error("the grid did not scroll");
     }
