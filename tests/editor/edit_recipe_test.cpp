@@ -1,0 +1,146 @@
+#include "command_window.h"
+#include "dialogs/frecipe.h"
+
+namespace hx::editor {
+namespace {
+
+using automation::Variant;
+using dialogs::FRecipe;
+
+struct EditRecipe : CommandWindow {
+    EditRecipe() { show(mixKey); }
+    void edit(const std::function<void(FRecipe&)>& change) {
+        inDialog<FRecipe>("FRecipe", [change](FRecipe& dialog) {
+            change(dialog);
+            dialog.cmdOk->click();
+        });
+        click("mnuRecipeEdit");
+    }
+    static void nothing(FRecipe&) {}
+};
+
+TEST_F(EditRecipe, ShowsTheRecipeOfTheNodeAndStoresIt) {
+    edit([](FRecipe& dialog) {
+        EXPECT_EQ(dialog.txtName->text(), "Mix");
+        dialog.txtComment->setText("Neu");
+    });
+    EXPECT_EQ(host.record.modals.size(), 1U);
+    EXPECT_EQ(host.record.modals[0].owner, window->handle());
+    EXPECT_EQ(storedRows("TrcpRecipe", {1, 7})[0], "Mix Neu");
+    EXPECT_EQ(messages(), Texts{});
+    expectAtRest();
+}
+
+TEST_F(EditRecipe, GivesTheNodeTheCaptionAndTheGridTheNewName) {
+    addMember(syrup, "File.Mix", mix);
+    show("RCPU" + std::to_string(syrup));
+    EXPECT_EQ(shown("ChildID"), (Texts{"Mix"}));
+    show(mixKey);
+    window->MakeMyCaption(mixKey, "Mix");
+    edit([](FRecipe& dialog) { dialog.txtName->setText("Mischung"); });
+    EXPECT_EQ(shownNodes()[0], "RCPR1 Mischung");
+    EXPECT_EQ(window->caption(), "HelvixStudio Rezepteditor: Mischung");
+    show("RCPU" + std::to_string(syrup));
+    EXPECT_EQ(shown("ChildID"), (Texts{"Mischung"}));
+}
+
+TEST_F(EditRecipe, LeavesTheNodeAloneWhenTheNameStays) {
+    host.explorer.setNodeProperty(mixKey, host::node_property::caption, Variant("As it was"));
+    edit(nothing);
+    EXPECT_EQ(shownNodes()[0], "RCPR1 As it was");
+}
+
+TEST_F(EditRecipe, TakesAnotherCaseForANewName) {
+    edit([](FRecipe& dialog) { dialog.txtName->setText("MIX"); });
+    EXPECT_EQ(shownNodes()[0], "RCPR1 MIX");
+    EXPECT_EQ(messages(), Texts{});
+}
+
+TEST_F(EditRecipe, CancelledChangesNothing) {
+    inDialog<FRecipe>("FRecipe", [](FRecipe& dialog) {
+        dialog.txtName->setText("Mischung");
+        dialog.cmdCancel->click();
+    });
+    const Texts before = storedRecipes();
+    click("mnuRecipeEdit");
+    EXPECT_EQ(host.record.modals.size(), 1U);
+    EXPECT_EQ(storedRecipes(), before);
+    EXPECT_EQ(shownNodes(), nodesOfStoredRecipes());
+    expectAtRest();
+}
+
+TEST_F(EditRecipe, KeepsTheWindowBusyWhileTheDialogIsOpen) {
+    bool busy = false;
+    edit([&](FRecipe&) { busy = addIn.busyFlag.isSet(); });
+    EXPECT_TRUE(busy);
+    EXPECT_FALSE(addIn.busyFlag.isSet());
+}
+
+TEST_F(EditRecipe, OfARecipeThatIsGoneDoesNothing) {
+    database.table("TrcpRecipe").remove(mix);
+    click("mnuRecipeEdit");
+    EXPECT_TRUE(host.record.modals.empty());
+    EXPECT_EQ(messages(), Texts{});
+    expectAtRest();
+}
+
+TEST_F(EditRecipe, WithoutRecipesDoesNothing) {
+    for (const std::int32_t id : {mix, syrup, water}) database.table("TrcpRecipe").remove(id);
+    click("mnuRecipeEdit");
+    EXPECT_TRUE(host.record.modals.empty());
+    EXPECT_EQ(messages(), Texts{});
+}
+
+TEST_F(EditRecipe, ReportsADuplicateNameAndLeavesRecipeAndNodeAsTheyWere) {
+    const Texts before = storedRecipes();
+    edit([](FRecipe& dialog) { dialog.txtName->setText("sirup"); });
+    ASSERT_EQ(messages().size(), 1U);
+    EXPECT_EQ(messages()[0].substr(0, 13), "-2147217887: ");
+    EXPECT_NE(messages()[0].find("sirup"), std::string::npos);
+    EXPECT_EQ(host.record.messages[0].title, "mnuRecipeFunc");
+    EXPECT_EQ(storedRecipes(), before);
+    EXPECT_EQ(shownNodes(), nodesOfStoredRecipes());
+    expectAtRest();
+    expectNoOldDuplicate();
+}
+
+TEST_F(EditRecipe, LeavesAnEditOfTheGridWaiting) {
+    type(0, "Tank.Pressure");
+    edit([](FRecipe& dialog) { dialog.txtName->setText("Mischung"); });
+    EXPECT_TRUE(grid().dataChanged());
+    EXPECT_EQ(shown("VarRecipe")[0], "Tank.Pressure");
+    window->VerifyAdds();
+    EXPECT_EQ(storedVariable(1), "Tank.Pressure");
+}
+
+TEST_F(EditRecipe, NodesAndRecipesAgreeWhateverFails) {
+    inDialog<FRecipe>("FRecipe", [](FRecipe& dialog) {
+        dialog.txtName->setText("Mischung");
+        dialog.cmdOk->click();
+    });
+    withEachFault([this] { show(mixKey); }, [this] { click("mnuRecipeEdit"); },
+                  [this] {
+                      // A name that was stored but could not be read again is shown with the next refresh.
+                      const bool stored = storedRecipes()[0] == "1 Mischung";
+                      EXPECT_TRUE(shownNodes() == nodesOfStoredRecipes() || (stored && !messages().empty()));
+                  });
+    EXPECT_EQ(shownNodes()[0], "RCPR1 Mischung");
+}
+
+TEST_F(EditRecipe, SurvivesTheEndOfItsWindow) {
+    inDialog<FRecipe>("FRecipe", [this](FRecipe& dialog) {
+        window->setDataEnvironment(nullptr);
+        data->CnnRecipes->close();
+        window->unload(forms::UnloadMode::byCode);
+        window.reset();
+        dialog.txtName->setText("Mischung");
+        dialog.cmdOk->click();
+    });
+    const auto bar = window->abr;
+    bar->click("mnuRecipeEdit");
+    EXPECT_EQ(window, nullptr);
+    EXPECT_FALSE(messages().empty()) << "the change was not stored";
+}
+
+}  // namespace
+}  // namespace hx::editor
