@@ -1,5 +1,6 @@
 #include "adapters/qt/multi_items_view.h"
 
+#include <array>
 #include <optional>
 
 #include "adapters/qt/form_view.h"
@@ -78,13 +79,15 @@ void MultiItemsView::search() {
 void MultiItemsView::toggle() {
     const QModelIndex current = table_.currentIndex();
     if (!current.isValid()) return;
+    const bool check = !model_.isChecked(current.row());
+    const QItemSelectionModel& selection = *table_.selectionModel();
+    if (!selection.isRowSelected(current.row(), {}))
+        return model_.check(std::array{model_.nameOf(current.row())}, check);
     std::vector<std::string> names;
-    const bool withSelection = table_.selectionModel()->isRowSelected(current.row(), {});
-    for (const QItemSelectionRange& range : table_.selectionModel()->selection()) {
-        for (int row = range.top(); withSelection && row <= range.bottom(); ++row) names.push_back(model_.nameOf(row));
+    for (const QItemSelectionRange& range : selection.selection()) {
+        for (int row = range.top(); row <= range.bottom(); ++row) names.push_back(model_.nameOf(row));
     }
-    if (names.empty()) names.push_back(model_.nameOf(current.row()));
-    model_.check(names, !model_.isChecked(current.row()));
+    model_.check(names, check);
 }
 
 void MultiItemsView::showCount() {
