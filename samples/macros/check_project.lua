@@ -1,0 +1,148 @@
+-- Checks a project and prints what it finds, a line each, with severity, place and what to do.
+--
+--   hxrecipe run --project plant.hxs check_project.lua [errors]
+--
+-- With "errors" warnings are neither printed nor counted. A macro with findings fails at its end, so that hxrecipe's
+-- exit status is 1; without findings it is 0. Nothing is changed. To add a rule of your own, write a function like
+-- those below and call it at the end.
+
+local function fail(text, ...) error(text:format(...), 0) end
+
+local onlyErrors = false
+for _, argument in ipairs({...}) do
+    if argument ~= "errors" then fail("%q is no argument; \"errors\" is the only one", argument) end
+    onlyErrors = true
+end
+
+-- The project --------------------------------------------------------------------------------------------------------
+
+-- A column that can be null gives the empty text.
+local function text(value) return (value == nil or value == null) and "" or value end
+
+local recipes, order = {}, {}
+for _, row in ipairs(project.Query("SELECT * FROM TrcpRecipe ORDER BY ID")) do
+    recipes[row.ID] = {row = row, id = row.ID, name = row.Name, members = 0, subRecipes = {}}
+    order[#order + 1] = recipes[row.ID]
+end
+local members = project.Query("SELECT ID, ParentID, ChildID, VarRecipe FROM TrcpRecipeMember ORDER BY ID")
+for _, member in ipairs(members) do
+    local recipe = recipes[member.ParentID]
+    if recipe then
+        recipe.members = recipe.members + 1
+        if member.ChildID ~= 0 then table.insert(recipe.subRecipes, member) end
+    end
+end
+local known = {}
+for _, name in ipairs(studio.Variables()) do known[name:lower()] = true end
+
+-- Findings -----------------------------------------------------------------------------------------------------------
+
+local findings = 0
+local function found(severity, place, problem, advice)
+    if severity ~= "error" and onlyErrors then return end
+    findings = findings + 1
+    print(("%s: %s: %s %s"):format(severity, place, problem, advice))
+end
+
+local variableColumns = {"VarRecipeName", "VarDescription", "VarLoad", "VarSave", "VarRead", "VarWrite", "VarSetValue"}
+local triggerColumns = {"VarLoad", "VarSave", "VarRead", "VarWrite"}
+
+local function checkMembers()
+    for _, member in ipairs(members) do
+        local recipe = recipes[member.ParentID]
+        local place = ("%s, member %d"):format(recipe and recipe.name or "no recipe", member.ID)
+        if not recipe then
+            found("error", place, ("There is no recipe with the ID %d."):format(member.ParentID), "Delete the member.")
+        end
+        local variable = text(member.VarRecipe)
+        if variable ~= "" and not known[variable:lower()] then
+            found("warning", place, ("The variable %q is not in the variable list."):format(variable),
+                  "Add it to the list or choose another one.")
+        end
+    end
+end
+
+local function checkSubRecipes(recipe)
+    for _, member in ipairs(recipe.subRecipes) do
+        local place = ("%s, member %d"):format(recipe.name, member.ID)
+        if not recipes[member.ChildID] then
+            found("error", place, ("The sub-recipe with the ID %d does not exist."):format(member.ChildID),
+                  "Delete the member or choose another recipe.")
+        end
+        local savesItself = recipe.row.SaveSubRecipes ~= 0 and recipe.row.SaveSubRecipes ~= false
+        if text(member.VarRecipe) == "" and not savesItself then
+            found("error", place, "The sub-recipe has no variable for its file name.",
+                  "Choose one, or let the recipe save the values of its sub-recipes.")
+        end
+    end
+end
+
+local function checkVariables(recipe)
+    for _, column in ipairs(variableColumns) do
+        local variable = text(recipe.row[column])
+        if variable ~= "" and not known[variable:lower()] then
+            found("warning", recipe.name, ("%s names %q, which is not in the variable list."):format(column, variable),
+                  "Add it to the list or choose another one.")
+        end
+    end
+end
+
+local function checkTriggers()
+    local first = {}
+    for _, recipe in ipairs(order) do
+        for _, column in ipairs(triggerColumns) do
+            local variable = text(recipe.row[column]):lower()
+            local other = first[variable]
+            if variable ~= "" and other and other ~= recipe then
+                found("warning", recipe.name,
+                      ("%s %q triggers the recipe %q too."):format(column, text(recipe.row[column]), other.name),
+                      "Give each recipe a trigger of its own.")
+            end
+            first[variable] = other or recipe
+        end
+    end
+end
+
+local function checkEmpty(recipe)
+    if recipe.members == 0 then
+        found("warning", recipe.name, "The recipe has no members.", "Add variables, or delete the recipe.")
+    end
+end
+
+-- Walks down the sub-recipes; one that is still on the way down when it is met again closes a cycle.
+local function checkCycles()
+    local state, way = {}, {}
+    local function visit(recipe)
+        state[recipe] = "on the way"
+        way[#way + 1] = recipe.name
+        recipe.depth = #way
+        for _, member in ipairs(recipe.subRecipes) do
+            local included = recipes[member.ChildID]
+            if included and state[included] == "on the way" then
+                local from = included.depth
+                found("error", included.name,
+                      ("The recipe contains itself: %s > %s."):format(table.concat(way, " > ", from), included.name),
+                      "Delete one of these sub-recipes.")
+            elseif included and not state[included] then
+                visit(included)
+            end
+        end
+        way[#way] = nil
+        state[recipe] = "done"
+    end
+    for _, recipe in ipairs(order) do
+        if not state[recipe] then visit(recipe) end
+    end
+end
+
+checkMembers()
+for _, recipe in ipairs(order) do
+    checkSubRecipes(recipe)
+    checkVariables(recipe)
+    checkEmpty(recipe)
+end
+checkTriggers()
+checkCycles()
+
+print(("%d recipes, %d members, %d findings"):format(#order, #members, findings))
+if findings > 0 then fail("The project has %d findings", findings) end
