@@ -2,13 +2,12 @@
 
 #include <algorithm>
 #include <iterator>
-#include <map>
-#include <unordered_map>
+#include <optional>
 
 #include "automation/text.h"
 #include "cli/findings.h"
 #include "cli/name_set.h"
-#include "cli/recipe_graph.h"
+#include "recipe/cycles.h"
 
 namespace hx::cli {
 
@@ -41,35 +40,35 @@ class Check {
     };
     struct Member {
         std::int64_t id, parent, child;
-        std::string variable;
-        const RecipeEntry* recipe;  // none when it does not exist
+        std::string_view variable;               // of the row that is being read
+        std::optional<std::size_t> recipe = {};  // none when it does not exist
     };
 
     void readVariables() {
         Statement select(project_.database(), "SELECT Name FROM ThxVariable");
-        while (select.step()) variables_.add(select.text(0));
+        while (select.step()) variables_.add(select.textView(0));
     }
 
     void readRecipes() {
         std::string columns = "ID, Name, SaveSubRecipes";
         for (const std::string_view column : variableColumns) columns.append(", ").append(column);
         recipes_ = project_.recipes();  // from here on they stay in place: findings point at them
-        numbers_.reserve(recipes_.size());
         saves_.reserve(recipes_.size());
         Statement select(project_.database(), "SELECT " + columns + " FROM TrcpRecipe ORDER BY ID");
         for (std::size_t i = 0; select.step(); ++i) {
-            numbers_.emplace(recipes_[i].id, i);
             saves_.push_back(select.value(2, ado::adBoolean) == automation::Variant(true));
             for (std::size_t c = 0; c < std::size(variableColumns); ++c) {
-                readVariable(i, variableColumns[c], select.text(3 + static_cast<int>(c)));
+                readVariable(i, variableColumns[c], select.textView(3 + static_cast<int>(c)));
             }
         }
     }
 
-    void readVariable(std::size_t recipe, std::string_view column, const std::string& variable) {
+    void readVariable(std::size_t recipe, std::string_view column, std::string_view variable) {
         if (isBlank(variable)) return;
         if (std::ranges::find(triggerColumns, column) != std::end(triggerColumns)) {
-            triggers_[automation::foldCase(automation::trim(variable))].push_back({recipe, column, variable});
+            const std::size_t trigger = triggers_.add(automation::trim(variable));
+            if (trigger == triggerUses_.size()) triggerUses_.emplace_back();
+            triggerUses_[trigger].push_back({recipe, column, std::string(variable)});
         }
         if (variables_.contains(variable)) return;
         findings_.add(
@@ -84,31 +83,32 @@ class Check {
     void readMembers() {
         Statement select(project_.database(), "SELECT ID, ParentID, ChildID, VarRecipe FROM TrcpRecipeMember");
         while (select.step()) {
-            Member member{select.key(0), select.key(1), select.key(2), select.text(3), nullptr};
-            const auto recipe = numbers_.find(member.parent);
-            if (recipe != numbers_.end()) member.recipe = &recipes_[recipe->second];
-            else reportOrphan(member);
-            if (member.child != 0) readInclusion(member, recipe != numbers_.end() && saves_[recipe->second]);
+            Member member{select.key(0), select.key(1), select.key(2), select.textView(3)};
+            member.recipe = numberOf(recipes_, member.parent);
+            if (!member.recipe) reportOrphan(member);
+            if (member.child != 0) readInclusion(member);
             if (!isBlank(member.variable) && !variables_.contains(member.variable)) reportUnknown(member);
         }
     }
 
-    void readInclusion(const Member& member, bool parentSaves) {
-        inclusions_.push_back({member.id, member.parent, member.child, {}});
-        if (!numbers_.contains(member.child)) {
-            findings_.add({Severity::error, "missing-sub-recipe", member.recipe, member.id,
+    void readInclusion(const Member& member) {
+        const auto child = numberOf(recipes_, member.child);
+        if (!child) {
+            findings_.add({Severity::error, "missing-sub-recipe", entryOf(member), member.id,
                            "The sub-recipe with the ID " + std::to_string(member.child) + " does not exist.",
                            "Delete the member or choose an existing recipe."});
         }
-        if (member.recipe == nullptr || parentSaves || !isBlank(member.variable)) return;
-        findings_.add({Severity::error, "no-file-name", member.recipe, member.id,
-                       "The sub-recipe" + nameOf(member.child) + " has no variable for its file name.",
+        if (!member.recipe) return;
+        if (child) inclusions_.push_back({*member.recipe, *child});
+        if (saves_[*member.recipe] || !isBlank(member.variable)) return;
+        const std::string name = child ? " " + inQuotes(recipes_[*child].name) : std::string();
+        findings_.add({Severity::error, "no-file-name", entryOf(member), member.id,
+                       "The sub-recipe" + name + " has no variable for its file name.",
                        "Choose one, or let the recipe save the values of its sub-recipes."});
     }
 
-    [[nodiscard]] std::string nameOf(std::int64_t recipe) const {
-        const auto found = numbers_.find(recipe);
-        return found == numbers_.end() ? std::string() : " " + inQuotes(recipes_[found->second].name);
+    [[nodiscard]] const RecipeEntry* entryOf(const Member& member) const {
+        return member.recipe ? &recipes_[*member.recipe] : nullptr;
     }
 
     void reportOrphan(const Member& member) {
@@ -119,13 +119,13 @@ class Check {
     }
 
     void reportUnknown(const Member& member) {
-        findings_.add({Severity::warning, "unknown-variable", member.recipe, member.id,
+        findings_.add({Severity::warning, "unknown-variable", entryOf(member), member.id,
                        "The variable " + inQuotes(member.variable) + " is not in the variable list.",
                        "Add the variable to the list or choose another one."});
     }
 
     void compareTriggers() {
-        for (const auto& [folded, uses] : triggers_) {
+        for (const auto& uses : triggerUses_) {
             const TriggerUse& first = uses.front();
             std::string others;
             for (const TriggerUse& use : uses) {
@@ -145,8 +145,7 @@ class Check {
     }
 
     void findCycles() {
-        const RecipeGraph graph(recipes_, inclusions_);
-        for (const auto& cycle : graph.cycles()) {
+        for (const auto& cycle : recipe::cyclesOf({recipes_.size(), inclusions_}).ways) {
             std::string way;
             for (const std::size_t recipe : cycle) way += inQuotes(recipes_[recipe].name) + " > ";
             findings_.add({Severity::error,
@@ -162,10 +161,10 @@ class Check {
     FindingWriter& findings_;
     NameSet variables_;
     std::vector<RecipeEntry> recipes_;
-    std::vector<bool> saves_;  // the values of sub-recipes
-    std::unordered_map<std::int64_t, std::size_t> numbers_;
-    std::vector<Inclusion> inclusions_;
-    std::map<std::string, std::vector<TriggerUse>> triggers_;  // by the folded name
+    std::vector<bool> saves_;                      // the values of sub-recipes
+    std::vector<recipe::Links::Link> inclusions_;  // of recipes that exist
+    NameSet triggers_;
+    std::vector<std::vector<TriggerUse>> triggerUses_;  // by the trigger's number
 };
 
 }  // namespace

@@ -13,6 +13,11 @@ constexpr std::size_t firstSlots = 1024;
 constexpr int placeBits = 40;
 constexpr std::uint64_t placeMask = (std::uint64_t{1} << placeBits) - 1;
 
+/// What stands before each text.
+struct Head {
+    std::uint32_t length, number;
+};
+
 std::size_t hashOf(std::string_view text) { return std::hash<std::string_view>()(text); }
 // The upper bits of the hash; the lower ones choose the slot.
 std::uint64_t tagOf(std::size_t hash) { return hash & ~placeMask; }
@@ -21,15 +26,16 @@ std::uint64_t tagOf(std::size_t hash) { return hash & ~placeMask; }
 
 NameSet::NameSet() : texts_(1, '\0'), slots_(firstSlots) {}
 
-void NameSet::add(std::string_view name) {
+std::size_t NameSet::add(std::string_view name) {
     const std::string_view folded = fold(name);
     const std::size_t hash = hashOf(folded);
     const std::size_t at = slotOf(folded, hash);
-    if (slots_[at] != 0) return;
+    if (slots_[at] != 0) return entryAt(slots_[at]).number;
     slots_[at] = tagOf(hash) | texts_.size();
-    const std::size_t length = folded.size();
-    texts_.append(reinterpret_cast<const char*>(&length), sizeof length).append(folded);
+    const Head head{static_cast<std::uint32_t>(folded.size()), static_cast<std::uint32_t>(count_)};
+    texts_.append(reinterpret_cast<const char*>(&head), sizeof head).append(folded);
     if (++count_ * 2 > slots_.size()) grow();
+    return head.number;
 }
 
 bool NameSet::contains(std::string_view name) {
@@ -41,15 +47,15 @@ std::size_t NameSet::slotOf(std::string_view folded, std::size_t hash) const {
     const std::size_t mask = slots_.size() - 1;
     for (std::size_t at = hash & mask;; at = (at + 1) & mask) {
         const Slot slot = slots_[at];
-        if (slot == 0 || ((slot & ~placeMask) == tagOf(hash) && textAt(slot) == folded)) return at;
+        if (slot == 0 || ((slot & ~placeMask) == tagOf(hash) && entryAt(slot).text == folded)) return at;
     }
 }
 
-std::string_view NameSet::textAt(Slot slot) const {
+NameSet::Entry NameSet::entryAt(Slot slot) const {
     const char* place = texts_.data() + (slot & placeMask);
-    std::size_t length = 0;
-    std::memcpy(&length, place, sizeof length);
-    return {place + sizeof length, length};
+    Head head{};
+    std::memcpy(&head, place, sizeof head);
+    return {{place + sizeof head, head.length}, head.number};
 }
 
 void NameSet::grow() {
@@ -58,7 +64,7 @@ void NameSet::grow() {
     const std::size_t mask = slots_.size() - 1;
     for (const Slot slot : old) {
         if (slot == 0) continue;
-        std::size_t at = hashOf(textAt(slot)) & mask;
+        std::size_t at = hashOf(entryAt(slot).text) & mask;
         while (slots_[at] != 0) at = (at + 1) & mask;
         slots_[at] = slot;
     }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -22,6 +23,9 @@ struct Inclusion {
     std::int64_t child = 0;  ///< may name no recipe
     std::string fileVariable;
 };
+
+/// Where the recipe with this ID stands in what ProjectReader::recipes() gave; nothing when there is none.
+[[nodiscard]] std::optional<std::size_t> numberOf(const std::vector<RecipeEntry>& recipes, std::int64_t id);
 
 /// A project that is read and never changed; everything read is as of one moment. Throws automation::Error when the
 /// file cannot be read or is no project.

@@ -7,28 +7,31 @@
 
 namespace hx::cli {
 
+using recipe::Branch;
+using recipe::BranchMark;
+using recipe::Use;
 using sqlite::Statement;
 
 namespace {
 
-std::string_view nameOf(Branch::Mark mark) {
+std::string_view nameOf(BranchMark mark) {
     switch (mark) {
-        case Branch::Mark::none: return "";
-        case Branch::Mark::missing: return "missing";
-        case Branch::Mark::cycle: return "cycle";
-        case Branch::Mark::repeated: return "repeated";
-        case Branch::Mark::deeper: return "deeper";
+        case BranchMark::none: return "";
+        case BranchMark::missing: return "missing";
+        case BranchMark::cycle: return "cycle";
+        case BranchMark::repeated: return "repeated";
+        case BranchMark::deeper: return "deeper";
     }
     return "";
 }
 
-std::string_view explanationOf(Branch::Mark mark) {
+std::string_view explanationOf(BranchMark mark) {
     switch (mark) {
-        case Branch::Mark::none: return "";
-        case Branch::Mark::missing: return " - does not exist";
-        case Branch::Mark::cycle: return " - contains itself";
-        case Branch::Mark::repeated: return " - see above";
-        case Branch::Mark::deeper: return " - goes on deeper";
+        case BranchMark::none: return "";
+        case BranchMark::missing: return " - does not exist";
+        case BranchMark::cycle: return " - contains itself";
+        case BranchMark::repeated: return " - see above";
+        case BranchMark::deeper: return " - goes on deeper";
     }
     return "";
 }
@@ -66,10 +69,9 @@ class Shown {
     [[nodiscard]] Json tree() const {
         Json result = Json::array();
         for (const Branch& branch : graph_.tree(number_)) {
-            const Inclusion& inclusion = *branch.inclusion;
+            const Inclusion& inclusion = inclusions_[branch.inclusion];
             Json line = {{"depth", branch.depth}, {"member", inclusion.member}, {"id", inclusion.child}};
-            const auto child = graph_.numberOf(inclusion.child);
-            line["name"] = child ? Json(graph_.recipe(*child).name) : Json(nullptr);
+            line["name"] = branch.recipe ? Json(graph_.recipe(*branch.recipe).name) : Json(nullptr);
             line["fileNameVariable"] = inclusion.fileVariable;
             line["mark"] = nameOf(branch.mark);
             result.push_back(std::move(line));
@@ -81,10 +83,10 @@ class Shown {
     [[nodiscard]] std::vector<std::string> treeLines() const {
         std::vector<std::string> lines;
         for (const Branch& branch : graph_.tree(number_)) {
-            const Inclusion& inclusion = *branch.inclusion;
-            const auto child = graph_.numberOf(inclusion.child);
+            const Inclusion& inclusion = inclusions_[branch.inclusion];
             std::string line(2 * branch.depth, ' ');
-            line += child ? inQuotes(graph_.recipe(*child).name) : "ID " + std::to_string(inclusion.child);
+            line +=
+                branch.recipe ? inQuotes(graph_.recipe(*branch.recipe).name) : "ID " + std::to_string(inclusion.child);
             if (!inclusion.fileVariable.empty()) line += ", file name " + inQuotes(inclusion.fileVariable);
             lines.push_back(line.append(explanationOf(branch.mark)));
         }

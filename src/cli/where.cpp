@@ -121,7 +121,7 @@ class Search {
         for (const Reference& reference : references_) {
             if (const auto number = graph_.numberOf(reference.recipe)) direct.insert(*number);
         }
-        for (const Use& use : graph_.uses({direct.begin(), direct.end()})) {
+        for (const recipe::Use& use : graph_.uses({direct.begin(), direct.end()})) {
             if (direct.contains(use.recipe)) continue;
             references_.push_back(
                 {Reference::Kind::indirect, graph_.recipe(use.recipe).id, 0, {}, graph_.recipe(use.through).id});

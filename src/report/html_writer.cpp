@@ -81,9 +81,9 @@ class Writer {
     void writeProperties(const std::vector<Property>& properties);
     void writeSwitches(const Section& section);
     void writeVariables(const RecipeData& recipe);
-    void writeTree(const Tree& tree);
-    void writeBranch(const Branch& branch);
-    void writeUses(const Uses& uses, std::size_t self);
+    void writeTree(const recipe::Tree& tree);
+    void writeBranch(const recipe::Branch& branch);
+    void writeUses(const recipe::Uses& uses, std::size_t self);
     void markSelf(std::size_t user, std::size_t self);
 
     const Report& report_;
@@ -189,14 +189,14 @@ void Writer::writeVariables(const RecipeData& recipe) {
     out("</ul>\n");
 }
 
-void Writer::writeTree(const Tree& tree) {
+void Writer::writeTree(const recipe::Tree& tree) {
     std::size_t own = 0;
-    for (const Branch& branch : tree.branches) own += branch.depth == 0 ? 1 : 0;
+    for (const recipe::Branch& branch : tree.branches) own += branch.depth == 0 ? 1 : 0;
     heading(texts_.caption(captionSubRecipes), own);
     if (tree.branches.empty()) return none(Text::noSubRecipes);
     out("<div class=\"tree\">\n");
     std::size_t open = 0;  // lists that are open: one more than the depth of the line before
-    for (const Branch& branch : tree.branches) {
+    for (const recipe::Branch& branch : tree.branches) {
         const std::size_t wanted = branch.depth + 1;
         if (open < wanted) out("<ul>\n");
         else out("</li>\n");
@@ -210,14 +210,15 @@ void Writer::writeTree(const Tree& tree) {
     if (tree.cut) none(Text::subRecipesCut);
 }
 
-void Writer::writeBranch(const Branch& branch) {
+void Writer::writeBranch(const recipe::Branch& branch) {
     if (branch.recipe) link(*branch.recipe);
     else span("missing-name", report_.branchName(branch));
-    if (branch.mark != BranchMark::none) {
-        const bool cycle = branch.mark == BranchMark::cycle, missing = branch.mark == BranchMark::missing;
+    if (branch.mark != recipe::BranchMark::none) {
+        const bool cycle = branch.mark == recipe::BranchMark::cycle,
+                   missing = branch.mark == recipe::BranchMark::missing;
         remark(cycle ? "mark cycle" : missing ? "mark missing" : "mark", report_.branchNote(branch));
     }
-    if (!branch.inclusion->fileVariable.empty()) remark("file", branch.inclusion->fileVariable);
+    if (const std::string& file = report_.branchFile(branch); !file.empty()) remark("file", file);
     out("\n");
 }
 
@@ -226,17 +227,17 @@ void Writer::markSelf(std::size_t user, std::size_t self) {
     if (user == self) remark("mark cycle", texts_.text(Text::branchCycle));
 }
 
-void Writer::writeUses(const Uses& uses, std::size_t self) {
-    heading(texts_.text(Text::usedIn), uses.direct.size() + uses.indirect.size());
-    if (uses.direct.empty()) return none(Text::notUsed);
+void Writer::writeUses(const recipe::Uses& uses, std::size_t self) {
+    heading(texts_.text(Text::usedIn), uses.list.size());
+    if (uses.list.empty()) return none(Text::notUsed);
     out("<ul class=\"uses\">\n");
-    for (const std::size_t recipe : uses.direct) {
+    for (const recipe::Use& use : uses.direct()) {
         out("<li>");
-        link(recipe);
-        markSelf(recipe, self);
+        link(use.recipe);
+        markSelf(use.recipe, self);
         out("</li>\n");
     }
-    for (const IndirectUse& use : uses.indirect) {
+    for (const recipe::Use& use : uses.indirect()) {
         out("<li>");
         link(use.recipe);
         markSelf(use.recipe, self);

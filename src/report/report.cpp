@@ -1,11 +1,16 @@
 #include "report/report.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "automation/convert.h"
 #include "host/paths.h"
 
 namespace hx::report {
+
+using recipe::Branch;
+using recipe::BranchMark;
+using recipe::InclusionGraph;
 
 namespace {
 
@@ -26,11 +31,31 @@ std::string nameOfFile(std::string_view path) {
 
 std::string withoutDots(std::string text) { return text.substr(0, text.find_last_not_of('.') + 1); }
 
+std::vector<const Inclusion*> inclusionsOf(const ProjectData& data) {
+    std::vector<const Inclusion*> inclusions;
+    for (const RecipeData& recipe : data.recipes()) {
+        for (const Inclusion& inclusion : recipe.subRecipes) inclusions.push_back(&inclusion);
+    }
+    return inclusions;
+}
+
+// The inclusions in the order of inclusionsOf().
+InclusionGraph graphOf(const ProjectData& data) {
+    std::vector<InclusionGraph::Inclusion> inclusions;
+    for (std::size_t parent = 0; parent < data.recipes().size(); ++parent) {
+        for (const Inclusion& inclusion : data.recipes()[parent].subRecipes) {
+            inclusions.push_back({parent, data.find(inclusion.child).value_or(InclusionGraph::noRecipe)});
+        }
+    }
+    return {data.recipes().size(), std::move(inclusions)};
+}
+
 }  // namespace
 
 Report::Report(ProjectData data, Texts texts, std::string projectFile, const Moment& created)
     : data_(std::move(data)),
-      graph_(data_),
+      inclusions_(inclusionsOf(data_)),
+      graph_(graphOf(data_)),
       texts_(std::move(texts)),
       projectFile_(std::move(projectFile)),
       projectName_(nameOfFile(projectFile_)),
@@ -55,6 +80,7 @@ std::vector<Property> Report::summary() const {
 }
 
 void Report::find() {
+    const std::vector<bool> inCycle = graph_.cycles().nodes;
     std::size_t more = 0;
     const auto add = [&](std::string finding) {
         if (findings_.size() < mostFindings) findings_.push_back(std::move(finding));
@@ -62,7 +88,7 @@ void Report::find() {
     };
     if (data_.orphans() > 0) add(texts_.text(Text::findingOrphans, {texts_.number(data_.orphans())}));
     for (std::size_t i = 0; i < recipes().size(); ++i) {
-        if (graph_.inCycle(i)) add(texts_.text(Text::findingCycle, {nameOf(i)}));
+        if (inCycle[i]) add(texts_.text(Text::findingCycle, {nameOf(i)}));
         for (const Inclusion& inclusion : recipes()[i].subRecipes) {
             if (data_.find(inclusion.child)) continue;
             add(texts_.text(Text::findingMissing, {nameOf(i), std::to_string(inclusion.child)}));
@@ -82,8 +108,14 @@ Section Report::section(std::size_t recipe) const {
             groupsOf(data),
             texts_.caption(caption::options),
             switchesOf(data),
-            graph_.tree(recipe),
-            graph_.uses(recipe)};
+            graph_.tree(recipe, {.depth = deepest, .branches = mostBranches}),
+            usesOf(recipe)};
+}
+
+recipe::Uses Report::usesOf(std::size_t recipe) const {
+    recipe::Uses uses = graph_.uses({recipe}, mostIndirect);
+    std::ranges::sort(std::span(uses.list).subspan(uses.directCount), {}, &recipe::Use::recipe);
+    return uses;
 }
 
 std::vector<PropertyGroup> Report::groupsOf(const RecipeData& recipe) const {
@@ -118,7 +150,11 @@ std::vector<Switch> Report::switchesOf(const RecipeData& recipe) const {
 
 std::string Report::branchName(const Branch& branch) const {
     if (branch.recipe) return nameOf(*branch.recipe);
-    return texts_.text(Text::missingName, {std::to_string(branch.inclusion->child)});
+    return texts_.text(Text::missingName, {std::to_string(inclusions_[branch.inclusion]->child)});
+}
+
+const std::string& Report::branchFile(const Branch& branch) const {
+    return inclusions_[branch.inclusion]->fileVariable;
 }
 
 std::string Report::branchNote(const Branch& branch) const {

@@ -5,8 +5,8 @@
 #include <string_view>
 #include <vector>
 
+#include "recipe/inclusion_graph.h"
 #include "report/project_data.h"
-#include "report/recipe_graph.h"
 #include "report/report_texts.h"
 
 namespace hx::report {
@@ -34,8 +34,8 @@ struct Section {
     std::vector<PropertyGroup> groups;
     std::string switchesCaption;
     std::vector<Switch> switches;
-    Tree tree;
-    Uses uses;
+    recipe::Tree tree;
+    recipe::Uses uses;  ///< the indirect ones in the order of the recipes
 };
 
 /// The report on a project: what it says, in one language, without a form. Sections are made when they are asked for.
@@ -43,6 +43,8 @@ class Report {
   public:
     /// At most so many findings are listed at the front.
     static constexpr std::size_t mostFindings = 50;
+    /// So far goes a section; what is cut off stands with the sub-recipes themselves.
+    static constexpr std::size_t mostBranches = 1000, mostIndirect = 1000, deepest = 24;
 
     Report(ProjectData data, Texts texts, std::string projectFile, const Moment& created);
     Report(const Report&) = delete;
@@ -64,17 +66,21 @@ class Report {
     /// The name, or a text that says that there is none.
     [[nodiscard]] std::string nameOf(std::size_t recipe) const;
     [[nodiscard]] Section section(std::size_t recipe) const;
-    /// What a branch of a tree is called, and what its mark says; empty without a mark.
-    [[nodiscard]] std::string branchName(const Branch& branch) const;
-    [[nodiscard]] std::string branchNote(const Branch& branch) const;
+    /// What a branch of a tree is called, the variable that names its file, and what its mark says; empty without a
+    /// mark.
+    [[nodiscard]] std::string branchName(const recipe::Branch& branch) const;
+    [[nodiscard]] const std::string& branchFile(const recipe::Branch& branch) const;
+    [[nodiscard]] std::string branchNote(const recipe::Branch& branch) const;
 
   private:
     void find();
+    [[nodiscard]] recipe::Uses usesOf(std::size_t recipe) const;
     [[nodiscard]] std::vector<PropertyGroup> groupsOf(const RecipeData& recipe) const;
     [[nodiscard]] std::vector<Switch> switchesOf(const RecipeData& recipe) const;
 
     ProjectData data_;
-    RecipeGraph graph_;
+    std::vector<const Inclusion*> inclusions_;  // of all recipes, as the graph numbers them
+    recipe::InclusionGraph graph_;
     Texts texts_;
     std::string projectFile_, projectName_;
     Moment created_;

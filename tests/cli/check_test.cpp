@@ -1,5 +1,7 @@
-#include "cli/cycles.h"
+#include <limits>
+
 #include "cli/name_set.h"
+#include "cli/project_reader.h"
 #include "run_cli.h"
 
 namespace hx::cli {
@@ -115,22 +117,38 @@ TEST_F(Check, ThatCannotReadSaysSoWithAStatusOfItsOwn) {
     EXPECT_EQ(hxrecipe({"check"}).status, 2);
 }
 
-using Ways = std::vector<std::vector<std::size_t>>;
-
-TEST(Cycles, AreFoundOnceForEachGroup) {
-    EXPECT_EQ(cyclesOf({}), Ways{});
-    EXPECT_EQ(cyclesOf({{1}, {2}, {}}), Ways{});
-    EXPECT_EQ(cyclesOf({{0}, {1, 1}}), (Ways{{0}, {1}}));
-    EXPECT_EQ(cyclesOf({{1}, {2}, {0, 3}, {4}, {3}}), (Ways{{0, 1, 2}, {3, 4}}));
-    EXPECT_EQ(cyclesOf({{1, 2}, {2}, {0}}), (Ways{{0, 2}}));  // the shorter way
+TEST_F(Check, FindsTwoTriggersInTheOrderOfTheRecipes) {
+    const std::string results = check(recipes + std::string("UPDATE TrcpRecipe SET VarLoad = 'V' WHERE ID IN (1, 3);"
+                                                            "UPDATE TrcpRecipe SET VarRead = 'F' WHERE ID IN (1, 2);"))
+                                    .results;
+    const auto v = results.find("variable \"V\" (VarLoad) also triggers \"C\"");
+    const auto f = results.find("variable \"F\" (VarRead) also triggers \"B\"");
+    EXPECT_LT(v, f);
+    EXPECT_NE(f, std::string::npos);
 }
 
-TEST(Cycles, MayBeAsLongAsAProject) {
-    constexpr std::size_t size = 200'000;
-    std::vector<std::vector<std::size_t>> ring(size);
-    for (std::size_t i = 0; i < size; ++i) ring[i] = {(i + 1) % size};
-    ASSERT_EQ(cyclesOf(ring).size(), 1U);
-    EXPECT_EQ(cyclesOf(ring)[0].size(), size);
+TEST(RecipeNumbers, AreFoundByIdHoweverManyAreMissing) {
+    constexpr std::int64_t least = std::numeric_limits<std::int64_t>::min();
+    constexpr std::int64_t most = std::numeric_limits<std::int64_t>::max();
+    for (const std::vector<std::int64_t>& ids :
+         {std::vector<std::int64_t>{}, {1}, {1, 2, 3}, {5, 9, 10, 11, 400}, {least, -1, 0, 7, most}}) {
+        std::vector<RecipeEntry> recipes;
+        for (const std::int64_t id : ids) recipes.push_back({id, ""});
+        for (std::size_t i = 0; i < ids.size(); ++i) EXPECT_EQ(numberOf(recipes, ids[i]), i) << ids[i];
+        for (const std::int64_t id : {least + 1, std::int64_t{-2}, std::int64_t{4}, std::int64_t{12}, most - 1}) {
+            EXPECT_EQ(numberOf(recipes, id), std::nullopt) << id;
+        }
+    }
+}
+
+TEST(Names, HaveTheNumberOfTheirFirstAppearance) {
+    NameSet names;
+    EXPECT_EQ(names.add("a"), 0U);
+    EXPECT_EQ(names.add("Ö"), 1U);
+    EXPECT_EQ(names.add("A"), 0U);
+    EXPECT_EQ(names.add(""), 2U);
+    for (std::size_t i = 0; i < 5000; ++i) EXPECT_EQ(names.add("name " + std::to_string(i)), 3 + i);
+    EXPECT_EQ(names.add("ö"), 1U);
 }
 
 TEST(Names, AreFoundIgnoringCaseAmongMany) {

@@ -66,6 +66,52 @@ TEST(ReportSection, OptionsAreSwitches) {
                             "Rezeptdateien verschlüsseln=0"}));
 }
 
+TEST(ReportSection, BranchesHaveTheNameFileAndNoteOfTheirSubRecipe) {
+    RecipeData mix = recipe(7, "Mix", {3, 99, 7});
+    mix.subRecipes[0].fileVariable = "Datei";
+    const Report report({{recipe(3, "Basis", {99}), mix}, 0}, textsIn(german), "Anlage.hxs", someDay);
+    Lines lines;
+    for (const recipe::Branch& branch : report.section(1).tree.branches) {
+        lines.push_back(std::to_string(branch.depth) + " " + report.branchName(branch) + "|" +
+                        report.branchFile(branch) + "|" + report.branchNote(branch));
+    }
+    EXPECT_EQ(lines,
+              (Lines{"0 Basis|Datei|", "1 Rezept Nummer 99||fehlt", "0 Rezept Nummer 99||fehlt", "0 Mix||Kreis"}));
+}
+
+TEST(ReportSection, IndirectUsesStandInTheOrderOfTheReport) {
+    // The nearest user comes last in the report.
+    const Report report(
+        {{recipe(1, "A", {2}), recipe(2, "B", {4}), recipe(3, "C", {5}), recipe(4, "D", {3}), recipe(5, "E")}, 0},
+        textsIn(german), "Anlage.hxs", someDay);
+    const recipe::Uses uses = report.section(4).uses;
+    ASSERT_EQ(uses.direct().size(), 1U);
+    EXPECT_EQ(report.nameOf(uses.direct()[0].recipe), "C");
+    Lines lines;
+    for (const recipe::Use& use : uses.indirect()) {
+        lines.push_back(report.nameOf(use.recipe) + " through " + report.nameOf(use.through));
+    }
+    EXPECT_EQ(lines, (Lines{"A through B", "B through D", "D through C"}));
+}
+
+TEST(ReportSection, EndsWhereItWouldBecomeTooLong) {
+    std::vector<RecipeData> recipes;
+    const auto last = static_cast<std::int32_t>(Report::mostIndirect) + 5;
+    for (std::int32_t id = 1; id < last; ++id) recipes.push_back(recipe(id, std::to_string(id), {id + 1}));
+    recipes.push_back(recipe(last, "last", std::vector<std::int32_t>(Report::mostBranches + 1, 9999)));
+    const Report report({std::move(recipes), 0}, textsIn(german), "Anlage.hxs", someDay);
+    std::size_t at = 0;
+    while (report.nameOf(at) != "last") ++at;
+    const Section end = report.section(at);
+    EXPECT_EQ(end.tree.branches.size(), Report::mostBranches);
+    EXPECT_TRUE(end.tree.cut);
+    EXPECT_EQ(end.uses.indirect().size(), Report::mostIndirect);
+    EXPECT_TRUE(end.uses.cut);
+    at = 0;
+    while (report.nameOf(at) != "1") ++at;
+    EXPECT_EQ(report.section(at).tree.branches.size(), Report::deepest);
+}
+
 TEST(ReportFront, NamesProjectFileDateAndContent) {
     RecipeData mix = recipe(1, "Mix", {2});
     mix.variables.assign(1234, "x");

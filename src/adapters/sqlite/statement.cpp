@@ -69,7 +69,7 @@ bool Statement::isReadOnly() const noexcept { return sqlite3_stmt_readonly(state
 
 ado::Key Statement::key(int column) const noexcept { return sqlite3_column_int64(statement_.get(), column); }
 
-std::string Statement::text(int column) const {
+std::string_view Statement::textView(int column) const {
     const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(statement_.get(), column));
     if (text == nullptr) return {};
     return {text, static_cast<std::size_t>(sqlite3_column_bytes(statement_.get(), column))};

@@ -37,7 +37,9 @@ class Statement {
     /// The value as ADO gives it for a column of the type. What another program stored in another type is converted as
     /// SQLite converts it.
     [[nodiscard]] automation::Variant value(int column, ado::DataType type) const;
-    [[nodiscard]] std::string text(int column) const;
+    [[nodiscard]] std::string text(int column) const { return std::string(textView(column)); }
+    /// The same without a copy: valid until the next step or reset.
+    [[nodiscard]] std::string_view textView(int column) const;
     /// What the value itself is: adInteger, adDouble, adVarWChar; adEmpty for a missing one.
     [[nodiscard]] ado::DataType storedType(int column) const noexcept;
 

@@ -208,19 +208,25 @@ void RowMaker::addVariables(Rows& rows, const RecipeData& recipe) const {
     }
 }
 
-void RowMaker::addTree(Rows& rows, const Tree& tree) const {
-    const auto own = std::ranges::count(tree.branches, std::size_t{0}, &Branch::depth);
+void RowMaker::addTree(Rows& rows, const recipe::Tree& tree) const {
+    const auto own = std::ranges::count(tree.branches, std::size_t{0}, &recipe::Branch::depth);
     const QString heading = toQt(texts_.caption(captionSubRecipes));
     addHeading(rows, own == 0 ? heading : heading + QStringLiteral(" (%1)").arg(own));
     if (own == 0) return addNote(rows, Text::noSubRecipes);
-    for (const Branch& branch : tree.branches) rows.push_back(branchRow(branch));
+    std::vector<bool> goesOn;
+    for (const recipe::Branch& branch : tree.branches) {
+        goesOn.resize(branch.depth);
+        rows.push_back(branchRow(branch, goesOn));
+        goesOn.push_back(!branch.last);
+    }
     if (tree.cut) addNote(rows, Text::subRecipesCut);
 }
 
-Row RowMaker::branchRow(const Branch& branch) const {
+// `goesOn` tells of each depth above whether more comes below this line.
+Row RowMaker::branchRow(const recipe::Branch& branch, const std::vector<bool>& goesOn) const {
     const double depth = static_cast<double>(branch.depth), start = (depth + 1) * indent;
     const double fileAt = std::max(start + 2400, width_ * 0.56), fileWidth = width_ - pageWidth - fileAt - gap;
-    const bool bad = branch.mark == BranchMark::cycle || branch.mark == BranchMark::missing;
+    const bool bad = branch.mark == recipe::BranchMark::cycle || branch.mark == recipe::BranchMark::missing;
     const QString name = toQt(report_.branchName(branch)), note = toQt(report_.branchNote(branch));
     const double room = fileAt - start - gap;
     Row row;
@@ -236,33 +242,33 @@ Row RowMaker::branchRow(const Branch& branch) const {
         cell.y = beside ? 0 : below;
         row.cells.push_back(std::move(cell));
     }
-    if (!branch.inclusion->fileVariable.empty()) {
-        row.cells.push_back(text(fileAt, fileWidth, toQt(branch.inclusion->fileVariable), faces_.small, Tone::muted));
+    if (const std::string& file = report_.branchFile(branch); !file.empty()) {
+        row.cells.push_back(text(fileAt, fileWidth, toQt(file), faces_.small, Tone::muted));
     }
     if (branch.recipe) row.cells.push_back(page(*branch.recipe));
     fit(row, 0);
     const double middle = faces_.body.lineHeight() / 2, x = depth * indent + indent / 3;
     for (std::size_t level = 0; level < branch.depth; ++level) {
         const double at = static_cast<double>(level) * indent + indent / 3;
-        if ((branch.passing >> level & 1) != 0) row.lines.emplace_back(at, 0, at, row.height);
+        if (goesOn[level]) row.lines.emplace_back(at, 0, at, row.height);
     }
     row.lines.emplace_back(x, 0, x, branch.last ? middle : row.height);
     row.lines.emplace_back(x, middle, start - padding, middle);
     return row;
 }
 
-void RowMaker::addUses(Rows& rows, const Uses& uses, std::size_t self) const {
-    const auto count = uses.direct.size() + uses.indirect.size();
+void RowMaker::addUses(Rows& rows, const recipe::Uses& uses, std::size_t self) const {
+    const auto count = uses.list.size();
     const QString heading = toQt(texts_.text(Text::usedIn));
     addHeading(rows, count == 0 ? heading : heading + QStringLiteral(" (%1)").arg(toQt(texts_.number(count))));
     if (count == 0) return addNote(rows, Text::notUsed);
     constexpr std::size_t columns = 2;
     const double between = 3 * gap, column = (width_ - between) / columns;
-    for (std::size_t i = 0; i < uses.direct.size(); ++i) {
+    for (std::size_t i = 0; i < uses.directCount; ++i) {
         if (i % columns == 0) rows.push_back({});
-        addUse(rows.back(), (column + between) * static_cast<double>(i % columns), column, uses.direct[i], self);
+        addUse(rows.back(), (column + between) * static_cast<double>(i % columns), column, uses.list[i].recipe, self);
     }
-    for (const IndirectUse& use : uses.indirect) {
+    for (const recipe::Use& use : uses.indirect()) {
         rows.push_back({});
         const std::string through = texts_.text(Text::usedThrough, {report_.nameOf(use.through)});
         addUse(rows.back(), 0, column, use.recipe, self);

@@ -1,23 +1,22 @@
-#include "cli/cycles.h"
+#include "recipe/cycles.h"
 
 #include <algorithm>
 #include <limits>
 
-namespace hx::cli {
+namespace hx::recipe {
 
 namespace {
 
-using Targets = std::vector<std::vector<std::size_t>>;
 constexpr std::size_t none = std::numeric_limits<std::size_t>::max();
 
 /// Gives each node the number of its group (Tarjan), without recursion: a chain may be as long as the project.
 class Groups {
   public:
-    explicit Groups(const Targets& targets)
-        : targets_(targets), order_(targets.size(), none), lowest_(targets.size()), group_(targets.size(), none) {}
+    explicit Groups(const Links& targets)
+        : targets_(targets), order_(targets.nodes(), none), lowest_(targets.nodes()), group_(targets.nodes(), none) {}
 
     std::vector<std::size_t> run() {
-        for (std::size_t node = 0; node < targets_.size(); ++node) {
+        for (std::size_t node = 0; node < targets_.nodes(); ++node) {
             if (order_[node] == none) follow(node);
         }
         return std::move(group_);
@@ -32,11 +31,12 @@ class Groups {
         enter(start);
         while (!way_.empty()) {
             auto& [node, next] = way_.back();
-            if (next == targets_[node].size()) {
+            const auto targets = targets_.of(node);
+            if (next == targets.size()) {
                 leave();
                 continue;
             }
-            const std::size_t target = targets_[node][next++];
+            const std::size_t target = targets[next++];
             if (order_[target] == none) enter(target);
             else if (group_[target] == none) lowest_[node] = std::min(lowest_[node], order_[target]);
         }
@@ -61,7 +61,7 @@ class Groups {
         ++groups_;
     }
 
-    const Targets& targets_;
+    const Links& targets_;
     std::vector<std::size_t> order_, lowest_, group_;
     std::vector<std::size_t> waiting_;
     std::vector<Step> way_;
@@ -69,11 +69,11 @@ class Groups {
 };
 
 // The nodes from `start` to the one that leads back to it, all of one group; empty when there is no way.
-std::vector<std::size_t> wayAround(const Targets& targets, const std::vector<std::size_t>& group, std::size_t start,
+std::vector<std::size_t> wayAround(const Links& targets, const std::vector<std::size_t>& group, std::size_t start,
                                    std::vector<std::size_t>& from) {
     std::vector<std::size_t> front = {start};
     for (std::size_t i = 0; i < front.size(); ++i) {
-        for (const std::size_t target : targets[front[i]]) {
+        for (const std::size_t target : targets.of(front[i])) {
             if (target == start) {
                 std::vector<std::size_t> way;
                 for (std::size_t node = front[i]; node != start; node = from[node]) way.push_back(node);
@@ -91,17 +91,21 @@ std::vector<std::size_t> wayAround(const Targets& targets, const std::vector<std
 
 }  // namespace
 
-std::vector<std::vector<std::size_t>> cyclesOf(const Targets& targets) {
+Cycles cyclesOf(const Links& targets) {
     const std::vector<std::size_t> group = Groups(targets).run();
-    std::vector<std::vector<std::size_t>> cycles;
-    std::vector<bool> done(targets.size());
-    std::vector<std::size_t> from(targets.size(), none);
-    for (std::size_t node = 0; node < targets.size(); ++node) {
-        if (done[group[node]]) continue;
-        done[group[node]] = true;
-        if (auto way = wayAround(targets, group, node, from); !way.empty()) cycles.push_back(std::move(way));
+    Cycles cycles{{}, std::vector<bool>(targets.nodes())};
+    std::vector<bool> done(targets.nodes()), cyclic(targets.nodes());  // by the number of the group
+    std::vector<std::size_t> from(targets.nodes(), none);
+    for (std::size_t node = 0; node < targets.nodes(); ++node) {
+        if (!done[group[node]]) {
+            done[group[node]] = true;
+            auto way = wayAround(targets, group, node, from);
+            cyclic[group[node]] = !way.empty();
+            if (!way.empty()) cycles.ways.push_back(std::move(way));
+        }
+        cycles.nodes[node] = cyclic[group[node]];
     }
     return cycles;
 }
 
-}  // namespace hx::cli
+}  // namespace hx::recipe
