@@ -1,18 +1,12 @@
 #include "adapters/qt/help_texts.h"
 
-#include <array>
+#include "adapters/qt/language_text.h"
 
 namespace hx::qt {
 
 namespace {
 
-struct Entry {
-    HelpText text;
-    const char* german;
-    const char* english;
-};
-
-constexpr auto entries = std::to_array<Entry>({
+constexpr auto entries = std::to_array<LanguageText<HelpText>>({
     {HelpText::window, "Hilfe", "Help"},
     {HelpText::back, "Zurück", "Back"},
     {HelpText::forward, "Vorwärts", "Forward"},
@@ -45,11 +39,6 @@ constexpr auto entries = std::to_array<Entry>({
 
 }  // namespace
 
-QString helpText(HelpText text, const Wording& wording) {
-    for (const Entry& entry : entries) {
-        if (entry.text == text) return QString::fromUtf8(wording.isEnglish() ? entry.english : entry.german);
-    }
-    return {};
-}
+QString helpText(HelpText text, const Wording& wording) { return textOf(entries, text, wording.isEnglish()); }
 
 }  // namespace hx::qt

@@ -1,19 +1,14 @@
 #include "adapters/qt/wording.h"
 
 #include <QLocale>
-#include <array>
+
+#include "adapters/qt/language_text.h"
 
 namespace hx::qt {
 
 namespace {
 
-struct Entry {
-    Word word;
-    const char* german;
-    const char* english;
-};
-
-constexpr auto entries = std::to_array<Entry>({
+constexpr auto entries = std::to_array<LanguageText<Word>>({
     {Word::ok, "OK", "OK"},
     {Word::cancel, "Abbrechen", "Cancel"},
     {Word::yes, "&Ja", "&Yes"},
@@ -41,12 +36,7 @@ constexpr auto entries = std::to_array<Entry>({
 
 }  // namespace
 
-QString Wording::text(Word word) const {
-    for (const Entry& entry : entries) {
-        if (entry.word == word) return QString::fromUtf8(isEnglish() ? entry.english : entry.german);
-    }
-    return {};
-}
+QString Wording::text(Word word) const { return textOf(entries, word, isEnglish()); }
 
 QString Wording::number(std::size_t value) const {
     const QLocale locale(isEnglish() ? QLocale::English : QLocale::German);

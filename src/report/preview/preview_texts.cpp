@@ -1,19 +1,12 @@
 #include "report/preview/preview_texts.h"
 
-#include <algorithm>
-#include <array>
+#include "adapters/qt/language_text.h"
 
 namespace hx::report {
 
 namespace {
 
-struct Entry {
-    PreviewText text;
-    const char* german;
-    const char* english;
-};
-
-constexpr auto entries = std::to_array<Entry>({
+constexpr auto entries = std::to_array<qt::LanguageText<PreviewText>>({
     {PreviewText::pageReference, "S. %1", "p. %1"},
     {PreviewText::pageOfPages, "Seite %1 von %2", "Page %1 of %2"},
     {PreviewText::print, "Drucken", "Print"},
@@ -54,9 +47,6 @@ constexpr auto entries = std::to_array<Entry>({
 
 }  // namespace
 
-QString previewText(PreviewText text, const Texts& language) {
-    const auto entry = std::ranges::find(entries, text, &Entry::text);
-    return QString::fromUtf8(language.isEnglish() ? entry->english : entry->german);
-}
+QString previewText(PreviewText text, const Texts& language) { return qt::textOf(entries, text, language.isEnglish()); }
 
 }  // namespace hx::report
