@@ -74,6 +74,14 @@ class Connect : public host::CHX4Extensibility, public editor::AddIn {
     [[nodiscard]] const std::shared_ptr<editor::frmtabgrid>& editorWindow() const noexcept { return editor_; }
     [[nodiscard]] const EditorEmbedding& embedding() const noexcept { return embedding_; }
 
+    // --- for macros, by name; nothing while there is no editor
+    /// Opens the editor, unless it is open.
+    void OpenEditor() noexcept;
+    /// Makes the editor show a node of the recipe branch.
+    void SelectNode(const std::string& key);
+    /// Shows the explorer's selected node and brings the editor to the front.
+    void ShowSelectedNode();
+
     [[nodiscard]] const automation::MemberTable& members() const override;
 
   private:
@@ -86,7 +94,6 @@ class Connect : public host::CHX4Extensibility, public editor::AddIn {
     // Lifecycle.
     bool ReadLanguageChanged(bool& flag) noexcept;
     void start(const std::string& projectName, host::ProjectExplorer* explorer);
-    void OpenEditor() noexcept;
     void createEditor();
     void embedEditor();
     void fillEditor();
@@ -97,7 +104,6 @@ class Connect : public host::CHX4Extensibility, public editor::AddIn {
     [[nodiscard]] std::shared_ptr<editor::frmtabgrid> openWindow() const;
     void showNode(editor::frmtabgrid& window, const std::string& key);
     void SelectNode(editor::frmtabgrid& window, const std::string& key);
-    void ShowSelectedNode();
 
     const host::Services& services_;
     resources::ResourceTable resources_;

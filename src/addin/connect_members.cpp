@@ -41,6 +41,8 @@ void onKey(Connect& connect, const std::string& owner, const std::string& key, c
     (connect.*Event)({owner, key, third}, code, shift);
 }
 
+void selectNode(Connect& connect, const std::string& key) { connect.SelectNode(key); }
+
 void nodeKeyPress(Connect& connect, const std::string& owner, const std::string& key, const std::string& third,
                   std::int32_t character) {
     connect.NodeKeyPress({owner, key, third}, character);
@@ -66,6 +68,10 @@ const automation::MemberTable& Connect::members() const {
         method<&nodeKeyPress>("NodeKeyPress", "Owner, key, text, character"),
         method<&onKey<&Connect::NodeKeyUp>>("NodeKeyUp", "Owner, key, text, key code, shift"),
         method<&Connect::GetMessage>("GetMessage", "Sender, message, parameter; always empty"),
+        method<&Connect::OpenEditor>("OpenEditor", "Opens the editor, unless it is open"),
+        method<&Connect::RefreshView>("RefreshView", "Closes and reopens the editor with its connection and nodes"),
+        method<&selectNode>("SelectNode", "Makes the editor show the node of a key"),
+        method<&Connect::ShowSelectedNode>("ShowSelectedNode", "Shows the explorer's node and the editor in front"),
         property<&Connect::LanguageChanged>("LanguageChanged", "Whether the language has been read"),
         property<&Connect::ProjectPath>("ProjectPath", "The project's database file"),
         property<&Connect::ProjectName>("ProjectName", "The project's name"),

@@ -117,6 +117,12 @@ void Connect::SelectNode(editor::frmtabgrid& window, const std::string& nodeKey)
     window.refreshMembers();
 }
 
+void Connect::SelectNode(const std::string& nodeKey) {
+    event("Connect: SelectNode", [&] {
+        if (const auto window = openWindow()) SelectNode(*window, nodeKey);
+    });
+}
+
 void Connect::ShowSelectedNode() {
     if (explorer_ == nullptr) return;
     const host::NodeEvent node = explorer_->selectedNode();

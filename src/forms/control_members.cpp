@@ -54,6 +54,13 @@ void releaseMouse(Control& control, std::int16_t button, std::int16_t shift, dou
     control.mouseUp({button, shift, x, y});
 }
 
+// Controls that a click does more with have a Click of their own.
+void clickLeft(Control& control) {
+    if (!control.enabled()) return;
+    pressMouse(control, button::left, shift::none, 0, 0);
+    releaseMouse(control, button::left, shift::none, 0, 0);
+}
+
 }  // namespace
 
 const automation::MemberTable& Control::controlMembers() {
@@ -83,6 +90,7 @@ const automation::MemberTable& Control::controlMembers() {
         method<&pressMouse>("MouseDown", "A mouse button goes down: button, shift, x, y"),
         method<&moveMouse>("MouseMove", "The mouse moves: button, shift, x, y"),
         method<&releaseMouse>("MouseUp", "A mouse button goes up: button, shift, x, y"),
+        method<&clickLeft>("Click", "A click with the left button; nothing while it cannot be used"),
         method<&Control::doubleClick>("DblClick", "A double click"),
     };
     static constexpr automation::MemberTable table{"Control", rows};

@@ -69,6 +69,7 @@ std::string pathOf(const forms::Control& control) {
 automation::ObjectRef motherOf(CInit& inits) {
     return inits.Motherobject != nullptr ? inits.Motherobject->share() : nullptr;
 }
+automation::ObjectRef rootOf(CInit& inits) { return inits.root().share(); }
 
 }  // namespace
 
@@ -199,6 +200,7 @@ const automation::MemberTable& CInit::members() const {
     using namespace automation;
     static constexpr Member rows[] = {
         property<&motherOf>("Motherobject", "The window that entries are applied to and read from"),
+        property<&rootOf>("itms", "The entries at the top level"),
         method<&CInit::LoadDefaultInit>("LoadDefaultInit", "Fills the tree from the default text of a name"),
         method<&CInit::LoadInits>("LoadInits", "Overlays the entries with those of an INI file"),
         method<&CInit::SaveInits>("SaveInits", "Writes all entries to an INI file; an empty path is the last one"),

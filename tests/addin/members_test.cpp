@@ -57,9 +57,31 @@ TEST_F(Members, EveryMemberOfTheInterfaceIsAMethodInTheOrderOfItsSlots) {
     for (const automation::Member& row : studio.connect->members().rows) {
         if (row.kind == automation::MemberKind::method) methods.emplace_back(row.name);
     }
-    EXPECT_EQ(methods, (Texts{"Initialize", "StartupComplete", "Terminate", "Deactivate", "NodeClick", "NodeDblClick",
-                              "NodeExpand", "NodeMouseDown", "NodeMouseMove", "NodeMouseUp", "NodeKeyDown",
-                              "NodeKeyPress", "NodeKeyUp", "GetMessage"}));
+    EXPECT_EQ(methods,
+              (Texts{"Initialize", "StartupComplete", "Terminate", "Deactivate", "NodeClick", "NodeDblClick",
+                     "NodeExpand", "NodeMouseDown", "NodeMouseMove", "NodeMouseUp", "NodeKeyDown", "NodeKeyPress",
+                     "NodeKeyUp", "GetMessage", "OpenEditor", "RefreshView", "SelectNode", "ShowSelectedNode"}))
+        << "those of the interface first, then what macros call";
+}
+
+TEST_F(Members, WhatTheAddInDoesWithItsEditorIsCalledByName) {
+    studio.start();
+    call("SelectNode", {"RCPR1"});
+    call("ShowSelectedNode");
+    EXPECT_EQ(studio.connect->editorWindow(), nullptr) << "without an editor there is nothing to show";
+    call("OpenEditor");
+    ASSERT_NE(studio.connect->editorWindow(), nullptr);
+    call("SelectNode", {"RCPR1"});
+    EXPECT_EQ(studio.window().nodeKey(), "RCPR1");
+    studio.host.explorer.select("RCPU1");
+    call("ShowSelectedNode");
+    EXPECT_EQ(studio.window().nodeKey(), "RCPU1");
+    EXPECT_EQ(studio.host.record.broughtToFront.size(), 1u);
+    const auto before = studio.connect->editorWindow();
+    call("RefreshView");
+    EXPECT_NE(studio.connect->editorWindow(), before);
+    EXPECT_EQ(studio.window().nodeKey(), "RCPE0");
+    EXPECT_EQ(studio.boxes(), Texts{});
 }
 
 TEST_F(Members, EveryRowHasALineOfDocumentation) {

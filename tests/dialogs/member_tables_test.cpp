@@ -11,7 +11,7 @@ namespace {
 
 using support::walkTables;
 
-constexpr int formRows = 34, dialogRows = formRows + 2;
+constexpr int formRows = 35, dialogRows = formRows + 2;
 
 using DialogTables = DialogsTest;
 

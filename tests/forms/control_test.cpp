@@ -130,6 +130,18 @@ TEST_F(ControlTest, TakesTheUsersInputByName) {
     EXPECT_EQ(support::errorNumber([&] { call("KeyDown", {40}); }), automation::errBadParamCount);
 }
 
+TEST_F(ControlTest, IsClickedByNameUnlessItIsDisabled) {
+    std::string seen;
+    form->first->mouseDownEvent.connect(
+        [&](const MouseEvent& mouse) { seen += "press" + std::to_string(mouse.button) + ";"; });
+    form->first->mouseUpEvent.connect(
+        [&](const MouseEvent& mouse) { seen += "release" + std::to_string(mouse.button) + ";"; });
+    form->first->get("Click");
+    form->first->setEnabled(false);
+    form->first->get("Click");
+    EXPECT_EQ(seen, "press1;release1;");
+}
+
 TEST_F(ControlTest, KeysByNamePassTheFormFirstWhenItAsksForThem) {
     std::string seen;
     form->keyDownEvent.connect([&](KeyEvent& key) {

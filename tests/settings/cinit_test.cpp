@@ -341,6 +341,18 @@ TEST_F(CInitTest, AppliesTheEntriesOfAllControlsWithoutErrors) {
 
 // --- by name
 
+TEST_F(CInitTest, GivesItsTreeByName) {
+    const auto shared = std::make_shared<CInit>(host.iniFile, automation::NumberFormat{","});
+    const Variant name(section);
+    shared->get("LoadDefaultInit", automation::Args(&name, 1));
+    const auto tree = shared->get("itms").asObject();
+    EXPECT_EQ(tree->get("Count"), Variant(7));
+    const Variant sb("sb");
+    const auto below = tree->get("Item", automation::Args(&sb, 1)).asObject()->get("itms").asObject();
+    const Variant visible("visible");
+    EXPECT_EQ(below->get("Item", automation::Args(&visible, 1)).asObject()->get("val"), Variant(true));
+}
+
 TEST_F(CInitTest, WorksByName) {
     const auto shared = std::make_shared<CInit>(host.iniFile, automation::NumberFormat{","});
     const Variant name(section);
