@@ -147,7 +147,8 @@ define("new project", function()
 end)
 
 define("variables", function()
-    studio.SetVariables({"Mixer.Level", "Mixer.Heat", "Mixer.Speed", "Pump", "Name.Cola", "Name.Rinse", "Start", "Stop"})
+    studio.SetVariables({"Mixer.Level", "Mixer.Heat", "Mixer.Speed", "Pump", "Name.Cola", "Name.Rinse", "Start",
+                         "Stop"})
     equal(#studio.Variables(), 8)
 end)
 
@@ -212,8 +213,9 @@ define("edits of recipes", function()
         dialog.chkSaveThru.Value = 1
         dialog.KeyDown(key.enter, 0)
     end, function() click("mnuRecipeEdit") end)
-    equal(rows("VarRecipeName, VarDescription, VarLoad, VarSave, VarRead, VarWrite, VarSetValue, FilePath, FileExtension, " ..
-               "Enabled, Comment, StandardValue, SaveSubRecipes, SaveChanges, CryptEngine, Options", "TrcpRecipe WHERE ID = 1"),
+    equal(rows("VarRecipeName, VarDescription, VarLoad, VarSave, VarRead, VarWrite, VarSetValue, FilePath, " ..
+               "FileExtension, Enabled, Comment, StandardValue, SaveSubRecipes, SaveChanges, CryptEngine, Options",
+               "TrcpRecipe WHERE ID = 1"),
           {"Start|Start|Start|Start|Start|Start|Start|<ProjectDir>\\Rezepte|re|1|kühl|2.5|0|0|0|2"})
     equal(editor.Caption, texts.title .. ": Cola")
     studio.Click("RCPR2")
@@ -458,8 +460,10 @@ define("cycle", function()
     members[8] = "3|Name.Cola|1"
     equal(rows("Name", [[(WITH RECURSIVE below(Recipe, Start) AS (
             SELECT ChildID, ParentID FROM TrcpRecipeMember WHERE ChildID <> 0
-            UNION SELECT m.ChildID, b.Start FROM TrcpRecipeMember m JOIN below b ON m.ParentID = b.Recipe WHERE m.ChildID <> 0)
-        SELECT DISTINCT r.Name FROM below b JOIN TrcpRecipe r ON r.ID = b.Recipe WHERE b.Recipe = b.Start ORDER BY r.ID)]]),
+            UNION SELECT m.ChildID, b.Start FROM TrcpRecipeMember m JOIN below b ON m.ParentID = b.Recipe
+                WHERE m.ChildID <> 0)
+        SELECT DISTINCT r.Name FROM below b JOIN TrcpRecipe r ON r.ID = b.Recipe WHERE b.Recipe = b.Start
+        ORDER BY r.ID)]]),
           {"Cola", "Rinse", "Fill"}, "recipes in the cycle")
 end)
 
