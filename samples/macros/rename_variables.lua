@@ -1,5 +1,6 @@
--- Renames variables by a rule, wherever recipes name them: as members, as file names of sub-recipes and as trigger,
--- description and factor variables of recipes.
+-- Renames variables by a rule, wherever recipes name them.
+--
+-- That is: as members, as file names of sub-recipes and as trigger, description and factor variables of recipes.
 --
 --   hxrecipe run --project plant.hxs rename_variables.lua PATTERN REPLACEMENT [apply]
 --
