@@ -10,13 +10,15 @@ constexpr std::size_t firstSize = 64;
 
 }  // namespace
 
-// FNV-1a: short keys take a few instructions.
+// FNV-1a: short keys take a few instructions. The last character is only added: keys that are counted up lie side by
+// side, so that a branch of many is added without a cache miss for each.
 std::uint32_t KeyIndex::hashOf(std::string_view key) noexcept {
     constexpr std::uint32_t start = 2166136261U;
     constexpr std::uint32_t prime = 16777619U;
     std::uint32_t hash = start;
-    for (const char c : key) hash = (hash ^ static_cast<unsigned char>(c)) * prime;
-    return hash;
+    if (key.empty()) return hash;
+    for (const char c : key.substr(0, key.size() - 1)) hash = (hash ^ static_cast<unsigned char>(c)) * prime;
+    return hash + static_cast<unsigned char>(key.back());
 }
 
 void KeyIndex::erase(std::uint32_t hash, Id id) noexcept {

@@ -165,9 +165,7 @@ void NodeTree::takeSlot() {
 void NodeTree::attach(Id id, Id parentId) {
     nodes_[id].parent = parentId;
     Node& parentNode = nodes_[parentId];
-    const std::size_t siblings = childCount(parentId);
-    if (siblings > 0) nodes_[id].ordinal = nodes_[child(parentId, siblings - 1)].ordinal + 1;
-    if (siblings == 0 && parentNode.list == 0) {
+    if (parentNode.list == 0 && parentNode.onlyChild == none) {
         parentNode.onlyChild = id;
         return;
     }
@@ -175,6 +173,7 @@ void NodeTree::attach(Id id, Id parentId) {
     Children& children = lists_[parentNode.list];
     if (parentNode.onlyChild != none) children.ids.push_back(parentNode.onlyChild);
     parentNode.onlyChild = none;
+    if (children.count() > 0) nodes_[id].ordinal = nodes_[children.ids.back()].ordinal + 1;
     children.ids.push_back(id);
 }
 

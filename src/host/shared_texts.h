@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "host/chunked_list.h"
 #include "host/key_index.h"
@@ -16,7 +17,10 @@ class SharedTexts {
     /// The number of a text, which is kept from now on.
     [[nodiscard]] std::uint32_t numberOf(std::string_view text) {
         if (text.empty()) return 0;
-        if (texts_[last_] == text) return last_;  // neighbours tend to share theirs
+        // Neighbours tend to share theirs, or those with the next but one.
+        if (texts_[last_] == text) return last_;
+        std::swap(last_, beforeLast_);
+        if (texts_[last_] == text) return last_;
         const auto next = static_cast<std::uint32_t>(texts_.size());
         const auto same = [&](std::uint32_t number) { return texts_[number] == text; };
         const auto known = index_.insert(KeyIndex::hashOf(text), next, same);
@@ -29,13 +33,13 @@ class SharedTexts {
         index_.clear();
         texts_.clear();
         texts_.append();
-        last_ = 0;
+        last_ = beforeLast_ = 0;
     }
 
   private:
     ChunkedList<std::string> texts_;
     KeyIndex index_;
-    std::uint32_t last_ = 0;
+    std::uint32_t last_ = 0, beforeLast_ = 0;
 };
 
 }  // namespace hx::host
