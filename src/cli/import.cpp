@@ -11,6 +11,7 @@
 #include "cli/project_reader.h"
 #include "cli/row_writer.h"
 #include "cli/text_file.h"
+#include "cli/transaction.h"
 
 namespace hx::cli {
 
@@ -246,26 +247,6 @@ class Import {
     std::vector<const ContentRecipe*> toEmpty_;
     std::vector<std::pair<std::int64_t, const ContentRecipe*>> toFill_;
     Counts counts_;
-};
-
-/// Taken back unless it is committed.
-class Transaction {
-  public:
-    explicit Transaction(sqlite::Database& database) : database_(database) { database_.execute("BEGIN IMMEDIATE"); }
-    ~Transaction() {
-        if (!database_.inTransaction()) return;
-        try {
-            database_.execute("ROLLBACK");
-        } catch (const std::exception&) {
-            // Closing the file takes the transaction back as well.
-        }
-    }
-    Transaction(const Transaction&) = delete;
-    Transaction& operator=(const Transaction&) = delete;
-    void commit() { database_.execute("COMMIT"); }
-
-  private:
-    sqlite::Database& database_;
 };
 
 }  // namespace

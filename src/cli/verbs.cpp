@@ -6,6 +6,7 @@
 #include "cli/import.h"
 #include "cli/list.h"
 #include "cli/show.h"
+#include "cli/variables.h"
 #include "cli/where.h"
 
 namespace hx::cli {
@@ -128,6 +129,7 @@ void addVerbs(CLI::App& app, Command& chosen, const Output& output) {
     addExport(app, chosen, output);
     addImport(app, chosen, output);
     addDiff(app, chosen, output);
+    addVariables(app, chosen, output);
 }
 
 }  // namespace hx::cli

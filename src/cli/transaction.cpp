@@ -1,0 +1,16 @@
+#include "cli/transaction.h"
+
+#include <exception>
+
+namespace hx::cli {
+
+Transaction::~Transaction() {
+    if (!database_.inTransaction()) return;
+    try {
+        database_.execute("ROLLBACK");
+    } catch (const std::exception&) {
+        // Closing the file takes the transaction back as well.
+    }
+}
+
+}  // namespace hx::cli

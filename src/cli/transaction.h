@@ -1,0 +1,21 @@
+#pragma once
+
+#include "adapters/sqlite/database.h"
+
+namespace hx::cli {
+
+/// A transaction that writes; taken back unless it is committed.
+class Transaction {
+  public:
+    explicit Transaction(sqlite::Database& database) : database_(database) { database_.execute("BEGIN IMMEDIATE"); }
+    ~Transaction();
+    Transaction(const Transaction&) = delete;
+    Transaction& operator=(const Transaction&) = delete;
+
+    void commit() { database_.execute("COMMIT"); }
+
+  private:
+    sqlite::Database& database_;
+};
+
+}  // namespace hx::cli
