@@ -62,7 +62,10 @@ void addBuildSample(CLI::App& app, Command& chosen, const Output& output) {
 
 int carryOut(const Command& command, const Output& output) {
     try {
-        return command.run();
+        const int status = command.run();
+        output.results.flush();
+        if (output.results.fail()) throw automation::Error(automation::errFail, "The results cannot be written.");
+        return status;
     } catch (const std::exception& error) {
         output.problems << "hxrecipe: " << error.what() << "\n";
         return command.onFailure;

@@ -1,12 +1,14 @@
 #include "cli/content.h"
 
 #include <algorithm>
+#include <filesystem>
 #include <fstream>
 #include <unordered_map>
 
 #include "adapters/sqlite/table_info.h"
 #include "automation/error.h"
 #include "automation/text.h"
+#include "cli/in_file.h"
 #include "cli/project_reader.h"
 
 namespace hx::cli {
@@ -82,14 +84,62 @@ class RowReader {
     Statement select_;
 };
 
-bool beginsLikeProject(const std::string& path) {
-    constexpr std::string_view mark = "SQLite format 3";
-    std::string start(mark.size(), '\0');
-    std::ifstream file(path, std::ios::binary);
-    return !file.is_open() || (file.read(start.data(), static_cast<std::streamsize>(start.size())) && start == mark);
+// Everything else goes by the name.
+void requireName(const ContentRecipe& recipe) {
+    const Cell* name = findCell(recipe.cells, "Name");
+    if (name != nullptr && std::holds_alternative<std::string>(name->value)) return;
+    throw automation::Error(automation::errFail,
+                            "The recipe with the ID " + std::to_string(*recipe.id) + " has a name that is no text.");
+}
+
+Content contentOf(sqlite::Database& database) {
+    Content content;
+    std::unordered_map<std::int64_t, std::size_t> numbers;
+    RowReader recipes(database, "TrcpRecipe", "ID");
+    while (recipes.next()) {
+        const std::int64_t id = recipes.number("ID");
+        numbers.emplace(id, content.recipes.size());
+        content.recipes.push_back({id, recipes.cells({"ID"}), {}, 0});
+        requireName(content.recipes.back());
+    }
+    RowReader members(database, "TrcpRecipeMember", "ID");
+    while (members.next()) {
+        ContentMember member{members.number("ID"), members.number("ParentID"), members.number("ChildID"), {}, {}, 0};
+        member.cells = members.cells({"ID", "ParentID", "ChildID"});
+        if (const auto child = numbers.find(member.child); member.child != 0 && child != numbers.end()) {
+            member.childName = content.recipes[child->second].name();
+        }
+        const auto parent = numbers.find(member.parent);
+        if (parent == numbers.end()) {
+            content.orphans.push_back(std::move(member));
+            continue;
+        }
+        member.parent = 0;
+        content.recipes[parent->second].members.push_back(std::move(member));
+    }
+    return content;
+}
+
+// What cannot be opened, too, is better explained where projects are. A pipe gives its text only once.
+bool isForProjects(const std::string& path) {
+    std::error_code ignored;
+    const auto status = std::filesystem::status(path, ignored);
+    if (std::filesystem::exists(status) && !std::filesystem::is_regular_file(status)) {
+        return std::filesystem::is_directory(status);
+    }
+    return !std::ifstream(path).is_open() || beginsLikeProject(path);
 }
 
 }  // namespace
+
+bool beginsLikeProject(const std::string& path) {
+    constexpr std::string_view mark = "SQLite format 3";
+    std::error_code ignored;
+    if (!std::filesystem::is_regular_file(path, ignored)) return false;
+    std::string start(mark.size(), '\0');
+    std::ifstream file(path, std::ios::binary);
+    return file.read(start.data(), static_cast<std::streamsize>(start.size())) && start == mark;
+}
 
 bool isSame(const Value& a, const Value& b) {
     const auto x = numberOf(a);
@@ -110,35 +160,11 @@ const Cell* findCell(const std::vector<Cell>& cells, std::string_view column) {
 const std::string& ContentRecipe::name() const { return std::get<std::string>(findCell(cells, "Name")->value); }
 
 Content readContent(sqlite::Database& database) {
-    Content content;
-    std::unordered_map<std::int64_t, std::size_t> numbers;
-    RowReader recipes(database, "TrcpRecipe", "ID");
-    while (recipes.next()) {
-        const std::int64_t id = recipes.number("ID");
-        numbers.emplace(id, content.recipes.size());
-        content.recipes.push_back({id, recipes.cells({"ID"}), {}, 0});
-    }
-    RowReader members(database, "TrcpRecipeMember", "ID");
-    while (members.next()) {
-        ContentMember member{members.number("ID"), members.number("ParentID"), members.number("ChildID"), {}, {}, 0};
-        member.cells = members.cells({"ID", "ParentID", "ChildID"});
-        if (const auto child = numbers.find(member.child); member.child != 0 && child != numbers.end()) {
-            member.childName = content.recipes[child->second].name();
-        }
-        const auto parent = numbers.find(member.parent);
-        if (parent == numbers.end()) {
-            content.orphans.push_back(std::move(member));
-            continue;
-        }
-        member.parent = 0;
-        content.recipes[parent->second].members.push_back(std::move(member));
-    }
-    return content;
+    return inFile(database.path(), [&] { return contentOf(database); });
 }
 
 Content loadContent(const std::string& path) {
-    // What is missing, too, is better explained where projects are opened.
-    if (!beginsLikeProject(path)) return parseContent(path);
+    if (!isForProjects(path)) return parseContent(path);
     ProjectReader project(path);
     return readContent(project.database());
 }

@@ -65,6 +65,8 @@ struct Content {
 [[nodiscard]] Content readContent(sqlite::Database& database);
 /// Reads an export file. Throws automation::Error with the line and the field of what is wrong.
 [[nodiscard]] Content parseContent(const std::string& path);
+/// Whether it is a file that begins as a project does.
+[[nodiscard]] bool beginsLikeProject(const std::string& path);
 /// Reads the one or the other, whichever the file is.
 [[nodiscard]] Content loadContent(const std::string& path);
 /// Writes an export. Throws automation::Error when a value cannot be written as JSON.

@@ -57,20 +57,25 @@ class Parser : public nlohmann::json_sax<Json> {
 
     [[nodiscard]] Content finish() {
         if (!hasFormat_) fail(1, "this is no export: \"format\": \"hxrecipe\" is missing");
+        if (!hasVersion_) fail(1, "\"version\" is missing");
+        if (!hasRecipes_) fail(1, "\"recipes\" is missing");
         return std::move(content_);
     }
 
     bool null() override { return take({}, place_.line); }
     bool boolean(bool value) override { return take(value, place_.line); }
-    bool number_integer(number_integer_t value) override { return take(value, lineOfNumber()); }
+    bool number_integer(number_integer_t value) override { return take(value, lineOfLast()); }
     bool number_unsigned(number_unsigned_t value) override {
         if (value > static_cast<number_unsigned_t>(std::numeric_limits<std::int64_t>::max())) {
-            fail(lineOfNumber(), inQuotes(key_) + ": the number is too large");
+            fail(lineOfLast(), inQuotes(key_) + ": the number is too large");
         }
-        return take(static_cast<std::int64_t>(value), lineOfNumber());
+        return take(static_cast<std::int64_t>(value), lineOfLast());
     }
-    bool number_float(number_float_t value, const string_t&) override { return take(value, lineOfNumber()); }
-    bool string(string_t& value) override { return take(std::move(value), place_.line); }
+    bool number_float(number_float_t value, const string_t&) override { return take(value, lineOfLast()); }
+    bool string(string_t& value) override {
+        if (value.find('\0') != string_t::npos) fail(place_.line, inQuotes(key_) + ": a text cannot have U+0000");
+        return take(std::move(value), place_.line);
+    }
     bool binary(binary_t&) override { return false; }
 
     bool start_object(std::size_t) override {
@@ -80,18 +85,24 @@ class Parser : public nlohmann::json_sax<Json> {
             case Level::members: newMember(content_.recipes.back().members); return enter(Level::member);
             case Level::orphans: newMember(content_.orphans); return enter(Level::orphan);
             case Level::recipe:
+                if (equalIgnoreCase(key_, "members")) unexpected("an object");
+                return enter(Level::blob);
             case Level::member:
             case Level::orphan: return enter(Level::blob);
             default: unexpected("an object");
         }
     }
     bool start_array(std::size_t) override {
-        if (level() == Level::root && key_ == "recipes") return enter(Level::recipes);
+        if (level() == Level::root && key_ == "recipes") {
+            hasRecipes_ = true;
+            return enter(Level::recipes);
+        }
         if (level() == Level::root && key_ == "membersWithoutRecipe") return enter(Level::orphans);
         if (level() == Level::recipe && key_ == "members") return enter(Level::members);
         unexpected("a list");
     }
     bool end_object() override {
+        if (level() == Level::blob && levels_.back().keys.empty()) failBlob(place_.line);
         if (level() == Level::recipe) finishRecipe();
         if (level() == Level::member || level() == Level::orphan) finishMember();
         return leave();
@@ -108,9 +119,12 @@ class Parser : public nlohmann::json_sax<Json> {
     }
 
     bool parse_error(std::size_t, const std::string&, const nlohmann::detail::exception& error) override {
+        // "[name of the error] what is wrong", or "[...] parse error at ...: what is wrong"
         const std::string_view text = error.what();
         const auto colon = text.find(": ");
-        fail(place_.line, std::string(colon == std::string_view::npos ? text : text.substr(colon + 2)));
+        const auto bracket = text.find("] ");
+        const auto at = colon != std::string_view::npos ? colon : bracket;
+        fail(lineOfLast(), std::string(at == std::string_view::npos ? text : text.substr(at + 2)));
     }
 
   private:
@@ -135,8 +149,8 @@ class Parser : public nlohmann::json_sax<Json> {
         return true;
     }
 
-    // To know where a number ends, one character more has been read.
-    [[nodiscard]] int lineOfNumber() const { return place_.line - (place_.atLineEnd ? 1 : 0); }
+    // Of the character read last: to know where a number ends, one more has been read.
+    [[nodiscard]] int lineOfLast() const { return place_.line - (place_.atLineEnd ? 1 : 0); }
 
     void newMember(std::vector<ContentMember>& members) {
         members.emplace_back();
@@ -160,6 +174,7 @@ class Parser : public nlohmann::json_sax<Json> {
             hasFormat_ = true;
         } else if (key_ == "version") {
             if (value != Value(std::int64_t{1})) fail(line, "\"version\": this program reads version 1 alone");
+            hasVersion_ = true;
         } else {
             fail(line, inQuotes(key_) + " is unknown here, or has a wrong value");
         }
@@ -201,11 +216,13 @@ class Parser : public nlohmann::json_sax<Json> {
         }
     }
 
+    [[noreturn]] void failBlob(int line) const { fail(line, "bytes are written as {\"hex\": \"0A1B...\"}"); }
+
     void takeBlob(const Value& value, int line) {
         const auto* digits = std::get_if<std::string>(&value);
         const bool hexadecimal = digits != nullptr && digits->size() % 2 == 0 &&
                                  digits->find_first_not_of("0123456789ABCDEFabcdef") == std::string::npos;
-        if (key_ != "hex" || !hexadecimal) fail(line, "bytes are written as {\"hex\": \"0A1B...\"}");
+        if (key_ != "hex" || !hexadecimal) failBlob(line);
         const std::string column = levels_[levels_.size() - 2].keys.back();
         levels_.pop_back();
         key_ = column;
@@ -230,6 +247,9 @@ class Parser : public nlohmann::json_sax<Json> {
         if (member.child != 0 && !hasSubRecipe_) {
             fail(member.line, "\"ChildID\": \"subRecipe\" with the name of the recipe is missing");
         }
+        if (!hasSubRecipe_ && findCell(member.cells, "VarRecipe") == nullptr) {
+            fail(member.line, "the member names neither a variable (\"VarRecipe\") nor a \"subRecipe\"");
+        }
         if (hasSubRecipe_ && !member.isSubRecipe()) {
             fail(member.line, "\"subRecipe\": a name, or null with the \"ChildID\" of a missing recipe, is expected");
         }
@@ -240,7 +260,7 @@ class Parser : public nlohmann::json_sax<Json> {
     Content content_;
     std::vector<Open> levels_;
     std::string key_;
-    bool hasFormat_ = false;
+    bool hasFormat_ = false, hasVersion_ = false, hasRecipes_ = false;
     bool hasSubRecipe_ = false;  // the member being read
     std::map<std::int64_t, int> ids_;
     std::map<std::string, int> names_;
@@ -249,8 +269,14 @@ class Parser : public nlohmann::json_sax<Json> {
 }  // namespace
 
 Content parseContent(const std::string& path) {
+    if (beginsLikeProject(path)) {
+        throw automation::Error(automation::errFail, path + " is a project, not an export");
+    }
     std::string text;
     for (const Line& line : readLines(path)) text.append(line.text).append("\n");
+    if (text.find_first_not_of(" \t\n") == std::string::npos) {
+        Line{path, 1, {}}.fail("the file is empty");
+    }
     Place place;
     Parser parser(path, place);
     Json::sax_parse(CountingIterator(text.data(), &place), CountingIterator(text.data() + text.size(), &place),

@@ -22,6 +22,8 @@ namespace fs = std::filesystem;
 
 bool isExport(const std::string& path) {
     constexpr std::string_view mark = "{\n  \"format\": \"hxrecipe\"";
+    std::error_code ignored;
+    if (!fs::is_regular_file(path, ignored)) return false;
     std::string start(mark.size(), '\0');
     std::ifstream file(path, std::ios::binary);
     return file.read(start.data(), static_cast<std::streamsize>(start.size())) && start == mark;

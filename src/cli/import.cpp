@@ -263,7 +263,8 @@ void importContent(const std::string& project, const std::string& file, ImportMo
                    << " changed, " << counts.removed << " removed.\n";
 }
 
-void previewImport(const std::string& project, const std::string& file, ImportMode mode, const Output& output) {
+void previewImport(const std::string& project, const std::string& file, ImportMode mode, bool json,
+                   const Output& output) {
     const Content content = parseContent(file);
     requireProject(project);
     sqlite::Database database(project);
@@ -271,7 +272,7 @@ void previewImport(const std::string& project, const std::string& file, ImportMo
     const Transaction transaction(database);
     const Content before = readContent(database);
     Import(database, before, content, file, mode, output).run();
-    print(compare(before, readContent(database), {}), false, output);
+    print(compare(before, readContent(database), {}), json, output);
 }
 
 }  // namespace hx::cli

@@ -18,6 +18,7 @@ enum class ImportMode {
 /// one gets the ID of the file when it is free, else a new one. The same holds for members.
 void importContent(const std::string& project, const std::string& file, ImportMode mode, const Output& output);
 /// Carries the import out, takes it back again and prints what it changed.
-void previewImport(const std::string& project, const std::string& file, ImportMode mode, const Output& output);
+void previewImport(const std::string& project, const std::string& file, ImportMode mode, bool json,
+                   const Output& output);
 
 }  // namespace hx::cli

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "automation/text.h"
 #include "cli/project_reader.h"
 #include "cli/text_file.h"
 
@@ -31,6 +32,13 @@ std::string_view expected(ado::DataType type, const Value& value) {
     }
 }
 
+bool isTooLong(const ado::Column& column, const Value& value) {
+    const auto* text = std::get_if<std::string>(&value);
+    const bool limited = column.type == ado::adVarWChar && column.definedSize > 0;
+    return limited && text != nullptr &&
+           automation::characterCount(*text) > static_cast<std::size_t>(column.definedSize);
+}
+
 void bind(sqlite::Statement& statement, int parameter, const Value& value) {
     if (const auto* flag = std::get_if<bool>(&value)) statement.bind(parameter, std::int64_t{*flag ? 1 : 0});
     else if (const auto* number = std::get_if<std::int64_t>(&value)) statement.bind(parameter, *number);
@@ -57,6 +65,10 @@ void RowWriter::check(const std::vector<Cell>& cells) const {
         if (!column) line.fail(inQuotes(cell.column) + ": the table " + info_.name + " has no such column");
         const std::string_view wanted = expected(info_.columns[*column].type, cell.value);
         if (!wanted.empty()) line.fail(inQuotes(cell.column) + ": " + std::string(wanted) + " is expected");
+        if (isTooLong(info_.columns[*column], cell.value)) {
+            line.fail(inQuotes(cell.column) + ": the text is longer than " +
+                      std::to_string(info_.columns[*column].definedSize) + " characters");
+        }
     }
 }
 
@@ -101,6 +113,7 @@ void RowWriter::run(const std::string& sql, const std::vector<Cell>& cells, cons
     try {
         statement.step();
     } catch (const automation::Error& error) {
+        if (error.number() == ado::dbErrUnspecified) throw;  // the project's file is to blame
         Line{file_, line, {}}.fail(error.description());
     }
 }

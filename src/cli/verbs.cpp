@@ -4,6 +4,7 @@
 #include "cli/differences.h"
 #include "cli/export.h"
 #include "cli/import.h"
+#include "cli/in_file.h"
 #include "cli/list.h"
 #include "cli/show.h"
 #include "cli/variables.h"
@@ -31,7 +32,8 @@ void addList(CLI::App& app, Command& chosen, const Output& output) {
     CLI::App* command = app.add_subcommand("list", "List the recipes of a project.");
     const auto arguments = readingArguments(*command);
     command->callback([arguments, &chosen, &output] {
-        chosen = Command::doing([arguments, &output] { list(arguments->path, arguments->json, output); });
+        chosen = Command::doing(
+            [arguments, &output] { inFile(arguments->path, [&] { list(arguments->path, arguments->json, output); }); });
     });
 }
 
@@ -41,8 +43,9 @@ void addShow(CLI::App& app, Command& chosen, const Output& output) {
     const auto arguments = readingArguments(*command);
     command->add_option("RECIPE", arguments->subject, "The recipe's name in any case, or its ID.")->required();
     command->callback([arguments, &chosen, &output] {
-        chosen = Command::doing(
-            [arguments, &output] { show(arguments->path, arguments->subject, arguments->json, output); });
+        chosen = Command::doing([arguments, &output] {
+            inFile(arguments->path, [&] { show(arguments->path, arguments->subject, arguments->json, output); });
+        });
     });
 }
 
@@ -51,7 +54,9 @@ void addCheck(CLI::App& app, Command& chosen, const Output& output) {
     const auto arguments = readingArguments(*command);
     command->footer("Exit status: 0 nothing found, 1 findings, 2 the project could not be checked.");
     command->callback([arguments, &chosen, &output] {
-        chosen = Command::asking([arguments, &output] { return check(arguments->path, arguments->json, output); });
+        chosen = Command::asking([arguments, &output] {
+            return inFile(arguments->path, [&] { return check(arguments->path, arguments->json, output); });
+        });
     });
 }
 
@@ -61,8 +66,9 @@ void addWhere(CLI::App& app, Command& chosen, const Output& output) {
     const auto arguments = readingArguments(*command);
     command->add_option("NAME", arguments->subject, "A variable's name, or a recipe's name or ID.")->required();
     command->callback([arguments, &chosen, &output] {
-        chosen = Command::doing(
-            [arguments, &output] { where(arguments->path, arguments->subject, arguments->json, output); });
+        chosen = Command::doing([arguments, &output] {
+            inFile(arguments->path, [&] { where(arguments->path, arguments->subject, arguments->json, output); });
+        });
     });
 }
 
@@ -81,12 +87,14 @@ void addImport(CLI::App& app, Command& chosen, const Output& output) {
     CLI::App* command = app.add_subcommand("import", "Bring the recipes of an export into a project.");
     struct ImportArguments {
         std::string project, file, mode = "add";
-        bool dryRun = false;
+        bool dryRun = false, json = false;
     };
     const auto arguments = std::make_shared<ImportArguments>();
     command->add_option("FILE", arguments->project, "The project file.")->required();
     command->add_option("IN.json", arguments->file, "The export.")->required();
-    command->add_flag("--dry-run", arguments->dryRun, "Print what would change, and change nothing.");
+    CLI::Option* dryRun =
+        command->add_flag("--dry-run", arguments->dryRun, "Print what would change, and change nothing.");
+    command->add_flag("--json", arguments->json, "Print what would change as JSON, for other programs.")->needs(dryRun);
     command
         ->add_option("--mode", arguments->mode,
                      "add: recipes that the project lacks (default); update: also change those that it has; replace: "
@@ -97,7 +105,7 @@ void addImport(CLI::App& app, Command& chosen, const Output& output) {
             const ImportMode mode = arguments->mode == "add"      ? ImportMode::add
                                     : arguments->mode == "update" ? ImportMode::update
                                                                   : ImportMode::replace;
-            if (arguments->dryRun) previewImport(arguments->project, arguments->file, mode, output);
+            if (arguments->dryRun) previewImport(arguments->project, arguments->file, mode, arguments->json, output);
             else importContent(arguments->project, arguments->file, mode, output);
         });
     });
