@@ -307,6 +307,15 @@ TEST_F(MacroControls, ThatAreLeftOpenAreClosedByTheFrame) {
               "false\ttrue\tNeues Rezept\n");
 }
 
+TEST_F(MacroControls, OfTheChoiceOfVariablesCountAsConfirmedWhenTheFrameClosesIt) {
+    EXPECT_EQ(shown(R"(local function count() print(#project.Query("SELECT * FROM TrcpRecipeMember")) end
+        studio.OnDialog("FMultiSelectItems", function(d) d.hxMI.Unselect("B") end)
+        editor.abr.Click("mnuRecipeMemberNewVariable") count()
+        studio.OnDialog("FMultiSelectItems", function(d) d.hxMI.SelectedItems = nil d.cmdCancel.Click() end)
+        editor.abr.Click("mnuRecipeMemberNewVariable") count())"),
+              "2\n2\n");
+}
+
 TEST_F(MacroControls, MoveTheSplitBar) {
     EXPECT_EQ(shown(R"(local bar, grid = editor.pctrcpTabSplit, editor.tdbRM
         bar.MouseDown(1, 0, 0, 0) bar.MouseMove(1, 0, 1000, 0) bar.MouseUp(1, 0, 0, 0)
