@@ -39,9 +39,9 @@ class Check {
         std::string variable;
     };
     struct Member {
-        std::int64_t id, parent, child;
-        std::string_view variable;               // of the row that is being read
-        std::optional<std::size_t> recipe = {};  // none when it does not exist
+        std::int64_t id = 0, parent = 0, child = 0;
+        std::string variable;
+        std::optional<std::size_t> recipe;  // none when it does not exist
     };
 
     void readVariables() {
@@ -80,15 +80,31 @@ class Check {
              "Add the variable to the list or choose another one."});
     }
 
+    // In blocks: while one name is looked up, the memory that the next ones need is on its way.
     void readMembers() {
         Statement select(project_.database(), "SELECT ID, ParentID, ChildID, VarRecipe FROM TrcpRecipeMember");
-        while (select.step()) {
-            Member member{select.key(0), select.key(1), select.key(2), select.textView(3)};
-            member.recipe = numberOf(recipes_, member.parent);
-            if (!member.recipe) reportOrphan(member);
-            if (member.child != 0) readInclusion(member);
-            if (!isBlank(member.variable) && !variables_.contains(member.variable)) reportUnknown(member);
+        constexpr std::size_t blockSize = 32;
+        std::vector<Member> block(blockSize);
+        for (bool more = true; more;) {
+            std::size_t count = 0;
+            while (count < blockSize && (more = select.step())) read(select, block[count++]);
+            for (std::size_t i = 0; i < count; ++i) checkMember(block[i]);
         }
+    }
+
+    void read(const Statement& row, Member& member) {
+        member.id = row.key(0);
+        member.parent = row.key(1);
+        member.child = row.key(2);
+        member.variable = row.textView(3);
+        variables_.prefetch(member.variable);
+    }
+
+    void checkMember(Member& member) {
+        member.recipe = numberOf(recipes_, member.parent);
+        if (!member.recipe) reportOrphan(member);
+        if (member.child != 0) readInclusion(member);
+        if (!isBlank(member.variable) && !variables_.contains(member.variable)) reportUnknown(member);
     }
 
     void readInclusion(const Member& member) {

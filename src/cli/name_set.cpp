@@ -43,6 +43,8 @@ bool NameSet::contains(std::string_view name) {
     return slots_[slotOf(folded, hashOf(folded))] != 0;
 }
 
+void NameSet::prefetch(std::string_view name) { __builtin_prefetch(&slots_[hashOf(fold(name)) & (slots_.size() - 1)]); }
+
 std::size_t NameSet::slotOf(std::string_view folded, std::size_t hash) const {
     const std::size_t mask = slots_.size() - 1;
     for (std::size_t at = hash & mask;; at = (at + 1) & mask) {
@@ -59,7 +61,7 @@ NameSet::Entry NameSet::entryAt(Slot slot) const {
 }
 
 void NameSet::grow() {
-    std::vector<Slot> old(slots_.size() * 4);
+    std::vector<Slot> old(slots_.size() * 2);
     old.swap(slots_);
     const std::size_t mask = slots_.size() - 1;
     for (const Slot slot : old) {

@@ -16,6 +16,8 @@ class NameSet {
     /// Gives the name's number, also when it is there already.
     std::size_t add(std::string_view name);
     [[nodiscard]] bool contains(std::string_view name);
+    /// Fetches the memory that looking up this name soon will need.
+    void prefetch(std::string_view name);
 
   private:
     /// Where the text stands, with some bits of its hash, so that a look at the slot nearly always suffices. 0: free.

@@ -127,6 +127,19 @@ TEST_F(Check, FindsTwoTriggersInTheOrderOfTheRecipes) {
     EXPECT_NE(f, std::string::npos);
 }
 
+TEST_F(Check, LooksAtEveryOneOfManyMembers) {
+    // Wrong are those whose number can be divided by 31.
+    const Result result = check(recipes + std::string("WITH RECURSIVE n (i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n "
+                                                      "WHERE i < 310) INSERT INTO TrcpRecipeMember (ParentID, ChildID, "
+                                                      "VarRecipe) SELECT 1, 2, iif(i % 31, 'v', 'w' || i) FROM n;"));
+    std::string expected;
+    for (int i = 31; i <= 310; i += 31) {
+        expected += "warning: recipe \"A\", member " + std::to_string(i) + ": The variable \"w" + std::to_string(i) +
+                    "\" is not in the variable list. Add the variable to the list or choose another one.\n";
+    }
+    EXPECT_EQ(result.results, expected + "10 findings: 0 errors, 10 warnings.\n");
+}
+
 TEST(RecipeNumbers, AreFoundByIdHoweverManyAreMissing) {
     constexpr std::int64_t least = std::numeric_limits<std::int64_t>::min();
     constexpr std::int64_t most = std::numeric_limits<std::int64_t>::max();
