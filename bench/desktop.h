@@ -1,10 +1,9 @@
 #pragma once
 
-#include <QApplication>
-
 #include "adapters/qt/qt_screen.h"
 #include "adapters/qt/qt_windows.h"
 #include "adapters/qt/wording.h"
+#include "bench/application.h"
 
 namespace hx::bench {
 
@@ -17,13 +16,7 @@ class Desktop {
     }
 
   private:
-    struct Offscreen {
-        Offscreen() { qputenv("QT_QPA_PLATFORM", "offscreen"); }
-    } offscreen_;  // before the application
-    int count_ = 1;
-    char name_[9] = "hx_bench";
-    char* arguments_[2] = {name_, nullptr};
-    QApplication application_{count_, arguments_};
+    Application application_;
 
   public:
     qt::Wording wording;

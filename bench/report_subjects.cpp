@@ -1,5 +1,4 @@
 // The report on a project: read, laid out on pages, drawn, written.
-#include <QApplication>
 #include <array>
 #include <filesystem>
 #include <iostream>
@@ -8,6 +7,7 @@
 
 #include "adapters/sqlite/provider.h"
 #include "ado/recordset.h"
+#include "bench/application.h"
 #include "bench/subjects.h"
 #include "cli/generate.h"
 #include "report/preview/output.h"
@@ -80,13 +80,7 @@ class Desk {
     [[nodiscard]] const report::Pages& pages() const { return *pages_; }
 
   private:
-    struct Offscreen {
-        Offscreen() { qputenv("QT_QPA_PLATFORM", "offscreen"); }
-    } offscreen_;  // before the application
-    int count_ = 1;
-    char name_[9] = "hx_bench";
-    char* arguments_[2] = {name_, nullptr};
-    QApplication application_{count_, arguments_};
+    Application application_;
     std::unique_ptr<report::Report> report_;
     std::unique_ptr<report::Pages> pages_;
     std::unique_ptr<report::PageView> view_;

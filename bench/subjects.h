@@ -75,6 +75,17 @@ namespace choose_variables {
 [[nodiscard]] Subject checkAll(const Project& project);
 }  // namespace choose_variables
 
+/// Checks a project for what is wrong in it, as on the command line. The peer finds the same with queries, but for the
+/// cycles; the limit reads the tables once.
+namespace check_project {
+/// A project of as many recipes as another, with 9 variables, a sub-recipe and a trigger each, and something wrong of
+/// each kind; in the folder of the other.
+[[nodiscard]] Project plant(const Project& beside);
+[[nodiscard]] Subject ours(const Project& project);
+[[nodiscard]] Subject peer(const Project& project);
+[[nodiscard]] Subject limit(const Project& project);
+}  // namespace check_project
+
 /// Makes the report on a project: reads it; reads it, lays it out and draws the first page; draws another page; writes
 /// it as HTML; lays it out and writes it as PDF.
 namespace make_report {
