@@ -5,9 +5,10 @@
 
 #include "adapters/sqlite/project_file.h"
 #include "automation/error.h"
+#include "cli/application.h"
 #include "cli/build_sample.h"
-#include "cli/command.h"
 #include "cli/generate.h"
+#include "cli/help_formatter.h"
 #include "cli/run_macro.h"
 #include "cli/verbs.h"
 
@@ -74,22 +75,31 @@ int carryOut(const Command& command, const Output& output) {
 
 }  // namespace
 
-int run(int argc, const char* const* argv, const Output& output) {
-    CLI::App app("Makes, shows and checks project files of the recipe editor.", "hxrecipe");
-    app.require_subcommand(1);
-    app.footer(
+std::unique_ptr<CLI::App> makeApplication(Command& chosen, const Output& output) {
+    auto app = std::make_unique<CLI::App>("Makes, shows and checks project files of the recipe editor.", "hxrecipe");
+    app->formatter(std::make_shared<HelpFormatter>());
+    app->require_subcommand(1);
+    app->set_help_flag("-h,--help", "Print this help and exit.");
+    app->set_version_flag("--version", "hxrecipe " HX_VERSION, "Print the version and exit.");
+    app->footer("Exit status: 0 done, 1 failed, 2 wrong usage.");  // of every command that has none of its own
+    addNew(*app, chosen, output);
+    addGenerate(*app, chosen, output);
+    addBuildSample(*app, chosen, output);
+    addVerbs(*app, chosen, output);
+    addRunMacro(*app, chosen, output);
+    app->footer(
         "Exit status: 0 done, 1 failed, 2 wrong usage; of check and diff: 0 nothing found, 1 findings or "
         "differences, 2 could not tell.");
+    return app;
+}
+
+int run(int argc, const char* const* argv, const Output& output) {
     Command chosen;
-    addNew(app, chosen, output);
-    addGenerate(app, chosen, output);
-    addBuildSample(app, chosen, output);
-    addVerbs(app, chosen, output);
-    addRunMacro(app, chosen, output);
+    const auto app = makeApplication(chosen, output);
     try {
-        app.parse(argc, argv);
+        app->parse(argc, argv);
     } catch (const CLI::ParseError& error) {
-        return app.exit(error, output.results, output.problems) == 0 ? succeeded : wrongUsage;
+        return app->exit(error, output.results, output.problems) == 0 ? succeeded : wrongUsage;
     }
     return carryOut(chosen, output);
 }
