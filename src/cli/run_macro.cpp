@@ -8,7 +8,8 @@
 
 #include "adapters/lua/engine.h"
 #include "automation/text.h"
-#include "cli/run_macro_globals.h"
+#include "cli/interruption.h"
+#include "macros/globals.h"
 
 namespace hx::cli {
 
@@ -30,14 +31,12 @@ class MacroSession {
         : studio_(plan.studio),
           engine_({.print = [&output](std::string_view text) { output.results << text << std::flush; },
                    .folder = [this] { return std::filesystem::path(studio_.file()).parent_path(); },
-                   .trusted = plan.trusted}) {
-        defineProjects(engine_, studio_);
-        defineAnswers(engine_, studio_);
-        defineRecords(engine_, studio_);
-        defineData(engine_, studio_);
+                   .trusted = plan.trusted,
+                   .stopRequested = [this] { return interruption_.requested(); }}) {
+        macros::defineGlobals(engine_, studio_);
     }
     ~MacroSession() {
-        studio_.host().script = {};
+        studio_.script() = {};
         studio_.closeProject();
     }
     MacroSession(const MacroSession&) = delete;
@@ -50,6 +49,7 @@ class MacroSession {
     }
 
   private:
+    Interruption interruption_;
     MacroStudio studio_;
     lua::Engine engine_;
 };
@@ -102,7 +102,7 @@ void addRunMacro(CLI::App& app, Command& chosen, const Output& output) {
     command->add_option("--locale", *locale, "How numbers are written, as de_DE.");
     command->add_option("--config", plan->studio.config, "The folder of the registry; without one nothing is kept.");
     command->add_flag("--trust", plan->trusted, "Let the macro use all files and start programs.");
-    command->footer("Exit status: 0 done, 1 the macro failed, 2 wrong usage.");
+    command->footer("Exit status: 0 done, 1 the macro failed or was stopped by Ctrl+C, 2 wrong usage.");
     command->callback([plan, locale, &chosen, &output] {
         plan->studio.decimalPoint = decimalPointOf(*locale);
         chosen = Command{[plan, &output] { return runMacro(*plan, output); }, failed};

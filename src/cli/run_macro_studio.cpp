@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <limits>
 
 #include "adapters/sqlite/project_file.h"
 #include "automation/text.h"
@@ -11,6 +12,7 @@ namespace hx::cli {
 namespace {
 
 constexpr std::string_view extension = ".hxs";
+constexpr std::int32_t allLevels = std::numeric_limits<std::int32_t>::max();
 constexpr const char* languageValue = "LCID";
 constexpr const char* folderValue = "Path";
 
@@ -98,17 +100,14 @@ void MacroStudio::closeProject() {
     file_.clear();
 }
 
-const std::string& MacroStudio::requireFile() const {
-    if (file_.empty()) throw Error(automation::errFail, "No project is open");
-    return file_;
+std::vector<macros::Node> MacroStudio::nodes() {
+    const host::NodeTree& tree = host_->explorer.tree();
+    std::vector<macros::Node> list;
+    for (const std::string& key : host_->explorer.childKeys("", allLevels)) list.push_back(macros::nodeOf(tree, key));
+    return list;
 }
 
-addin::Connect& MacroStudio::requireAddIn() const {
-    if (!addIn_) throw Error(automation::errFail, "No project is open");
-    return *addIn_;
-}
-
-std::shared_ptr<editor::frmtabgrid> MacroStudio::editorWindow() {
+automation::ObjectRef MacroStudio::editorWindow() {
     const auto window = addIn_ ? addIn_->editorWindow() : nullptr;
     if (window && std::ranges::find(windows_, window) == windows_.end()) windows_.push_back(window);
     return window;

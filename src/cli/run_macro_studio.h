@@ -10,6 +10,7 @@
 #include "addin/connect.h"
 #include "host/ini_text_file.h"
 #include "host/registry_file.h"
+#include "macros/studio.h"
 
 namespace hx::cli {
 
@@ -21,28 +22,30 @@ struct MacroStudioOptions {
 
 /// A studio without a screen that opens projects as the desktop does. What a macro still holds of a project that is
 /// closed stays safe to use: add-ins and windows live as long as the studio.
-class MacroStudio {
+class MacroStudio : public macros::Studio {
   public:
     explicit MacroStudio(const MacroStudioOptions& options);
-    ~MacroStudio();
+    ~MacroStudio() override;
     MacroStudio(const MacroStudio&) = delete;
     MacroStudio& operator=(const MacroStudio&) = delete;
 
-    /// Makes an empty project and opens it; ".hxs" is added when it is missing. The path must not be taken.
-    void newProject(const std::string& path);
-    /// A file that ends in ".hxs", or the name of a project that the registry knows. Closes the one that is open.
-    void openProject(const std::string& pathOrName);
-    void closeProject();
+    void newProject(const std::string& path) override;
+    void openProject(const std::string& pathOrName) override;
+    void closeProject() override;
+    [[nodiscard]] std::string file() const override { return file_; }
+    [[nodiscard]] std::shared_ptr<host::CHX4Extensibility> addIn() const override { return addIn_; }
+    [[nodiscard]] automation::ObjectRef editorWindow() override;
 
-    [[nodiscard]] headless::Host& host() noexcept { return *host_; }
-    /// The open project's file; empty for none. requireFile throws errFail then.
-    [[nodiscard]] const std::string& file() const noexcept { return file_; }
-    [[nodiscard]] const std::string& requireFile() const;
-    /// Null while no project is open.
-    [[nodiscard]] const std::shared_ptr<addin::Connect>& addIn() const noexcept { return addIn_; }
-    [[nodiscard]] addin::Connect& requireAddIn() const;  ///< errFail
-    /// The editor's window; null while there is none.
-    [[nodiscard]] std::shared_ptr<editor::frmtabgrid> editorWindow();
+    [[nodiscard]] std::vector<macros::Node> nodes() override;
+    [[nodiscard]] host::NodeEvent eventOf(const std::string& key) override { return host_->explorer.eventOf(key); }
+    [[nodiscard]] std::string selected() const override { return host_->explorer.selectedNode().key; }
+    void select(const std::string& key) override { host_->explorer.select(key); }
+    void showExpanded(const std::string&) override {}
+
+    [[nodiscard]] host::Registry& registry() override { return host_->services().registry; }
+    [[nodiscard]] headless::Script& script() override { return host_->script; }
+    [[nodiscard]] headless::Record& record() override { return host_->record; }
+    [[nodiscard]] headless::Components& components() override { return host_->components; }
 
   private:
     [[nodiscard]] std::string fileOfName(const std::string& name) const;

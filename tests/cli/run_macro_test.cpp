@@ -1,4 +1,7 @@
+#include <csignal>
 #include <gmock/gmock.h>
+#include <thread>
+#include <unistd.h>
 
 #include "automation/text.h"
 #include "run_cli.h"
@@ -299,6 +302,37 @@ TEST_F(RunMacro, UsesOtherFilesAndProgramsOnlyWhenTrusted) {
         print(io.open("list.txt"):read(), (pcall(io.open, "/etc/hostname")), (pcall(io.open, "$P", "a"))))"),
               "Cola\tfalse\tfalse\n");
     EXPECT_EQ(readText("list.txt"), "Cola");
+}
+
+TEST_F(RunMacro, EndsInOrderByTheSignalsThatEndAProgram) {
+    for (const int signal : {SIGINT, SIGTERM}) {
+        // The macro says by a file that it is running: until then the signal would end the tests.
+        const std::string begun = folder_.file("begun.txt");
+        std::thread other([&] {
+            while (!std::filesystem::exists(begun)) std::this_thread::sleep_for(std::chrono::milliseconds(5));
+            kill(getpid(), signal);
+        });
+        const Result result = macro(std::string(newRecipe) + R"(studio.NewProject("$P") newRecipe("Cola")
+            io.open("begun.txt", "w"):close()
+            while true do pcall(newRecipe) end)");
+        other.join();
+        EXPECT_EQ(result.status, 1);
+        EXPECT_THAT(result.problems, testing::StartsWith("hxrecipe: The macro was stopped\nstack traceback:\n"));
+        EXPECT_EQ(query(file_, "SELECT Name FROM TrcpRecipe WHERE ID = 1"), "Cola");
+        EXPECT_EQ(printed("print('again')"), "again\n");
+        std::filesystem::remove(file_);
+        std::filesystem::remove(begun);
+    }
+}
+
+TEST_F(RunMacro, AnswersAsAUserWhoCancelsOnceAnAnswerHasFailed) {
+    const Result result = macro(std::string(newRecipe) + R"(studio.NewProject("$P") newRecipe("Cola")
+        studio.Click("RCPE0") editor.inits.WriteAValueToCInits("RequestOnDelete", true) studio.Click("RCPR1")
+        studio.OnMessage(function(text) error("no answer") end)
+        editor.abr.Click("mnuRecipeDelete"))");
+    EXPECT_EQ(result.status, 1);
+    EXPECT_THAT(result.problems, HasSubstr("no answer"));
+    EXPECT_EQ(query(file_, "SELECT Name FROM TrcpRecipe"), "Cola");
 }
 
 TEST_F(RunMacro, KeepsWhatWasDoneBeforeItFailed) {

@@ -22,7 +22,8 @@ struct Layer {
 };
 
 constexpr std::size_t adapterLevel = 10;
-constexpr std::size_t programLevel = 11;
+constexpr std::size_t macroLevel = 11;
+constexpr std::size_t programLevel = 12;
 
 constexpr std::array layers{
     Layer{"automation", Ground::StandardLibrary, 0},    Layer{"ado", Ground::StandardLibrary, 1},
@@ -31,8 +32,8 @@ constexpr std::array layers{
     Layer{"dialogs", Ground::StandardLibrary, 6},       Layer{"recipe", Ground::StandardLibrary, 7},
     Layer{"editor", Ground::StandardLibrary, 8},        Layer{"addin", Ground::StandardLibrary, 9},
     Layer{"adapters/", Ground::Anything, adapterLevel}, Layer{"report", Ground::StandardLibrary, adapterLevel},
-    Layer{"report/", Ground::Anything, programLevel},   Layer{"studio", Ground::Anything, programLevel},
-    Layer{"cli", Ground::Anything, programLevel},
+    Layer{"report/", Ground::Anything, programLevel},   Layer{"macros", Ground::Anything, macroLevel},
+    Layer{"studio", Ground::Anything, programLevel},    Layer{"cli", Ground::Anything, programLevel},
 };
 
 constexpr auto standardHeaders = std::to_array<std::string_view>({

@@ -52,6 +52,16 @@ TEST(LayerRules, NothingIncludesAProgram) {
         ElementsAre("adapters/sqlite/rowset.cpp:1: includes cli/progress.h: adapters/sqlite may not include cli"));
 }
 
+TEST(LayerRules, WhatAMacroFindsStandsOnTheAdaptersAndOnNoProgram) {
+    EXPECT_THAT(wrongIncludes("macros/data.cpp",
+                              "#include <lua.hpp>\n#include \"adapters/lua/value.h\"\n#include \"macros/studio.h\"\n"),
+                IsEmpty());
+    EXPECT_THAT(wrongIncludes("macros/data.cpp", "#include \"cli/progress.h\"\n"),
+                ElementsAre("macros/data.cpp:1: includes cli/progress.h: macros may not include cli"));
+    EXPECT_THAT(wrongIncludes("adapters/lua/value.cpp", "#include \"macros/studio.h\"\n"),
+                ElementsAre("adapters/lua/value.cpp:1: includes macros/studio.h: adapters/lua may not include macros"));
+}
+
 TEST(LayerRules, AProgramIncludesAnything) {
     EXPECT_THAT(wrongIncludes(
                     "cli/main.cpp",

@@ -25,6 +25,8 @@ class Components : public host::Components {
     /// empty value.
     void standIn(const std::string& programId, Answer answer = {});
     void remove(const std::string& programId) { factories_.erase(programId); }
+    void clear() { factories_.clear(); }
+    [[nodiscard]] bool provides(std::string_view programId) const { return factories_.contains(programId); }
 
     /// errClassNotRegistered for an unknown one.
     [[nodiscard]] automation::ObjectRef create(std::string_view programId) override;

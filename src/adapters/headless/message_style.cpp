@@ -26,6 +26,9 @@ Answer defaultButtonOf(std::int32_t style) {
     return buttons[second ? 1 : 0];
 }
 
+// Cancel, no or ok, whichever there is, stands last.
+Answer escapeAnswerOf(std::int32_t style) { return buttonsOf(style).back(); }
+
 std::string_view nameOf(Answer answer) noexcept {
     switch (answer) {
         case Answer::cancel: return "cancel";

@@ -11,6 +11,8 @@ namespace hx::headless {
 [[nodiscard]] std::vector<forms::message::Answer> buttonsOf(std::int32_t style);
 /// The button that Enter presses.
 [[nodiscard]] forms::message::Answer defaultButtonOf(std::int32_t style);
+/// What closing the box by its frame answers.
+[[nodiscard]] forms::message::Answer escapeAnswerOf(std::int32_t style);
 /// "ok", "cancel", "yes", "no".
 [[nodiscard]] std::string_view nameOf(forms::message::Answer answer) noexcept;
 

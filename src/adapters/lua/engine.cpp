@@ -3,6 +3,7 @@
 #include "adapters/lua/machine.h"
 #include "adapters/lua/protect.h"
 #include "adapters/lua/stack.h"
+#include "adapters/lua/stop.h"
 
 namespace hx::lua {
 
@@ -71,6 +72,7 @@ void Engine::defineGlobal(const std::string& name, std::function<automation::Var
 void Engine::run(const std::string& text, const std::string& name, const std::vector<std::string>& arguments) {
     lua_State* const state = machine_->main;
     machine_->traceback.clear();
+    watch(state);
     lua_settop(state, 0);
     lua_pushcfunction(state, &keepTraceback);
     const std::string shown = "@" + name;
@@ -83,21 +85,27 @@ void Engine::run(const std::string& text, const std::string& name, const std::ve
         throw MacroError(takeMessage(state), {});
     }
     if (lua_pcall(state, static_cast<int>(arguments.size()), 0, 1) != LUA_OK) {
-        throw MacroError(takeMessage(state), machine_->traceback);
+        // Making the message can be a step of the macro's too.
+        const std::string message = takeMessage(state);
+        const bool isStopped = machine_->stopping;
+        unwatch(state);
+        if (isStopped) throw MacroError("The macro was stopped", machine_->traceback, true);
+        throw MacroError(message, machine_->traceback);
     }
+    unwatch(state);
     lua_settop(state, 0);
 }
 
 // The traceback is that of the call that returns.
 void Engine::fail(const automation::Error& error) {
     lua_State* const state = machine_->current;
-    if (machine_->failing || lua_checkstack(state, 2) == 0) return;
+    if (failing() || lua_checkstack(state, 2) == 0) return;
     pushError(state, error);
     lua_rawseti(state, LUA_REGISTRYINDEX, machine_->failure);
     machine_->traceback.clear();
     machine_->failing = true;
 }
 
-bool Engine::failing() const noexcept { return machine_->failing; }
+bool Engine::failing() const noexcept { return machine_->failing || machine_->stopping; }
 
 }  // namespace hx::lua

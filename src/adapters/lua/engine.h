@@ -15,17 +15,19 @@ namespace hx::lua {
 
 struct Machine;
 
-/// A macro ended with an error that it did not catch.
+/// A macro ended with an error that it did not catch, or was stopped.
 class MacroError : public std::exception {
   public:
-    MacroError(std::string message, std::string traceback)
-        : message_(std::move(message)), traceback_(std::move(traceback)) {}
+    MacroError(std::string message, std::string traceback, bool stopped = false)
+        : message_(std::move(message)), traceback_(std::move(traceback)), stopped_(stopped) {}
+    [[nodiscard]] bool stopped() const noexcept { return stopped_; }
     [[nodiscard]] const char* what() const noexcept override { return message_.c_str(); }
     /// Where it happened, "stack traceback:" and a line a call; empty when the macro could not be read.
     [[nodiscard]] const std::string& traceback() const noexcept { return traceback_; }
 
   private:
     std::string message_, traceback_;
+    bool stopped_;
 };
 
 struct EngineOptions {
@@ -35,6 +37,11 @@ struct EngineOptions {
     std::function<std::filesystem::path()> folder;
     /// Gives the macro all of Lua's libraries, other files and processes too.
     bool trusted = false;
+    /// Asked every some thousand steps of a macro and at each call of an object or function of C++, so it must be
+    /// quick; it may do other work now and then. True ends the macro, which cannot prevent that.
+    std::function<bool()> stopRequested{};
+    /// How much memory a macro may take, in bytes; 0: no limit.
+    std::size_t memoryLimit = std::size_t{1} << 30U;
 };
 
 /// Runs macros in Lua 5.4. Objects are reached by the names of their member tables, ignoring case; an Error is a table
@@ -58,8 +65,8 @@ class Engine {
     /// Lets the macro fail with this error once the call returns that it is running: for what the macro has answered
     /// wrongly while functions of C++ lie between.
     void fail(const automation::Error& error);
-    /// Whether a function of the macro has failed inside a call that has not returned yet: the macro is then not to be
-    /// asked any more.
+    /// Whether the macro is being stopped, or a function of it has failed inside a call that has not returned yet: the
+    /// macro is then not to be asked any more.
     [[nodiscard]] bool failing() const noexcept;
 
   private:

@@ -59,7 +59,7 @@ FunctionReference::~FunctionReference() {
 
 Value Function::operator()(Values arguments) const {
     const auto machine = reference_->machine.lock();
-    if (!machine || machine->failing) fail();
+    if (!machine || machine->failing || machine->stopping) fail();
     lua_State* const state = machine->current;
     if (lua_checkstack(state, slots) == 0) throw std::bad_alloc();
     const StackLevel level(state);

@@ -4,9 +4,11 @@
 #include <filesystem>
 #include <string>
 
+#include "adapters/lua/call_original.h"
 #include "adapters/lua/machine.h"
 #include "adapters/lua/protect.h"
 #include "adapters/lua/stack.h"
+#include "adapters/lua/stop.h"
 #include "automation/error.h"
 #include "automation/text.h"
 
@@ -48,17 +50,6 @@ int print(lua_State* state) {
 int write(lua_State* state) {
     Machine::of(state).options.print(joined(state, ""));
     return 0;
-}
-
-// Calls the function that the first upvalue keeps with all arguments.
-int callOriginal(lua_State* state) {
-    lua_pushvalue(state, lua_upvalueindex(1));
-    lua_insert(state, 1);
-    protect(state, lua_gettop(state), LUA_MULTRET, [](lua_State* inner) {
-        lua_call(inner, lua_gettop(inner) - 1, LUA_MULTRET);
-        return lua_gettop(inner);
-    });
-    return lua_gettop(state);
 }
 
 bool isBelow(const std::filesystem::path& file, const std::filesystem::path& folder) {
@@ -108,13 +99,6 @@ int loadText(lua_State* state) {
     return callOriginal(state);
 }
 
-// The table on top of the stack gets the function of its old one, or a guard around it.
-void wrap(lua_State* state, const char* name, lua_CFunction guard) {
-    lua_getfield(state, -1, name);
-    lua_pushcclosure(state, guard, 1);
-    lua_setfield(state, -2, name);
-}
-
 void openPlain(lua_State* state) {
     struct Library {
         const char* name;
@@ -131,7 +115,7 @@ void openPlain(lua_State* state) {
 
 void limitBase(lua_State* state) {
     lua_pushglobaltable(state);
-    wrap(state, "load", guarded<loadText>);
+    wrapMember(state, "load", guarded<loadText>);
     for (const char* name : {"dofile", "loadfile"}) {
         lua_pushnil(state);
         lua_setfield(state, -2, name);
@@ -160,8 +144,8 @@ void openLimited(lua_State* state) {
     openParts(state, LUA_OSLIBNAME, luaopen_os, std::to_array({"clock", "date", "difftime", "time"}));
     lua_pop(state, 1);
     openParts(state, LUA_IOLIBNAME, luaopen_io, std::to_array({"open", "lines", "type"}));
-    wrap(state, "open", guarded<openFile>);
-    wrap(state, "lines", guarded<readLines>);
+    wrapMember(state, "open", guarded<openFile>);
+    wrapMember(state, "lines", guarded<readLines>);
     lua_pushcfunction(state, guarded<write>);
     lua_setfield(state, -2, "write");
     lua_pop(state, 1);
@@ -174,6 +158,7 @@ void openLibraries(lua_State* state, bool trusted) {
     else openLimited(state);
     lua_pushcfunction(state, guarded<print>);
     lua_setglobal(state, "print");
+    watchThreads(state, trusted);
 }
 
 }  // namespace hx::lua

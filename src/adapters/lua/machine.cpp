@@ -75,24 +75,26 @@ int setUp(lua_State* state) {
     return 0;
 }
 
-void remember(Machine& machine, const char* text) noexcept {
-    try {
-        machine.traceback = text;
-    } catch (const std::bad_alloc&) {
-        machine.traceback.clear();
-    }
-}
-
 }  // namespace
 
 Machine::Machine(EngineOptions given) : options(std::move(given)), main(luaL_newstate()), current(main) {
     if (main == nullptr) throw std::bad_alloc();
     *static_cast<Machine**>(lua_getextraspace(main)) = this;
+    memory.limit = options.memoryLimit;
+    limitMemory(main, memory);
     try {
         protect(main, 0, 0, [](lua_State* state) { return setUp(state); });
     } catch (...) {
         lua_close(main);
         throw;
+    }
+}
+
+void Machine::rememberTraceback(const char* text) noexcept {
+    try {
+        traceback = text;
+    } catch (const std::bad_alloc&) {
+        traceback.clear();
     }
 }
 
@@ -106,7 +108,7 @@ int keepTraceback(lua_State* state) {
     lua_rawgeti(state, LUA_REGISTRYINDEX, machine.failure);
     if (lua_rawequal(state, 1, -1) == 0 || machine.traceback.empty()) {
         luaL_traceback(state, state, nullptr, 1);
-        remember(machine, lua_tostring(state, -1));
+        machine.rememberTraceback(lua_tostring(state, -1));
     }
     lua_settop(state, 1);
     return 1;

@@ -5,8 +5,11 @@
 #include <map>
 #include <memory>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "adapters/lua/engine.h"
+#include "adapters/lua/memory.h"
 
 namespace hx::lua {
 
@@ -31,6 +34,25 @@ struct Machine : std::enable_shared_from_this<Machine> {
     bool failing = false;          ///< a callback has failed; its error waits in the registry
     int failure = 0;               ///< where
     std::string traceback;         ///< of that error
+
+    bool stopping = false;            ///< every step of the macro fails
+    std::vector<lua_State*> waiting;  ///< the threads that wait for the one that runs, from the first
+    Memory memory;
+
+    void rememberTraceback(const char* text) noexcept;
+};
+
+/// The thread that runs, while it runs.
+class Running {
+  public:
+    Running(Machine& machine, lua_State* state) : machine_(machine), before_(std::exchange(machine.current, state)) {}
+    ~Running() { machine_.current = before_; }
+    Running(const Running&) = delete;
+    Running& operator=(const Running&) = delete;
+
+  private:
+    Machine& machine_;
+    lua_State* before_;
 };
 
 /// Names of the metatables in the registry.

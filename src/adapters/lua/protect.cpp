@@ -1,8 +1,7 @@
 #include "adapters/lua/protect.h"
 
-#include <utility>
-
 #include "adapters/lua/machine.h"
+#include "adapters/lua/stop.h"
 #include "automation/error.h"
 
 namespace hx::lua {
@@ -10,19 +9,6 @@ namespace hx::lua {
 namespace {
 
 constexpr int callerLevel = 2;  // above the protected action and the guarded function
-
-/// The thread that runs, while it runs.
-class Running {
-  public:
-    Running(Machine& machine, lua_State* state) : machine_(machine), before_(std::exchange(machine.current, state)) {}
-    ~Running() { machine_.current = before_; }
-    Running(const Running&) = delete;
-    Running& operator=(const Running&) = delete;
-
-  private:
-    Machine& machine_;
-    lua_State* before_;
-};
 
 int makeError(lua_State* state, std::int32_t number, const char* description) {
     lua_createtable(state, 0, 3);
@@ -48,6 +34,19 @@ void pushAlone(lua_State* state, const automation::Error& error) noexcept {
     pushError(state, error);
 }
 
+int failStopping(lua_State* state) noexcept {
+    lua_settop(state, 0);
+    try {
+        protect(state, 0, 1, [](lua_State* inner) {
+            pushStop(inner);
+            return 1;
+        });
+    } catch (...) {
+        if (lua_gettop(state) == 0) lua_pushnil(state);
+    }
+    return -1;
+}
+
 }  // namespace
 
 void pushError(lua_State* state, const automation::Error& error) noexcept {
@@ -63,6 +62,7 @@ void pushError(lua_State* state, const automation::Error& error) noexcept {
 
 int detail::attempt(lua_State* state, int (*body)(lua_State*)) noexcept {
     Machine& machine = Machine::of(state);
+    if (isStopping(state)) return failStopping(state);
     const Running running(machine, state);
     int results = -1;
     try {
@@ -76,6 +76,7 @@ int detail::attempt(lua_State* state, int (*body)(lua_State*)) noexcept {
     } catch (...) {
         pushAlone(state, {automation::errFail, "Unknown error"});
     }
+    if (machine.stopping) return failStopping(state);
     // A callback of the macro failed on the way, and the editor may have shown and forgotten that.
     return machine.failing ? takeFailure(state, machine) : results;
 }

@@ -4,10 +4,10 @@
 
 #include "adapters/headless/message_style.h"
 #include "automation/text.h"
-#include "cli/run_macro_arguments.h"
-#include "cli/run_macro_globals.h"
+#include "macros/arguments.h"
+#include "macros/globals.h"
 
-namespace hx::cli {
+namespace hx::macros {
 
 namespace {
 
@@ -19,7 +19,6 @@ using lua::Function;
 using lua::List;
 using lua::Value;
 using lua::Values;
-using Arguments = MacroArguments;
 
 constexpr std::array<std::string_view, 4> dialogs = {"FRecipe", "FSubRecipe", "FMultiSelectItems", "FConfigEditor"};
 
@@ -47,14 +46,14 @@ Answer answerOf(Engine& engine, const headless::Message& box, const Variant& ans
         box.buttons, [&](Answer button) { return automation::equalIgnoreCase(headless::nameOf(button), name); });
     if (found != box.buttons.end()) return *found;
     engine.fail(Error(automation::errBadIndex, "The message box \"" + box.text + "\" has no button \"" + name + "\""));
-    return box.defaultButton;
+    return headless::escapeAnswerOf(box.style);
 }
 
 auto messageAnswer(Engine& engine, Function function) {
     return [&engine, function = std::move(function)](const headless::Message& box) {
         const auto answer =
             ask(engine, function, {box.text, box.title, buttonsOf(box), headless::nameOf(box.defaultButton)});
-        return answer ? answerOf(engine, box, *answer) : box.defaultButton;
+        return answer ? answerOf(engine, box, *answer) : headless::escapeAnswerOf(box.style);
     };
 }
 
@@ -105,10 +104,10 @@ void requireDialog(const std::string& name) {
     if (!known) automation::throwBadIndex("OnDialog", Variant(name));
 }
 
-void setDialogAnswer(Engine& engine, MacroStudio& studio, const Arguments& given) {
+void setDialogAnswer(Engine& engine, Studio& studio, const Arguments& given) {
     const std::string name = given.text(0);
     requireDialog(name);
-    auto& onModal = studio.host().script.onModal;
+    auto& onModal = studio.script().onModal;
     if (given[1].isNil()) {
         onModal.erase(name);
         return;
@@ -122,8 +121,8 @@ void setDialogAnswer(Engine& engine, MacroStudio& studio, const Arguments& given
 
 }  // namespace
 
-void defineAnswers(Engine& engine, MacroStudio& studio) {
-    headless::Script& script = studio.host().script;
+void defineAnswers(Engine& engine, Studio& studio) {
+    headless::Script& script = studio.script();
     defineAnswer(engine, "OnMessage", script.onMessage,
                  [](Engine& asked, const Function& function) { return messageAnswer(asked, function); });
     defineAnswer(engine, "OnItemSelection", script.onItem,
@@ -140,4 +139,4 @@ void defineAnswers(Engine& engine, MacroStudio& studio) {
     });
 }
 
-}  // namespace hx::cli
+}  // namespace hx::macros

@@ -7,12 +7,12 @@
 #include "automation/convert.h"
 #include "automation/error.h"
 
-namespace hx::cli {
+namespace hx::macros {
 
 /// What a macro hands to a function of the studio's. A missing argument is nil.
-class MacroArguments {
+class Arguments {
   public:
-    explicit MacroArguments(lua::Values values) : values_(values) {}
+    explicit Arguments(lua::Values values) : values_(values) {}
 
     [[nodiscard]] lua::Value operator[](std::size_t index) const {
         return index < values_.size() ? values_[index] : lua::Value();
@@ -42,4 +42,4 @@ lua::List listOf(const Texts& texts) {
     return list;
 }
 
-}  // namespace hx::cli
+}  // namespace hx::macros

@@ -2,10 +2,10 @@
 
 #include "adapters/sqlite/database.h"
 #include "automation/text.h"
-#include "cli/run_macro_arguments.h"
-#include "cli/run_macro_globals.h"
+#include "macros/arguments.h"
+#include "macros/globals.h"
 
-namespace hx::cli {
+namespace hx::macros {
 
 namespace {
 
@@ -17,7 +17,6 @@ using lua::Function;
 using lua::List;
 using lua::Value;
 using lua::Values;
-using Arguments = MacroArguments;
 
 // A missing value gives whatever fallback is asked with.
 Value readRegistry(const host::Registry& registry, const std::string& key, const std::string& value) {
@@ -33,13 +32,13 @@ void writeRegistry(host::Registry& registry, const Arguments& given) {
     registry.writeString(given.text(0), given.text(1), given.text(2));
 }
 
-void defineRegistry(Engine& engine, MacroStudio& studio) {
+void defineRegistry(Engine& engine, Studio& studio) {
     engine.define("studio", "Registry", [&studio](Values given) {
         const Arguments arguments(given);
-        return readRegistry(studio.host().services().registry, arguments.text(0), arguments.text(1));
+        return readRegistry(studio.registry(), arguments.text(0), arguments.text(1));
     });
     engine.define("studio", "SetRegistry", [&studio](Values given) {
-        writeRegistry(studio.host().services().registry, Arguments(given));
+        writeRegistry(studio.registry(), Arguments(given));
         return Value();
     });
 }
@@ -119,7 +118,7 @@ void setVariables(const std::string& file, const List& names) {
     writing.keep();
 }
 
-void defineProjectData(Engine& engine, MacroStudio& studio) {
+void defineProjectData(Engine& engine, Studio& studio) {
     engine.define("studio", "Variables", [&studio](Values) { return variables(studio.requireFile()); });
     engine.define("studio", "SetVariables", [&studio](Values given) {
         setVariables(studio.requireFile(), Arguments(given)[0].list());
@@ -139,18 +138,18 @@ Variant callMember(const Fields& functions, std::string_view member, automation:
     throw Error(automation::errUnknownName, "The component has no member \"" + std::string(member) + "\"");
 }
 
-void registerComponent(MacroStudio& studio, const Arguments& given) {
+void registerComponent(Studio& studio, const Arguments& given) {
     const Value table = given[1];
     const auto functions = std::make_shared<const Fields>(table.fields());
     for (const auto& [name, function] : *functions) (void)function.function();
-    studio.host().components.standIn(given.text(0), [functions](std::string_view member, automation::Args arguments) {
+    studio.components().standIn(given.text(0), [functions](std::string_view member, automation::Args arguments) {
         return callMember(*functions, member, arguments);
     });
 }
 
 }  // namespace
 
-void defineData(Engine& engine, MacroStudio& studio) {
+void defineData(Engine& engine, Studio& studio) {
     defineRegistry(engine, studio);
     defineProjectData(engine, studio);
     engine.define("studio", "RegisterComponent", [&studio](Values given) {
@@ -159,4 +158,4 @@ void defineData(Engine& engine, MacroStudio& studio) {
     });
 }
 
-}  // namespace hx::cli
+}  // namespace hx::macros

@@ -2,10 +2,10 @@
 
 #include "adapters/headless/message_style.h"
 #include "automation/text.h"
-#include "cli/run_macro_arguments.h"
-#include "cli/run_macro_globals.h"
+#include "macros/arguments.h"
+#include "macros/globals.h"
 
-namespace hx::cli {
+namespace hx::macros {
 
 namespace {
 
@@ -71,9 +71,9 @@ Value takeComponents(headless::Record& record) {
 
 }  // namespace
 
-void defineRecords(Engine& engine, MacroStudio& studio) {
+void defineRecords(Engine& engine, Studio& studio) {
     const auto add = [&](const char* name, Value (*take)(headless::Record&)) {
-        engine.define("studio", name, [&studio, take](Values) { return take(studio.host().record); });
+        engine.define("studio", name, [&studio, take](Values) { return take(studio.record()); });
     };
     add("Messages", takeMessages);
     add("Popups", takePopUps);
@@ -82,4 +82,4 @@ void defineRecords(Engine& engine, MacroStudio& studio) {
     add("Components", takeComponents);
 }
 
-}  // namespace hx::cli
+}  // namespace hx::macros

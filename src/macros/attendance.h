@@ -1,0 +1,61 @@
+#pragma once
+
+#include <functional>
+#include <optional>
+
+#include "adapters/headless/components.h"
+#include "adapters/headless/record.h"
+#include "adapters/headless/script.h"
+
+namespace hx::macros {
+
+/// Who answers in a studio with a user: while a macro runs, the functions that it has set, and the user where it has
+/// set none; else the user alone. What happens is recorded while a macro runs.
+class Attendance {
+  public:
+    /// `cancels` says that nobody is to be asked any more: everything is then answered as by a user who cancels.
+    void begin(std::function<bool()> cancels);
+    /// Forgets answers, record and the components that the macro has put in.
+    void end();
+
+    [[nodiscard]] bool running() const noexcept { return running_; }
+    /// Whether the macro may be asked: not while the studio handles the user's own events between two of its steps.
+    [[nodiscard]] bool answers() const noexcept { return running_ && !aside_; }
+    [[nodiscard]] bool cancels() const { return answers() && cancels_ && cancels_(); }
+    /// Whether a function of the macro may be running that the add-in waits for.
+    [[nodiscard]] bool asking() const noexcept { return depth_ > 0; }
+
+    /// While one lives, a function of the macro may be running.
+    class Asking {
+      public:
+        explicit Asking(Attendance& attendance) : attendance_(attendance) { ++attendance_.depth_; }
+        ~Asking() { --attendance_.depth_; }
+        Asking(const Asking&) = delete;
+        Asking& operator=(const Asking&) = delete;
+
+      private:
+        Attendance& attendance_;
+    };
+    /// While one lives, what happens is the user's own doing.
+    class Aside {
+      public:
+        explicit Aside(Attendance& attendance) : attendance_(attendance) { attendance_.aside_ = true; }
+        ~Aside() { attendance_.aside_ = false; }
+        Aside(const Aside&) = delete;
+        Aside& operator=(const Aside&) = delete;
+
+      private:
+        Attendance& attendance_;
+    };
+
+    headless::Script script;
+    headless::Record record;
+    headless::Components components{record};
+
+  private:
+    std::function<bool()> cancels_;
+    bool running_ = false, aside_ = false;
+    int depth_ = 0;
+};
+
+}  // namespace hx::macros

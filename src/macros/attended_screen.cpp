@@ -1,0 +1,114 @@
+#include "macros/attended_screen.h"
+
+#include <algorithm>
+#include <ranges>
+
+#include "adapters/headless/message_style.h"
+#include "automation/text.h"
+#include "forms/bar.h"
+
+namespace hx::macros {
+
+forms::Form* AttendedScreen::find(std::string_view className) const {
+    const auto latest = forms_ | std::views::reverse;
+    const auto found = std::ranges::find_if(
+        latest, [&](const forms::Form* form) { return automation::equalIgnoreCase(form->className(), className); });
+    return found == latest.end() ? nullptr : *found;
+}
+
+bool AttendedScreen::dismissDialog() {
+    if (dialogs_.empty()) return false;
+    forms::Form& form = *dialogs_.back();
+    const auto keep = form.share();
+    form.closeByFrame();
+    form.hide();  // one that refuses to close would wait for ever
+    return true;
+}
+
+forms::WindowHandle AttendedScreen::createWindow(forms::Form& form) {
+    forms_.push_back(&form);
+    return user_.createWindow(form);
+}
+
+void AttendedScreen::destroyWindow(forms::Form& form) {
+    std::erase(forms_, &form);
+    std::erase(dialogs_, &form);
+    user_.destroyWindow(form);
+}
+
+bool AttendedScreen::isScripted(const forms::Form& form) const {
+    const auto& functions = attendance_.script.onModal;
+    return functions.contains(form.name()) || functions.contains(form.className());
+}
+
+void AttendedScreen::showModal(forms::Form& form, forms::WindowHandle owner) {
+    if (attendance_.answers() && (isScripted(form) || attendance_.cancels())) {
+        const Attendance::Asking asking(attendance_);
+        return showFor_(form, owner, [&] { scripted_.showModal(form, owner); });
+    }
+    dialogs_.push_back(&form);
+    try {
+        user_.showModal(form, owner);
+    } catch (...) {
+        std::erase(dialogs_, &form);
+        throw;
+    }
+    std::erase(dialogs_, &form);
+}
+
+forms::message::Answer AttendedScreen::messageBox(std::string_view text, std::int32_t style, std::string_view title) {
+    if (!attendance_.answers()) return user_.messageBox(text, style, title);
+    if (attendance_.script.onMessage && !attendance_.cancels()) {
+        const Attendance::Asking asking(attendance_);
+        return scripted_.messageBox(text, style, title);
+    }
+    return askUser({.text = std::string(text),
+                    .title = std::string(title.empty() ? forms::message::defaultTitle : title),
+                    .style = style,
+                    .buttons = headless::buttonsOf(style),
+                    .defaultButton = headless::defaultButtonOf(style),
+                    .answer = headless::escapeAnswerOf(style)});
+}
+
+forms::message::Answer AttendedScreen::askUser(headless::Message box) {
+    if (!attendance_.cancels()) box.answer = user_.messageBox(box.text, box.style, box.title);
+    attendance_.record.messages.push_back(box);
+    return box.answer;
+}
+
+void AttendedScreen::popUp(forms::Bar& bar, forms::Band& band) {
+    if (!attendance_.answers()) return user_.popUp(bar, band);
+    if (!attendance_.script.onPopUp && !attendance_.cancels()) return showUser(bar, band);
+    const Attendance::Asking asking(attendance_);
+    scripted_.popUp(bar, band);
+}
+
+// A band that refuses to open is not shown.
+void AttendedScreen::showUser(forms::Bar& bar, forms::Band& band) {
+    const auto keep = bar.share();
+    bool refused = false;
+    {
+        const forms::Subscription opened = bar.bandOpenEvent.subscribe(
+            [&](forms::Band& opening, bool& cancel) { refused = refused || (&opening == &band && cancel); });
+        user_.popUp(bar, band);
+    }
+    headless::PopUp entry;
+    entry.band = band.name();
+    entry.refused = refused;
+    attendance_.record.popUps.push_back(std::move(entry));
+}
+
+bool AttendedScreen::chooseFont(forms::Font::Values& font) {
+    if (!attendance_.answers()) return user_.chooseFont(font);
+    if (attendance_.cancels()) return false;
+    if (!attendance_.script.onFont) return user_.chooseFont(font);
+    const Attendance::Asking asking(attendance_);
+    return scripted_.chooseFont(font);
+}
+
+void AttendedScreen::beep() {
+    if (attendance_.answers()) ++attendance_.record.beeps;
+    user_.beep();
+}
+
+}  // namespace hx::macros

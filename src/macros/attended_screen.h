@@ -1,0 +1,56 @@
+#pragma once
+
+#include <functional>
+#include <vector>
+
+#include "adapters/headless/screen.h"
+#include "adapters/headless/window_operations.h"
+#include "forms/form.h"
+#include "macros/attendance.h"
+
+namespace hx::macros {
+
+/// The user's screen, where a macro that runs may answer instead of him.
+class AttendedScreen : public forms::Screen {
+  public:
+    /// Shows a dialog, does the work on it in place of the user, and hides it.
+    using ShowFor = std::function<void(forms::Form&, forms::WindowHandle owner, const std::function<void()>& work)>;
+
+    /// Screen and attendance are lent.
+    AttendedScreen(forms::Screen& user, Attendance& attendance, ShowFor showFor)
+        : user_(user), attendance_(attendance), showFor_(std::move(showFor)) {}
+
+    /// The latest of the loaded forms of this class; null when there is none.
+    [[nodiscard]] forms::Form* find(std::string_view className) const;
+    /// Closes the dialog on top, which the user was asked by, as he does who cancels. False when there is none.
+    bool dismissDialog();
+
+    [[nodiscard]] forms::WindowHandle createWindow(forms::Form& form) override;
+    void destroyWindow(forms::Form& form) override;
+    void showModal(forms::Form& form, forms::WindowHandle owner) override;
+    void bringToFront(forms::Form& form) override { user_.bringToFront(form); }
+    forms::message::Answer messageBox(std::string_view text, std::int32_t style, std::string_view title) override;
+    void popUp(forms::Bar& bar, forms::Band& band) override;
+    bool chooseFont(forms::Font::Values& font) override;
+    void beep() override;
+    [[nodiscard]] forms::Pointer pointer() const override { return user_.pointer(); }
+    void setPointer(forms::Pointer pointer) override { user_.setPointer(pointer); }
+    void sendKeys(forms::Form& form, std::string_view keys) override { user_.sendKeys(form, keys); }
+    [[nodiscard]] double twipsPerPixel() const override { return user_.twipsPerPixel(); }
+
+  private:
+    [[nodiscard]] bool isScripted(const forms::Form& form) const;
+    forms::message::Answer askUser(headless::Message box);
+    void showUser(forms::Bar& bar, forms::Band& band);
+
+    forms::Screen& user_;
+    Attendance& attendance_;
+    ShowFor showFor_;
+    headless::WindowOperations noWindows_;
+    /// Answers by the macro's functions, and cancels where there is none.
+    headless::Screen scripted_{attendance_.script, attendance_.record, noWindows_};
+    std::vector<forms::Form*> forms_;
+    std::vector<forms::Form*> dialogs_;  ///< those that wait for the user
+};
+
+}  // namespace hx::macros

@@ -1,0 +1,64 @@
+#include "macros/attended_services.h"
+
+#include <utility>
+
+namespace hx::macros {
+
+namespace {
+
+/// A component whose calls are recorded while a macro runs.
+class RecordedComponent : public automation::Dispatch {
+  public:
+    RecordedComponent(std::string programId, automation::ObjectRef object, Attendance& attendance)
+        : programId_(std::move(programId)), object_(std::move(object)), attendance_(attendance) {}
+
+    [[nodiscard]] const automation::MemberTable& members() const override { return object_->members(); }
+    automation::Variant get(std::string_view name, automation::Args args) override {
+        if (attendance_.answers()) {
+            attendance_.record.componentCalls.push_back({programId_, std::string(name), {args.begin(), args.end()}});
+        }
+        return object_->get(name, args);
+    }
+    void set(std::string_view name, const automation::Variant& value, automation::Args index) override {
+        object_->set(name, value, index);
+    }
+
+  private:
+    std::string programId_;
+    automation::ObjectRef object_;
+    Attendance& attendance_;
+};
+
+}  // namespace
+
+std::string AttendedItems::choose(forms::WindowHandle owner, const std::string& current) {
+    if (!attendance_.answers()) return user_.choose(owner, current);
+    if (attendance_.cancels()) return {};
+    const auto ask = attendance_.script.onItem;
+    if (!ask) return user_.choose(owner, current);
+    const Attendance::Asking asking(attendance_);
+    return ask(current);
+}
+
+std::string AttendedFolders::choose(forms::WindowHandle owner, const std::string& current) {
+    if (!attendance_.answers()) return user_.choose(owner, current);
+    if (attendance_.cancels()) return current;
+    const auto ask = attendance_.script.onFolder;
+    if (!ask) return user_.choose(owner, current);
+    const Attendance::Asking asking(attendance_);
+    return ask(current);
+}
+
+void AttendedHelp::showContext(forms::WindowHandle owner, const std::string& file, std::int32_t context) {
+    if (attendance_.answers()) attendance_.record.help.push_back({owner, file, context});
+    if (!attendance_.cancels()) user_.showContext(owner, file, context);
+}
+
+automation::ObjectRef AttendedComponents::create(std::string_view programId) {
+    if (!attendance_.answers()) return user_.create(programId);
+    if (attendance_.components.provides(programId)) return attendance_.components.create(programId);
+    attendance_.record.components.emplace_back(programId);
+    return std::make_shared<RecordedComponent>(std::string(programId), user_.create(programId), attendance_);
+}
+
+}  // namespace hx::macros

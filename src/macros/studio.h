@@ -1,0 +1,62 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "adapters/headless/components.h"
+#include "adapters/headless/record.h"
+#include "adapters/headless/script.h"
+#include "host/extensibility.h"
+#include "host/node_tree.h"
+#include "host/system_services.h"
+
+namespace hx::macros {
+
+/// A node of the explorer as a macro sees it; no parent at the top.
+struct Node {
+    std::string key, parent, caption, image, tag;
+};
+/// The node of a key in a tree that has it.
+[[nodiscard]] Node nodeOf(const host::NodeTree& tree, const std::string& key);
+
+/// The studio that a macro works on: a real one or one without a screen. All failures are automation::Error. What a
+/// macro still holds of a closed project must stay safe to use while the macro runs.
+class Studio {
+  public:
+    virtual ~Studio() = default;
+
+    /// Makes an empty project and opens it; ".hxs" is added when it is missing. The path must not be taken.
+    virtual void newProject(const std::string& path) = 0;
+    /// A file that ends in ".hxs", or the name of a project that the registry knows. Closes the one that is open.
+    virtual void openProject(const std::string& pathOrName) = 0;
+    virtual void closeProject() = 0;
+    /// The open project's file; empty for none.
+    [[nodiscard]] virtual std::string file() const = 0;
+    /// Null while no project is open.
+    [[nodiscard]] virtual std::shared_ptr<host::CHX4Extensibility> addIn() const = 0;
+    /// The editor's window; empty while there is none.
+    [[nodiscard]] virtual automation::ObjectRef editorWindow() = 0;
+
+    /// The add-in's nodes in tree order.
+    [[nodiscard]] virtual std::vector<Node> nodes() = 0;
+    /// What an event of the node carries; errBadIndex when unknown.
+    [[nodiscard]] virtual host::NodeEvent eventOf(const std::string& key) = 0;
+    [[nodiscard]] virtual std::string selected() const = 0;  ///< empty for none
+    /// An empty key selects nothing; errBadIndex when unknown.
+    virtual void select(const std::string& key) = 0;
+    /// Shows the nodes below a node, without an event.
+    virtual void showExpanded(const std::string& key) = 0;
+
+    [[nodiscard]] virtual host::Registry& registry() = 0;
+    /// The answers, what happened, and the components that the macro puts in.
+    [[nodiscard]] virtual headless::Script& script() = 0;
+    [[nodiscard]] virtual headless::Record& record() = 0;
+    [[nodiscard]] virtual headless::Components& components() = 0;
+
+    /// Both throw errFail while no project is open.
+    [[nodiscard]] std::string requireFile() const;
+    [[nodiscard]] std::shared_ptr<host::CHX4Extensibility> requireAddIn() const;
+};
+
+}  // namespace hx::macros
