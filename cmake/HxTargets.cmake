@@ -2,7 +2,9 @@ include(GoogleTest)
 
 find_program(HX_CCACHE ccache)
 if(HX_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
-  set(CMAKE_CXX_COMPILER_LAUNCHER ${HX_CCACHE})
+  # What is compiled with precompiled headers is kept too, and found again from another build folder.
+  set(CMAKE_CXX_COMPILER_LAUNCHER ${CMAKE_COMMAND} -E env CCACHE_SLOPPINESS=pch_defines,time_macros
+      CCACHE_BASEDIR=${CMAKE_BINARY_DIR} ${HX_CCACHE})
 endif()
 
 add_library(hx_flags INTERFACE)
@@ -37,6 +39,12 @@ function(hx_test name)
   add_executable(${name} ${sources})
   target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
   target_link_libraries(${name} PRIVATE hx_flags ${ARG_DEPENDS} GTest::gtest GTest::gmock GTest::gtest_main)
+  target_compile_options(${name} PRIVATE -fpch-preprocess)  # for ccache
+  if(ARG_LABELS STREQUAL "gui")
+    target_precompile_headers(${name} PRIVATE ${HX_TEST_HEADERS} <QtTest> <QtWidgets>)
+  elseif(NOT "hx_studio" IN_LIST ARG_DEPENDS)  # Qt asks for other options than the headers were compiled with
+    target_precompile_headers(${name} REUSE_FROM hx_test_headers)
+  endif()
   set(properties TIMEOUT 300)
   if(ARG_LABELS)
     list(APPEND properties LABELS ${ARG_LABELS})
