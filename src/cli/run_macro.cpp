@@ -105,6 +105,7 @@ void addRunMacro(CLI::App& app, Command& chosen, const Output& output) {
     command->footer("Exit status: 0 done, 1 the macro failed or was stopped by Ctrl+C, 2 wrong usage.");
     command->callback([plan, locale, &chosen, &output] {
         plan->studio.decimalPoint = decimalPointOf(*locale);
+        plan->studio.trusted = plan->trusted;
         chosen = Command{[plan, &output] { return runMacro(*plan, output); }, failed};
     });
 }

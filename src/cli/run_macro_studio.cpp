@@ -40,12 +40,14 @@ headless::HostOptions hostOptions(const MacroStudioOptions& options, host::Regis
 
 }  // namespace
 
-MacroStudio::MacroStudio(const MacroStudioOptions& options) {
+MacroStudio::MacroStudio(const MacroStudioOptions& options)
+    : folderIniFile_(iniFile_, [this] { return std::filesystem::path(file_).parent_path(); }) {
     if (!options.config.empty()) {
         const auto file = std::filesystem::path(options.config) / "registry.ini";
         registry_ = std::make_unique<host::RegistryFile>(file.string());
     }
-    host_ = std::make_unique<headless::Host>(provider_, hostOptions(options, registry_.get(), &iniFile_));
+    host::IniFile* const settings = options.trusted ? static_cast<host::IniFile*>(&iniFile_) : &folderIniFile_;
+    host_ = std::make_unique<headless::Host>(provider_, hostOptions(options, registry_.get(), settings));
     if (options.lcid) {
         host_->services().registry.writeNumber(host::registry_keys::helvix, languageValue, *options.lcid);
     }

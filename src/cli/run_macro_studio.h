@@ -10,6 +10,7 @@
 #include "addin/connect.h"
 #include "host/ini_text_file.h"
 #include "host/registry_file.h"
+#include "macros/folder_ini_file.h"
 #include "macros/studio.h"
 
 namespace hx::cli {
@@ -18,6 +19,7 @@ struct MacroStudioOptions {
     std::string config;                ///< folder of the registry; empty: one in memory
     std::optional<std::int32_t> lcid;  ///< goes into the registry
     std::string decimalPoint = ".";
+    bool trusted = false;  ///< lets the editor's settings be written to any file
 };
 
 /// A studio without a screen that opens projects as the desktop does. What a macro still holds of a project that is
@@ -53,6 +55,7 @@ class MacroStudio : public macros::Studio {
 
     sqlite::Provider provider_;
     host::IniTextFile iniFile_;
+    macros::FolderIniFile folderIniFile_;
     std::unique_ptr<host::RegistryFile> registry_;
     std::unique_ptr<headless::Host> host_;
     std::string file_;
