@@ -115,7 +115,7 @@ void setDialogAnswer(Engine& engine, Studio& studio, const Arguments& given) {
     onModal[name] = [&engine, &studio, function = given[1].function()](forms::Form& form) {
         // What the dialog refers to is kept with it.
         (void)studio.editorWindow();
-        (void)ask(engine, function, {form.share()});
+        if (!ask(engine, function, {form.share()})) form.set("Cancelled", Variant(true));
     };
 }
 

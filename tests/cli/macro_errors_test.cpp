@@ -220,6 +220,19 @@ TEST_F(MacroErrors, InAnswersCanBeCaughtWhereTheEditorWasAsked) {
               "false\t5\t3\n1\n");
 }
 
+TEST_F(MacroErrors, InTheChoiceOfVariablesLeaveAllMembers) {
+    const Result result = macro(std::string(oneRecipe) + R"(
+        choose("A")
+        studio.Click("RCPU1")
+        studio.OnDialog("FSubRecipe", function(d) d.txtVarRecipe.Text = "B" d.cmdOk.Click() end)
+        editor.abr.Click("mnuRecipeMemberNewRecipe")
+        studio.Click("RCPR1")
+        studio.OnDialog("FMultiSelectItems", function(d) d.hxMI.SelectedItems = {"C"} error("oops") end)
+        editor.abr.Click("mnuRecipeMemberNewVariable"))");
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(query(file_, "SELECT VarRecipe, ChildID FROM TrcpRecipeMember ORDER BY ID"), "A|0,B|1");
+}
+
 TEST_F(MacroErrors, OfAComponentReachTheUserOfTheEditor) {
     EXPECT_EQ(printed(std::string(oneRecipe) + R"(
         studio.RegisterComponent("HXProjectReport.Connect", {Hide = function() end})
