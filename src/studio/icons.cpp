@@ -26,4 +26,19 @@ const char* const help = R"svg(<svg xmlns="http://www.w3.org/2000/svg" viewBox="
 <path d="M5.800 6.300a2.300 2.300 0 1 1 3.500 1.900c-0.900 0.600-1.300 1-1.300 1.900" fill="none" stroke="#fff" stroke-width="1.600"
  stroke-linecap="round"/><circle cx="8" cy="12.300" r="1" fill="#fff"/></svg>)svg";
 
+const char* const runMacro = R"svg(<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 16 16">
+<path d="M4 2.500l9 5.500l-9 5.500z" fill="#2e8b57" stroke="#1f6b41" stroke-linejoin="round"/></svg>)svg";
+
+const char* const stopMacro = R"svg(<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 16 16">
+<rect x="3" y="3" width="10" height="10" rx="1" fill="#c0392b" stroke="#8e2a20" stroke-linejoin="round"/></svg>)svg";
+
+const char* const clearOutput = R"svg(<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 16 16">
+<path d="M9.500 2.500l4 4l-6 6h-3.500l-2.500-2.500z" fill="#f8d985" stroke="#5b6b7b" stroke-linejoin="round"/>
+<path d="M5.500 6.500l4 4M7.500 13.500h6.500" fill="none" stroke="#5b6b7b" stroke-linecap="round"/></svg>)svg";
+
+const char* const copyOutput = R"svg(<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 16 16">
+<path d="M5.500 4.500v-3h8v9h-3" fill="#fff" stroke="#5b6b7b" stroke-linejoin="round"/>
+<path d="M2.500 4.500h8v10h-8z" fill="#fff" stroke="#5b6b7b" stroke-linejoin="round"/>
+<path d="M4.500 7.500h4M4.500 9.500h4M4.500 11.500h2.500" stroke="#1f5c8b"/></svg>)svg";
+
 }  // namespace hx::studio::icons

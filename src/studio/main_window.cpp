@@ -38,7 +38,8 @@ MainWindow::MainWindow(StudioHost& host, Preferences& preferences)
       preferences_(preferences),
       documentsHandle_(host.windows().add(documents_)),
       explorer_(tree_, documentsHandle_, host.clipboard(), host.screen()),
-      menus_(*this, *this, *explorerDock_.toggleViewAction(), host.wording()) {
+      macros_(*this, *this, host, explorer_),
+      menus_(*this, *this, {explorerDock_.toggleViewAction(), &macros_.toggleOutput()}, host.wording()) {
     setUp();
     restoreWindow();
     readLanguage();
@@ -61,6 +62,7 @@ void MainWindow::setUp() {
     explorerDock_.setAllowedAreas(Qt::LeftDockWidgetArea | Qt::RightDockWidgetArea);
     setCentralWidget(&documents_);
     addDockWidget(Qt::LeftDockWidgetArea, &explorerDock_);
+    macros_.addTo(*this);
     fileLabel_.setObjectName(QStringLiteral("projectFile"));
     fileLabel_.setContentsMargins(8, 0, 8, 0);
     statusBar()->addPermanentWidget(&fileLabel_);
@@ -82,8 +84,9 @@ void MainWindow::useLanguage(std::int32_t lcid) {
         !host_.wording().isEnglish() &&
         translator_.load(QStringLiteral("qtbase_de"), QLibraryInfo::path(QLibraryInfo::TranslationsPath));
     if (translated) QCoreApplication::installTranslator(&translator_);
-    menus_.retranslate();
     explorerDock_.setWindowTitle(say(Text::explorer));
+    macros_.retranslate();
+    menus_.retranslate();
     tree_.setAccessibleName(say(Text::explorer));
     documents_.setAccessibleName(say(Text::documents));
     documents_.setHint(project_ ? QString() : say(Text::hint));
@@ -100,33 +103,38 @@ void MainWindow::chooseLanguage(std::int32_t lcid) {
     statusBar()->showMessage(say(project_ ? Text::languageLater : Text::ready), messageTime);
 }
 
-bool MainWindow::openProject(const QString& path) {
+bool MainWindow::openProject(const QString& path) { return reported(&MainWindow::open, path); }
+
+bool MainWindow::reported(void (MainWindow::*action)(const QString&), const QString& path) {
+    try {
+        (this->*action)(path);
+        return true;
+    } catch (const automation::Error& error) {
+        warn(qt::toQt(error.description()));
+        return false;
+    }
+}
+
+void MainWindow::open(const QString& path) {
     const QFileInfo file(path);
     if (!file.isFile()) {
         preferences_.removeRecent(path);
-        warn(Text::fileMissing, file.absoluteFilePath());
-        return false;
+        fail(Text::fileMissing, file.absoluteFilePath());
     }
     if (!file.fileName().endsWith(extension, Qt::CaseInsensitive)) {
-        warn(Text::notProjectName, file.absoluteFilePath());
-        return false;
+        fail(Text::notProjectName, file.absoluteFilePath());
     }
-    if (!canBeNamed(file.absoluteFilePath())) {
-        warn(Text::notProjectPath, file.absoluteFilePath());
-        return false;
-    }
+    if (!canBeNamed(file.absoluteFilePath())) fail(Text::notProjectPath, file.absoluteFilePath());
     closeProject();
     try {
         project_ = std::make_unique<Project>(path, host_, explorer_);
     } catch (const automation::Error& error) {
-        warn(Text::registryNotWritten, qt::toQt(error.message()));
-        return false;
+        fail(Text::registryNotWritten, qt::toQt(error.message()));
     }
     preferences_.addRecent(project_->file());
     showProject();
     statusBar()->showMessage(say(Text::projectOpened).arg(project_->name()), messageTime);
     startAddIn();
-    return true;
 }
 
 void MainWindow::startAddIn() {
@@ -166,23 +174,18 @@ void MainWindow::closeProject() {
     statusBar()->showMessage(say(Text::projectClosed), messageTime);
 }
 
-bool MainWindow::createProject(const QString& path) {
+bool MainWindow::createProject(const QString& path) { return reported(&MainWindow::create, path); }
+
+void MainWindow::create(const QString& path) {
     const QString file = path.endsWith(extension, Qt::CaseInsensitive) ? path : path + extension;
-    if (QFileInfo::exists(file)) {
-        warn(Text::fileExists, file);
-        return false;
-    }
-    if (!canBeNamed(QFileInfo(file).absoluteFilePath())) {
-        warn(Text::notProjectPath, file);
-        return false;
-    }
+    if (QFileInfo::exists(file)) fail(Text::fileExists, file);
+    if (!canBeNamed(QFileInfo(file).absoluteFilePath())) fail(Text::notProjectPath, file);
     try {
         sqlite::createProject(qt::fromQt(file));
     } catch (const automation::Error& error) {
-        warn(Text::fileNotCreated, qt::toQt(error.description()));
-        return false;
+        fail(Text::fileNotCreated, qt::toQt(error.description()));
     }
-    return openProject(file);
+    open(file);
 }
 
 void MainWindow::showProject() {
@@ -223,15 +226,22 @@ void MainWindow::showAbout() {
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
+    if (macros_.isRunning()) {
+        macros_.stopAndClose();
+        return event->ignore();
+    }
     if (!preferences_.saveWindow(saveGeometry(), saveState())) warn(Text::settingsNotWritten, preferences_.file());
     closeProject();
     host_.help().closeAll();
     event->accept();
 }
 
-void MainWindow::warn(Text text, const QString& detail) {
-    host_.screen().messageBox(qt::fromQt(say(text).arg(detail)), forms::message::ok | forms::message::exclamation,
-                              qt::fromQt(title));
+void MainWindow::warn(const QString& text) {
+    host_.screen().messageBox(qt::fromQt(text), forms::message::ok | forms::message::exclamation, qt::fromQt(title));
+}
+
+void MainWindow::fail(Text text, const QString& detail) const {
+    throw automation::Error(automation::errFail, qt::fromQt(say(text).arg(detail)));
 }
 
 QString MainWindow::say(Text text) const { return studioText(text, host_.wording()); }

@@ -9,8 +9,10 @@
 #include "adapters/qt/explorer_tree.h"
 #include "adapters/qt/qt_explorer.h"
 #include "studio/document_area.h"
+#include "studio/macro_commands.h"
 #include "studio/preferences.h"
 #include "studio/project.h"
+#include "studio/project_window.h"
 #include "studio/studio_host.h"
 #include "studio/studio_menus.h"
 #include "studio/studio_texts.h"
@@ -18,7 +20,7 @@
 namespace hx::studio {
 
 /// The studio's window: project explorer, area of documents, menus and status line. One project is open at a time.
-class MainWindow : public QMainWindow, private StudioCommands {
+class MainWindow : public QMainWindow, private StudioCommands, private ProjectWindow {
   public:
     /// Both are lent. The language is the registry's ("LCID").
     MainWindow(StudioHost& host, Preferences& preferences);
@@ -32,7 +34,7 @@ class MainWindow : public QMainWindow, private StudioCommands {
     /// Writes the language to the registry. The studio follows at once, the add-in with the next project.
     void chooseLanguage(std::int32_t lcid) override;
 
-    [[nodiscard]] const Project* project() const noexcept { return project_.get(); }
+    [[nodiscard]] const Project* project() const noexcept override { return project_.get(); }
 
   protected:
     void closeEvent(QCloseEvent* event) override;
@@ -46,6 +48,10 @@ class MainWindow : public QMainWindow, private StudioCommands {
     void showAbout() override;
     [[nodiscard]] QStringList recentProjects() const override { return preferences_.recent(); }
 
+    void open(const QString& path) override;
+    void create(const QString& path) override;
+    [[nodiscard]] QString projectFolder() const override;
+
     void setUp();
     void restoreWindow();
     void readLanguage();
@@ -53,9 +59,11 @@ class MainWindow : public QMainWindow, private StudioCommands {
     void installHelp();
     void startAddIn();
     void showProject();
-    void warn(Text text, const QString& detail);
+    void warn(const QString& text);
+    void warn(Text text, const QString& detail) { warn(say(text).arg(detail)); }
+    [[nodiscard]] bool reported(void (MainWindow::*action)(const QString&), const QString& path);
+    [[noreturn]] void fail(Text text, const QString& detail) const;
     [[nodiscard]] QString say(Text text) const;
-    [[nodiscard]] QString projectFolder() const;
 
     StudioHost& host_;
     Preferences& preferences_;
@@ -66,6 +74,7 @@ class MainWindow : public QMainWindow, private StudioCommands {
     QTranslator translator_;
     forms::WindowHandle documentsHandle_;
     qt::QtExplorer explorer_;
+    MacroCommands macros_;
     StudioMenus menus_;
     std::unique_ptr<Project> project_;
 };

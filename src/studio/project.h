@@ -24,7 +24,7 @@ class Project {
     void startAddIn();
     [[nodiscard]] const QString& file() const noexcept { return file_; }
     [[nodiscard]] const QString& name() const noexcept { return name_; }
-    [[nodiscard]] host::CHX4Extensibility* addIn() const noexcept { return addIn_.get(); }
+    [[nodiscard]] const std::shared_ptr<host::CHX4Extensibility>& addIn() const noexcept { return addIn_; }
 
   private:
     void recordFolder();

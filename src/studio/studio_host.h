@@ -15,6 +15,8 @@
 #include "host/ini_text_file.h"
 #include "host/registry_file.h"
 #include "host/services.h"
+#include "macros/attended_screen.h"
+#include "macros/attended_services.h"
 #include "studio/help_file.h"
 #include "studio/project_variables.h"
 
@@ -23,10 +25,15 @@ namespace hx::studio {
 /// The services of the desktop studio, each made once. Needs a QApplication and outlives all that it lends to.
 class StudioHost {
   public:
-    /// The registry lies in the configuration folder; add-in modules in the first of `moduleFolders` that has them.
+    /// The registry and the user's macros lie in the configuration folder; add-in modules and sample macros in the
+    /// first of `moduleFolders` that has them.
     StudioHost(const QString& configFolder, const QStringList& moduleFolders);
 
+    /// What an add-in is lent.
     [[nodiscard]] const host::Services& services() const noexcept { return services_; }
+    /// Who answers the add-ins while a macro runs, and the screen that asks.
+    [[nodiscard]] macros::Attendance& attendance() noexcept { return attendance_; }
+    [[nodiscard]] macros::AttendedScreen& attendedScreen() noexcept { return attendedScreen_; }
     [[nodiscard]] qt::QtScreen& screen() noexcept { return screen_; }
     [[nodiscard]] qt::QtWindows& windows() noexcept { return windows_; }
     [[nodiscard]] qt::Wording& wording() noexcept { return wording_; }
@@ -36,10 +43,15 @@ class StudioHost {
     [[nodiscard]] qt::QtHelpViewer& help() noexcept { return help_; }
     [[nodiscard]] HelpFile& helpFile() noexcept { return helpFile_; }
 
+    [[nodiscard]] const QString& configFolder() const noexcept { return configFolder_; }
+    [[nodiscard]] const QStringList& moduleFolders() const noexcept { return moduleFolders_; }
+
     /// The project whose variables and folder the choices offer; empty for none.
     void setProjectFile(const QString& path);
 
   private:
+    QString configFolder_;
+    QStringList moduleFolders_;
     qt::Wording wording_;
     qt::QtWindows windows_;
     qt::QtScreen screen_;
@@ -53,6 +65,12 @@ class StudioHost {
     ProjectVariables variables_;
     qt::QtItemSelection items_;
     qt::QtPathSelection folders_;
+    macros::Attendance attendance_;
+    macros::AttendedScreen attendedScreen_;
+    macros::AttendedHelp attendedHelp_;
+    macros::AttendedComponents attendedComponents_;
+    macros::AttendedItems attendedItems_;
+    macros::AttendedFolders attendedFolders_;
     host::Services services_;
 };
 

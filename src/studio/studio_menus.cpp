@@ -9,10 +9,9 @@
 
 namespace hx::studio {
 
-StudioMenus::StudioMenus(QMainWindow& window, StudioCommands& commands, QAction& showExplorer,
+StudioMenus::StudioMenus(QMainWindow& window, StudioCommands& commands, const QList<QAction*>& views,
                          const qt::Wording& wording)
     : commands_(commands),
-      showExplorer_(showExplorer),
       wording_(wording),
       file_(&window),
       recent_(&window),
@@ -28,7 +27,7 @@ StudioMenus::StudioMenus(QMainWindow& window, StudioCommands& commands, QAction&
       showHelp_(&window),
       about_(&window),
       languages_(this) {
-    build(window);
+    build(window, views);
     connect(&new_, &QAction::triggered, this, [this] { commands_.newProject(); });
     connect(&open_, &QAction::triggered, this, [this] { commands_.chooseProject(); });
     connect(&close_, &QAction::triggered, this, [this] { commands_.closeProject(); });
@@ -41,7 +40,7 @@ StudioMenus::StudioMenus(QMainWindow& window, StudioCommands& commands, QAction&
     retranslate();
 }
 
-void StudioMenus::build(QMainWindow& window) {
+void StudioMenus::build(QMainWindow& window, const QList<QAction*>& views) {
     const std::pair<QObject*, const char*> names[] = {
         {&file_, "menuFile"},         {&recent_, "menuRecent"},     {&view_, "menuView"},
         {&language_, "menuLanguage"}, {&help_, "menuHelp"},         {&new_, "actionNew"},
@@ -64,7 +63,7 @@ void StudioMenus::build(QMainWindow& window) {
     file_.addAction(&close_);
     file_.addSeparator();
     file_.addAction(&exit_);
-    view_.addAction(&showExplorer_);
+    view_.addActions(views);
     language_.addActions({&german_, &english_});
     showHelp_.setIcon(qt::svgIcon(icons::help));
     help_.addAction(&showHelp_);
@@ -86,8 +85,7 @@ void StudioMenus::retranslate() {
                                                  {&german_, Text::german},
                                                  {&english_, Text::english},
                                                  {&showHelp_, Text::showHelp},
-                                                 {&about_, Text::about},
-                                                 {&showExplorer_, Text::explorer}};
+                                                 {&about_, Text::about}};
     for (const auto& [action, text] : actions) action->setText(studioText(text, wording_));
     (wording_.isEnglish() ? english_ : german_).setChecked(true);
 }

@@ -28,16 +28,16 @@ class StudioCommands {
 /// The menus of the main window, in the studio's language.
 class StudioMenus : public QObject {
   public:
-    /// All are lent. `showExplorer` shows and hides the explorer.
-    StudioMenus(QMainWindow& window, StudioCommands& commands, QAction& showExplorer, const qt::Wording& wording);
+    /// All are lent. `views` show and hide the docks; they bring their texts with them.
+    StudioMenus(QMainWindow& window, StudioCommands& commands, const QList<QAction*>& views,
+                const qt::Wording& wording);
     void retranslate();
     void setProjectOpen(bool open) { close_.setEnabled(open); }
 
   private:
-    void build(QMainWindow& window);
+    void build(QMainWindow& window, const QList<QAction*>& views);
     void fillRecent();
     StudioCommands& commands_;
-    QAction& showExplorer_;
     const qt::Wording& wording_;
     QMenu file_, recent_, view_, language_, help_;
     QAction new_, open_, close_, exit_, german_, english_, showHelp_, about_;

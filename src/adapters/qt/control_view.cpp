@@ -82,6 +82,11 @@ void ControlView::show(std::string_view property) {
     }
 }
 
+// In a window that is not in front, where the keyboard would be: keys that are sent to it come there.
+bool ControlView::hasKeyboard(const QWidget& part) {
+    return part.hasFocus() || (!part.isActiveWindow() && part.window()->focusWidget() == &part);
+}
+
 bool ControlView::eventFilter(QObject* watched, QEvent* event) {
     if (control_ == nullptr || !watched->isWidgetType()) return false;
     auto& part = static_cast<QWidget&>(*watched);
@@ -89,7 +94,7 @@ bool ControlView::eventFilter(QObject* watched, QEvent* event) {
         case QEvent::KeyPress:
         case QEvent::KeyRelease:
             // A key that a part has ignored comes again to the widgets around it: reported once, where the focus is.
-            return part.hasFocus() && form_.reportKey(static_cast<QKeyEvent&>(*event), *control_);
+            return hasKeyboard(part) && form_.reportKey(static_cast<QKeyEvent&>(*event), *control_);
         case QEvent::MouseButtonPress:
         case QEvent::MouseMove:
         case QEvent::MouseButtonRelease:

@@ -51,6 +51,7 @@ class ControlView : public QObject {
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
+    [[nodiscard]] static bool hasKeyboard(const QWidget& part);
     bool mouse(QWidget& part, QEvent& event);
 
     forms::Control* control_;

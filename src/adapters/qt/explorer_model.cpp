@@ -26,7 +26,8 @@ void ExplorerModel::add(const host::NewNode& node) {
     const Id id = tree_.add(node);
     const Id parent = tree_.parent(id);
     mark(new_, id);
-    if (isNew(parent)) return;  // it comes with its parent
+    if (parent == growing_ || isNew(parent)) return;  // a new one brings it along
+    growing_ = parent;
     published_.try_emplace(parent, static_cast<int>(tree_.childCount(parent)) - 1);
     if (!timer_.isActive()) timer_.start();
 }
@@ -67,12 +68,18 @@ void ExplorerModel::setCaption(std::string_view key, std::string_view caption) {
     emit dataChanged(changed, changed, {Qt::DisplayRole});
 }
 
+const host::NodeTree& ExplorerModel::nodes() {
+    publish();
+    return tree_;
+}
+
 void ExplorerModel::clear() {
     beginResetModel();
     tree_.clear();
     images_.clear();
     new_.clear();
     published_.clear();
+    growing_ = host::NodeTree::none;
     going_.clear();
     goingMarks_.clear();
     endResetModel();
@@ -91,6 +98,7 @@ void ExplorerModel::publishNew() {
         const int count = static_cast<int>(tree_.childCount(parent));
         if (count > known) beginInsertRows(indexOf(parent), known, count - 1);
         published_.erase(parent);
+        growing_ = host::NodeTree::none;
         if (count > known) endInsertRows();
     }
 }

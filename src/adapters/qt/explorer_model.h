@@ -33,6 +33,8 @@ class ExplorerModel : public QAbstractItemModel {
     [[nodiscard]] std::string caption(const QModelIndex& index) const {
         return std::string(tree_.caption(idOf(index)));
     }
+    /// All nodes as they are now.
+    [[nodiscard]] const host::NodeTree& nodes();
     void setImage(const std::string& key, const QIcon& icon);
     [[nodiscard]] bool hasImage(const std::string& key) const { return images_.contains(key); }
 
@@ -59,6 +61,7 @@ class ExplorerModel : public QAbstractItemModel {
     QTimer timer_;
     std::vector<bool> new_;                  ///< by number: not published yet
     std::unordered_map<Id, int> published_;  ///< children that views know, where some are new
+    Id growing_ = host::NodeTree::none;      ///< the one of these that got the last new child
     std::vector<Id> going_;                  ///< removed, but still in the tree
     std::vector<bool> goingMarks_;           ///< by number
 };

@@ -186,19 +186,43 @@ QWidget& FormView::firstField() {
 
 void FormView::runModal(QWidget* owner) {
     QWidget* over = owner == nullptr ? nullptr : owner->window();
-    if (widget_.parentWidget() != over || widget_.windowFlags() != dialogFlags) widget_.setParent(over, dialogFlags);
-    widget_.setWindowModality(Qt::ApplicationModal);
-    if (laidOut_) placeOver(over);
     QEventLoop loop;
     const QScopedValueRollback modal(modal_, &loop);
+    openOver(over, Qt::ApplicationModal);
+    if (form_->visible()) loop.exec(QEventLoop::DialogExec);
+    closeOver(over);
+}
+
+// A modal window would keep the user from everything, also from what ends the work.
+void FormView::showFor(QWidget* owner, const std::function<void()>& work) {
+    QWidget* over = owner == nullptr ? nullptr : owner->window();
+    const QPointer<FormView> alive = this;
+    openOver(over, Qt::NonModal);
+    try {
+        work();
+    } catch (...) {
+        if (alive) closeOver(over);
+        throw;
+    }
+    if (alive) closeOver(over);
+}
+
+void FormView::openOver(QWidget* window, Qt::WindowModality modality) {
+    if (widget_.parentWidget() != window || widget_.windowFlags() != dialogFlags) {
+        widget_.setParent(window, dialogFlags);
+    }
+    widget_.setWindowModality(modality);
+    if (laidOut_) placeOver(window);
     if (!form_->visible()) form_->setVisible(true);
     applyVisible();
     if (widget_.focusWidget() == nullptr) startKeyboard();
-    if (form_->visible()) loop.exec(QEventLoop::DialogExec);
+}
+
+// The owner may end before the form does, and must not take the window along.
+void FormView::closeOver(const QWidget* window) {
     if (form_ == nullptr) return;
     widget_.hide();
-    // The owner may end before the form does, and must not take the window along.
-    if (over != nullptr) widget_.setParent(nullptr, dialogFlags);
+    if (window != nullptr) widget_.setParent(nullptr, dialogFlags);
 }
 
 void FormView::startKeyboard() {

@@ -6,6 +6,7 @@
 #include <QObject>
 #include <QPointer>
 #include <QWidget>
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -63,6 +64,8 @@ class FormView : public QObject {
     void bringToFront();
     /// Shows it over `owner` until the form is hidden or ends.
     void runModal(QWidget* owner);
+    /// Shows it over `owner` while the work is done on it in place of the user.
+    void showFor(QWidget* owner, const std::function<void()>& work);
     /// Gives the keyboard to the first field that can be seen.
     void startKeyboard();
     /// Gives to the models what is being typed.
@@ -83,6 +86,8 @@ class FormView : public QObject {
   private:
     void build();
     void orderTabs();
+    void openOver(QWidget* window, Qt::WindowModality modality);
+    void closeOver(const QWidget* window);
     void placeOver(const QWidget* window);
     [[nodiscard]] QWidget& firstField();
     void apply(std::string_view property);

@@ -75,6 +75,22 @@ host::NodeEvent QtExplorer::eventOf(const QModelIndex& node) const {
     return {project_, model_.key(node), model_.caption(node)};
 }
 
+QModelIndex QtExplorer::requireNode(std::string_view key) const {
+    const QModelIndex node = model_.find(key);
+    if (!isAddIns(node)) automation::throwBadIndex("Nodes", automation::Variant(std::string(key)));
+    return node;
+}
+
+host::NodeEvent QtExplorer::eventOf(std::string_view key) const { return eventOf(requireNode(key)); }
+
+void QtExplorer::select(std::string_view key) { tree_.setCurrentIndex(key.empty() ? QModelIndex() : requireNode(key)); }
+
+void QtExplorer::showExpanded(std::string_view key) {
+    const QModelIndex node = requireNode(key);
+    const QScopedValueRollback byProgram(byProgram_, true);
+    tree_.expand(node);
+}
+
 void QtExplorer::nodeClicked(const QModelIndex& node) {
     if (!isAddIns(node)) return;
     const bool hadKeyboard = tree_.hasFocus();

@@ -37,6 +37,12 @@ class QtExplorer : public host::ProjectExplorer, private NodeListener {
     [[nodiscard]] host::NodeEvent selectedNode() const override;
     void activate() override { tree_.setFocus(Qt::OtherFocusReason); }
 
+    /// What an event of one of the add-in's nodes carries; errBadIndex when unknown.
+    [[nodiscard]] host::NodeEvent eventOf(std::string_view key) const;
+    /// As the user's choice; an empty key selects nothing. errBadIndex when unknown.
+    void select(std::string_view key);
+    /// Shows the nodes below a node without an event; errBadIndex when unknown.
+    void showExpanded(std::string_view key);
     [[nodiscard]] ExplorerModel& model() noexcept { return model_; }
 
   private:
@@ -48,6 +54,7 @@ class QtExplorer : public host::ProjectExplorer, private NodeListener {
     void nodeTyped(const QModelIndex& node, std::int32_t character) override;
     [[nodiscard]] bool isAddIns(const QModelIndex& node) const;
     [[nodiscard]] host::NodeEvent eventOf(const QModelIndex& node) const;
+    [[nodiscard]] QModelIndex requireNode(std::string_view key) const;
 
     ExplorerTree& tree_;
     mutable ExplorerModel model_;  // a question publishes what waits

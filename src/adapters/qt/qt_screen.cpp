@@ -50,6 +50,11 @@ void QtScreen::showModal(forms::Form& form, forms::WindowHandle owner) {
     if (FormView* view = viewOf(form)) view->runModal(windows_.widget(owner));
 }
 
+void QtScreen::showFor(forms::Form& form, forms::WindowHandle owner, const std::function<void()>& work) {
+    if (FormView* view = viewOf(form)) view->showFor(windows_.widget(owner), work);
+    else work();
+}
+
 void QtScreen::bringToFront(forms::Form& form) {
     if (FormView* view = viewOf(form)) view->bringToFront();
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <map>
 #include <memory>
 
@@ -30,6 +31,8 @@ class QtScreen : public forms::Screen {
     void sendKeys(forms::Form& form, std::string_view keys) override;
     [[nodiscard]] double twipsPerPixel() const override { return views_.units.twipsPerPixel(); }
 
+    /// Shows a dialog over `owner` while the work is done on it in place of the user; the form is hidden by the work.
+    void showFor(forms::Form& form, forms::WindowHandle owner, const std::function<void()>& work);
     /// The project's variables, lent: what dialogs that are shown from now on offer.
     void setVariables(const VariableSource& variables) { views_.variables = &variables; }
     /// Gives to the models what is being typed in any window.

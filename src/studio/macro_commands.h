@@ -1,0 +1,54 @@
+#pragma once
+
+#include <QAction>
+#include <QHash>
+#include <QMainWindow>
+
+#include "studio/macro_dock.h"
+#include "studio/macro_library.h"
+#include "studio/macro_menu.h"
+#include "studio/macro_runner.h"
+
+namespace hx::studio {
+
+/// The studio's macros: their menu, their output and the one that runs.
+class MacroCommands : public QObject, private MacroMenuCommands {
+  public:
+    /// All are lent. The user's macros lie in the folder "macros" of the host's configuration.
+    MacroCommands(QMainWindow& window, ProjectWindow& projects, StudioHost& host, qt::QtExplorer& explorer);
+
+    /// Shows and hides the output.
+    [[nodiscard]] QAction& toggleOutput() { return *dock_.toggleViewAction(); }
+    /// Puts the menu before the last one and the output below.
+    void addTo(QMainWindow& window);
+    void retranslate();
+
+    [[nodiscard]] bool isRunning() const noexcept { return runner_.isRunning(); }
+    /// Stops what runs, and closes the window once it has ended.
+    void stopAndClose();
+
+  private:
+    void runMacro(const QString& path) override;
+    void chooseMacro() override;
+    void openMacroFolder() override;
+    void copySampleMacros() override;
+    void runChosen();
+    void showRunning();
+    void report(const QString& text);
+    [[nodiscard]] bool makeFolder();
+    [[nodiscard]] QString say(Text text) const { return studioText(text, host_.wording()); }
+
+    QMainWindow& window_;
+    ProjectWindow& projects_;
+    StudioHost& host_;
+    MacroLibrary library_;
+    QAction runAgain_, stop_;
+    MacroDock dock_;
+    MacroMenu menu_;
+    MacroRunner runner_;
+    QString last_;
+    QHash<QString, QString> arguments_;  ///< of each macro that was run, by its path
+    bool closing_ = false;
+};
+
+}  // namespace hx::studio

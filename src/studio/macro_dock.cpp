@@ -1,0 +1,198 @@
+#include "studio/macro_dock.h"
+
+#include <QClipboard>
+#include <QFontDatabase>
+#include <QGuiApplication>
+#include <QLocale>
+#include <QRegularExpression>
+#include <QScrollBar>
+#include <QTextBlock>
+#include <QTextDocumentFragment>
+#include <QTime>
+#include <QVBoxLayout>
+
+#include "adapters/qt/svg_icon.h"
+#include "adapters/qt/text.h"
+#include "studio/icons.h"
+
+namespace hx::studio {
+
+namespace {
+
+constexpr int argumentsWidth = 30;  // characters
+constexpr int iconSize = 16;
+
+bool isDark(const QWidget& widget) { return widget.palette().color(QPalette::Base).lightness() < 128; }
+
+// "name.lua:12: what"
+QString lineOf(const QString& message) {
+    static const QRegularExpression place(QStringLiteral("^[^:\\n]*:(\\d+):"));
+    return place.match(message).captured(1);
+}
+
+}  // namespace
+
+MacroDock::MacroDock(QWidget& window, QAction& runAgain, QAction& stop, const qt::Wording& wording)
+    : QDockWidget(&window),
+      wording_(wording),
+      panel_(this),
+      tools_(&panel_),
+      clear_(this),
+      copy_(this),
+      argumentsLabel_(&panel_),
+      arguments_(&panel_),
+      status_(&panel_),
+      text_(&panel_) {
+    setObjectName(QStringLiteral("macroDock"));
+    setAllowedAreas(Qt::AllDockWidgetAreas);
+    build(runAgain, stop);
+    connect(&clear_, &QAction::triggered, &text_, &QPlainTextEdit::clear);
+    connect(&copy_, &QAction::triggered, this, [this] { copyText(); });
+    retranslate();
+    hide();
+}
+
+void MacroDock::build(QAction& runAgain, QAction& stop) {
+    const std::pair<QObject*, const char*> names[] = {{&tools_, "macroTools"},      {&clear_, "actionClearOutput"},
+                                                      {&copy_, "actionCopyOutput"}, {&arguments_, "macroArguments"},
+                                                      {&status_, "macroStatus"},    {&text_, "macroText"}};
+    for (const auto& [object, name] : names) object->setObjectName(QLatin1StringView(name));
+    clear_.setIcon(qt::svgIcon(icons::clearOutput));
+    copy_.setIcon(qt::svgIcon(icons::copyOutput));
+    tools_.setIconSize(QSize(iconSize, iconSize));
+    tools_.setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    tools_.addActions({&runAgain, &stop});
+    tools_.addSeparator();
+    tools_.addActions({&clear_, &copy_});
+    tools_.addSeparator();
+    argumentsLabel_.setBuddy(&arguments_);
+    argumentsLabel_.setContentsMargins(4, 0, 4, 0);
+    arguments_.setClearButtonEnabled(true);
+    arguments_.setMaximumWidth(arguments_.fontMetrics().averageCharWidth() * argumentsWidth);
+    tools_.addWidget(&argumentsLabel_);
+    tools_.addWidget(&arguments_);
+    status_.setTextFormat(Qt::PlainText);
+    status_.setContentsMargins(8, 0, 8, 0);
+    tools_.addWidget(&status_);
+    text_.setReadOnly(true);
+    text_.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    text_.setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    text_.setMaximumBlockCount(lineCount);
+    text_.setFrameShape(QFrame::NoFrame);
+    auto* const rows = std::make_unique<QVBoxLayout>(&panel_).release();  // the panel's own
+    rows->setContentsMargins(0, 0, 0, 0);
+    rows->setSpacing(0);
+    rows->addWidget(&tools_);
+    rows->addWidget(&text_);
+    setWidget(&panel_);
+}
+
+void MacroDock::begin(const QString& name) {
+    name_ = name;
+    setState(State::running);
+    show();
+    raise();
+    QTextCharFormat quiet;
+    quiet.setForeground(palette().color(QPalette::PlaceholderText));
+    const QLocale locale(wording_.isEnglish() ? QLocale::English : QLocale::German);
+    const QString time = locale.toString(QTime::currentTime(), QStringLiteral("HH:mm:ss"));
+    append(QStringLiteral("── %1  %2 ──\n").arg(name, time), quiet);
+}
+
+void MacroDock::flush() {
+    if (buffer_.isEmpty()) return;
+    std::size_t leftOut = 0;
+    const QString text = buffer_.take(leftOut);
+    if (leftOut > 0) append(say(Text::macroLinesLeftOut).arg(wording_.number(leftOut)) + '\n', {});
+    append(text, {});
+}
+
+// Who has scrolled up to read stays there.
+void MacroDock::append(const QString& text, const QTextCharFormat& format) {
+    QScrollBar& bar = *text_.verticalScrollBar();
+    const bool follows = bar.value() == bar.maximum();
+    QTextCursor end(text_.document());
+    end.movePosition(QTextCursor::End);
+    end.insertText(text, format);
+    if (follows) bar.setValue(bar.maximum());
+}
+
+void MacroDock::appendError(const QString& text) {
+    QTextCharFormat red;
+    red.setForeground(isDark(text_) ? QColor(0xff, 0x8a, 0x80) : QColor(0xb3, 0x26, 0x1e));
+    const bool lineBegun = text_.document()->lastBlock().length() > 1;
+    append((lineBegun ? QStringLiteral("\n") : QString()) + text + '\n', red);
+}
+
+void MacroDock::done(double seconds) {
+    flush();
+    seconds_ = seconds;
+    setState(State::done);
+}
+
+void MacroDock::stopped(double seconds, const QString& traceback) {
+    flush();
+    seconds_ = seconds;
+    setState(State::stopped);
+    appendError(stateText() + (traceback.isEmpty() ? QString() : '\n' + traceback));
+}
+
+void MacroDock::failed(const QString& message, const QString& traceback) {
+    flush();
+    line_ = lineOf(message);
+    setState(State::failed);
+    appendError(message + (traceback.isEmpty() ? QString() : '\n' + traceback));
+}
+
+void MacroDock::showNotRead(const QString& path) {
+    show();
+    raise();
+    name_ = path;
+    setState(State::notRead);
+    appendError(stateText());
+}
+
+void MacroDock::setRunning(bool running) {
+    for (QWidget* widget : {static_cast<QWidget*>(&arguments_), static_cast<QWidget*>(&argumentsLabel_)}) {
+        widget->setEnabled(!running);
+    }
+}
+
+void MacroDock::copyText() {
+    const QString selected = text_.textCursor().selection().toPlainText();
+    QGuiApplication::clipboard()->setText(selected.isEmpty() ? text_.toPlainText() : selected);
+}
+
+void MacroDock::setState(State state) {
+    state_ = state;
+    status_.setText(stateText());
+}
+
+QString MacroDock::stateText() const {
+    const QLocale locale(wording_.isEnglish() ? QLocale::English : QLocale::German);
+    const QString seconds = locale.toString(seconds_, 'f', 1);
+    switch (state_) {
+        case State::running: return say(Text::macroRunning).arg(name_, stopKey_);
+        case State::done: return say(Text::macroDone).arg(name_, seconds);
+        case State::stopped: return say(Text::macroStopped).arg(name_, seconds);
+        case State::failed:
+            if (line_.isEmpty()) return say(Text::macroFailed).arg(name_);
+            return say(Text::macroFailedInLine).arg(name_, line_);
+        case State::notRead: return say(Text::macroNotRead).arg(name_);
+        default: return {};
+    }
+}
+
+void MacroDock::retranslate() {
+    setWindowTitle(say(Text::macroOutput));
+    tools_.setWindowTitle(say(Text::macroOutput));
+    text_.setAccessibleName(say(Text::macroOutput));
+    clear_.setText(say(Text::clearOutput));
+    copy_.setText(say(Text::copyOutput));
+    argumentsLabel_.setText(say(Text::macroArguments));
+    arguments_.setAccessibleName(say(Text::macroArguments).remove('&').remove(':'));
+    arguments_.setToolTip(say(Text::macroArgumentsTip));
+    status_.setText(stateText());
+}
+
+}  // namespace hx::studio

@@ -1,0 +1,66 @@
+#pragma once
+
+#include <QAction>
+#include <QDockWidget>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QToolBar>
+#include <string_view>
+
+#include "adapters/qt/wording.h"
+#include "studio/output_buffer.h"
+#include "studio/studio_texts.h"
+
+namespace hx::studio {
+
+/// Shows what macros print and how they end.
+class MacroDock : public QDockWidget {
+  public:
+    /// The latest lines are kept.
+    static constexpr int lineCount = 10000;
+
+    /// The actions stand first in the row of tools. All are lent.
+    MacroDock(QWidget& window, QAction& runAgain, QAction& stop, const qt::Wording& wording);
+
+    /// Shows itself; the macro of this name is running now.
+    void begin(const QString& name);
+    /// Takes what the macro prints; it is shown by flush().
+    void print(std::string_view text) { buffer_.add(text); }
+    void flush();
+    void done(double seconds);
+    void stopped(double seconds, const QString& traceback);
+    void failed(const QString& message, const QString& traceback);
+    void showNotRead(const QString& path);
+
+    [[nodiscard]] QString arguments() const { return arguments_.text(); }
+    void setArguments(const QString& text) { arguments_.setText(text); }
+    void setStopKey(const QString& key) { stopKey_ = key; }
+    void setRunning(bool running);
+    void retranslate();
+
+  private:
+    enum class State { idle, running, done, stopped, failed, notRead };
+    void build(QAction& runAgain, QAction& stop);
+    void append(const QString& text, const QTextCharFormat& format);
+    void appendError(const QString& text);
+    void copyText();
+    void setState(State state);
+    [[nodiscard]] QString stateText() const;
+    [[nodiscard]] QString say(Text text) const { return studioText(text, wording_); }
+
+    const qt::Wording& wording_;
+    QWidget panel_;
+    QToolBar tools_;
+    QAction clear_, copy_;
+    QLabel argumentsLabel_;
+    QLineEdit arguments_;
+    QLabel status_;
+    QPlainTextEdit text_;
+    OutputBuffer buffer_;
+    State state_ = State::idle;
+    QString name_, stopKey_, line_;
+    double seconds_ = 0;
+};
+
+}  // namespace hx::studio

@@ -1,0 +1,81 @@
+#include "studio/window_studio.h"
+
+#include <QDir>
+#include <algorithm>
+#include <limits>
+
+#include "adapters/qt/text.h"
+
+namespace hx::studio {
+
+namespace {
+
+constexpr std::string_view editorClass = "frmtabgrid";
+constexpr std::int32_t allLevels = std::numeric_limits<std::int32_t>::max();
+const QString extension = QStringLiteral(".hxs");
+
+}  // namespace
+
+// Relative paths begin where a choice of a file does.
+QString WindowStudio::absolute(const std::string& path) const {
+    return QDir::cleanPath(QDir(window_.projectFolder()).absoluteFilePath(qt::toQt(path)));
+}
+
+void WindowStudio::newProject(const std::string& path) {
+    keepOpened();
+    window_.create(absolute(path));
+}
+
+void WindowStudio::openProject(const std::string& pathOrName) {
+    const bool isFile = qt::toQt(pathOrName).endsWith(extension, Qt::CaseInsensitive);
+    const QString file = isFile ? absolute(pathOrName) : fileOfName(pathOrName);
+    keepOpened();
+    window_.open(file);
+}
+
+QString WindowStudio::fileOfName(const std::string& name) const {
+    const std::string folder = host_.registry().readString(std::string(host::registry_keys::projects) + name, "Path");
+    if (folder.empty()) throw automation::Error(automation::errFail, "No project '" + name + "' is known");
+    return QDir(qt::toQt(folder)).absoluteFilePath(qt::toQt(name) + extension);
+}
+
+void WindowStudio::closeProject() {
+    keepOpened();
+    window_.closeProject();
+}
+
+void WindowStudio::keepOpened() {
+    if (const auto open = addIn()) addIns_.push_back(open);
+    (void)editorWindow();
+}
+
+std::string WindowStudio::file() const {
+    const Project* project = window_.project();
+    return project == nullptr ? std::string() : qt::fromQt(project->file());
+}
+
+std::shared_ptr<host::CHX4Extensibility> WindowStudio::addIn() const {
+    const Project* project = window_.project();
+    return project == nullptr ? nullptr : project->addIn();
+}
+
+automation::ObjectRef WindowStudio::editorWindow() {
+    forms::Form* form = addIn() == nullptr ? nullptr : host_.attendedScreen().find(editorClass);
+    if (form == nullptr) return nullptr;
+    const automation::ObjectRef window = form->share();
+    if (std::ranges::find(windows_, window) == windows_.end()) windows_.push_back(window);
+    return window;
+}
+
+// The project's own node is the studio's, not the add-in's.
+std::vector<macros::Node> WindowStudio::nodes() {
+    const host::NodeTree& tree = explorer_.model().nodes();
+    std::vector<macros::Node> list;
+    for (const std::string& key : tree.childKeys(qt::QtExplorer::projectKey, allLevels)) {
+        list.push_back(macros::nodeOf(tree, key));
+        if (list.back().parent == qt::QtExplorer::projectKey) list.back().parent.clear();
+    }
+    return list;
+}
+
+}  // namespace hx::studio
