@@ -1,5 +1,6 @@
 #include "cli/variables_import.h"
 
+#include <filesystem>
 #include <fstream>
 #include <optional>
 
@@ -108,6 +109,8 @@ bool isXml(const std::string& path) {
                                     ".xml")) {
         return true;
     }
+    std::error_code ignored;
+    if (!std::filesystem::is_regular_file(path, ignored)) return false;
     std::ifstream file(path, std::ios::binary);
     constexpr std::string_view begins = "<?xml";
     // Also behind a byte order mark, and in UTF-16.
@@ -119,6 +122,9 @@ bool isXml(const std::string& path) {
 }
 
 void readList(const VariablesImport& plan, const VariableLimits& limits, VariableReceiver& receiver) {
+    if (beginsLikeProject(plan.list)) {
+        throw automation::Error(automation::errFail, plan.list + " is a project, not a list of variables");
+    }
     if (isXml(plan.list)) readPlcopenVariables(plan.list, limits, receiver);
     else readCsvVariables(plan.list, plan.encoding, receiver);
 }
