@@ -200,6 +200,47 @@ TEST_F(MacroNames, AreLookedForOnEveryObject) {
     EXPECT_EQ(printed(probe(rows)), expected);
 }
 
+// Reads, assigns and calls each member with values that it may not expect.
+constexpr const char* tryAnything = R"(
+    local values = {0, -1, 99999, 2.5, "", "RCPU1", "VarRecipe", true, null, {"A"}, editor}
+    local refused, taken = 0, 0
+    local function reopen()
+        studio.CloseProject() studio.OpenProject("$P") studio.Expand("RCPE0")
+        studio.Click(studio.Nodes()[2].key)
+    end
+    local function count(ok) if ok then taken = taken + 1 else refused = refused + 1 end end
+    local function anything(find, name)
+        local ok, object = pcall(find)
+        if not ok or object == nil then return end
+        count(pcall(function() return object[name] end))
+        count(pcall(function() return object[name]() end))
+        for i, value in ipairs(values) do
+            count(pcall(function() object[name] = value end))
+            count(pcall(function() return object[name](value) end))
+            count(pcall(function() return object[name](value, values[1 + i % #values]) end))
+        end
+    end
+)";
+
+TEST_F(MacroNames, CanBeUsedWithAnythingAndTheEditorGoesOn) {
+    std::string text = std::string(oneRecipe) + objects + tryAnything;
+    for (const auto& [object, members] : names) {
+        const std::string_view name = object;
+        if (name == "studio" || name == "project") continue;
+        text += "reopen()\n";
+        for (const char* member : members) {
+            text += "anything(function() return " + std::string(object) + " end, \"" + member + "\")\n";
+        }
+    }
+    text += R"(
+        reopen() studio.Messages()
+        studio.Click("RCPE0") editor.abr.Click("mnuRecipeNew")
+        local last = studio.Nodes()[#studio.Nodes()].key
+        studio.Click(last)
+        print(editor.NodeKey == last, #studio.Messages(), taken > 500, refused > 1000))";
+    EXPECT_EQ(printed(text), "true\t0\ttrue\ttrue\n");
+}
+
 TEST_F(MacroNames, OfBandsAndToolsAreThere) {
     EXPECT_EQ(printed(std::string(oneRecipe) + R"(
         local tools = {
