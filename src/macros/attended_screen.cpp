@@ -6,8 +6,22 @@
 #include "adapters/headless/message_style.h"
 #include "automation/text.h"
 #include "forms/bar.h"
+#include "forms/simple_controls.h"
 
 namespace hx::macros {
+
+namespace {
+
+// By the button that Esc presses: to some dialogs their frame means yes.
+void cancel(forms::Form& form) {
+    for (const auto& control : form.controls()) {
+        auto* const button = dynamic_cast<forms::CommandButton*>(control.get());
+        if (button != nullptr && button->isCancel()) return button->click();
+    }
+    form.closeByFrame();
+}
+
+}  // namespace
 
 forms::Form* AttendedScreen::find(std::string_view className) const {
     const auto latest = forms_ | std::views::reverse;
@@ -20,7 +34,7 @@ bool AttendedScreen::dismissDialog() {
     if (dialogs_.empty()) return false;
     forms::Form& form = *dialogs_.back();
     const auto keep = form.share();
-    form.closeByFrame();
+    cancel(form);
     form.hide();  // one that refuses to close would wait for ever
     return true;
 }
@@ -42,7 +56,11 @@ bool AttendedScreen::isScripted(const forms::Form& form) const {
 }
 
 void AttendedScreen::showModal(forms::Form& form, forms::WindowHandle owner) {
-    if (attendance_.answers() && (isScripted(form) || attendance_.cancels())) {
+    if (attendance_.cancels()) {
+        cancel(form);
+        return form.hide();
+    }
+    if (attendance_.answers() && isScripted(form)) {
         const Attendance::Asking asking(attendance_);
         return showFor_(form, owner, [&] { scripted_.showModal(form, owner); });
     }
