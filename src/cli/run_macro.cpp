@@ -9,6 +9,7 @@
 #include "adapters/lua/engine.h"
 #include "automation/text.h"
 #include "cli/interruption.h"
+#include "cli/project_reader.h"
 #include "macros/globals.h"
 
 namespace hx::cli {
@@ -22,6 +23,14 @@ std::string readMacro(const std::string& path) {
     std::string text{std::istreambuf_iterator<char>(file), {}};
     if (file.bad() || !file.is_open()) throw automation::Error(automation::errFail, "Cannot read '" + path + "'");
     return text;
+}
+
+void makeFolder(const std::string& path) {
+    std::error_code problem;
+    std::filesystem::create_directories(path, problem);
+    if (std::filesystem::is_directory(path)) return;
+    throw automation::Error(automation::errFail, "Cannot make the folder '" + path + "'" +
+                                                     (problem ? ": " + problem.message() : std::string()));
 }
 
 /// The studio and its engine. The macro's answers end with it, before the project is closed.
@@ -42,8 +51,7 @@ class MacroSession {
     MacroSession(const MacroSession&) = delete;
     MacroSession& operator=(const MacroSession&) = delete;
 
-    void run(const MacroPlan& plan) {
-        const std::string text = readMacro(plan.macro);
+    void run(const MacroPlan& plan, const std::string& text) {
         if (!plan.project.empty()) studio_.openProject(plan.project);
         engine_.run(text, plan.macro, plan.arguments);
     }
@@ -79,9 +87,13 @@ std::string decimalPointOf(const std::string& locale) {
 }  // namespace
 
 int runMacro(const MacroPlan& plan, const Output& output) {
+    // Before the signals are the macro's: a pipe may keep this waiting.
+    const std::string text = readMacro(plan.macro);
+    if (!plan.project.empty()) requireProject(plan.project);
+    if (!plan.studio.config.empty()) makeFolder(plan.studio.config);
     MacroSession session(plan, output);
     try {
-        session.run(plan);
+        session.run(plan, text);
         return succeeded;
     } catch (const lua::MacroError& error) {
         output.problems << "hxrecipe: " << error.what() << "\n";
@@ -100,7 +112,8 @@ void addRunMacro(CLI::App& app, Command& chosen, const Output& output) {
     command->add_option("--lcid", plan->studio.lcid, "The language: 1031 German, 1033 English.")
         ->check(CLI::IsMember({german, english}));
     command->add_option("--locale", *locale, "How numbers are written, as de_DE.");
-    command->add_option("--config", plan->studio.config, "The folder of the registry; without one nothing is kept.");
+    command->add_option("--config", plan->studio.config,
+                        "The folder of the registry, made when it is missing; without one nothing is kept.");
     command->add_flag("--trust", plan->trusted, "Let the macro use all files and start programs.");
     command->footer("Exit status: 0 done, 1 the macro failed or was stopped by Ctrl+C, 2 wrong usage.");
     command->callback([plan, locale, &chosen, &output] {

@@ -1,10 +1,8 @@
 #include <csignal>
-#include <gmock/gmock.h>
 #include <thread>
 #include <unistd.h>
 
-#include "automation/text.h"
-#include "run_cli.h"
+#include "run_macro_text.h"
 
 namespace hx::cli {
 
@@ -12,29 +10,7 @@ namespace {
 
 using testing::HasSubstr;
 
-/// Macros that run in a folder of their own; "$P" in a macro stands for the path of its project.
-class RunMacro : public CliTest {
-  protected:
-    Result macro(std::string text, std::vector<const char*> options = {}) {
-        text = automation::replaceAll(text, "$P", file_);
-        macro_ = write("m.lua", text);
-        options.insert(options.begin(), "run");
-        options.push_back(macro_.c_str());
-        return hxrecipe(options);
-    }
-    /// What the macro prints; it must end well.
-    std::string printed(const std::string& text, const std::vector<const char*>& options = {}) {
-        const Result result = macro(text, options);
-        EXPECT_EQ(result.status, 0);
-        EXPECT_EQ(result.problems, "");
-        return result.results;
-    }
-    std::string readText(const std::string& name) const {
-        std::ifstream file(folder_.file(name), std::ios::binary);
-        return {std::istreambuf_iterator<char>(file), {}};
-    }
-    std::string macro_;
-};
+class RunMacro : public MacroTextTest {};
 
 constexpr const char* newRecipe = R"(
     local function newRecipe(name)
@@ -52,6 +28,30 @@ TEST_F(RunMacro, PrintsAndGetsArguments) {
     EXPECT_EQ(result.status, 0);
     EXPECT_EQ(result.results, "got\ta\tb\n");
     EXPECT_EQ(hxrecipe({"run", macro_.c_str(), "--", "--x"}).results, "got\t--x\n");
+}
+
+TEST_F(RunMacro, FailsForAProjectThatIsNone) {
+    const std::string none = write("none.hxs", "no database");
+    const Result result = macro("print('ran')", {"--project", none.c_str()});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.results, "");
+    EXPECT_THAT(result.problems, HasSubstr(none));
+    EXPECT_EQ(contents(none), "no database");
+}
+
+TEST_F(RunMacro, MakesTheFolderOfTheRegistry) {
+    const std::string config = folder_.file("new/config");
+    EXPECT_EQ(printed("studio.SetRegistry('Key', 'Value', 1)", {"--config", config.c_str()}), "");
+    EXPECT_THAT(contents(config + "/registry.ini"), HasSubstr("Value"));
+}
+
+TEST_F(RunMacro, FailsWhereTheFolderOfTheRegistryIsAFile) {
+    const std::string config = write("config", "a file");
+    const Result result = macro("print('ran')", {"--config", config.c_str()});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.results, "");
+    EXPECT_THAT(result.problems, HasSubstr("Cannot make the folder '" + config + "'"));
+    EXPECT_EQ(contents(config), "a file");
 }
 
 TEST_F(RunMacro, ThatFailsSaysWhereOnStandardError) {
@@ -301,7 +301,7 @@ TEST_F(RunMacro, UsesOtherFilesAndProgramsOnlyWhenTrusted) {
         local f = io.open("list.txt", "w") f:write("Cola") f:close()
         print(io.open("list.txt"):read(), (pcall(io.open, "/etc/hostname")), (pcall(io.open, "$P", "a"))))"),
               "Cola\tfalse\tfalse\n");
-    EXPECT_EQ(readText("list.txt"), "Cola");
+    EXPECT_EQ(contents(folder_.file("list.txt")), "Cola");
 }
 
 TEST_F(RunMacro, EndsInOrderByTheSignalsThatEndAProgram) {
@@ -346,7 +346,7 @@ TEST_F(RunMacro, WritesNumbersAsTheLocaleDoes) {
             editor.inits.WriteAValueToCInits("Me.Font.Size", 8.25))",
                           {"--locale", locale}),
                   "");
-        EXPECT_NE(readText("HXEditors.ini").find(std::string("Me.Font.Size=") + size), std::string::npos);
+        EXPECT_NE(contents(folder_.file("HXEditors.ini")).find(std::string("Me.Font.Size=") + size), std::string::npos);
         std::filesystem::remove(file_);
         std::filesystem::remove(folder_.file("HXEditors.ini"));
     }
