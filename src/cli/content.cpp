@@ -60,8 +60,8 @@ class RowReader {
         for (const ado::Column& column : info.columns) {
             const std::string name = sqlite::quotedName(column.name);
             const std::string isBlob = "typeof(" + name + ") = 'blob'";
-            columns += (columns.empty() ? "" : ", ") + ("CASE WHEN " + isBlob + " THEN hex(" + name) + ") ELSE " +
-                       name + " END, " + isBlob;
+            columns.append(columns.empty() ? "" : ", ").append("CASE WHEN ").append(isBlob);
+            columns.append(" THEN hex(").append(name).append(") ELSE ").append(name).append(" END, ").append(isBlob);
         }
         return "SELECT " + columns + " FROM " + sqlite::quotedName(info.name) + " ORDER BY " + order;
     }

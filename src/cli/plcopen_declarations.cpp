@@ -42,7 +42,7 @@ std::string withDots(std::string_view name) { return automation::replaceAll(name
 std::string qualifiedName(const pugi::xml_node& declaration) {
     std::string name = declaration.attribute("name").value();
     for (pugi::xml_node node = declaration.parent(); node; node = node.parent()) {
-        if (isNamed(node, "NamespaceDecl")) name = std::string(node.attribute("name").value()) + "." + name;
+        if (isNamed(node, "NamespaceDecl")) name.insert(0, std::string(node.attribute("name").value()) + ".");
     }
     return name;
 }

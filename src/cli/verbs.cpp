@@ -22,7 +22,7 @@ struct Arguments {
 };
 
 std::shared_ptr<Arguments> readingArguments(CLI::App& command) {
-    const auto arguments = std::make_shared<Arguments>();
+    auto arguments = std::make_shared<Arguments>();
     command.add_option("FILE", arguments->path, "The project file; it is only read.")->required();
     command.add_flag("--json", arguments->json, "Print JSON, for other programs.");
     return arguments;

@@ -134,7 +134,7 @@ class Search {
     }
 
     [[nodiscard]] std::string lineOf(const Reference& reference) const {
-        const std::string place = "recipe " + textOf(reference.recipe);
+        std::string place = "recipe " + textOf(reference.recipe);
         const std::string member = place + ", member " + std::to_string(reference.member);
         switch (reference.kind) {
             case Reference::Kind::column: return place + ": " + reference.column;

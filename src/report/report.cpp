@@ -29,7 +29,7 @@ std::string nameOfFile(std::string_view path) {
     return std::string(file.substr(0, file.rfind('.')));
 }
 
-std::string withoutDots(std::string text) { return text.substr(0, text.find_last_not_of('.') + 1); }
+std::string withoutDots(const std::string& text) { return text.substr(0, text.find_last_not_of('.') + 1); }
 
 std::vector<const Inclusion*> inclusionsOf(const ProjectData& data) {
     std::vector<const Inclusion*> inclusions;

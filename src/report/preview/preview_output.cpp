@@ -58,7 +58,7 @@ QString PreviewWindow::askForFile(const FileKind& kind) {
         if (auto* buttons = dialog.findChild<QDialogButtonBox*>()) qt::dressButtons(*buttons, wording);
         dialog.selectFile(proposed);
         if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return {};
-        const QString path = dialog.selectedFiles().constFirst();
+        QString path = dialog.selectedFiles().constFirst();
         folder_ = QFileInfo(path).absolutePath();
         proposed = QFileInfo(path).fileName();
         if (mayWrite(path)) return path;

@@ -209,7 +209,7 @@ void PreviewWindow::setUpPanes() {
     layout->addWidget(&bar_);
     layout->addWidget(&splitter_, 1);
     layout->addWidget(&status_);
-    layout.release();  // owned by the window
+    (void)layout.release();  // owned by the window
 }
 
 void PreviewWindow::setUpKeys() {
