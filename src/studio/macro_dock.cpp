@@ -20,6 +20,7 @@ namespace hx::studio {
 namespace {
 
 constexpr int argumentsWidth = 30;  // characters
+constexpr int tabWidth = 8;         // characters
 constexpr int iconSize = 16;
 
 bool isDark(const QWidget& widget) { return widget.palette().color(QPalette::Base).lightness() < 128; }
@@ -72,18 +73,21 @@ void MacroDock::build(QAction& runAgain, QAction& stop) {
     tools_.addWidget(&argumentsLabel_);
     tools_.addWidget(&arguments_);
     status_.setTextFormat(Qt::PlainText);
-    status_.setContentsMargins(8, 0, 8, 0);
-    tools_.addWidget(&status_);
+    status_.setContentsMargins(8, 0, 8, 4);
+    status_.setWordWrap(true);
+    status_.hide();
     text_.setReadOnly(true);
     text_.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     text_.setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    text_.setTabStopDistance(text_.fontMetrics().horizontalAdvance(' ') * tabWidth);
     text_.setMaximumBlockCount(lineCount);
     text_.setFrameShape(QFrame::NoFrame);
     auto* const rows = std::make_unique<QVBoxLayout>(&panel_).release();  // the panel's own
     rows->setContentsMargins(0, 0, 0, 0);
     rows->setSpacing(0);
     rows->addWidget(&tools_);
-    rows->addWidget(&text_);
+    rows->addWidget(&status_);
+    rows->addWidget(&text_, 1);
     setWidget(&panel_);
 }
 
@@ -166,6 +170,7 @@ void MacroDock::copyText() {
 void MacroDock::setState(State state) {
     state_ = state;
     status_.setText(stateText());
+    status_.show();
 }
 
 QString MacroDock::stateText() const {

@@ -7,6 +7,7 @@
 #include <QFileInfo>
 #include <QLibraryInfo>
 #include <QMessageBox>
+#include <QScreen>
 #include <QStandardPaths>
 #include <QStatusBar>
 
@@ -69,7 +70,7 @@ void MainWindow::setUp() {
 }
 
 void MainWindow::restoreWindow() {
-    if (!restoreGeometry(preferences_.geometry())) resize(usualSize);
+    if (!restoreGeometry(preferences_.geometry())) resize(usualSize.boundedTo(screen()->availableSize()));
     if (!restoreState(preferences_.layout())) resizeDocks({&explorerDock_}, {explorerWidth}, Qt::Horizontal);
 }
 

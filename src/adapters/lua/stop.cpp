@@ -20,8 +20,9 @@ void hook(lua_State* state, lua_Debug*) {
 
 void failEachStep(lua_State* state) { lua_sethook(state, hook, LUA_MASKCOUNT, 1); }
 
-int takeTraceback(lua_State* state, Machine& machine, lua_State* where) {
-    luaL_traceback(state, where, nullptr, 0);
+// Without the function that asks.
+int takeTraceback(lua_State* state, Machine& machine) {
+    luaL_traceback(state, state, nullptr, 1);
     machine.rememberTraceback(lua_tostring(state, -1));
     return 0;
 }
@@ -29,7 +30,7 @@ int takeTraceback(lua_State* state, Machine& machine, lua_State* where) {
 void beginStop(lua_State* state, Machine& machine) noexcept {
     machine.stopping = true;
     try {
-        protect(state, 0, 0, [&](lua_State* inner) { return takeTraceback(inner, machine, state); });
+        protect(state, 0, 0, [&](lua_State* inner) { return takeTraceback(inner, machine); });
     } catch (...) {
         // Without memory there is no account of where it happened.
         lua_pop(state, 1);
