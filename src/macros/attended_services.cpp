@@ -49,6 +49,18 @@ std::string AttendedFolders::choose(forms::WindowHandle owner, const std::string
     return ask(current);
 }
 
+std::string AttendedIniFile::read(std::string_view section, std::string_view key, std::string_view fallback,
+                                  const std::string& path) const {
+    if (!attendance_.answers()) return user_.read(section, key, fallback, path);
+    return folderFiles_.read(section, key, fallback, path);
+}
+
+void AttendedIniFile::write(std::string_view section, std::string_view key, std::string_view text,
+                            const std::string& path) {
+    if (!attendance_.answers()) return user_.write(section, key, text, path);
+    folderFiles_.write(section, key, text, path);
+}
+
 void AttendedHelp::showContext(forms::WindowHandle owner, const std::string& file, std::int32_t context) {
     if (attendance_.answers()) attendance_.record.help.push_back({owner, file, context});
     if (!attendance_.cancels()) user_.showContext(owner, file, context);

@@ -2,6 +2,7 @@
 
 #include "host/system_services.h"
 #include "macros/attendance.h"
+#include "macros/folder_ini_file.h"
 
 /// The user's services, where a macro that runs may answer instead of him. All that they are made from is lent.
 namespace hx::macros {
@@ -23,6 +24,21 @@ class AttendedFolders : public host::PathSelection {
 
   private:
     host::PathSelection& user_;
+    Attendance& attendance_;
+};
+
+/// While a macro runs, the files of a folder alone, as FolderIniFile has them.
+class AttendedIniFile : public host::IniFile {
+  public:
+    AttendedIniFile(host::IniFile& user, Attendance& attendance, std::function<std::filesystem::path()> folder)
+        : user_(user), folderFiles_(user, std::move(folder)), attendance_(attendance) {}
+    [[nodiscard]] std::string read(std::string_view section, std::string_view key, std::string_view fallback,
+                                   const std::string& path) const override;
+    void write(std::string_view section, std::string_view key, std::string_view text, const std::string& path) override;
+
+  private:
+    host::IniFile& user_;
+    FolderIniFile folderFiles_;
     Attendance& attendance_;
 };
 

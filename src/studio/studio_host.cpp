@@ -24,6 +24,7 @@ StudioHost::StudioHost(const QString& configFolder, const QStringList& moduleFol
       components_(moduleFolders),
       items_(variables_, windows_, wording_),
       folders_(windows_, wording_),
+      attendedIniFile_(iniFile_, attendance_, [this] { return projectFolder_; }),
       attendedScreen_(screen_, attendance_,
                       [this](forms::Form& form, forms::WindowHandle owner, const std::function<void()>& work) {
                           screen_.showFor(form, owner, work);
@@ -35,7 +36,7 @@ StudioHost::StudioHost(const QString& configFolder, const QStringList& moduleFol
       services_{.screen = attendedScreen_,
                 .database = provider_,
                 .registry = registry_,
-                .iniFile = iniFile_,
+                .iniFile = attendedIniFile_,
                 .clipboard = clipboard_,
                 .help = attendedHelp_,
                 .windows = windows_,
@@ -50,6 +51,7 @@ StudioHost::StudioHost(const QString& configFolder, const QStringList& moduleFol
 }
 
 void StudioHost::setProjectFile(const QString& path) {
+    projectFolder_ = std::filesystem::path(qt::fromQt(path)).parent_path();
     variables_.setFile(qt::fromQt(path));
     folders_.setProjectFolder(path.isEmpty() ? QString() : QFileInfo(path).absolutePath());
 }

@@ -2,6 +2,7 @@
 
 #include <QString>
 #include <QStringList>
+#include <filesystem>
 
 #include "adapters/qt/module_components.h"
 #include "adapters/qt/qt_clipboard.h"
@@ -66,6 +67,8 @@ class StudioHost {
     qt::QtItemSelection items_;
     qt::QtPathSelection folders_;
     macros::Attendance attendance_;
+    std::filesystem::path projectFolder_;
+    macros::AttendedIniFile attendedIniFile_;
     macros::AttendedScreen attendedScreen_;
     macros::AttendedHelp attendedHelp_;
     macros::AttendedComponents attendedComponents_;
