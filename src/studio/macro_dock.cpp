@@ -66,6 +66,9 @@ void MacroDock::build(QAction& runAgain, QAction& stop) {
     tools_.addSeparator();
     tools_.addActions({&clear_, &copy_});
     tools_.addSeparator();
+    for (QAction* action : tools_.actions()) {
+        if (!action->isSeparator()) tools_.widgetForAction(action)->setFocusPolicy(Qt::TabFocus);
+    }
     argumentsLabel_.setBuddy(&arguments_);
     argumentsLabel_.setContentsMargins(4, 0, 4, 0);
     arguments_.setClearButtonEnabled(true);

@@ -1,3 +1,4 @@
+#include <QApplication>
 #include <QClipboard>
 #include <QDir>
 #include <QDockWidget>
@@ -8,6 +9,7 @@
 #include <QMenuBar>
 #include <QTest>
 #include <QTextBlock>
+#include <QToolBar>
 
 #include "gui/macro_fixture.h"
 
@@ -148,6 +150,23 @@ TEST_F(StudioMacroTest, FollowsTheLanguageOfTheStudio) {
         press("actionStopMacro");
     });
     EXPECT_THAT(status(), StartsWith("test.lua: stopped after "));
+}
+
+TEST_F(StudioMacroTest, TheOutputIsReachedByKeyboardAndRemembersThatItWasOpen) {
+    start();
+    run("print(1)");
+    auto& tools = find<QToolBar>(window(), "macroTools");
+    QWidget* clear = tools.widgetForAction(&action("actionClearOutput"));
+    find<QLineEdit>(window(), "macroArguments").setFocus();
+    for (int i = 0; i < 3 && QApplication::focusWidget() != clear; ++i) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Backtab, Qt::ShiftModifier);
+    }
+    ASSERT_EQ(QApplication::focusWidget(), clear);
+    QTest::keyClick(clear, Qt::Key_Space);
+    EXPECT_EQ(output(), "");
+    quit();
+    start();
+    EXPECT_TRUE(find<QDockWidget>(window(), "macroDock").isVisible());
 }
 
 TEST_F(StudioMacroTest, EachRunBeginsWithoutWhatTheOneBeforeLeft) {
