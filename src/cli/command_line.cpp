@@ -34,7 +34,7 @@ void addGenerate(CLI::App& app, Command& chosen, const Output& output) {
     CLI::App* command = app.add_subcommand("generate", "Make a project of any size, to try and to measure with.");
     const auto plan = std::make_shared<GeneratePlan>();
     const auto count = [&](const char* option, std::int64_t& target, const char* help) {
-        command->add_option(option, target, help)->required()->check(CLI::Range(std::int64_t{0}, most));
+        command->add_option(option, target, help)->required()->type_name("N")->check(CLI::Range(std::int64_t{0}, most));
     };
     count("--recipes", plan->recipes, "How many recipes.");
     count("--members", plan->members, "How many variables, spread evenly over them.");

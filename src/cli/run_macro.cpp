@@ -111,9 +111,11 @@ void addRunMacro(CLI::App& app, Command& chosen, const Output& output) {
     command->add_option("--project", plan->project, "The project file to open first.")->check(CLI::ExistingFile);
     command->add_option("--lcid", plan->studio.lcid, "The language: 1031 German, 1033 English.")
         ->check(CLI::IsMember({german, english}));
-    command->add_option("--locale", *locale, "How numbers are written, as de_DE.");
-    command->add_option("--config", plan->studio.config,
-                        "The folder of the registry, made when it is missing; without one nothing is kept.");
+    command->add_option("--locale", *locale, "How numbers are written, as de_DE.")->type_name("NAME");
+    command
+        ->add_option("--config", plan->studio.config,
+                     "The folder of the registry, made when it is missing; without one nothing is kept.")
+        ->type_name("DIR");
     command->add_flag("--trust", plan->trusted, "Let the macro use all files and start programs.");
     command->footer("Exit status: 0 done, 1 the macro failed or was stopped by Ctrl+C, 2 wrong usage.");
     command->callback([plan, locale, &chosen, &output] {

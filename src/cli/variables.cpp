@@ -55,6 +55,7 @@ void addImport(CLI::App& group, Command& chosen, const Output& output) {
         ->add_option("--encoding", plan->encoding,
                      "The encoding of CSV without a byte order mark, as WINDOWS-1250; UTF-8 and Windows-1252 are "
                      "recognised.")
+        ->type_name("NAME")
         ->check([](const std::string& name) {
             return isKnownEncoding(name) ? std::string() : "\"" + name + "\" is not a known encoding";
         });
