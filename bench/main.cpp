@@ -48,10 +48,7 @@ void run(const Options& options, const std::string& folder) {
 
 }  // namespace
 
-}  // namespace hx::bench
-
-int main(int argc, char** argv) {
-    using namespace hx::bench;
+static int runFor(int argc, char** argv) {
     Options options;
     CLI::App app("Measures the editor on a large project, beside Qt's own models and SQLite alone.", "hx_bench");
     app.add_option("--folder", options.folder, "Keep the generated projects here and use them again.");
@@ -69,3 +66,7 @@ int main(int argc, char** argv) {
         return 1;
     }
 }
+
+}  // namespace hx::bench
+
+int main(int argc, char** argv) { return hx::bench::runFor(argc, argv); }
