@@ -77,7 +77,7 @@ class Unfolder {
     using Names = std::initializer_list<std::string_view>;
 
     std::string requireName(const xml_node& node, const std::string& what) const {
-        const std::string name(automation::trim(node.attribute("name").value()));
+        std::string name(automation::trim(node.attribute("name").value()));
         if (name.empty()) document_.fail(node, "\"name\": a " + what + " has no name");
         return name;
     }

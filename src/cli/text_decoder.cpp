@@ -99,7 +99,7 @@ Utf8Check checkUtf8(const std::string& path) {
 }  // namespace
 
 Encoding recogniseEncoding(const std::string& path) {
-    const Encoding marked = markedEncoding(beginning(path, 3));
+    Encoding marked = markedEncoding(beginning(path, 3));
     if (!marked.name.empty()) return marked;
     const Utf8Check check = checkUtf8(path);
     return {check.isUtf8() || check.isMostlyUtf8() ? "UTF-8" : "WINDOWS-1252"};
@@ -107,7 +107,7 @@ Encoding recogniseEncoding(const std::string& path) {
 
 Encoding declaredEncoding(const std::string& path) {
     const std::string bytes = beginning(path, declarationLength);
-    const Encoding marked = markedEncoding(bytes);
+    Encoding marked = markedEncoding(bytes);
     if (!marked.name.empty()) return marked;
     if (bytes.starts_with(std::string_view("<\0", 2))) return {"UTF-16LE"};
     if (bytes.starts_with(std::string_view("\0<", 2))) return {"UTF-16BE"};
