@@ -18,6 +18,8 @@ using lua::List;
 using lua::Value;
 using lua::Values;
 
+constexpr std::size_t largestResult = std::size_t{2} << 30U;  // bytes
+
 // A missing value gives whatever fallback is asked with.
 Value readRegistry(const host::Registry& registry, const std::string& key, const std::string& value) {
     const std::string text = registry.readString(key, value, "0");
@@ -57,13 +59,31 @@ Fields rowOf(const sqlite::Statement& row) {
     return fields;
 }
 
-Value query(const std::string& file, const std::string& sql) {
-    const sqlite::Database database(file);
+// What it takes before it has become a table of the macro's.
+std::size_t sizeOf(const Fields& row) {
+    std::size_t size = sizeof(Value) + row.size() * sizeof(Fields::value_type);
+    for (const auto& [name, value] : row) {
+        const auto* plain = std::get_if<Variant>(&value.content);
+        if (plain != nullptr && plain->isString()) size += plain->asString().size();
+    }
+    return size;
+}
+
+// A statement can run, and give rows, without end.
+Value query(Engine& engine, const std::string& file, const std::string& sql) {
+    sqlite::Database database(file);
+    database.interruptWhen([&engine] { return engine.stopRequested(); });
     if (!asksOnly(sql)) throw Error(automation::errFail, "Query takes a SELECT statement");
     sqlite::Statement statement(database, sql);
     if (!statement.isReadOnly()) throw Error(automation::errFail, "Query takes a statement that changes nothing");
     List rows;
-    while (statement.step()) rows.emplace_back(rowOf(statement));
+    std::size_t size = 0;
+    while (statement.step()) {
+        Fields row = rowOf(statement);
+        size += sizeOf(row);
+        if (size > largestResult) throw Error(automation::errFail, "Query gives more rows than a macro can take");
+        rows.emplace_back(std::move(row));
+    }
     return rows;
 }
 
@@ -124,8 +144,9 @@ void defineProjectData(Engine& engine, Studio& studio) {
         setVariables(studio.requireFile(), Arguments(given)[0].list());
         return Value();
     });
-    engine.define("project", "Query",
-                  [&studio](Values given) { return query(studio.requireFile(), Arguments(given).text(0)); });
+    engine.define("project", "Query", [&engine, &studio](Values given) {
+        return query(engine, studio.requireFile(), Arguments(given).text(0));
+    });
 }
 
 // A member that the macro's table does not have is an error for the editor, as of any component.

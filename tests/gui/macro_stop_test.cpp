@@ -20,6 +20,8 @@ TEST_F(StudioMacroTest, StopsEndlessMacrosByTheButton) {
              "while true do pcall(function() while true do end end) end",
              "while true do coroutine.wrap(function() while true do end end)() end",
              "while true do pcall(error) studio.Nodes() end",
+             "project.Query('WITH RECURSIVE c(x) AS (SELECT 1 UNION ALL SELECT x + 1 FROM c) SELECT COUNT(*) FROM c')",
+             "project.Query('WITH RECURSIVE c(x) AS (SELECT 1 UNION ALL SELECT x + 1 FROM c) SELECT x FROM c')",
              "studio.Click('RCPE0') studio.Click('RCPR1') studio.OnMessage(function() while true do end end)\n"
              "while true do editor.abr.Click('mnuRecipeDelete') end",
              "studio.Click('RCPE0') studio.Click('RCPR1') studio.OnDialog('FRecipe', function(d) while true do "

@@ -106,6 +106,8 @@ void Engine::fail(const automation::Error& error) {
     machine_->failing = true;
 }
 
+bool Engine::stopRequested() noexcept { return isStopping(machine_->current); }
+
 bool Engine::failing() const noexcept { return machine_->failing || machine_->stopping; }
 
 }  // namespace hx::lua

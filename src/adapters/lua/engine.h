@@ -65,6 +65,9 @@ class Engine {
     /// Lets the macro fail with this error once the call returns that it is running: for what the macro has answered
     /// wrongly while functions of C++ lie between.
     void fail(const automation::Error& error);
+    /// Asks EngineOptions::stopRequested: for a function of C++ that takes long. When it says yes, the macro is stopped
+    /// once that function returns.
+    [[nodiscard]] bool stopRequested() noexcept;
     /// Whether the macro is being stopped, or a function of it has failed inside a call that has not returned yet: the
     /// macro is then not to be asked any more.
     [[nodiscard]] bool failing() const noexcept;

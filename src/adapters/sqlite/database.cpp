@@ -11,6 +11,7 @@ namespace hx::sqlite {
 namespace {
 
 constexpr int busyMilliseconds = 2000;
+constexpr int interruptSteps = 10000;  // of SQLite's machine between two questions
 constexpr std::size_t keptStatements = 48;
 
 // A connection serves one thread, so it needs no mutex. SQLITE_OPEN_CREATE is left out on purpose.
@@ -75,6 +76,12 @@ std::int64_t Database::number(const std::string& sql) {
 }
 
 // A cache that keeps its size costs time or memory, nothing else.
+void Database::interruptWhen(std::function<bool()> asked) {
+    interrupt_ = std::make_unique<const std::function<bool()>>(std::move(asked));
+    const auto ask = [](void* kept) { return (*static_cast<const std::function<bool()>*>(kept))() ? 1 : 0; };
+    sqlite3_progress_handler(handle(), interruptSteps, ask, const_cast<std::function<bool()>*>(interrupt_.get()));
+}
+
 void Database::useLargeCache(bool large) noexcept {
     (void)sqlite3_exec(handle(), large ? largeCache : smallCache, nullptr, nullptr, nullptr);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <list>
 #include <memory>
 #include <string>
@@ -34,6 +35,8 @@ class Database {
     /// The integer in the first column of the first row, 0 when there is none.
     [[nodiscard]] std::int64_t number(const std::string& sql);
 
+    /// Asked now and then while a statement runs; true ends the statement with an error.
+    void interruptWhen(std::function<bool()> asked);
     /// Lets the connection keep more pages of the file in memory, or as few as before, the rest being given back.
     void useLargeCache(bool large) noexcept;
 
@@ -55,6 +58,7 @@ class Database {
     using Statements = std::list<std::pair<std::string, Statement>>;
 
     std::string path_;
+    std::unique_ptr<const std::function<bool()>> interrupt_;  // SQLite holds its address
     std::unique_ptr<sqlite3, Closer> handle_;
     std::unique_ptr<ado::KeySet*> collecting_;  // where hx_keys appends to
     Statements statements_;                     // the last used one first
