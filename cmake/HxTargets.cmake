@@ -26,6 +26,10 @@ function(hx_library name)
   add_library(${name} STATIC ${sources})
   set_target_properties(${name} PROPERTIES LINKER_LANGUAGE CXX)
   target_link_libraries(${name} PUBLIC hx_flags ${ARG_DEPENDS})
+  if(HX_SANITIZE)
+    target_compile_options(${name} PRIVATE -fpch-preprocess)  # for ccache
+    target_precompile_headers(${name} REUSE_FROM hx_source_headers)
+  endif()
 endfunction()
 
 # hx_test(NAME [DEPENDS target...] [LABELS label]): the folder's sources as one GoogleTest program, a CTest test for each

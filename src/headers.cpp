@@ -1,0 +1,1 @@
+// What is compiled here are the headers that CMakeLists.txt names.
