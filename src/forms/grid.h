@@ -36,6 +36,7 @@ class SelectedRows : public automation::Dispatch {
     [[nodiscard]] bool contains(const ado::Bookmark& bookmark) const;
     void add(const ado::Bookmark& bookmark);  ///< a null bookmark is ignored
     void remove(const ado::Bookmark& bookmark);
+    using automation::Dispatch::set;
     void set(std::vector<ado::Bookmark> bookmarks);
     void clear();
     Event<> changed;

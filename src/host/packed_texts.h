@@ -30,7 +30,7 @@ class PackedTexts {
 
   private:
     void add(std::size_t needed) {
-        constexpr std::size_t usual = 64 * 1024;
+        constexpr std::size_t usual = std::size_t{64} * 1024;
         const std::size_t size = needed > usual ? needed : usual;
         chunks_.push_back(std::make_unique_for_overwrite<char[]>(size));
         end_ = chunks_.back().get();
