@@ -4,6 +4,7 @@
 #include <unordered_map>
 #include <unordered_set>
 
+#include "adapters/sqlite/transaction.h"
 #include "automation/text.h"
 #include "cli/content.h"
 #include "cli/differences.h"
@@ -11,7 +12,6 @@
 #include "cli/project_reader.h"
 #include "cli/row_writer.h"
 #include "cli/text_file.h"
-#include "cli/transaction.h"
 
 namespace hx::cli {
 
@@ -255,7 +255,7 @@ void importContent(const std::string& project, const std::string& file, ImportMo
     const Content content = parseContent(file);
     requireProject(project);
     sqlite::Database database(project);
-    Transaction transaction(database);
+    sqlite::Transaction transaction(database);
     const Content before = readContent(database);
     const Counts counts = Import(database, before, content, file, mode, output).run();
     transaction.commit();
@@ -269,7 +269,7 @@ void previewImport(const std::string& project, const std::string& file, ImportMo
     requireProject(project);
     sqlite::Database database(project);
     database.execute("PRAGMA cache_spill=OFF");  // nothing of it reaches the file
-    const Transaction transaction(database);
+    const sqlite::Transaction transaction(database);
     const Content before = readContent(database);
     Import(database, before, content, file, mode, output).run();
     print(compare(before, readContent(database), {}), json, output);

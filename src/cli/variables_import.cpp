@@ -4,13 +4,13 @@
 #include <fstream>
 #include <optional>
 
+#include "adapters/sqlite/transaction.h"
 #include "automation/error.h"
 #include "automation/text.h"
 #include "cli/csv_variables.h"
 #include "cli/json_output.h"
 #include "cli/plcopen_variables.h"
 #include "cli/progress.h"
-#include "cli/transaction.h"
 #include "cli/variable_writer.h"
 
 namespace hx::cli {
@@ -150,7 +150,7 @@ void importVariables(const VariablesImport& plan, const Output& output) {
         database.execute("BEGIN");
         return runImport(plan, writer, output, [] {});
     }
-    Transaction transaction(database);
+    sqlite::Transaction transaction(database);
     VariableWriter writer(database, plan.list);
     runImport(plan, writer, output, [&] { transaction.commit(); });
 }

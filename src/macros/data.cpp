@@ -1,6 +1,7 @@
 #include <memory>
 
 #include "adapters/sqlite/database.h"
+#include "adapters/sqlite/transaction.h"
 #include "automation/text.h"
 #include "macros/arguments.h"
 #include "macros/globals.h"
@@ -75,6 +76,8 @@ Value query(Engine& engine, const std::string& file, const std::string& sql) {
     database.interruptWhen([&engine] { return engine.stopRequested(); });
     if (!asksOnly(sql)) throw Error(automation::errFail, "Query takes a SELECT statement");
     sqlite::Statement statement(database, sql);
+    const auto others = automation::trim(std::string_view(sql).substr(statement.sql().size()));
+    if (!others.empty()) throw Error(automation::errFail, "Query takes one statement; another follows");
     if (!statement.isReadOnly()) throw Error(automation::errFail, "Query takes a statement that changes nothing");
     List rows;
     std::size_t size = 0;
@@ -95,32 +98,10 @@ Value variables(const std::string& file) {
     return names;
 }
 
-/// Takes back what has been written unless it is kept.
-class Writing {
-  public:
-    explicit Writing(sqlite::Database& database) : database_(database) { database_.execute("BEGIN IMMEDIATE"); }
-    ~Writing() {
-        if (database_.inTransaction()) tryRollback();
-    }
-    Writing(const Writing&) = delete;
-    Writing& operator=(const Writing&) = delete;
-    void keep() { database_.execute("COMMIT"); }
-
-  private:
-    void tryRollback() noexcept {
-        try {
-            database_.execute("ROLLBACK");
-        } catch (const Error&) {
-            // Closing the database takes it back as well.
-        }
-    }
-    sqlite::Database& database_;
-};
-
 // A variable that stays keeps its type and comment.
 void setVariables(const std::string& file, const List& names) {
     sqlite::Database database(file);
-    Writing writing(database);
+    sqlite::Transaction transaction(database);
     database.execute("CREATE TEMP TABLE given (Name TEXT UNIQUE COLLATE NOCASE)");
     sqlite::Statement insert(database, "INSERT INTO given VALUES (?1)");
     for (const Value& name : names) {
@@ -135,7 +116,7 @@ void setVariables(const std::string& file, const List& names) {
     database.execute(
         "DELETE FROM ThxVariable WHERE Name NOT IN (SELECT Name FROM given);"
         "INSERT OR IGNORE INTO ThxVariable (Name) SELECT Name FROM given ORDER BY rowid;");
-    writing.keep();
+    transaction.commit();
 }
 
 void defineProjectData(Engine& engine, Studio& studio) {

@@ -142,6 +142,8 @@ TEST_F(MacroErrors, OfAQueryAreThoseOfTheDatabase) {
     EXPECT_EQ(raised("project.Query('DROP TABLE TrcpRecipe')"), "-2147467259\tQuery takes a SELECT statement\n");
     EXPECT_EQ(raised("project.Query('SELECT')"), "-2147217900\tThe command cannot be carried out: incomplete input.\n");
     EXPECT_THAT(raised("project.Query('SELECT * FROM Nowhere')"), HasSubstr("Nowhere"));
+    EXPECT_EQ(raised("project.Query('SELECT 1; SELECT 2')"),
+              "-2147467259\tQuery takes one statement; another follows\n");
 }
 
 TEST_F(MacroErrors, ThatAreNotCaughtEndTheMacroWithPlaceAndTraceback) {

@@ -254,11 +254,12 @@ TEST_F(RunMacro, QueriesButNeverChangesTheProject) {
     EXPECT_EQ(printed(R"(studio.NewProject("$P")
         local r = project.Query("WITH a AS (SELECT 1 AS x, 'ä' AS y, NULL AS z, 2.5 AS w) SELECT * FROM a")
         print(#r, r[1].x, r[1].y, r[1].z, r[1].z == null, r[1].w)
+        print(project.Query(" SELECT 1 AS x ; ")[1].x)
         for _, sql in ipairs({"DELETE FROM TrcpRecipe", "ATTACH 'x' AS y", "PRAGMA journal_mode=OFF",
                               "WITH a AS (SELECT 1) DELETE FROM TrcpRecipe", "SELECT * FROM Nowhere"}) do
             print((pcall(project.Query, sql)))
         end)"),
-              "1\t1\tä\tnull\ttrue\t2.5\nfalse\nfalse\nfalse\nfalse\nfalse\n");
+              "1\t1\tä\tnull\ttrue\t2.5\n1\nfalse\nfalse\nfalse\nfalse\nfalse\n");
 }
 
 TEST_F(RunMacro, ReplacesTheVariablesWholeOrNotAtAll) {

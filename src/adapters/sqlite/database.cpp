@@ -75,13 +75,13 @@ std::int64_t Database::number(const std::string& sql) {
     return statement.step() ? statement.key(0) : 0;
 }
 
-// A cache that keeps its size costs time or memory, nothing else.
 void Database::interruptWhen(std::function<bool()> asked) {
     interrupt_ = std::make_unique<const std::function<bool()>>(std::move(asked));
     const auto ask = [](void* kept) { return (*static_cast<const std::function<bool()>*>(kept))() ? 1 : 0; };
     sqlite3_progress_handler(handle(), interruptSteps, ask, const_cast<std::function<bool()>*>(interrupt_.get()));
 }
 
+// A cache that keeps its size costs time or memory, nothing else.
 void Database::useLargeCache(bool large) noexcept {
     (void)sqlite3_exec(handle(), large ? largeCache : smallCache, nullptr, nullptr, nullptr);
 }

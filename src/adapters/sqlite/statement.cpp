@@ -67,6 +67,8 @@ std::string Statement::declaredType(int column) const {
 
 bool Statement::isReadOnly() const noexcept { return sqlite3_stmt_readonly(statement_.get()) != 0; }
 
+std::string_view Statement::sql() const noexcept { return sqlite3_sql(statement_.get()); }
+
 ado::Key Statement::key(int column) const noexcept { return sqlite3_column_int64(statement_.get(), column); }
 
 std::string_view Statement::textView(int column) const {

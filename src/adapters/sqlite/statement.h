@@ -31,6 +31,8 @@ class Statement {
     /// The declared type of the table column behind it, empty for an expression.
     [[nodiscard]] std::string declaredType(int column) const;
     [[nodiscard]] bool isReadOnly() const noexcept;
+    /// The part of the text that is this statement: it begins the text and ends with its semicolon.
+    [[nodiscard]] std::string_view sql() const noexcept;
 
     // Of the current row.
     [[nodiscard]] ado::Key key(int column) const noexcept;

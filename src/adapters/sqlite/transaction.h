@@ -2,12 +2,12 @@
 
 #include "adapters/sqlite/database.h"
 
-namespace hx::cli {
+namespace hx::sqlite {
 
 /// A transaction that writes; taken back unless it is committed.
 class Transaction {
   public:
-    explicit Transaction(sqlite::Database& database) : database_(database) { database_.execute("BEGIN IMMEDIATE"); }
+    explicit Transaction(Database& database) : database_(database) { database_.execute("BEGIN IMMEDIATE"); }
     ~Transaction();
     Transaction(const Transaction&) = delete;
     Transaction& operator=(const Transaction&) = delete;
@@ -15,7 +15,7 @@ class Transaction {
     void commit() { database_.execute("COMMIT"); }
 
   private:
-    sqlite::Database& database_;
+    Database& database_;
 };
 
-}  // namespace hx::cli
+}  // namespace hx::sqlite

@@ -1,8 +1,8 @@
-#include "cli/transaction.h"
+#include "adapters/sqlite/transaction.h"
 
 #include <exception>
 
-namespace hx::cli {
+namespace hx::sqlite {
 
 Transaction::~Transaction() {
     if (!database_.inTransaction()) return;
@@ -13,4 +13,4 @@ Transaction::~Transaction() {
     }
 }
 
-}  // namespace hx::cli
+}  // namespace hx::sqlite
