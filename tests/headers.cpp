@@ -1,1 +1,0 @@
-// What is compiled here are the headers that CMakeLists.txt names.
