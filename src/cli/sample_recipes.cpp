@@ -4,6 +4,7 @@
 
 #include "automation/convert.h"
 #include "automation/text.h"
+#include "cli/project_reader.h"
 #include "cli/sample.h"
 
 namespace hx::cli {
@@ -45,8 +46,6 @@ std::string_view trimBlanks(std::string_view text) {
     if (first == std::string_view::npos) return {};
     return text.substr(first, text.find_last_not_of(" \t") - first + 1);
 }
-
-std::string quoted(std::string_view name) { return "\"" + std::string(name) + "\""; }
 
 // Takes "NAME" off the front of `rest`; inside, "" stands for one quotation mark.
 std::string takeQuoted(const Line& line, std::string_view& rest) {
@@ -99,7 +98,7 @@ class RecipesReader {
         const std::string name = takeQuoted(line, rest);
         if (!rest.empty()) line.fail("unexpected text behind the name");
         if (!foldedNames_.insert(automation::foldCase(name)).second) {
-            line.fail("the recipe " + quoted(name) + " exists already");
+            line.fail("the recipe " + inQuotes(name) + " exists already");
         }
         names_.insert(name);
         recipes_.push_back({name, {}, {}, line});
@@ -125,13 +124,13 @@ class RecipesReader {
 
     void setColumn(const Line& line, std::string_view word, std::string_view rest) {
         rest = trimBlanks(rest);
-        if (!rest.starts_with('=')) line.fail(quoted(word) + " begins no line of a recipe");
+        if (!rest.starts_with('=')) line.fail(inQuotes(word) + " begins no line of a recipe");
         const auto rule = std::ranges::find(columnRules, word, &ColumnRule::name);
-        if (rule == columnRules.end()) line.fail("there is no column " + quoted(word));
+        if (rule == columnRules.end()) line.fail("there is no column " + inQuotes(word));
         SampleRecipe& recipe = recipes_.back();
         if (!recipe.members.empty()) line.fail("columns come before members");
         for (const auto& [name, value] : recipe.columns) {
-            if (name == word) line.fail("the column " + quoted(word) + " is set already");
+            if (name == word) line.fail("the column " + inQuotes(word) + " is set already");
         }
         recipe.columns.emplace_back(word, valueOf(line, *rule, std::string(trimBlanks(rest.substr(1)))));
     }
@@ -139,7 +138,7 @@ class RecipesReader {
     Variant valueOf(const Line& line, const ColumnRule& rule, const std::string& text) const {
         switch (rule.kind) {
             case Kind::boolean:
-                if (text != "true" && text != "false") line.fail(quoted(text) + " is neither true nor false");
+                if (text != "true" && text != "false") line.fail(inQuotes(text) + " is neither true nor false");
                 return text == "true";
             case Kind::number: return number(line, text);
             case Kind::integer: return integer(line, text);
@@ -158,7 +157,7 @@ class RecipesReader {
         try {
             return automation::wholeNumber(text);
         } catch (const automation::Error&) {
-            line.fail(quoted(text) + " is not a number");
+            line.fail(inQuotes(text) + " is not a number");
         }
     }
 
@@ -168,13 +167,13 @@ class RecipesReader {
             const std::int32_t rounded = automation::roundToInt32(value);
             if (rounded == value) return rounded;
         } catch (const automation::Error&) {
-            line.fail(quoted(text) + " is too large");
+            line.fail(inQuotes(text) + " is too large");
         }
-        line.fail(quoted(text) + " is not a whole number");
+        line.fail(inQuotes(text) + " is not a whole number");
     }
 
     void requireVariable(const Line& line, const std::string& name) const {
-        if (!variables_.contains(name)) line.fail("the variable " + quoted(name) + " is not in variables.csv");
+        if (!variables_.contains(name)) line.fail("the variable " + inQuotes(name) + " is not in variables.csv");
     }
 
     // What can only be told when all recipes are known.
@@ -184,7 +183,7 @@ class RecipesReader {
         for (const SampleMember& member : recipe.members) {
             if (member.subRecipe.empty()) continue;
             if (!names_.contains(member.subRecipe)) {
-                member.line.fail("there is no recipe " + quoted(member.subRecipe));
+                member.line.fail("there is no recipe " + inQuotes(member.subRecipe));
             }
             if (member.variable.empty() && !savesSubRecipes) {
                 member.line.fail("without SaveSubRecipes = true a sub-recipe needs \"file\" and a variable");
