@@ -1,6 +1,7 @@
 #include "cli/export.h"
 
 #include <cerrno>
+#include <fcntl.h>
 #include <filesystem>
 #include <fstream>
 #include <stdlib.h>
@@ -35,9 +36,7 @@ class Replacement {
     explicit Replacement(std::string path) : path_(std::move(path)), temporary_(path_ + ".new-XXXXXX") {
         const int file = mkstemp(temporary_.data());
         if (file < 0) fail(errno);
-        const mode_t mask = umask(0);
-        umask(mask);
-        (void)fchmod(file, 0666 & ~mask);
+        (void)fchmod(file, permissions());
         ::close(file);
         stream_.open(temporary_, std::ios::binary);
     }
@@ -52,6 +51,7 @@ class Replacement {
     void publish() {
         stream_.close();
         if (!stream_) fail(errno);
+        sync();
         if (rename(temporary_.c_str(), path_.c_str()) != 0) fail(errno);
         temporary_.clear();
     }
@@ -61,10 +61,33 @@ class Replacement {
         refuse("The file '" + path_ + "' cannot be written: " + std::generic_category().message(code) + ".");
     }
 
+    // Those of the file that is replaced, else those of any new one.
+    [[nodiscard]] mode_t permissions() const {
+        struct stat old {};
+        if (::stat(path_.c_str(), &old) == 0) return old.st_mode & 0777;
+        const mode_t mask = umask(0);
+        umask(mask);
+        return 0666 & ~mask;
+    }
+
+    // After a power failure there is the old file or the new one, never an empty one.
+    void sync() const {
+        const int file = open(temporary_.c_str(), O_RDONLY | O_CLOEXEC);
+        const bool synced = file >= 0 && fsync(file) == 0;
+        const int code = errno;
+        if (file >= 0) ::close(file);
+        if (!synced) fail(code);
+    }
+
     std::string path_;
     std::string temporary_;
     std::ofstream stream_;
 };
+
+// A link stays one: the file that it leads to is replaced.
+std::string placeOf(const std::string& target) {
+    return fs::is_symlink(fs::symlink_status(target)) ? fs::canonical(target).string() : target;
+}
 
 }  // namespace
 
@@ -75,7 +98,7 @@ void exportProject(const std::string& path, const std::string& target, const Out
     }
     ProjectReader project(path);
     const Content content = readContent(project.database());
-    Replacement file(target);
+    Replacement file(placeOf(target));
     writeContent(content, file.stream());
     file.publish();
     std::size_t members = content.orphans.size();
