@@ -268,6 +268,7 @@ class Unfolder {
         variable_.name = place.name;
         variable_.line = place.line;
         variable_.type = automation::leftCharacters(type, limits_.type);
+        if (variable_.type->size() < type.size()) ++cutTypes_;
         variable_.comment.reset();
         if (!place.comment.empty()) {
             variable_.comment = automation::leftCharacters(place.comment, limits_.comment);
@@ -285,10 +286,13 @@ class Unfolder {
             receiver_.note("the type " + inQuotes(name) + " is not declared in the file; " + std::to_string(count) +
                            " of it taken as they are");
         }
-        if (cutComments_ > 0) {
-            receiver_.note(std::to_string(cutComments_) + " comments cut to " + std::to_string(limits_.comment) +
-                           " characters");
-        }
+        tellCut("types", cutTypes_, limits_.type);
+        tellCut("comments", cutComments_, limits_.comment);
+    }
+
+    void tellCut(const std::string& what, int count, std::size_t limit) {
+        if (count == 0) return;
+        receiver_.note(std::to_string(count) + " " + what + " cut to " + std::to_string(limit) + " characters");
     }
 
     const XmlDocument& document_;
@@ -297,7 +301,7 @@ class Unfolder {
     VariableReceiver& receiver_;
     std::vector<xml_node> unfolding_;  // the declared types around
     std::map<std::string, int> undeclared_;
-    int cutComments_ = 0;
+    int cutTypes_ = 0, cutComments_ = 0;
     int depth_ = 0;
     std::int64_t parts_ = 0;
     ListedVariable variable_;  // used again

@@ -24,7 +24,8 @@ void Progress::reach(std::int64_t done) {
     if (!output_.problemsAreShown || done < next_) return;
     next_ = done + total_ / whole;
     if (Clock::now() - start_ < patience) return;
-    const int percent = static_cast<int>(done * whole / total_);
+    // A file may grow while it is read.
+    const int percent = static_cast<int>(std::min(done, total_) * whole / total_);
     if (percent != drawn_) draw(percent);
 }
 

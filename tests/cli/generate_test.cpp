@@ -82,6 +82,16 @@ TEST_F(Generate, AProgressBarAppearsOnLongWorkOnATerminalOnly) {
     }
 }
 
+TEST_F(Generate, AProgressBarIsFullWhenThereIsMoreThanExpected) {
+    std::ostringstream results;
+    std::ostringstream problems;
+    const Output output{results, problems, true};
+    Progress progress(output, 200);
+    std::this_thread::sleep_for(std::chrono::milliseconds(550));
+    progress.reach(300);
+    EXPECT_EQ(problems.str(), "\r[########################################] 100 %");
+}
+
 }  // namespace
 
 }  // namespace hx::cli

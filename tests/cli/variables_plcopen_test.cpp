@@ -186,6 +186,14 @@ TEST_F(VariablesInPlcopen, LongCommentsAreCutAndCounted) {
     EXPECT_EQ(globals(list, "1 comments cut to 255 characters"), "A|INT|" + std::string(255, 'c'));
 }
 
+TEST_F(VariablesInPlcopen, LongNamesOfTypesAreCutAndCounted) {
+    EXPECT_EQ(globals(variable("A", derived("T_OF_A_LIBRARY_PUMP_7")),
+                      "the type \"T_OF_A_LIBRARY_PUMP_7\" is not declared in the file; 1 of it taken as they are\n"
+                      "hxrecipe: " +
+                          folder_.file("project.xml") + ", 1 types cut to 20 characters"),
+              "A|T_OF_A_LIBRARY_PUMP_|");
+}
+
 TEST_F(VariablesInPlcopen, ATypeThatContainsItselfIsNamed) {
     const std::string types = dataType("A", "<struct>" + variable("B", derived("B")) + "</struct>") + "\n" +
                               dataType("B", array("1", "2", derived("a")));
