@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <utility>
 
 #include "adapters/sqlite/provider.h"
 
@@ -85,15 +86,20 @@ void requireProject(const std::string& path) {
     (void)sqlite::Provider().connect("Data Source=\"" + path + "\";Mode=Read;");
 }
 
-std::string inQuotes(std::string_view text) {
+std::string visible(std::string_view text) {
     constexpr std::string_view digits = "0123456789ABCDEF";
-    std::string result = "\"";
-    for (const char c : text) {
-        const auto byte = static_cast<unsigned char>(c);
-        if (byte >= 0x20 && byte != 0x7F) result += c;
+    std::string result;
+    bool begun = false;  // a control character of two bytes, U+0080 to U+009F
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const auto byte = static_cast<unsigned char>(text[i]);
+        const bool ends = std::exchange(begun, false);
+        begun = byte == 0xC2 && i + 1 < text.size() && (text[i + 1] & 0xE0) == 0x80;
+        if (byte >= 0x20 && byte != 0x7F && !begun && !ends) result += text[i];
         else result.append("\\x").append(1, digits[byte >> 4]).append(1, digits[byte & 15]);
     }
-    return result + "\"";
+    return result;
 }
+
+std::string inQuotes(std::string_view text) { return '"' + visible(text) + '"'; }
 
 }  // namespace hx::cli

@@ -49,7 +49,9 @@ class ProjectReader {
 /// Throws an automation::Error that says why the file is no project.
 void requireProject(const std::string& path);
 
-/// A row's value as the command line prints names: in quotation marks, with control characters made visible.
+/// Text of a row in one line: the bytes of control characters as \x0A.
+[[nodiscard]] std::string visible(std::string_view text);
+/// The same in quotation marks, as the command line prints names.
 [[nodiscard]] std::string inQuotes(std::string_view text);
 
 /// Columns of a recipe that name a variable.

@@ -20,7 +20,7 @@ void list(const std::string& path, bool json, const Output& output) {
             output.results << separator << jsonLine(object);
             separator = ",\n";
         } else {
-            output.results << inQuotes(select.text(0)) << " " << select.text(1) << "\n";
+            output.results << inQuotes(select.text(0)) << " " << visible(select.text(1)) << "\n";
         }
     }
     if (json) output.results << "\n]}\n";

@@ -184,6 +184,10 @@ TEST_F(VariablesInCsv, AreListed) {
     EXPECT_EQ(hxrecipe({"variables", "list", "--json", file_.c_str()}).results,
               "{\"variables\": [\n{\"name\":\"Größe\",\"type\":\"INT\",\"comment\":\"\"},\n"
               "{\"name\":\"Motor.Speed\",\"type\":\"REAL\",\"comment\":\"rpm\"}\n]}\n");
+    sqlite::Database(file_).execute(
+        "DELETE FROM ThxVariable; INSERT INTO ThxVariable (Name, Type) VALUES ('a' || char(155) || '«', 'T' || "
+        "char(10))");
+    EXPECT_EQ(hxrecipe({"variables", "list", file_.c_str()}).results, "\"a\\xC2\\x9B«\" T\\x0A\n");
     const Result none = hxrecipe({"variables", "list", "/no/such/file"});
     EXPECT_EQ(none.status, 1);
     EXPECT_EQ(none.results, "");
