@@ -1,4 +1,4 @@
-#include <array>
+#include <algorithm>
 #include <iterator>
 #include <limits>
 #include <map>
@@ -218,6 +218,12 @@ class Parser : public nlohmann::json_sax<Json> {
 
     [[noreturn]] void failBlob(int line) const { fail(line, "bytes are written as {\"hex\": \"0A1B...\"}"); }
 
+    static std::string withCapitals(std::string digits) {
+        std::ranges::transform(digits, digits.begin(),
+                               [](char c) { return c >= 'a' ? static_cast<char>(c - 'a' + 'A') : c; });
+        return digits;
+    }
+
     void takeBlob(const Value& value, int line) {
         const auto* digits = std::get_if<std::string>(&value);
         const bool hexadecimal = digits != nullptr && digits->size() % 2 == 0 &&
@@ -226,7 +232,7 @@ class Parser : public nlohmann::json_sax<Json> {
         const std::string column = levels_[levels_.size() - 2].keys.back();
         levels_.pop_back();
         key_ = column;
-        take(Blob{*digits}, line);
+        take(Blob{withCapitals(*digits)}, line);
         levels_.push_back({Level::blob, {"hex"}});
     }
 
@@ -272,9 +278,8 @@ Content parseContent(const std::string& path) {
     if (beginsLikeProject(path)) {
         throw automation::Error(automation::errFail, path + " is a project, not an export");
     }
-    std::string text;
-    for (const Line& line : readLines(path)) text.append(line.text).append("\n");
-    if (text.find_first_not_of(" \t\n") == std::string::npos) {
+    const std::string text = readText(path);
+    if (text.find_first_not_of(" \t\r\n") == std::string::npos) {
         Line{path, 1, {}}.fail("the file is empty");
     }
     Place place;

@@ -1,9 +1,11 @@
 #include "cli/text_file.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <optional>
 #include <system_error>
 
 #include "automation/text.h"
@@ -41,15 +43,16 @@ int followers(std::string_view text, std::size_t at) {
     return lead >= 0xF1 && lead <= 0xF3 ? 3 : -1;
 }
 
-bool isUtf8(std::string_view text) {
+// Where the text is not UTF-8.
+std::optional<std::size_t> fault(std::string_view text) {
     for (std::size_t at = 0; at < text.size(); ++at) {
         const int count = followers(text, at);
-        if (count < 0) return false;
+        if (count < 0) return at;
         for (int i = 0; i < count; ++i) {
-            if (++at >= text.size() || (static_cast<unsigned char>(text[at]) & 0xC0) != 0x80) return false;
+            if (++at >= text.size() || (static_cast<unsigned char>(text[at]) & 0xC0) != 0x80) return at - 1;
         }
     }
-    return true;
+    return std::nullopt;
 }
 
 }  // namespace
@@ -58,17 +61,23 @@ void Line::fail(const std::string& problem) const {
     refuse(file + ", line " + std::to_string(number) + ": " + problem);
 }
 
+std::string readText(const std::string& path) {
+    std::string text = contents(path);
+    if (text.starts_with(byteOrderMark)) Line{path, 1, {}}.fail("the file begins with a byte order mark");
+    if (const auto at = fault(text)) {
+        const auto before = std::ranges::count(std::string_view(text).substr(0, *at), '\n');
+        Line{path, static_cast<int>(before) + 1, {}}.fail("the text is not UTF-8");
+    }
+    return text;
+}
+
 std::vector<Line> readLines(const std::string& path) {
-    const std::string text = contents(path);
+    const std::string text = readText(path);
     std::vector<Line> lines;
     if (text.empty()) return lines;
     for (std::string& part : automation::split(text, '\n')) {
         if (part.ends_with('\r')) part.pop_back();
         lines.push_back({path, static_cast<int>(lines.size()) + 1, std::move(part)});
-        const Line& line = lines.back();
-        if (line.number == 1 && line.text.starts_with(byteOrderMark))
-            line.fail("the file begins with a byte order mark");
-        if (!isUtf8(line.text)) line.fail("the text is not UTF-8");
     }
     if (lines.back().text.empty()) lines.pop_back();  // what follows the last line's end is no line
     return lines;

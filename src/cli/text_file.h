@@ -17,8 +17,9 @@ struct Line {
     [[noreturn]] void fail(const std::string& problem) const;
 };
 
-/// The lines of a UTF-8 file; they end with LF or CRLF. Throws automation::Error when it cannot be read, has a byte
-/// order mark or is not UTF-8.
+/// A UTF-8 file. Throws automation::Error when it cannot be read, has a byte order mark or is not UTF-8.
+[[nodiscard]] std::string readText(const std::string& path);
+/// The same line by line; they end with LF or CRLF.
 [[nodiscard]] std::vector<Line> readLines(const std::string& path);
 
 }  // namespace hx::cli

@@ -11,7 +11,7 @@ namespace hx::cli {
 
 namespace {
 
-std::string readText(const std::string& path) {
+std::string decoded(const std::string& path) {
     TextDecoder decoder(path, declaredEncoding(path));
     std::string text;
     for (std::string piece; decoder.read(piece);) text += piece;
@@ -30,7 +30,7 @@ pugi::xml_node nextNode(pugi::xml_node node, const pugi::xml_node& top) {
 
 }  // namespace
 
-XmlDocument::XmlDocument(const std::string& path) : path_(path), text_(readText(path)) {
+XmlDocument::XmlDocument(const std::string& path) : path_(path), text_(decoded(path)) {
     for (auto at = text_.find('\n'); at != std::string::npos; at = text_.find('\n', at + 1)) {
         ends_.push_back(static_cast<std::uint32_t>(at));
     }
