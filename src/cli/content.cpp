@@ -28,8 +28,9 @@ std::optional<double> numberOf(const Value& value) {
 /// Reads the rows of one table, whatever columns it has.
 class RowReader {
   public:
-    RowReader(sqlite::Database& database, std::string_view table, const std::string& order)
-        : info_(requireTable(database, table)), select_(database, query(info_, order)) {}
+    /// `rows` says which ones, and in which order.
+    RowReader(sqlite::Database& database, std::string_view table, const std::string& rows)
+        : info_(requireTable(database, table)), select_(database, query(info_, rows)) {}
 
     bool next() { return select_.step(); }
 
@@ -55,7 +56,7 @@ class RowReader {
     }
 
     // Each column twice: its value, and whether it is bytes.
-    static std::string query(const sqlite::TableInfo& info, const std::string& order) {
+    static std::string query(const sqlite::TableInfo& info, const std::string& rows) {
         std::string columns;
         for (const ado::Column& column : info.columns) {
             const std::string name = sqlite::quotedName(column.name);
@@ -63,7 +64,7 @@ class RowReader {
             columns.append(columns.empty() ? "" : ", ").append("CASE WHEN ").append(isBlob);
             columns.append(" THEN hex(").append(name).append(") ELSE ").append(name).append(" END, ").append(isBlob);
         }
-        return "SELECT " + columns + " FROM " + sqlite::quotedName(info.name) + " ORDER BY " + order;
+        return "SELECT " + columns + " FROM " + sqlite::quotedName(info.name) + " " + rows;
     }
 
     [[nodiscard]] Value value(std::size_t column) const {
@@ -95,14 +96,14 @@ void requireName(const ContentRecipe& recipe) {
 Content contentOf(sqlite::Database& database) {
     Content content;
     std::unordered_map<std::int64_t, std::size_t> numbers;
-    RowReader recipes(database, "TrcpRecipe", "ID");
+    RowReader recipes(database, "TrcpRecipe", "ORDER BY ID");
     while (recipes.next()) {
         const std::int64_t id = recipes.number("ID");
         numbers.emplace(id, content.recipes.size());
         content.recipes.push_back({id, recipes.cells({"ID"}), {}, 0});
         requireName(content.recipes.back());
     }
-    RowReader members(database, "TrcpRecipeMember", "ID");
+    RowReader members(database, "TrcpRecipeMember", "ORDER BY ID");
     while (members.next()) {
         ContentMember member{members.number("ID"), members.number("ParentID"), members.number("ChildID"), {}, {}, 0};
         member.cells = members.cells({"ID", "ParentID", "ChildID"});
@@ -142,6 +143,8 @@ bool beginsLikeProject(const std::string& path) {
 }
 
 bool isSame(const Value& a, const Value& b) {
+    // Beyond 2^53 neighbours are the same real number.
+    if (std::holds_alternative<std::int64_t>(a) && std::holds_alternative<std::int64_t>(b)) return a == b;
     const auto x = numberOf(a);
     const auto y = numberOf(b);
     if (x && y) {
@@ -158,6 +161,13 @@ const Cell* findCell(const std::vector<Cell>& cells, std::string_view column) {
 }
 
 const std::string& ContentRecipe::name() const { return std::get<std::string>(findCell(cells, "Name")->value); }
+
+ContentRecipe readRecipe(sqlite::Database& database, std::int64_t id) {
+    ContentRecipe recipe{id, {}, {}, 0};
+    RowReader row(database, "TrcpRecipe", "WHERE ID = " + std::to_string(id));
+    if (row.next()) recipe.cells = row.cells({"ID"});
+    return recipe;
+}
 
 Content readContent(sqlite::Database& database) {
     return inFile(database.path(), [&] { return contentOf(database); });

@@ -61,6 +61,8 @@ struct Content {
 
 [[nodiscard]] const Cell* findCell(const std::vector<Cell>& cells, std::string_view column);
 
+/// Reads the columns of one recipe, not its members.
+[[nodiscard]] ContentRecipe readRecipe(sqlite::Database& database, std::int64_t id);
 /// Reads a project; recipes and members by ID.
 [[nodiscard]] Content readContent(sqlite::Database& database);
 /// Reads an export file. Throws automation::Error with the line and the field of what is wrong.

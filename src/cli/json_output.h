@@ -15,9 +15,7 @@ using Json = nlohmann::ordered_json;
 [[nodiscard]] std::string jsonLine(const Json& value);
 /// {"id": ..., "name": ...}
 [[nodiscard]] Json recipeObject(const RecipeEntry& recipe);
-/// The value of a column of the current row: null, a number, text, or true and false for a yes/no column.
-[[nodiscard]] Json columnValue(const sqlite::Statement& row, int column);
-
+/// Bytes become {"hex": "00FF"}.
 [[nodiscard]] Json jsonOf(const Value& value);
 
 }  // namespace hx::cli

@@ -1,6 +1,5 @@
 #include "cli/show.h"
 
-#include "adapters/sqlite/table_info.h"
 #include "automation/error.h"
 #include "cli/json_output.h"
 #include "cli/recipe_graph.h"
@@ -48,11 +47,10 @@ class Shown {
           number_(graph_.numberOf(recipe.id).value()) {}
 
     [[nodiscard]] Json properties() {
-        Json result = Json::object();
-        Statement select(project_.database(), "SELECT * FROM TrcpRecipe WHERE ID = ?1");
-        select.bind(1, recipe_.id);
-        select.step();
-        for (int i = 0; i < select.columnCount(); ++i) result[select.columnName(i)] = columnValue(select, i);
+        Json result = {{"ID", recipe_.id}};
+        for (const Cell& cell : readRecipe(project_.database(), recipe_.id).cells) {
+            result[cell.column] = jsonOf(cell.value);
+        }
         return result;
     }
 
@@ -128,14 +126,14 @@ std::string textOf(const Json& value) {
     if (value.is_string()) return inQuotes(value.get<std::string>());
     if (value.is_null()) return "no value";
     if (value.is_boolean()) return value.get<bool>() ? "yes" : "no";
-    return value.dump();
+    return jsonLine(value);
 }
 
 void printText(Shown& shown, const RecipeEntry& recipe, const Output& output) {
     output.results << "Recipe " << inQuotes(recipe.name) << "\n";
     const Json properties = shown.properties();
     for (const auto& [column, value] : properties.items()) {
-        output.results << "  " << column << ": " << textOf(value) << "\n";
+        output.results << "  " << visible(column) << ": " << textOf(value) << "\n";
     }
     const Json variables = shown.variables();
     printTitle("Variables", variables.size(), output);

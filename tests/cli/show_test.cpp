@@ -86,6 +86,14 @@ TEST_F(ReadingCommands, ShowPrintsJson) {
     EXPECT_TRUE(text.ends_with("}\n"));
 }
 
+TEST_F(ReadingCommands, ShowGivesBytesAsAnExportDoes) {
+    sqlite::Database(file_).execute("UPDATE TrcpRecipe SET Owner = X'00FF' WHERE Name = 'Wash'");
+    before_ = contents(file_);
+    EXPECT_NE(hxrecipe({"show", file_.c_str(), "Wash"}).results.find("  Owner: {\"hex\":\"00FF\"}\n"),
+              std::string::npos);
+    EXPECT_NE(hxrecipe({"show", "--json", file_.c_str(), "Wash"}).results.find("\"hex\": \"00FF\""), std::string::npos);
+}
+
 TEST_F(ReadingCommands, ShowCutsATreeThatIsTooDeep) {
     std::string sql;
     for (int i = 100; i < 300; ++i) {
