@@ -55,6 +55,42 @@ void compareCells(const std::vector<Cell>& before, const std::vector<Cell>& afte
     }
 }
 
+/// Finds for each member of one list the same one in another.
+class Pairing {
+  public:
+    Pairing(const std::vector<ContentMember>& before, const std::vector<ContentMember>& after, bool absentColumns)
+        : before_(before), after_(after), absentColumns_(absentColumns), partners_(after.size()) {}
+
+    Partners run() {
+        for (std::size_t i = 0; i < before_.size(); ++i) waiting_[identityOf(before_[i])].push_back(i);
+        pair(true);   // those that are the same in everything
+        pair(false);  // then those that have changed
+        return std::move(partners_);
+    }
+
+  private:
+    void pair(bool sameInEverything) {
+        for (std::size_t i = 0; i < after_.size(); ++i) {
+            if (partners_[i]) continue;
+            const auto found = waiting_.find(identityOf(after_[i]));
+            if (found == waiting_.end()) continue;
+            auto& left = found->second;
+            const auto partner = std::ranges::find_if(left, [&](std::size_t old) {
+                return !sameInEverything || hasSameColumns(before_[old], after_[i], absentColumns_);
+            });
+            if (partner == left.end()) continue;
+            partners_[i] = *partner;
+            left.erase(partner);
+        }
+    }
+
+    const std::vector<ContentMember>& before_;
+    const std::vector<ContentMember>& after_;
+    bool absentColumns_;
+    Partners partners_;
+    std::unordered_map<std::string, std::vector<std::size_t>> waiting_;  // of before_, by what they are
+};
+
 /// Compares the members of one recipe, or those without one.
 class Members {
   public:
@@ -64,20 +100,21 @@ class Members {
           after_(after),
           absentColumns_(absentColumns),
           recipe_(std::move(recipe)),
-          partners_(after.size(), none) {}
+          partners_(partnersOf(before, after, absentColumns)) {}
 
     std::vector<Difference> compare() {
-        for (std::size_t i = 0; i < before_.size(); ++i) waiting_[identityOf(before_[i])].push_back(i);
-        pair(true);   // those that are the same in everything
-        pair(false);  // then those that have changed
         std::vector<Difference> differences;
-        for (const auto& [identity, left] : waiting_) removed_.insert(removed_.end(), left.begin(), left.end());
-        std::ranges::sort(removed_);
-        for (const std::size_t i : removed_) differences.push_back(whole(Kind::removed, before_[i]));
+        std::vector<bool> stays(before_.size());
+        for (const auto& partner : partners_) {
+            if (partner) stays[*partner] = true;
+        }
+        for (std::size_t i = 0; i < before_.size(); ++i) {
+            if (!stays[i]) differences.push_back(whole(Kind::removed, before_[i]));
+        }
         for (std::size_t i = 0; i < after_.size(); ++i) {
-            if (partners_[i] == none) differences.push_back(whole(Kind::added, after_[i]));
+            if (!partners_[i]) differences.push_back(whole(Kind::added, after_[i]));
             else
-                compareCells(before_[partners_[i]].cells, after_[i].cells, absentColumns_,
+                compareCells(before_[*partners_[i]].cells, after_[i].cells, absentColumns_,
                              whole(Kind::changed, after_[i]), differences);
         }
         if (!isInOrder()) differences.push_back({Kind::changed, recipe_, "order of the members", {}, {}, {}});
@@ -85,31 +122,9 @@ class Members {
     }
 
   private:
-    static constexpr std::size_t none = static_cast<std::size_t>(-1);
-
-    void pair(bool sameInEverything) {
-        for (std::size_t i = 0; i < after_.size(); ++i) {
-            if (partners_[i] != none) continue;
-            const auto found = waiting_.find(identityOf(after_[i]));
-            if (found == waiting_.end()) continue;
-            auto& left = found->second;
-            const auto partner =
-                std::ranges::find_if(left, [&](std::size_t old) { return !sameInEverything || isEqual(old, i); });
-            if (partner == left.end()) continue;
-            partners_[i] = *partner;
-            left.erase(partner);
-        }
-    }
-
-    [[nodiscard]] bool isEqual(std::size_t old, std::size_t now) const {
-        std::vector<Difference> differences;
-        compareCells(before_[old].cells, after_[now].cells, absentColumns_, {}, differences);
-        return differences.empty();
-    }
-
     [[nodiscard]] bool isInOrder() const {
-        std::vector<std::size_t> order;
-        std::ranges::copy_if(partners_, std::back_inserter(order), [](std::size_t i) { return i != none; });
+        Partners order;
+        std::ranges::copy_if(partners_, std::back_inserter(order), [](const auto& i) { return i.has_value(); });
         return std::ranges::is_sorted(order);
     }
 
@@ -121,9 +136,7 @@ class Members {
     const std::vector<ContentMember>& after_;
     bool absentColumns_;
     std::string recipe_;
-    std::vector<std::size_t> partners_;  // in before_, of those in after_
-    std::unordered_map<std::string, std::vector<std::size_t>> waiting_;
-    std::vector<std::size_t> removed_;
+    Partners partners_;
 };
 
 void append(std::vector<Difference>& all, std::vector<Difference> more) {
@@ -139,6 +152,17 @@ ByName byName(const Content& content) {
 }
 
 }  // namespace
+
+Partners partnersOf(const std::vector<ContentMember>& before, const std::vector<ContentMember>& after,
+                    bool absentColumns) {
+    return Pairing(before, after, absentColumns).run();
+}
+
+bool hasSameColumns(const ContentMember& before, const ContentMember& after, bool absentColumns) {
+    std::vector<Difference> differences;
+    compareCells(before.cells, after.cells, absentColumns, {}, differences);
+    return differences.empty();
+}
 
 std::vector<Difference> compare(const ContentRecipe& before, const ContentRecipe& after, bool absentColumns) {
     std::vector<Difference> differences;

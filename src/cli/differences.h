@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstddef>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -31,6 +33,13 @@ struct Comparison {
 /// The same of two recipes of one name.
 [[nodiscard]] std::vector<Difference> compare(const ContentRecipe& before, const ContentRecipe& after,
                                               bool absentColumns);
+
+/// For each member the number of the same one in another list; none when it is new there.
+using Partners = std::vector<std::optional<std::size_t>>;
+/// Of several that could be meant those are taken that are the same in every column.
+[[nodiscard]] Partners partnersOf(const std::vector<ContentMember>& before, const std::vector<ContentMember>& after,
+                                  bool absentColumns);
+[[nodiscard]] bool hasSameColumns(const ContentMember& before, const ContentMember& after, bool absentColumns);
 
 /// Prints a line for each, or one JSON object.
 void print(const std::vector<Difference>& differences, bool json, const Output& output);

@@ -1,6 +1,7 @@
 #include "cli/import.h"
 
 #include <algorithm>
+#include <limits>
 #include <unordered_map>
 #include <unordered_set>
 
@@ -30,7 +31,8 @@ class Ids {
     /// New IDs come behind this one as well.
     void reserve(std::int64_t id) { last_ = std::max(last_, id); }
     [[nodiscard]] bool isFree(std::int64_t id) const { return !taken_.contains(id); }
-    [[nodiscard]] std::int64_t next() { return last_ + 1; }
+    [[nodiscard]] bool hasNext() const { return last_ < std::numeric_limits<std::int32_t>::max(); }
+    [[nodiscard]] std::int64_t next() const { return last_ + 1; }
 
   private:
     std::unordered_set<std::int64_t> taken_;
@@ -40,6 +42,20 @@ class Ids {
 struct Counts {
     std::size_t added = 0, changed = 0, removed = 0;
 };
+
+/// A recipe whose members are to be written.
+struct Unfilled {
+    std::int64_t id;
+    const ContentRecipe* recipe;                // of the file
+    const std::vector<ContentMember>* members;  // that it had
+};
+
+// What the file does not say of a member stays as it was.
+void addColumnsOf(const ContentMember& old, std::vector<Cell>& cells) {
+    for (const Cell& cell : old.cells) {
+        if (findCell(cells, cell.column) == nullptr) cells.push_back(cell);
+    }
+}
 
 /// Carries an import out within a transaction that the caller holds.
 class Import {
@@ -89,12 +105,15 @@ class Import {
         }
         for (const ContentRecipe& recipe : file_.recipes) {
             recipeIds_.reserve(recipe.id.value_or(0));
-            for (const ContentMember& member : recipe.members) memberIds_.reserve(member.id.value_or(0));
+            for (const ContentMember& member : recipe.members) reserve(member);
         }
-        for (const ContentMember& member : file_.orphans) {
-            memberIds_.reserve(member.id.value_or(0));
-            recipeIds_.reserve(member.parent);
-        }
+        for (const ContentMember& member : file_.orphans) reserve(member);
+    }
+
+    void reserve(const ContentMember& member) {
+        memberIds_.reserve(member.id.value_or(0));
+        recipeIds_.reserve(member.parent);
+        if (!member.childName) recipeIds_.reserve(member.child);
     }
 
     // A recipe must not come to the ID of a missing one: the members that refer to it would be given to it.
@@ -143,11 +162,11 @@ class Import {
 
     void addRecipe(const ContentRecipe& recipe) {
         const bool keeps = recipe.id && recipeIds_.isFree(*recipe.id);
-        const std::int64_t id = keeps ? *recipe.id : recipeIds_.next();
+        const std::int64_t id = keeps ? *recipe.id : newId(recipeIds_, recipe.line);
         recipeIds_.take(id);
         recipeRows_.insert({{"ID", id}}, recipe.cells, recipe.line);
         idsByName_[foldCase(recipe.name())] = id;
-        toFill_.push_back({id, &recipe});
+        toFill_.push_back({id, &recipe, &noMembers_});
         ++counts_.added;
     }
 
@@ -159,7 +178,7 @@ class Import {
         const bool members = std::ranges::any_of(differences, [](const auto& d) { return !d.member.empty(); });
         if (!members) return;
         toEmpty_.push_back(&old);
-        toFill_.push_back({*old.id, &recipe});
+        toFill_.push_back({*old.id, &recipe, &old.members});
     }
 
     void deleteMembersOfChanged() {
@@ -168,13 +187,27 @@ class Import {
 
     void writeMembers() {
         std::int64_t done = 0;
-        for (const auto& [id, recipe] : toFill_) {
-            const bool keep = canKeepIds(recipe->members);
-            for (const ContentMember& member : recipe->members) {
-                writeMember(member, id, keep ? *member.id : memberIds_.next());
-            }
+        for (const Unfilled& recipe : toFill_) {
+            writeMembers(recipe);
             progress_.reach(++done);
         }
+    }
+
+    void writeMembers(const Unfilled& recipe) {
+        const auto& members = recipe.recipe->members;
+        const Partners partners = partnersOf(*recipe.members, members, false);
+        const bool keep = canKeepIds(members);
+        for (std::size_t i = 0; i < members.size(); ++i) {
+            const std::int64_t id = keep ? *members[i].id : newId(memberIds_, members[i].line);
+            auto cells = members[i].cells;
+            if (partners[i]) addColumnsOf((*recipe.members)[*partners[i]], cells);
+            writeMember(members[i], cells, recipe.id, id);
+        }
+    }
+
+    [[nodiscard]] std::int64_t newId(const Ids& ids, int line) const {
+        if (!ids.hasNext()) Line{path_, line, {}}.fail("\"ID\": the project has no ID left beyond its largest one");
+        return ids.next();
     }
 
     // The order of the members is that of their IDs.
@@ -186,9 +219,10 @@ class Import {
         return true;
     }
 
-    void writeMember(const ContentMember& member, std::int64_t parent, std::int64_t id) {
+    void writeMember(const ContentMember& member, const std::vector<Cell>& cells, std::int64_t parent,
+                     std::int64_t id) {
         memberIds_.take(id);
-        memberRows_.insert({{"ID", id}, {"ParentID", parent}, {"ChildID", childOf(member)}}, member.cells, member.line);
+        memberRows_.insert({{"ID", id}, {"ParentID", parent}, {"ChildID", childOf(member)}}, cells, member.line);
     }
 
     [[nodiscard]] std::int64_t childOf(const ContentMember& member) const {
@@ -206,24 +240,22 @@ class Import {
     }
 
     void writeOrphans() {
-        Content old;
-        if (mode_ != ImportMode::replace) old.orphans = before_.orphans;
-        for (const ContentMember& member : file_.orphans) {
-            if (isThere(old, member)) continue;
-            if (isRecipe(member.parent)) {
-                fail(member, "\"ParentID\": the missing recipe's ID " + std::to_string(member.parent) +
-                                 " belongs to a recipe of the project");
-            }
-            const bool keeps = member.id && memberIds_.isFree(*member.id);
-            writeMember(member, member.parent, keeps ? *member.id : memberIds_.next());
+        const auto& old = mode_ == ImportMode::replace ? noMembers_ : before_.orphans;
+        const Partners partners = partnersOf(old, file_.orphans, false);
+        for (std::size_t i = 0; i < partners.size(); ++i) {
+            const ContentMember& member = file_.orphans[i];
+            if (partners[i] && hasSameColumns(old[*partners[i]], member, false)) continue;
+            writeOrphan(member);
         }
     }
 
-    [[nodiscard]] static bool isThere(const Content& old, const ContentMember& member) {
-        Content one;
-        one.orphans.push_back(member);
-        const auto differences = compare(old, one, {false, false, false});
-        return differences.empty();
+    void writeOrphan(const ContentMember& member) {
+        if (isRecipe(member.parent)) {
+            fail(member, "\"ParentID\": the missing recipe's ID " + std::to_string(member.parent) +
+                             " belongs to a recipe of the project");
+        }
+        const bool keeps = member.id && memberIds_.isFree(*member.id);
+        writeMember(member, member.cells, member.parent, keeps ? *member.id : newId(memberIds_, member.line));
     }
 
     [[nodiscard]] bool isRecipe(std::int64_t id) const {
@@ -245,7 +277,8 @@ class Import {
     std::unordered_map<std::string, const ContentRecipe*> known_;  // of the project, by folded name
     std::unordered_map<std::string, std::int64_t> idsByName_;      // of all that will be there
     std::vector<const ContentRecipe*> toEmpty_;
-    std::vector<std::pair<std::int64_t, const ContentRecipe*>> toFill_;
+    std::vector<Unfilled> toFill_;
+    const std::vector<ContentMember> noMembers_;
     Counts counts_;
 };
 

@@ -19,7 +19,7 @@ sqlite::TableInfo requireTable(sqlite::Database& database, std::string_view tabl
 }
 
 // What the column takes, when the value is nothing like it; null and bytes are up to the database.
-std::string_view expected(ado::DataType type, const Value& value) {
+std::string_view expected(ado::DataType type, bool isText, const Value& value) {
     const bool whole = std::holds_alternative<std::int64_t>(value);
     const bool yesNo = std::holds_alternative<bool>(value);
     if (std::holds_alternative<std::monostate>(value) || std::holds_alternative<Blob>(value)) return {};
@@ -28,8 +28,19 @@ std::string_view expected(ado::DataType type, const Value& value) {
         case ado::adSmallInt:
         case ado::adInteger: return whole ? "" : "a whole number";
         case ado::adDouble: return whole || std::holds_alternative<double>(value) ? "" : "a number";
-        default: return std::holds_alternative<std::string>(value) ? "" : "a text";
+        default: return !isText || std::holds_alternative<std::string>(value) ? "" : "a text";
     }
+}
+
+// Only a column of text makes text of a number: one of which nothing else is known keeps what it is given.
+std::vector<bool> textColumns(sqlite::Database& database, const sqlite::TableInfo& info) {
+    sqlite::Statement& select = database.prepared(
+        "SELECT type LIKE '%CHAR%' OR type LIKE '%CLOB%' OR type LIKE '%TEXT%' FROM pragma_table_info(?1)");
+    const sqlite::ResetGuard guard(select);
+    select.bind(1, Variant(info.name));
+    std::vector<bool> isText;
+    while (select.step()) isText.push_back(select.key(0) != 0);
+    return isText;
 }
 
 bool isTooLong(const ado::Column& column, const Value& value) {
@@ -56,14 +67,17 @@ std::string placeholder(const Value& value, std::size_t parameter) {
 }  // namespace
 
 RowWriter::RowWriter(sqlite::Database& database, std::string_view table, std::string file)
-    : database_(database), info_(requireTable(database, table)), file_(std::move(file)) {}
+    : database_(database),
+      info_(requireTable(database, table)),
+      isText_(textColumns(database, info_)),
+      file_(std::move(file)) {}
 
 void RowWriter::check(const std::vector<Cell>& cells) const {
     for (const Cell& cell : cells) {
         const Line line{file_, cell.line, {}};
         const auto column = info_.column(cell.column);
         if (!column) line.fail(inQuotes(cell.column) + ": the table " + info_.name + " has no such column");
-        const std::string_view wanted = expected(info_.columns[*column].type, cell.value);
+        const std::string_view wanted = expected(info_.columns[*column].type, isText_[*column], cell.value);
         if (!wanted.empty()) line.fail(inQuotes(cell.column) + ": " + std::string(wanted) + " is expected");
         if (isTooLong(info_.columns[*column], cell.value)) {
             line.fail(inQuotes(cell.column) + ": the text is longer than " +

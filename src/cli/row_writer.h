@@ -26,6 +26,7 @@ class RowWriter {
 
     sqlite::Database& database_;
     sqlite::TableInfo info_;
+    std::vector<bool> isText_;  // for each column
     std::string file_;
 };
 

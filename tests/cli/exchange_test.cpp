@@ -81,6 +81,46 @@ TEST_F(Exchange, ExportImportIntoAnEmptyProjectAndExportGivesTheSameBytes) {
     EXPECT_EQ(hxrecipe({"diff", file_.c_str(), other.c_str()}).results, "No differences.\n");
 }
 
+TEST_F(Exchange, ColumnsOfAnyTypeKeepWhatTheyHold) {
+    const std::string columns =
+        "ALTER TABLE TrcpRecipe ADD COLUMN Made DATETIME; ALTER TABLE TrcpRecipe ADD COLUMN Serial BIGINT;"
+        "ALTER TABLE TrcpRecipe ADD COLUMN Price DECIMAL(10,2); ALTER TABLE TrcpRecipe ADD COLUMN Plain;"
+        "ALTER TABLE TrcpRecipeMember ADD COLUMN Note CLOB; ALTER TABLE TrcpRecipeMember ADD COLUMN Data BLOB;";
+    const std::string other = makeOther(columns);
+    sqlite::Database(file_).execute(
+        columns +
+        "UPDATE TrcpRecipe SET Made = 45000.25, Serial = 9007199254740993, Price = 2.50, Plain = 7 WHERE ID = 3;"
+        "UPDATE TrcpRecipe SET Made = '2026-11-21', Serial = -1, Price = 1e300, Plain = 1.0 / 3 WHERE ID = 5;"
+        "UPDATE TrcpRecipeMember SET Note = '007', Data = 5 WHERE ID = 2;"
+        "UPDATE TrcpRecipeMember SET Note = '', Data = 'text' WHERE ID = 4;");
+    const std::string text = exported(file_, "a.json");
+    EXPECT_EQ(hxrecipe({"import", other.c_str(), folder_.file("a.json").c_str()}).problems, "");
+    EXPECT_EQ(exported(other, "b.json"), text);
+    EXPECT_EQ(problem(with(text, "\"Note\": \"007\"", "\"Note\": 7")), "line 30: \"Note\": a text is expected\n");
+    // As a real number it is the same.
+    sqlite::Database(other).execute("UPDATE TrcpRecipe SET Serial = 9007199254740992 WHERE ID = 3");
+    EXPECT_EQ(hxrecipe({"diff", file_.c_str(), other.c_str()}).results,
+              "~ recipe \"A \"q\" \\\", Serial: 9007199254740993 -> 9007199254740992\n");
+}
+
+TEST_F(Exchange, BytesAreTheSameInSmallAndCapitalDigits) {
+    const std::string in = write("b.json", with(exported(file_, "a.json"), "00FF", "00ff"));
+    EXPECT_EQ(hxrecipe({"diff", file_.c_str(), in.c_str()}).results, "No differences.\n");
+}
+
+TEST_F(Exchange, AnExportThatIsReplacedKeepsItsPermissionsAndTheLinkToIt) {
+    namespace fs = std::filesystem;
+    const std::string real = write("real.json", "{\n  \"format\": \"hxrecipe\"");
+    fs::permissions(real, fs::perms::owner_read | fs::perms::owner_write);
+    fs::create_symlink("real.json", folder_.file("link.json"));
+    const std::string text = exported(file_, "link.json");
+    EXPECT_TRUE(fs::is_symlink(folder_.file("link.json")));
+    EXPECT_FALSE(fs::is_symlink(real));
+    EXPECT_EQ(contents(real), text);
+    EXPECT_EQ(fs::status(real).permissions(), fs::perms::owner_read | fs::perms::owner_write);
+    EXPECT_EQ(filesInFolder().size(), 3U);
+}
+
 TEST_F(Exchange, AnExportReplacesOnlyAnExport) {
     const std::string text = exported(file_, "a.json");
     EXPECT_EQ(exported(file_, "a.json"), text);
@@ -206,6 +246,38 @@ TEST_F(Exchange, TheOrderOfMembersCounts) {
     EXPECT_EQ(hxrecipe({"diff", other.c_str(), turned.c_str()}).results, "~ recipe \"R\", order of the members\n");
     EXPECT_EQ(hxrecipe({"import", other.c_str(), turned.c_str(), "--mode", "update"}).status, 0);
     EXPECT_EQ(query(other, "SELECT ID, VarRecipe FROM TrcpRecipeMember"), "1|Q,2|P");
+}
+
+TEST_F(Exchange, UpdateKeepsTheColumnsOfMembersThatTheFileDoesNotName) {
+    const std::string other = makeOther(
+        "INSERT INTO TrcpRecipe (ID, Name) VALUES (1, 'R');"
+        "INSERT INTO TrcpRecipeMember (ID, ParentID, VarRecipe, Unit) VALUES (1, 1, 'V', 'bar'), (2, 1, 'W', 'psi');");
+    const std::string in = write("b.json",
+                                 "{\"format\": \"hxrecipe\", \"version\": 1, \"recipes\": [{\"Name\": \"R\", "
+                                 "\"members\": [{\"VarRecipe\": \"X\"}, {\"VarRecipe\": \"v\"}]}]}");
+    EXPECT_EQ(hxrecipe({"import", other.c_str(), in.c_str(), "--mode", "update"}).problems, "");
+    EXPECT_EQ(query(other, "SELECT VarRecipe, Unit FROM TrcpRecipeMember"), "X|,v|bar");
+}
+
+TEST_F(Exchange, EveryMemberWithoutARecipeIsAddedOnce) {
+    const std::string members = "INSERT INTO TrcpRecipeMember (ParentID, ChildID, VarRecipe) VALUES (90, 77, 'F')";
+    const std::string other = makeOther(members);
+    sqlite::Database(file_).execute(members + ", (90, 77, 'F')");
+    exported(file_, "a.json");
+    for (int i = 0; i < 2; ++i) {
+        EXPECT_EQ(hxrecipe({"import", other.c_str(), folder_.file("a.json").c_str()}).problems, "");
+        EXPECT_EQ(query(other, "SELECT COUNT(*) FROM TrcpRecipeMember WHERE ParentID = 90"), "3");
+    }
+}
+
+TEST_F(Exchange, ANewRecipeDoesNotComeToTheIdOfAMissingSubRecipe) {
+    const std::string other = makeOther("INSERT INTO TrcpRecipe (ID, Name) VALUES (1, 'Mine')");
+    const std::string in = write("b.json",
+                                 "{\"format\": \"hxrecipe\", \"version\": 1, \"recipes\": [{\"ID\": 1, \"Name\": "
+                                 "\"R\", \"members\": [{\"ChildID\": 2, \"subRecipe\": null}]}]}");
+    EXPECT_EQ(hxrecipe({"import", other.c_str(), in.c_str()}).problems, "");
+    EXPECT_EQ(query(other, "SELECT ID, Name FROM TrcpRecipe"), "1|Mine,3|R");
+    EXPECT_EQ(query(other, "SELECT ParentID, ChildID FROM TrcpRecipeMember"), "3|2");
 }
 
 TEST_F(Exchange, FilesThatCannotBeReadAreNamed) {
