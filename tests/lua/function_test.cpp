@@ -104,6 +104,28 @@ TEST(MacroFunction, ThatOutlivesItsEngineFails) {
     EXPECT_THROW((*kept)({}), Error);
 }
 
+// The functions that this one returns would have to be kept.
+TEST(MacroFunction, WithoutMemoryForWhatItReturnsFailsAsAnyOther) {
+    std::string caught;
+    Engine engine({.print = [](std::string_view) {}, .folder = {}, .memoryLimit = std::size_t{4} << 20U});
+    engine.define("host", "Catch", [&](Values given) {
+        try {
+            (void)given[0].function()({});
+        } catch (const Error& error) {
+            caught = error.description();
+        }
+        return Value();
+    });
+    try {
+        engine.run("host.Catch(function() local t = {} for i = 1, 1 << 17 do t[i] = print end return t end)",
+                   "test.lua");
+        ADD_FAILURE() << "there was memory enough";
+    } catch (const MacroError& error) {
+        EXPECT_THAT(error.what(), HasSubstr("not enough memory"));
+    }
+    EXPECT_EQ(caught, "The macro has failed");
+}
+
 TEST_F(MacroFunctions, AreExpectedWhereTheyAreNeeded) {
     EXPECT_THAT(failure("host.Call('x')"), HasSubstr("-2147352571: Type mismatch: a function expected"));
 }

@@ -62,8 +62,22 @@ TEST_F(Sandbox, RefusesFilesElsewhere) {
 TEST_F(Sandbox, DoesNotWriteOverAProject) {
     EXPECT_THAT(failure("io.open('Plant.hxs', 'w')"), HasSubstr("cannot be written by a macro"));
     EXPECT_THAT(failure("io.open('plant.HXS', 'r+')"), HasSubstr("cannot be written by a macro"));
+    EXPECT_THAT(failure("io.open('Plant.hxs-journal', 'w')"), HasSubstr("cannot be written by a macro"));
+    EXPECT_FALSE(std::filesystem::exists(files.file("project/Plant.hxs-journal")));
     EXPECT_EQ(std::filesystem::file_size(files.file("project/Plant.hxs")), 4U);
     EXPECT_EQ(run("print(io.open('Plant.hxs', 'rb'):read('a'))"), "data\n");
+}
+
+TEST_F(Sandbox, HidesTheMetatableOfFiles) {
+    EXPECT_EQ(run("local f = io.open('list.txt') print(getmetatable(f), io.type(f)) f:close() print(io.type(f))"),
+              "file\tfile\nclosed file\n");
+}
+
+TEST_F(Sandbox, TakesTheMarkOfUtf8AndALineForTheProgramInFront) {
+    EXPECT_EQ(run("\xEF\xBB\xBFprint(1)"), "1\n");
+    EXPECT_EQ(run("#!/usr/bin/env hxrecipe\nprint(2)"), "2\n");
+    EXPECT_EQ(failure("\xEF\xBB\xBF#!/usr/bin/env hxrecipe\n\nx = ="), "test.lua:3: unexpected symbol near '='");
+    EXPECT_EQ(run("#!"), "");
 }
 
 TEST_F(Sandbox, PrintsToTheGivenPlace) {

@@ -66,6 +66,9 @@ TEST_F(Stop, ReachesEveryCoroutine) {
              "local c = coroutine.create(function()\n"
              "local x <close> = setmetatable({}, {__close = function() while true do end end}) coroutine.yield() end)\n"
              "coroutine.resume(c) coroutine.close(c)",
+             "coroutine.wrap(function()\n"
+             "local x <close> = setmetatable({}, {__close = function() while true do end end}) while true do end "
+             "end)()",
          }) {
         stopped(text);
         EXPECT_LT(std::chrono::steady_clock::now() - begun, std::chrono::seconds(5)) << text;
@@ -143,7 +146,22 @@ TEST_F(Stop, LeavesCoroutinesAsTheyAre) {
         local t = coroutine.create(function(...) return select("#", ...), ... end)
         local ok, n, a, b = coroutine.resume(t, 7, nil)
         assert(ok and n == 2 and a == 7 and b == nil and coroutine.status(t) == "dead")
-        assert(not coroutine.resume(t) and coroutine.close(t)))",
+        assert(not coroutine.resume(t) and coroutine.close(t))
+        local closed
+        local w = coroutine.wrap(function()
+            local x <close> = setmetatable({}, {__close = function(_, e) closed = e end})
+            error({"mine"})
+        end)
+        assert(select(2, pcall(w))[1] == "mine" and closed[1] == "mine")
+        local dead = coroutine.wrap(function() end)
+        dead()
+        local ok, message = pcall(function() dead() end)
+        assert(not ok and message:find("^test.lua:20: cannot resume dead coroutine$"), message)
+        local own
+        own = coroutine.wrap(function() return pcall(own) end)
+        assert(select(2, own()):find("cannot resume non%-suspended coroutine"))
+        assert(select("#", coroutine.wrap(function() return 1, nil, nil end)()) == 3)
+        assert(not pcall(coroutine.wrap, 1)))",
                                "test.lua"));
 }
 

@@ -1,5 +1,7 @@
 #include "adapters/lua/engine.h"
 
+#include <algorithm>
+
 #include "adapters/lua/machine.h"
 #include "adapters/lua/protect.h"
 #include "adapters/lua/stack.h"
@@ -30,6 +32,15 @@ std::string takeMessage(lua_State* state) {
     std::string message = textAt(state, -1);
     lua_settop(state, 0);
     return message;
+}
+
+// As Lua reads files: without the mark of UTF-8, and without a first line that names the program for it. The end of
+// that line stays, for the numbers of the others.
+std::string_view codeOf(std::string_view text) {
+    constexpr std::string_view mark = "\xEF\xBB\xBF";
+    if (text.starts_with(mark)) text.remove_prefix(mark.size());
+    if (text.starts_with('#')) text.remove_prefix(std::min(text.find('\n'), text.size()));
+    return text;
 }
 
 void pushArguments(lua_State* state, const List& arguments) {
@@ -76,7 +87,8 @@ void Engine::run(const std::string& text, const std::string& name, const std::ve
     lua_settop(state, 0);
     lua_pushcfunction(state, &keepTraceback);
     const std::string shown = "@" + name;
-    if (luaL_loadbufferx(state, text.data(), text.size(), shown.c_str(), "t") != LUA_OK) {
+    const std::string_view code = codeOf(text);
+    if (luaL_loadbufferx(state, code.data(), code.size(), shown.c_str(), "t") != LUA_OK) {
         throw MacroError(takeMessage(state), {});
     }
     try {

@@ -63,11 +63,13 @@ Value Function::operator()(Values arguments) const {
     lua_State* const state = machine->current;
     if (lua_checkstack(state, slots) == 0) throw std::bad_alloc();
     const StackLevel level(state);
-    if (!call(state, reference_->number, arguments)) {
-        keepFailure(state, *machine);
-        fail();
+    try {
+        if (call(state, reference_->number, arguments)) return valueAt(state, -1);
+    } catch (const Raised&) {
+        // In want of memory for what it returns.
     }
-    return valueAt(state, -1);
+    keepFailure(state, *machine);
+    fail();
 }
 
 }  // namespace hx::lua

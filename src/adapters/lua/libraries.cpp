@@ -9,6 +9,7 @@
 #include "adapters/lua/protect.h"
 #include "adapters/lua/stack.h"
 #include "adapters/lua/stop.h"
+#include "adapters/lua/threads.h"
 #include "automation/error.h"
 #include "automation/text.h"
 
@@ -73,9 +74,15 @@ void replaceText(lua_State* state, int index, const std::string& text) {
     lua_replace(state, index);
 }
 
+// The database keeps a journal beside a project (.hxs-journal), from which it takes changes back.
+bool isProject(const std::string& file) {
+    const std::string extension = std::filesystem::path(file).extension().string();
+    return automation::equalIgnoreCase(extension.substr(0, extension.find('-')), projectExtension);
+}
+
 // An open project is changed by the editor alone: a file written over it would be its end.
 void refuseProject(const std::string& file) {
-    if (!automation::equalIgnoreCase(std::filesystem::path(file).extension().string(), projectExtension)) return;
+    if (!isProject(file)) return;
     throw Error(automation::errFail, "The file '" + file + "' is a project and cannot be written by a macro");
 }
 
@@ -138,6 +145,14 @@ void openParts(lua_State* state, const char* name, lua_CFunction open,
     lua_remove(state, -2);
 }
 
+// A finalizer that a macro puts into it would run without anybody being asked.
+void hideFileType(lua_State* state) {
+    luaL_getmetatable(state, LUA_FILEHANDLE);
+    lua_pushliteral(state, "file");
+    lua_setfield(state, -2, "__metatable");
+    lua_pop(state, 1);
+}
+
 void openLimited(lua_State* state) {
     openPlain(state);
     limitBase(state);
@@ -149,6 +164,7 @@ void openLimited(lua_State* state) {
     lua_pushcfunction(state, guarded<write>);
     lua_setfield(state, -2, "write");
     lua_pop(state, 1);
+    hideFileType(state);
 }
 
 }  // namespace
@@ -158,7 +174,8 @@ void openLibraries(lua_State* state, bool trusted) {
     else openLimited(state);
     lua_pushcfunction(state, guarded<print>);
     lua_setglobal(state, "print");
-    watchThreads(state, trusted);
+    watchThreads(state);
+    if (!trusted) refuseFinalizers(state);
 }
 
 }  // namespace hx::lua

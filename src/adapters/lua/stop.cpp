@@ -52,32 +52,6 @@ bool askStop(const Machine& machine) noexcept {
     }
 }
 
-/// The thread that waits for another, while it waits.
-class Waiting {
-  public:
-    Waiting(Machine& machine, lua_State* state) : machine_(machine) { machine_.waiting.push_back(state); }
-    ~Waiting() { machine_.waiting.pop_back(); }
-    Waiting(const Waiting&) = delete;
-    Waiting& operator=(const Waiting&) = delete;
-
-  private:
-    Machine& machine_;
-};
-
-int callThread(lua_State* state) {
-    const Waiting waiting(Machine::of(state), state);
-    return callOriginal(state);
-}
-
-int wrapThread(lua_State* state) {
-    callOriginal(state);
-    protect(state, 1, 1, [](lua_State* inner) {
-        lua_pushcclosure(inner, guarded<callThread>, 1);
-        return 1;
-    });
-    return 1;
-}
-
 int setMetatable(lua_State* state) {
     if (lua_type(state, 2) == LUA_TTABLE) {
         lua_pushliteral(state, "__gc");
@@ -121,13 +95,7 @@ bool isStopping(lua_State* state) noexcept {
 
 void pushStop(lua_State* state) { lua_pushstring(state, stopValue); }
 
-void watchThreads(lua_State* state, bool trusted) {
-    lua_getglobal(state, LUA_COLIBNAME);
-    wrapMember(state, "resume", guarded<callThread>);
-    wrapMember(state, "close", guarded<callThread>);
-    wrapMember(state, "wrap", guarded<wrapThread>);
-    lua_pop(state, 1);
-    if (trusted) return;
+void refuseFinalizers(lua_State* state) {
     lua_pushglobaltable(state);
     wrapMember(state, "setmetatable", guarded<setMetatable>);
     lua_pop(state, 1);

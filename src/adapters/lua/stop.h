@@ -16,8 +16,7 @@ void unwatch(lua_State* state);
 /// macro's sees. To be called in protect().
 void pushStop(lua_State* state);
 
-/// Keeps account of which thread waits for which, and lets no table have a finalizer when the macro is not trusted:
-/// Lua runs those without asking anybody. To be called in protect().
-void watchThreads(lua_State* state, bool trusted);
+/// Lets no table have a finalizer: Lua runs those without asking anybody. To be called in protect().
+void refuseFinalizers(lua_State* state);
 
 }  // namespace hx::lua
