@@ -15,6 +15,8 @@ using automation::equalIgnoreCase;
 
 namespace {
 
+constexpr std::size_t mostFields = 2000;  // more columns no table can have
+
 /// How far a text has been read.
 struct Place {
     int line = 1;
@@ -114,6 +116,7 @@ class Parser : public nlohmann::json_sax<Json> {
         for (const std::string& other : levels_.back().keys) {
             if (equalIgnoreCase(other, key_)) fail(place_.line, inQuotes(key_) + " is given twice");
         }
+        if (levels_.back().keys.size() == mostFields) fail(place_.line, "there are more fields than columns can be");
         levels_.back().keys.push_back(key_);
         return true;
     }

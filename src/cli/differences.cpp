@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <unordered_map>
+#include <unordered_set>
 
 #include "automation/text.h"
 #include "cli/project_reader.h"
@@ -143,13 +144,36 @@ void append(std::vector<Difference>& all, std::vector<Difference> more) {
     std::ranges::move(more, std::back_inserter(all));
 }
 
-using ByName = std::unordered_map<std::string, const ContentRecipe*>;
+/// Finds recipes by their names: ignoring case, unless one content has several that differ in nothing else.
+class ByName {
+  public:
+    ByName(const Content& content, const Content& other) {
+        collectAmbiguous(content);
+        collectAmbiguous(other);
+        for (const ContentRecipe& recipe : content.recipes) recipes_.emplace(keyOf(recipe), &recipe);
+    }
+    /// Null when there is none.
+    [[nodiscard]] const ContentRecipe* find(const ContentRecipe& recipe) const {
+        const auto found = recipes_.find(keyOf(recipe));
+        return found == recipes_.end() ? nullptr : found->second;
+    }
 
-ByName byName(const Content& content) {
-    ByName names;
-    for (const ContentRecipe& recipe : content.recipes) names.emplace(foldCase(recipe.name()), &recipe);
-    return names;
-}
+  private:
+    void collectAmbiguous(const Content& content) {
+        std::unordered_set<std::string> names;
+        for (const ContentRecipe& recipe : content.recipes) {
+            std::string name = foldCase(recipe.name());
+            if (!names.insert(name).second) ambiguous_.insert(std::move(name));
+        }
+    }
+    [[nodiscard]] std::string keyOf(const ContentRecipe& recipe) const {
+        std::string name = foldCase(recipe.name());
+        return ambiguous_.contains(name) ? recipe.name() : name;
+    }
+
+    std::unordered_set<std::string> ambiguous_;
+    std::unordered_map<std::string, const ContentRecipe*> recipes_;
+};
 
 }  // namespace
 
@@ -174,16 +198,16 @@ std::vector<Difference> compare(const ContentRecipe& before, const ContentRecipe
 
 std::vector<Difference> compare(const Content& before, const Content& after, const Comparison& what) {
     std::vector<Difference> differences;
-    const ByName old = byName(before);
-    const ByName now = byName(after);
+    const ByName old(before, after);
+    const ByName now(after, before);
     for (const ContentRecipe& recipe : before.recipes) {
-        if (!what.removed || now.contains(foldCase(recipe.name()))) continue;
+        if (!what.removed || now.find(recipe) != nullptr) continue;
         differences.push_back({Kind::removed, recipe.name(), {}, {}, {}, {}});
     }
     for (const ContentRecipe& recipe : after.recipes) {
-        const auto found = old.find(foldCase(recipe.name()));
-        if (found == old.end()) differences.push_back({Kind::added, recipe.name(), {}, {}, {}, {}});
-        else if (what.changed) append(differences, compare(*found->second, recipe, what.absentColumns));
+        const ContentRecipe* found = old.find(recipe);
+        if (found == nullptr) differences.push_back({Kind::added, recipe.name(), {}, {}, {}, {}});
+        else if (what.changed) append(differences, compare(*found, recipe, what.absentColumns));
     }
     for (Difference& difference : Members(before.orphans, after.orphans, what.absentColumns, {}).compare()) {
         if (difference.kind != Kind::removed || what.removed) differences.push_back(std::move(difference));

@@ -244,9 +244,14 @@ class Import {
         const Partners partners = partnersOf(old, file_.orphans, false);
         for (std::size_t i = 0; i < partners.size(); ++i) {
             const ContentMember& member = file_.orphans[i];
-            if (partners[i] && hasSameColumns(old[*partners[i]], member, false)) continue;
-            writeOrphan(member);
+            if (partners[i]) updateOrphan(old[*partners[i]], member);
+            else writeOrphan(member);
         }
+    }
+
+    void updateOrphan(const ContentMember& old, const ContentMember& member) {
+        if (mode_ == ImportMode::add || hasSameColumns(old, member, false)) return;
+        memberRows_.update(*old.id, member.cells, member.line);
     }
 
     void writeOrphan(const ContentMember& member) {
@@ -288,6 +293,7 @@ void importContent(const std::string& project, const std::string& file, ImportMo
     const Content content = parseContent(file);
     requireProject(project);
     sqlite::Database database(project);
+    database.useLargeCache(true);
     sqlite::Transaction transaction(database);
     const Content before = readContent(database);
     const Counts counts = Import(database, before, content, file, mode, output).run();

@@ -328,6 +328,9 @@ TEST_F(BadInput, ValuesThatDoNotFitAreRefused) {
     EXPECT_EQ(importProblem(with("\"members\": [{\"VarRecipe\": \"" + std::string(256, 'x') + "\"}]")),
               "\"VarRecipe\": the text is longer than 255 characters\n");
     EXPECT_EQ(importProblem(with("\"members\": {}")), "an object is not expected here (\"members\")\n");
+    std::string many = "\"c\": 1";
+    for (int i = 0; i < 2000; ++i) many += ", \"c" + std::to_string(i) + "\": 1";
+    EXPECT_EQ(importProblem(with(many)), "there are more fields than columns can be\n");
 }
 
 TEST_F(BadInput, DiffReadsAPipeAsAnExport) {

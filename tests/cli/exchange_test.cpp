@@ -236,6 +236,15 @@ TEST_F(Exchange, DiffComparesByMeaning) {
     EXPECT_EQ(hxrecipe({"diff", file_.c_str(), file_.c_str()}).status, 0);
 }
 
+TEST_F(Exchange, DiffTellsRecipesApartWhoseNamesDifferInCaseAlone) {
+    // Another program may have made such: the table ignores the case of ASCII letters alone.
+    const std::string two = "INSERT INTO TrcpRecipe (Name, Comment) VALUES ('GRÖßE', 'a'), ('größe', 'b')";
+    sqlite::Database(file_).execute("DELETE FROM TrcpRecipe;" + two);
+    EXPECT_EQ(hxrecipe({"diff", file_.c_str(), file_.c_str()}).results, "No differences.\n");
+    const std::string one = makeOther("INSERT INTO TrcpRecipe (Name, Comment) VALUES ('größe', 'b');");
+    EXPECT_TRUE(hxrecipe({"diff", one.c_str(), file_.c_str()}).results.starts_with("+ recipe \"GRÖßE\"\n+ without"));
+}
+
 TEST_F(Exchange, TheOrderOfMembersCounts) {
     const std::string other = makeOther(
         "INSERT INTO TrcpRecipe (Name) VALUES ('R'); INSERT INTO TrcpRecipeMember (ParentID, VarRecipe) VALUES"
@@ -267,6 +276,16 @@ TEST_F(Exchange, EveryMemberWithoutARecipeIsAddedOnce) {
     for (int i = 0; i < 2; ++i) {
         EXPECT_EQ(hxrecipe({"import", other.c_str(), folder_.file("a.json").c_str()}).problems, "");
         EXPECT_EQ(query(other, "SELECT COUNT(*) FROM TrcpRecipeMember WHERE ParentID = 90"), "3");
+    }
+}
+
+TEST_F(Exchange, AMemberWithoutARecipeIsChangedWhereItIs) {
+    exported(file_, "a.json");
+    for (const auto& [mode, expected] : {std::pair{"add", "5|w|bar"}, {"update", "5|W|"}, {"replace", "8|W|"}}) {
+        const std::string other =
+            makeOther("INSERT INTO TrcpRecipeMember (ID, ParentID, VarRecipe, Unit) VALUES (5, 90, 'w', 'bar')");
+        EXPECT_EQ(hxrecipe({"import", other.c_str(), folder_.file("a.json").c_str(), "--mode", mode}).problems, "");
+        EXPECT_EQ(query(other, "SELECT ID, VarRecipe, Unit FROM TrcpRecipeMember WHERE ParentID = 90"), expected);
     }
 }
 
