@@ -9,6 +9,7 @@
 #include "cli/build_sample.h"
 #include "cli/generate.h"
 #include "cli/help_formatter.h"
+#include "cli/project_reader.h"
 #include "cli/run_macro.h"
 #include "cli/verbs.h"
 
@@ -73,6 +74,24 @@ int carryOut(const Command& command, const Output& output) {
     }
 }
 
+// The word that should be a command and is none: the library only says that a command is missing.
+std::string unknownCommand(const CLI::App& app) {
+    const CLI::App* last = &app;
+    while (!last->get_subcommands().empty()) last = last->get_subcommands().front();
+    const auto rest = app.remaining(true);
+    const bool isMissing = last->get_require_subcommand_min() > 0 && !rest.empty();
+    return isMissing && !rest.front().starts_with('-') ? rest.front() : std::string();
+}
+
+int explainUsage(const CLI::App& app, const CLI::ParseError& error, const Output& output) {
+    const std::string unknown = unknownCommand(app);
+    if (error.get_exit_code() == 0 || unknown.empty()) {
+        return app.exit(error, output.results, output.problems) == 0 ? succeeded : wrongUsage;
+    }
+    output.problems << "There is no command " << inQuotes(unknown) << ".\nRun with --help for more information.\n";
+    return wrongUsage;
+}
+
 }  // namespace
 
 std::unique_ptr<CLI::App> makeApplication(Command& chosen, const Output& output) {
@@ -99,7 +118,7 @@ int run(int argc, const char* const* argv, const Output& output) {
     try {
         app->parse(argc, argv);
     } catch (const CLI::ParseError& error) {
-        return app->exit(error, output.results, output.problems) == 0 ? succeeded : wrongUsage;
+        return explainUsage(*app, error, output);
     }
     return carryOut(chosen, output);
 }

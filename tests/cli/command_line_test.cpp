@@ -42,6 +42,17 @@ TEST_F(CommandLine, WrongUsageIsToldApartFromFailure) {
     EXPECT_TRUE(filesInFolder().empty());
 }
 
+TEST_F(CommandLine, AnUnknownCommandIsNamed) {
+    const std::string rest = ".\nRun with --help for more information.\n";
+    for (const auto& arguments : {std::vector<const char*>{"lsit", "a"}, {"variables", "lsit", "a", "b"}}) {
+        const Result result = hxrecipe(arguments);
+        EXPECT_EQ(result.status, 2);
+        EXPECT_EQ(result.problems, "There is no command \"lsit\"" + rest);
+    }
+    EXPECT_TRUE(hxrecipe({}).problems.ends_with("required" + rest.substr(1)));
+    EXPECT_EQ(hxrecipe({"lsit", "--help"}).status, 0);
+}
+
 TEST_F(CommandLine, HelpIsNoFailure) {
     const Result result = hxrecipe({"--help"});
     EXPECT_EQ(result.status, 0);
