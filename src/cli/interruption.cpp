@@ -7,17 +7,25 @@ namespace {
 // A signal reaches nothing but what is global.
 volatile std::sig_atomic_t signalled = 0;
 
-void note(int signal) {
+void note(int) {
     signalled = 1;
-    std::signal(signal, SIG_DFL);
+    std::signal(SIGINT, SIG_DFL);
+    std::signal(SIGTERM, SIG_DFL);
+}
+
+// One that the caller has shut off, as for a program in the background, stays shut off.
+auto noteSignal(int signal) {
+    const auto before = std::signal(signal, note);
+    if (before == SIG_IGN) std::signal(signal, SIG_IGN);
+    return before;
 }
 
 }  // namespace
 
 Interruption::Interruption() {
     signalled = 0;
-    interruptBefore_ = std::signal(SIGINT, note);
-    endBefore_ = std::signal(SIGTERM, note);
+    interruptBefore_ = noteSignal(SIGINT);
+    endBefore_ = noteSignal(SIGTERM);
 }
 
 Interruption::~Interruption() {
