@@ -46,6 +46,7 @@ class MacroSession {
     }
     ~MacroSession() {
         studio_.script() = {};
+        studio_.components().clear();
         studio_.closeProject();
     }
     MacroSession(const MacroSession&) = delete;

@@ -40,8 +40,9 @@ bool AttendedScreen::dismissDialog() {
 }
 
 forms::WindowHandle AttendedScreen::createWindow(forms::Form& form) {
+    const forms::WindowHandle window = user_.createWindow(form);
     forms_.push_back(&form);
-    return user_.createWindow(form);
+    return window;
 }
 
 void AttendedScreen::destroyWindow(forms::Form& form) {

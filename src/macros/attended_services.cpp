@@ -29,6 +29,23 @@ class RecordedComponent : public automation::Dispatch {
     Attendance& attendance_;
 };
 
+/// A component of the macro's, whose functions the add-in waits for.
+class MacroComponent : public automation::Dispatch {
+  public:
+    MacroComponent(automation::ObjectRef object, Attendance& attendance)
+        : object_(std::move(object)), attendance_(attendance) {}
+
+    [[nodiscard]] const automation::MemberTable& members() const override { return object_->members(); }
+    automation::Variant get(std::string_view name, automation::Args args) override {
+        const Attendance::Asking asking(attendance_);
+        return object_->get(name, args);
+    }
+
+  private:
+    automation::ObjectRef object_;
+    Attendance& attendance_;
+};
+
 }  // namespace
 
 std::string AttendedItems::choose(forms::WindowHandle owner, const std::string& current) {
@@ -68,7 +85,9 @@ void AttendedHelp::showContext(forms::WindowHandle owner, const std::string& fil
 
 automation::ObjectRef AttendedComponents::create(std::string_view programId) {
     if (!attendance_.answers()) return user_.create(programId);
-    if (attendance_.components.provides(programId)) return attendance_.components.create(programId);
+    if (attendance_.components.provides(programId)) {
+        return std::make_shared<MacroComponent>(attendance_.components.create(programId), attendance_);
+    }
     attendance_.record.components.emplace_back(programId);
     return std::make_shared<RecordedComponent>(std::string(programId), user_.create(programId), attendance_);
 }

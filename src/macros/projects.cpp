@@ -1,3 +1,5 @@
+#include <memory>
+
 #include "macros/arguments.h"
 #include "macros/globals.h"
 
@@ -28,16 +30,35 @@ Value selected(Studio& studio) {
     return key.empty() ? Value() : Value(key);
 }
 
+// A project that is being opened or closed can ask the user; what answers him must not put another in its place.
+class Changing {
+  public:
+    explicit Changing(bool& changing) : changing_(changing) {
+        if (changing_) throw automation::Error(automation::errFail, "A project is being opened or closed");
+        changing_ = true;
+    }
+    ~Changing() { changing_ = false; }
+    Changing(const Changing&) = delete;
+    Changing& operator=(const Changing&) = delete;
+
+  private:
+    bool& changing_;
+};
+
 void defineProject(Engine& engine, Studio& studio) {
-    engine.define("studio", "NewProject", [&studio](Values given) {
+    const auto busy = std::make_shared<bool>(false);
+    engine.define("studio", "NewProject", [&studio, busy](Values given) {
+        const Changing changing(*busy);
         studio.newProject(Arguments(given).text(0));
         return Value();
     });
-    engine.define("studio", "OpenProject", [&studio](Values given) {
+    engine.define("studio", "OpenProject", [&studio, busy](Values given) {
+        const Changing changing(*busy);
         studio.openProject(Arguments(given).text(0));
         return Value();
     });
-    engine.define("studio", "CloseProject", [&studio](Values) {
+    engine.define("studio", "CloseProject", [&studio, busy](Values) {
+        const Changing changing(*busy);
         studio.closeProject();
         return Value();
     });

@@ -91,6 +91,26 @@ TEST_F(MacroStudioGlobal, ForgetsWhatHasBeenAskedFor) {
               "2\t1\t1\t1\t1\n0\t0\t0\t0\t0\n");
 }
 
+// A settings file that cannot be read makes the editor say so while it closes.
+TEST_F(MacroStudioGlobal, OpensNoProjectFromTheAnswerToOneThatIsClosing) {
+    EXPECT_EQ(shown(""), "");
+    std::filesystem::remove(folder_.file("HXEditors.ini"));
+    std::filesystem::create_directory(folder_.file("HXEditors.ini"));
+    EXPECT_EQ(printed(R"(studio.Click("RCPE0") studio.Messages()
+        studio.OnMessage(function()
+            for _, change in ipairs({studio.CloseProject, studio.NewProject, studio.OpenProject}) do
+                print(select(2, pcall(change, "$P")).description)
+            end
+        end)
+        studio.CloseProject()
+        print(addin, #studio.Nodes(), #studio.Messages())
+        studio.OnMessage(nil)
+        studio.OpenProject("$P") print(#studio.Nodes()))",
+                      {"--project", file_.c_str()}),
+              "A project is being opened or closed\nA project is being opened or closed\n"
+              "A project is being opened or closed\nnil\t0\t1\n1\n");
+}
+
 TEST_F(MacroStudioGlobal, NamesTheHelpFileAndItsContext) {
     EXPECT_EQ(printed(R"(studio.SetRegistry("SOFTWARE\\Tarnwell", "Common", "/shared")
         studio.NewProject("$P") studio.Click("RCPE0") studio.KeyDown("RCPE0", 112)

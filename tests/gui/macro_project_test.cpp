@@ -164,13 +164,21 @@ TEST_F(StudioMacroTest, OpensAndClosesProjectsAsTheMenuDoes) {
     EXPECT_THAT(run("studio.OpenProject('fehlt.hxs')"), HasSubstr("Die Projektdatei wurde nicht gefunden"));
 }
 
-TEST_F(StudioMacroTest, LeavesTheStudioUsableWhenItClosesTheProjectInsideAnAnswer) {
+TEST_F(StudioMacroTest, LeavesTheStudioUsableWhenItClosesTheProjectInsideAnAnswerOrAComponent) {
     start();
     open(makeProject());
     run(R"(studio.Click("RCPE0") studio.Click("RCPR1")
         studio.OnMessage(function() studio.CloseProject() return "yes" end)
         editor.abr.Click("mnuRecipeDelete")
-        for i = 1, 300000 do local x = i end)");
+        for i = 1, 3000000 do local x = i end)");
+    EXPECT_EQ(window().project(), nullptr);
+    open(makeProject("Dritte"));
+    run(R"(studio.Click("RCPE0") studio.Click("RCPR1")
+        studio.RegisterComponent("HXProjectReport.Connect", {Show = function()
+            studio.CloseProject()
+            for i = 1, 3000000 do local x = i end
+        end})
+        editor.abr.Click("mnuOptionReport"))");
     EXPECT_EQ(window().project(), nullptr);
     open(makeProject("Zweite"));
     click("Rezepte");
