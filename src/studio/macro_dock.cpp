@@ -103,7 +103,7 @@ void MacroDock::begin(const QString& name) {
     quiet.setForeground(palette().color(QPalette::PlaceholderText));
     const QLocale locale(wording_.isEnglish() ? QLocale::English : QLocale::German);
     const QString time = locale.toString(QTime::currentTime(), QStringLiteral("HH:mm:ss"));
-    append(QStringLiteral("── %1  %2 ──\n").arg(name, time), quiet);
+    append(lineEnd() + QStringLiteral("── %1  %2 ──\n").arg(name, time), quiet);
 }
 
 void MacroDock::flush() {
@@ -127,8 +127,12 @@ void MacroDock::append(const QString& text, const QTextCharFormat& format) {
 void MacroDock::appendError(const QString& text) {
     QTextCharFormat red;
     red.setForeground(isDark(text_) ? QColor(0xff, 0x8a, 0x80) : QColor(0xb3, 0x26, 0x1e));
+    append(lineEnd() + text + '\n', red);
+}
+
+QString MacroDock::lineEnd() const {
     const bool lineBegun = text_.document()->lastBlock().length() > 1;
-    append((lineBegun ? QStringLiteral("\n") : QString()) + text + '\n', red);
+    return lineBegun ? QStringLiteral("\n") : QString();
 }
 
 void MacroDock::done(double seconds) {

@@ -44,6 +44,7 @@ class MacroDock : public QDockWidget {
     void build(QAction& runAgain, QAction& stop);
     void append(const QString& text, const QTextCharFormat& format);
     void appendError(const QString& text);
+    [[nodiscard]] QString lineEnd() const;  ///< of a line that a macro has begun; empty for none
     void copyText();
     void setState(State state);
     [[nodiscard]] QString stateText() const;

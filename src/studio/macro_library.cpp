@@ -27,6 +27,7 @@ QStringList byName(QStringList names) {
 QString withoutMarks(QString line) {
     line = line.trimmed();
     while (line.startsWith('-') || line.startsWith('[') || line.startsWith('=')) line.remove(0, 1);
+    if (line.endsWith(QStringLiteral("]]"))) line.chop(2);
     return line.trimmed();
 }
 

@@ -2,6 +2,7 @@
 
 #include <QScopedValueRollback>
 #include <QStyleFactory>
+#include <clocale>
 
 #include "adapters/qt/text.h"
 #include "automation/error.h"
@@ -9,6 +10,8 @@
 namespace hx::studio {
 
 StudioApplication::StudioApplication(int& argc, char** argv) : QApplication(argc, argv) {
+    // Macros write and read numbers with a point, as on the command line; what is shown goes by QLocale.
+    std::setlocale(LC_NUMERIC, "C");
     setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     setApplicationName(QStringLiteral("HelvixStudio"));
 }

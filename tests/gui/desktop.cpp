@@ -20,6 +20,8 @@ class Application : public testing::Environment {
   public:
     void SetUp() override {
         if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+        // Another one than C, which every system has.
+        if (!qEnvironmentVariableIsSet("LC_ALL")) qputenv("LC_NUMERIC", "C.UTF-8");
         application_ = std::make_unique<studio::StudioApplication>(count_, arguments_.data());
         application_->setReport([](const QString& message) { ADD_FAILURE() << qt::fromQt(message); });
         QApplication::setEffectEnabled(Qt::UI_AnimateMenu, false);

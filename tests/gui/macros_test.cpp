@@ -10,6 +10,7 @@
 #include <QTest>
 #include <QTextBlock>
 #include <QToolBar>
+#include <clocale>
 
 #include "gui/macro_fixture.h"
 
@@ -43,6 +44,7 @@ TEST_F(StudioMacroTest, TheMenuListsTheMacrosOfTheUsersFolder) {
                      "&Anhalten", "", "Makro&ordner öffnen", "&Beispielmakros kopieren"}));
     EXPECT_EQ(entry("Teil 9").toolTip(), "Benennt um.");
     EXPECT_EQ(entry("Teil 9").statusTip(), "Benennt um.");
+    EXPECT_EQ(entry("a && b").toolTip(), "Lang");
     EXPECT_EQ(entry("Wartung/Prüfen").toolTip(), "Makro Prüfen ausführen");
     QFile::remove(folder.filePath("config/macros/Teil 9.lua"));
     emit menu().aboutToShow();
@@ -67,8 +69,17 @@ TEST_F(StudioMacroTest, ShowsWhatAMacroPrintsInADock) {
     EXPECT_THAT(status(), ContainsRegex("^test.lua: fertig nach [0-9]+,[0-9] s$"));
     press("actionCopyOutput");
     EXPECT_EQ(QGuiApplication::clipboard()->text().toStdString(), output());
+    QTest::keyClick(&window(), Qt::Key_F5);
+    EXPECT_TRUE(waitUntil([this] { return output().find("\n── test.lua  ") != std::string::npos && !running(); }));
+    EXPECT_THAT(output(), ContainsRegex("\nab\n── test.lua  [0-9:]+ ──\nGrüße\t1\tnil\nab$"));
     press("actionClearOutput");
     EXPECT_EQ(output(), "");
+}
+
+TEST_F(StudioMacroTest, WritesAndReadsNumbersWithAPointInEveryLocale) {
+    EXPECT_STREQ(std::setlocale(LC_NUMERIC, nullptr), "C");
+    start();
+    EXPECT_EQ(run("print(2.5, '2.5' + 0)"), "2.5\t2.5\n");
 }
 
 TEST_F(StudioMacroTest, ShowsAnErrorWithItsLineInRed) {
