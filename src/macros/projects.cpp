@@ -1,5 +1,7 @@
+#include <filesystem>
 #include <memory>
 
+#include "automation/text.h"
 #include "macros/arguments.h"
 #include "macros/globals.h"
 
@@ -45,11 +47,20 @@ class Changing {
     bool& changing_;
 };
 
+// A name that is its extension alone would make a hidden file.
+void requireName(const std::string& path) {
+    const std::string name = std::filesystem::path(path).filename().string();
+    if (!name.empty() && !automation::equalIgnoreCase(name, ".hxs")) return;
+    throw automation::Error(automation::errFail, "The path '" + path + "' names no file");
+}
+
 void defineProject(Engine& engine, Studio& studio) {
     const auto busy = std::make_shared<bool>(false);
     engine.define("studio", "NewProject", [&studio, busy](Values given) {
         const Changing changing(*busy);
-        studio.newProject(Arguments(given).text(0));
+        const std::string path = Arguments(given).text(0);
+        requireName(path);
+        studio.newProject(path);
         return Value();
     });
     engine.define("studio", "OpenProject", [&studio, busy](Values given) {

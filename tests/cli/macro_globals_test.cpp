@@ -91,6 +91,16 @@ TEST_F(MacroStudioGlobal, ForgetsWhatHasBeenAskedFor) {
               "2\t1\t1\t1\t1\n0\t0\t0\t0\t0\n");
 }
 
+TEST_F(MacroStudioGlobal, MakesNoProjectWithoutAName) {
+    const std::string folder = folder_.file("");
+    for (const std::string& path : {std::string(), folder, folder + ".hxs", folder + ".HXS"}) {
+        EXPECT_EQ(printed("print(select(2, pcall(studio.NewProject, '" + path + "')).description)"),
+                  "The path '" + path + "' names no file\n");
+    }
+    EXPECT_FALSE(std::filesystem::exists(folder + ".hxs"));
+    EXPECT_FALSE(std::filesystem::exists(".hxs"));
+}
+
 // A settings file that cannot be read makes the editor say so while it closes.
 TEST_F(MacroStudioGlobal, OpensNoProjectFromTheAnswerToOneThatIsClosing) {
     EXPECT_EQ(shown(""), "");
