@@ -58,6 +58,18 @@ void MacroDock::build(QAction& runAgain, QAction& stop) {
                                                       {&copy_, "actionCopyOutput"}, {&arguments_, "macroArguments"},
                                                       {&status_, "macroStatus"},    {&text_, "macroText"}};
     for (const auto& [object, name] : names) object->setObjectName(QLatin1StringView(name));
+    buildTools(runAgain, stop);
+    buildText();
+    auto* const rows = std::make_unique<QVBoxLayout>(&panel_).release();  // the panel's own
+    rows->setContentsMargins(0, 0, 0, 0);
+    rows->setSpacing(0);
+    rows->addWidget(&tools_);
+    rows->addWidget(&status_);
+    rows->addWidget(&text_, 1);
+    setWidget(&panel_);
+}
+
+void MacroDock::buildTools(QAction& runAgain, QAction& stop) {
     clear_.setIcon(qt::svgIcon(icons::clearOutput));
     copy_.setIcon(qt::svgIcon(icons::copyOutput));
     tools_.setIconSize(QSize(iconSize, iconSize));
@@ -75,6 +87,9 @@ void MacroDock::build(QAction& runAgain, QAction& stop) {
     arguments_.setMaximumWidth(arguments_.fontMetrics().averageCharWidth() * argumentsWidth);
     tools_.addWidget(&argumentsLabel_);
     tools_.addWidget(&arguments_);
+}
+
+void MacroDock::buildText() {
     status_.setTextFormat(Qt::PlainText);
     status_.setContentsMargins(8, 0, 8, 4);
     status_.setWordWrap(true);
@@ -85,13 +100,6 @@ void MacroDock::build(QAction& runAgain, QAction& stop) {
     text_.setTabStopDistance(text_.fontMetrics().horizontalAdvance(' ') * tabWidth);
     text_.setMaximumBlockCount(lineCount);
     text_.setFrameShape(QFrame::NoFrame);
-    auto* const rows = std::make_unique<QVBoxLayout>(&panel_).release();  // the panel's own
-    rows->setContentsMargins(0, 0, 0, 0);
-    rows->setSpacing(0);
-    rows->addWidget(&tools_);
-    rows->addWidget(&status_);
-    rows->addWidget(&text_, 1);
-    setWidget(&panel_);
 }
 
 void MacroDock::begin(const QString& name) {

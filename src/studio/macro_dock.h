@@ -42,6 +42,8 @@ class MacroDock : public QDockWidget {
   private:
     enum class State { idle, running, done, stopped, failed, notRead };
     void build(QAction& runAgain, QAction& stop);
+    void buildTools(QAction& runAgain, QAction& stop);
+    void buildText();
     void append(const QString& text, const QTextCharFormat& format);
     void appendError(const QString& text);
     [[nodiscard]] QString lineEnd() const;  ///< of a line that a macro has begun; empty for none
