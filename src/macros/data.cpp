@@ -1,4 +1,6 @@
+#include <algorithm>
 #include <memory>
+#include <string_view>
 
 #include "adapters/sqlite/database.h"
 #include "adapters/sqlite/transaction.h"
@@ -46,8 +48,20 @@ void defineRegistry(Engine& engine, Studio& studio) {
     });
 }
 
+// Without the blanks and comments before it.
+std::string_view fromFirstWord(std::string_view sql) {
+    for (;;) {
+        sql.remove_prefix(std::min(sql.find_first_not_of(" \t\r\n"), sql.size()));
+        const bool line = sql.starts_with("--");
+        if (!line && !sql.starts_with("/*")) return sql;
+        const std::string_view end = line ? "\n" : "*/";
+        const auto at = sql.find(end, 2);
+        sql.remove_prefix(at == std::string_view::npos ? sql.size() : at + end.size());
+    }
+}
+
 bool asksOnly(std::string_view sql) {
-    const std::string_view text = automation::trim(sql);
+    const std::string_view text = fromFirstWord(sql);
     const auto word = text.substr(0, text.find_first_of(" \t\r\n(*"));
     return automation::equalIgnoreCase(word, "SELECT") || automation::equalIgnoreCase(word, "WITH");
 }
@@ -76,7 +90,7 @@ Value query(Engine& engine, const std::string& file, const std::string& sql) {
     database.interruptWhen([&engine] { return engine.stopRequested(); });
     if (!asksOnly(sql)) throw Error(automation::errFail, "Query takes a SELECT statement");
     sqlite::Statement statement(database, sql);
-    const auto others = automation::trim(std::string_view(sql).substr(statement.sql().size()));
+    const auto others = fromFirstWord(std::string_view(sql).substr(statement.sql().size()));
     if (!others.empty()) throw Error(automation::errFail, "Query takes one statement; another follows");
     if (!statement.isReadOnly()) throw Error(automation::errFail, "Query takes a statement that changes nothing");
     List rows;

@@ -1,3 +1,4 @@
+#include <atomic>
 #include <csignal>
 #include <thread>
 #include <unistd.h>
@@ -255,11 +256,12 @@ TEST_F(RunMacro, QueriesButNeverChangesTheProject) {
         local r = project.Query("WITH a AS (SELECT 1 AS x, 'ä' AS y, NULL AS z, 2.5 AS w) SELECT * FROM a")
         print(#r, r[1].x, r[1].y, r[1].z, r[1].z == null, r[1].w)
         print(project.Query(" SELECT 1 AS x ; ")[1].x)
+        print(project.Query("-- one\n/* two */ SELECT 2 AS x; -- done\n/* end")[1].x)
         for _, sql in ipairs({"DELETE FROM TrcpRecipe", "ATTACH 'x' AS y", "PRAGMA journal_mode=OFF",
                               "WITH a AS (SELECT 1) DELETE FROM TrcpRecipe", "SELECT * FROM Nowhere"}) do
             print((pcall(project.Query, sql)))
         end)"),
-              "1\t1\tä\tnull\ttrue\t2.5\n1\nfalse\nfalse\nfalse\nfalse\nfalse\n");
+              "1\t1\tä\tnull\ttrue\t2.5\n1\n2\nfalse\nfalse\nfalse\nfalse\nfalse\n");
 }
 
 TEST_F(RunMacro, ReplacesTheVariablesWholeOrNotAtAll) {
@@ -309,13 +311,15 @@ TEST_F(RunMacro, EndsInOrderByTheSignalsThatEndAProgram) {
     for (const int signal : {SIGINT, SIGTERM}) {
         // The macro says by a file that it is running: until then the signal would end the tests.
         const std::string begun = folder_.file("begun.txt");
+        std::atomic<bool> ended = false;
         std::thread other([&] {
-            while (!std::filesystem::exists(begun)) std::this_thread::sleep_for(std::chrono::milliseconds(5));
-            kill(getpid(), signal);
+            while (!ended && !std::filesystem::exists(begun)) std::this_thread::sleep_for(std::chrono::milliseconds(5));
+            if (!ended) kill(getpid(), signal);
         });
         const Result result = macro(std::string(newRecipe) + R"(studio.NewProject("$P") newRecipe("Cola")
             io.open("begun.txt", "w"):close()
             while true do pcall(newRecipe) end)");
+        ended = true;
         other.join();
         EXPECT_EQ(result.status, 1);
         EXPECT_THAT(result.problems, testing::StartsWith("hxrecipe: The macro was stopped\nstack traceback:\n"));
