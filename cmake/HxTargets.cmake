@@ -4,7 +4,7 @@ find_program(HX_CCACHE ccache)
 if(HX_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
   # What is compiled with precompiled headers is kept too, and found again from another build folder.
   set(CMAKE_CXX_COMPILER_LAUNCHER ${CMAKE_COMMAND} -E env CCACHE_SLOPPINESS=pch_defines,time_macros
-      CCACHE_BASEDIR=${CMAKE_BINARY_DIR} ${HX_CCACHE})
+      CCACHE_BASEDIR=${CMAKE_BINARY_DIR} CCACHE_NOHASHDIR=1 ${HX_CCACHE})
 endif()
 
 add_library(hx_flags INTERFACE)
