@@ -45,6 +45,8 @@ TEST_F(AttendedSettings, AreInTheProjectsFolderForAMacro) {
     EXPECT_EQ(written(project_ + "/../outside.ini"),
               "The file '" + project_ + "/../outside.ini' is not in the project's folder");
     EXPECT_EQ(written("plant.hxs"), "The file 'plant.hxs' is a project and holds no settings");
+    EXPECT_EQ(written("plant.hxs-journal"), "The file 'plant.hxs-journal' is a project and holds no settings");
+    EXPECT_FALSE(std::filesystem::exists(project_ + "/plant.hxs-journal"));
     EXPECT_FALSE(std::filesystem::exists(outside));
     const Attendance::Aside aside(attendance_);
     EXPECT_EQ(written(outside), "value") << "what the user does between two steps of the macro";

@@ -6,6 +6,7 @@
 
 #include "adapters/lua/call_original.h"
 #include "adapters/lua/machine.h"
+#include "adapters/lua/macro_folder.h"
 #include "adapters/lua/protect.h"
 #include "adapters/lua/stack.h"
 #include "adapters/lua/stop.h"
@@ -19,7 +20,6 @@ using automation::Error;
 
 namespace {
 
-constexpr std::string_view projectExtension = ".hxs";
 constexpr int modeArgument = 3;  // of load
 
 std::string shownText(lua_State* state, int index) {
@@ -53,20 +53,10 @@ int write(lua_State* state) {
     return 0;
 }
 
-bool isBelow(const std::filesystem::path& file, const std::filesystem::path& folder) {
-    const std::filesystem::path relative = file.lexically_relative(folder);
-    return !relative.empty() && *relative.begin() != ".." && *relative.begin() != ".";
-}
-
 std::string allowedFile(const Machine& machine, const std::string& name) {
     const std::filesystem::path folder = machine.options.folder ? machine.options.folder() : std::filesystem::path();
     if (folder.empty()) throw Error(automation::errFail, "No project is open whose folder a macro could use");
-    const std::filesystem::path root = std::filesystem::weakly_canonical(folder);
-    const std::filesystem::path file = std::filesystem::weakly_canonical(root / name);
-    if (!isBelow(file, root)) {
-        throw Error(automation::errFail, "The file '" + name + "' is not in the project's folder");
-    }
-    return file.string();
+    return fileBelow(folder, name);
 }
 
 void replaceText(lua_State* state, int index, const std::string& text) {
@@ -74,13 +64,6 @@ void replaceText(lua_State* state, int index, const std::string& text) {
     lua_replace(state, index);
 }
 
-// The database keeps a journal beside a project (.hxs-journal), from which it takes changes back.
-bool isProject(const std::string& file) {
-    const std::string extension = std::filesystem::path(file).extension().string();
-    return automation::equalIgnoreCase(extension.substr(0, extension.find('-')), projectExtension);
-}
-
-// An open project is changed by the editor alone: a file written over it would be its end.
 void refuseProject(const std::string& file) {
     if (!isProject(file)) return;
     throw Error(automation::errFail, "The file '" + file + "' is a project and cannot be written by a macro");
