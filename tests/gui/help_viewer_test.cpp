@@ -17,7 +17,7 @@
 #include "adapters/qt/qt_help_viewer.h"
 #include "adapters/qt/text.h"
 #include "gui/desktop.h"
-#include "gui/studio_fixture.h"
+#include "gui/help_contents.h"
 
 namespace hx::gui {
 namespace {
@@ -284,15 +284,6 @@ TEST_F(HelpViewerTest, AFileThatWasReplacedIsReadAnew) {
     EXPECT_TRUE(window().windowTitle().startsWith("Keys"));
 }
 
-/// Clicks an entry of the contents as the window system reports it: a window that is blocked does not get it.
-void clickContents(qt::HelpWindow& help, const QString& title) {
-    auto& contents = find<QTreeWidget>(help, "helpContents");
-    const QRect place = contents.visualItemRect(contents.findItems(title, Qt::MatchExactly | Qt::MatchRecursive).at(0));
-    const QPoint point = contents.viewport()->mapTo(&help, place.center());
-    QTest::mouseClick(help.windowHandle(), Qt::LeftButton, {}, point);
-    handleEvents();
-}
-
 TEST_F(HelpViewerTest, HelpThatIsAskedForInAModalDialogCanBeUsed) {
     QWidget owner;
     owner.show();
@@ -332,85 +323,6 @@ TEST_F(HelpViewerTest, HelpThatIsOpenStaysUsableWhenModalDialogsCome) {
     handleEvents();
     clickContents(window(), "Tasten");
     EXPECT_EQ(shown(), "/keys.htm");
-}
-
-class StudioHelpTest : public StudioTest {
-  protected:
-    /// F1 at a node; the title of the help that it opens.
-    std::string helpAt(const QString& path) {
-        click(path);
-        tree().setFocus();
-        QTest::keyClick(&tree(), Qt::Key_F1);
-        handleEvents();
-        const qt::HelpWindow* help = host().help().window();
-        return help == nullptr || !help->isVisible() ? "no help" : qt::fromQt(help->windowTitle());
-    }
-};
-
-TEST_F(StudioHelpTest, F1AtANodeOpensItsTopic) {
-    start();
-    open(makeProject());
-    click("Rezepte");
-    EXPECT_EQ(helpAt("Rezepte"), "Rezepte - Hilfe zum Rezeptsystem");
-    EXPECT_EQ(helpAt("Rezepte/Limonade"), "Ein Rezept - Hilfe zum Rezeptsystem");
-    EXPECT_EQ(helpAt("Rezepte/Limonade/Unterrezepte"), "Unterrezepte - Hilfe zum Rezeptsystem");
-}
-
-TEST_F(StudioHelpTest, TheHelpSpeaksTheLanguageOfTheStudio) {
-    start();
-    window().chooseLanguage(qt::Wording::english);
-    open(makeProject());
-    click("Recipes");
-    EXPECT_EQ(helpAt("Recipes/Limonade/Sub Recipes"), "Sub-Recipes - Recipe System Help");
-}
-
-TEST_F(StudioHelpTest, F1InTheRecipeDialogOpensItsTopicBesideIt) {
-    start();
-    open(makeProject());
-    click("Rezepte");
-    click("Rezepte/Limonade");
-    tree().setFocus();
-    std::string title;
-    QTimer::singleShot(100, &window(), [&] {
-        QWidget* dialog = QApplication::activeModalWidget();
-        ASSERT_NE(dialog, nullptr);
-        EXPECT_EQ(dialog->objectName(), "FRecipe");
-        QTest::keyClick(dialog->focusWidget(), Qt::Key_F1);
-        handleEvents();
-        if (host().help().window() != nullptr) {
-            title = qt::fromQt(host().help().window()->windowTitle());
-            clickContents(*host().help().window(), "Tasten");
-        }
-        dialog->activateWindow();
-        EXPECT_TRUE(waitUntil([dialog] { return dialog->isActiveWindow(); }));
-        QTest::keyClick(dialog, Qt::Key_Escape);
-    });
-    QTest::keyClick(&tree(), Qt::Key_F9);
-    handleEvents();
-    EXPECT_EQ(title, "Rezeptdefinition - Hilfe zum Rezeptsystem");
-    ASSERT_NE(host().help().window(), nullptr);
-    EXPECT_TRUE(host().help().window()->isVisible());
-    EXPECT_EQ(host().help().window()->windowTitle(), "Tasten - Hilfe zum Rezeptsystem");
-}
-
-TEST_F(StudioHelpTest, TheHelpClosesWithTheEditor) {
-    start();
-    open(makeProject());
-    click("Rezepte");
-    EXPECT_NE(helpAt("Rezepte"), "no help");
-    window().closeProject();
-    EXPECT_EQ(host().help().window(), nullptr);
-}
-
-TEST_F(StudioHelpTest, TheMenuShowsTheFirstTopicWithoutAProject) {
-    start();
-    auto* entry = window().findChild<QAction*>("actionHelp");
-    ASSERT_NE(entry, nullptr);
-    entry->trigger();
-    handleEvents();
-    ASSERT_NE(host().help().window(), nullptr);
-    EXPECT_EQ(host().help().window()->windowTitle(), "Das Rezeptsystem im Überblick - Hilfe zum Rezeptsystem");
-    quit();
 }
 
 }  // namespace

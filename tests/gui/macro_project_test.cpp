@@ -63,11 +63,7 @@ TEST_F(StudioMacroTest, WorksOnWhatTheUserHasOpen) {
     click("Rezepte");
     click("Rezepte/Limonade");
     // What is still being typed comes first.
-    grid().setFocus();
-    QTest::mouseClick(grid().viewport(), Qt::LeftButton, {},
-                      grid().visualRect(grid().model()->index(0, column("Variable"))).topLeft() + QPoint(10, 5));
-    QTest::keyClick(&grid(), Qt::Key_F2);
-    type(find<QLineEdit>(grid(), "cellEditor"), "Neu");
+    typeInCell(0, "Variable", "Neu");
     EXPECT_EQ(run("print(studio.Selected(), editor.Caption, editor.tdbRM.Text(0, 'VarRecipe'))"
                   " studio.Click('RCPR2')"),
               "RCPR1\tHelvixStudio Rezepteditor: Limonade\tNeu\n");

@@ -131,7 +131,7 @@ std::vector<std::string> StudioTest::texts(const QString& caption) {
     return result;
 }
 
-void StudioTest::edit(int row, const QString& caption, const QString& text) {
+QLineEdit& StudioTest::typeInCell(int row, const QString& caption, const QString& text) {
     grid().setFocus();
     const QRect cell = grid().visualRect(grid().model()->index(row, column(caption)));
     QTest::mouseClick(grid().viewport(), Qt::LeftButton, {}, cell.topLeft() + QPoint(10, 5));
@@ -139,7 +139,11 @@ void StudioTest::edit(int row, const QString& caption, const QString& text) {
     auto& line = find<QLineEdit>(grid(), "cellEditor");
     line.selectAll();
     type(line, text);
-    QTest::keyClick(&line, Qt::Key_Return);
+    return line;
+}
+
+void StudioTest::edit(int row, const QString& caption, const QString& text) {
+    QTest::keyClick(&typeInCell(row, caption, text), Qt::Key_Return);
     handleEvents();
     grid().setFocus();
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QLineEdit>
 #include <QMdiArea>
 #include <QTableView>
 #include <memory>
@@ -43,6 +44,8 @@ class StudioTest : public testing::Test {
     /// The texts of a column of the grid, by its caption.
     [[nodiscard]] std::vector<std::string> texts(const QString& caption);
     [[nodiscard]] int column(const QString& caption);
+    /// Types into a cell, which is still being edited then.
+    QLineEdit& typeInCell(int row, const QString& caption, const QString& text);
     /// Types into a cell and ends with Enter.
     void edit(int row, const QString& caption, const QString& text);
     /// The VarRecipe values of a recipe in the project file.

@@ -4,7 +4,6 @@
 #include <QGuiApplication>
 #include <QHeaderView>
 #include <QLabel>
-#include <QLineEdit>
 #include <QMdiSubWindow>
 #include <QMenu>
 #include <QMenuBar>
@@ -97,11 +96,7 @@ TEST_F(StudioTest, WhatIsBeingTypedIsKeptWhenTheStudioCloses) {
     open(file);
     click("Rezepte");
     click("Rezepte/Limonade");
-    grid().setFocus();
-    QTest::mouseClick(grid().viewport(), Qt::LeftButton, {},
-                      grid().visualRect(grid().model()->index(0, column("Variable"))).topLeft() + QPoint(10, 5));
-    QTest::keyClick(&grid(), Qt::Key_F2);
-    type(find<QLineEdit>(grid(), "cellEditor"), "Neu");
+    typeInCell(0, "Variable", "Neu");
     quit();
     EXPECT_EQ(stored(file, 1)[0], "Neu");
 }
