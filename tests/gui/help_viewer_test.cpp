@@ -9,7 +9,6 @@
 #include <QTest>
 #include <QTextBlock>
 #include <QTimer>
-#include <QToolBar>
 #include <QTreeWidget>
 
 #include "adapters/qt/help_page.h"
