@@ -48,6 +48,8 @@ void fill(const QString& file) {
 
 }  // namespace
 
+QString builtModules() { return QStringLiteral(HX_MODULE_FOLDER); }
+
 StudioTest::~StudioTest() {
     window_.reset();
     handleEvents();

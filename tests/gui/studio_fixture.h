@@ -15,13 +15,16 @@
 
 namespace hx::gui {
 
+/// The folder of the add-ins that were built with the tests.
+QString builtModules();
+
 /// The studio with the real add-in module, on a configuration and projects of its own.
 class StudioTest : public testing::Test {
   protected:
     ~StudioTest() override;
 
     /// Starts the studio; add-ins come from `modules`.
-    void start(const QString& modules = QStringLiteral(HX_MODULE_FOLDER));
+    void start(const QString& modules = builtModules());
     /// Closes the window as the user does, and forgets the studio.
     void quit();
     /// A project with the recipes "Limonade" (1) of two variables, "Apfelschorle" (2) and "Meyer's Bräu" (3), which
