@@ -6,7 +6,7 @@
 #include "adapters/sqlite/provider.h"
 #include "bench/projects.h"
 #include "recipe/data_environment.h"
-#include "recipe/hierarchy.h"
+#include "recipe/mhxrcp_hirarch_func.h"
 #include "resources/resource_table.h"
 
 namespace hx::bench {

@@ -11,7 +11,7 @@
 #include "adapters/qt/explorer_tree.h"
 #include "adapters/qt/qt_clipboard.h"
 #include "adapters/qt/qt_explorer.h"
-#include "addin/explorer_nodes.h"
+#include "addin/msurfing_tree.h"
 #include "bench/desktop.h"
 #include "bench/editor_data.h"
 #include "bench/subjects.h"

@@ -2,7 +2,7 @@
 
 #include "addin/call.h"
 #include "addin/database_connection.h"
-#include "addin/explorer_nodes.h"
+#include "addin/msurfing_tree.h"
 #include "addin/project_location.h"
 #include "addin/trap.h"
 #include "recipe/node_key.h"

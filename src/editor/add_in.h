@@ -5,7 +5,7 @@
 
 #include "host/project_explorer.h"
 #include "host/services.h"
-#include "recipe/hierarchy.h"
+#include "recipe/mhxrcp_hirarch_func.h"
 #include "resources/help.h"
 #include "resources/resource_table.h"
 

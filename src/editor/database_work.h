@@ -3,7 +3,7 @@
 #include <memory>
 
 #include "recipe/data_environment.h"
-#include "recipe/hierarchy.h"
+#include "recipe/mhxrcp_hirarch_func.h"
 
 namespace hx::editor {
 

@@ -3,10 +3,10 @@
 #include "editor/commands.h"
 #include "editor/function_bar.h"
 #include "editor/guard.h"
-#include "editor/member_grid.h"
 #include "editor/member_grid_keys.h"
 #include "editor/member_grid_mouse.h"
 #include "editor/menus.h"
+#include "editor/msurfing_grid.h"
 #include "editor/recipe_names.h"
 #include "editor/split_bar.h"
 #include "host/window_offset.h"
@@ -37,7 +37,7 @@ frmtabgrid::frmtabgrid(AddIn& addIn)
       addIn_(addIn),
       commands_(std::make_unique<Commands>(*this, addIn)),
       menus_(std::make_unique<Menus>(*this, addIn)),
-      memberGrid_(std::make_unique<MemberGrid>(*this, addIn)),
+      memberGrid_(std::make_unique<MSurfingGrid>(*this, addIn)),
       gridKeys_(std::make_unique<MemberGridKeys>(*this, *memberGrid_, *menus_, addIn)),
       gridMouse_(std::make_unique<MemberGridMouse>(*this, *menus_, addIn)),
       functionBar_(std::make_unique<FunctionBar>(*this, *menus_, addIn)),

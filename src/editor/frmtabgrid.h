@@ -21,7 +21,7 @@ namespace hx::editor {
 
 class Commands;
 class FunctionBar;
-class MemberGrid;
+class MSurfingGrid;
 class MemberGridKeys;
 class MemberGridMouse;
 class Menus;
@@ -134,7 +134,7 @@ class frmtabgrid : public forms::Form, public recipe::RecipeWindow, public dialo
     // After the controls, whose events they hear.
     std::unique_ptr<Commands> commands_;
     std::unique_ptr<Menus> menus_;
-    std::unique_ptr<MemberGrid> memberGrid_;
+    std::unique_ptr<MSurfingGrid> memberGrid_;
     std::unique_ptr<MemberGridKeys> gridKeys_;
     std::unique_ptr<MemberGridMouse> gridMouse_;
     std::unique_ptr<FunctionBar> functionBar_;

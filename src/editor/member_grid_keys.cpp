@@ -5,8 +5,8 @@
 
 #include "editor/frmtabgrid.h"
 #include "editor/guard.h"
-#include "editor/member_grid.h"
 #include "editor/menus.h"
+#include "editor/msurfing_grid.h"
 #include "editor/tools.h"
 #include "recipe/node_key.h"
 #include "recipe/schema.h"
@@ -48,7 +48,7 @@ std::int32_t neighbourColumn(const forms::Grid& grid, std::int32_t column, bool 
     return candidate;
 }
 
-MemberGridKeys::MemberGridKeys(frmtabgrid& window, MemberGrid& members, Menus& menus, AddIn& addIn)
+MemberGridKeys::MemberGridKeys(frmtabgrid& window, MSurfingGrid& members, Menus& menus, AddIn& addIn)
     : window_(window), members_(members), menus_(menus), addIn_(addIn), grid_(*window.tdbRM) {
     using Keys = MemberGridKeys;
     static constexpr auto down = std::to_array<Row>({

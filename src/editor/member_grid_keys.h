@@ -9,13 +9,13 @@
 namespace hx::editor {
 
 class frmtabgrid;
-class MemberGrid;
+class MSurfingGrid;
 class Menus;
 
 /// The keys of the member grid. Commands run as tools of the bar, as if they were clicked.
 class MemberGridKeys {
   public:
-    MemberGridKeys(frmtabgrid& window, MemberGrid& members, Menus& menus, AddIn& addIn);
+    MemberGridKeys(frmtabgrid& window, MSurfingGrid& members, Menus& menus, AddIn& addIn);
 
   private:
     using Action = void (MemberGridKeys::*)(forms::KeyEvent&);
@@ -38,7 +38,7 @@ class MemberGridKeys {
     void neighbour(forms::KeyEvent& event);
 
     frmtabgrid& window_;
-    MemberGrid& members_;
+    MSurfingGrid& members_;
     Menus& menus_;
     AddIn& addIn_;
     forms::Grid& grid_;

@@ -4,7 +4,7 @@
 #include <array>
 
 #include "ado/transaction.h"
-#include "recipe/hierarchy.h"
+#include "recipe/mhxrcp_hirarch_func.h"
 #include "recipe/schema.h"
 
 namespace hx::editor {

@@ -1,6 +1,6 @@
 #include "editor/record_count.h"
 
-#include "recipe/hierarchy.h"
+#include "recipe/mhxrcp_hirarch_func.h"
 
 namespace hx::editor {
 

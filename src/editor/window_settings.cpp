@@ -4,7 +4,7 @@
 #include "automation/convert.h"
 #include "editor/frmtabgrid.h"
 #include "editor/guard.h"
-#include "editor/member_grid.h"
+#include "editor/msurfing_grid.h"
 
 namespace hx::editor {
 

@@ -4,7 +4,7 @@
 
 #include "forms/form.h"
 #include "host/services.h"
-#include "recipe/hierarchy.h"
+#include "recipe/mhxrcp_hirarch_func.h"
 #include "resources/help.h"
 
 namespace hx::recipe {

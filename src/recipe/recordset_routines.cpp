@@ -1,5 +1,5 @@
 #include "automation/error.h"
-#include "recipe/hierarchy.h"
+#include "recipe/mhxrcp_hirarch_func.h"
 #include "recipe/schema.h"
 
 namespace hx::recipe {

@@ -1,6 +1,6 @@
 #include <limits>
 
-#include "recipe/hierarchy.h"
+#include "recipe/mhxrcp_hirarch_func.h"
 
 namespace hx::recipe {
 

@@ -1,4 +1,4 @@
-#include "recipe/hierarchy.h"
+#include "recipe/mhxrcp_hirarch_func.h"
 
 namespace hx::recipe {
 

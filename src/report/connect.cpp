@@ -4,7 +4,7 @@
 
 #include "automation/member_rows.h"
 #include "automation/text.h"
-#include "recipe/hierarchy.h"
+#include "recipe/mhxrcp_hirarch_func.h"
 
 namespace hx::report {
 

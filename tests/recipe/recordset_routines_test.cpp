@@ -2,7 +2,7 @@
 
 #include "automation/convert.h"
 #include "plant.h"
-#include "recipe/hierarchy.h"
+#include "recipe/mhxrcp_hirarch_func.h"
 
 namespace hx::recipe {
 namespace {

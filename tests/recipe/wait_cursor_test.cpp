@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "adapters/headless/host.h"
-#include "recipe/hierarchy.h"
+#include "recipe/mhxrcp_hirarch_func.h"
 #include "support/memory_provider.h"
 
 namespace hx::recipe {

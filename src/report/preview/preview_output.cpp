@@ -9,7 +9,7 @@
 
 #include "adapters/qt/dialog_buttons.h"
 #include "adapters/qt/text.h"
-#include "recipe/hierarchy.h"
+#include "recipe/mhxrcp_hirarch_func.h"
 #include "report/preview/preview_window.h"
 
 /// How the preview's report leaves the window: on paper and in files.

@@ -3,7 +3,7 @@
 #include <QApplication>
 #include <memory>
 
-#include "recipe/hierarchy.h"
+#include "recipe/mhxrcp_hirarch_func.h"
 #include "report/preview/preview_window.h"
 
 namespace hx::report {

@@ -1,4 +1,5 @@
-#include "recipe/hierarchy.h"
+#include "recipe/mhxrcp_hirarch_func.h"
+
 #include "recipe/node_key.h"
 #include "recipe/schema.h"
 

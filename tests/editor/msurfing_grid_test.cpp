@@ -5,11 +5,11 @@ namespace {
 
 using automation::Variant;
 
-struct MemberGrid : EditorWindow {
-    MemberGrid() { open(); }
+struct MSurfingGrid : EditorWindow {
+    MSurfingGrid() { open(); }
 };
 
-TEST_F(MemberGrid, HasOneColumnAFieldInFieldOrder) {
+TEST_F(MSurfingGrid, HasOneColumnAFieldInFieldOrder) {
     Texts fields;
     for (const auto& each : grid().columns()) fields.push_back(each->dataField());
     EXPECT_EQ(fields, (Texts{"ID", "ParentID", "VarRecipe", "ChildID"}));
@@ -17,21 +17,21 @@ TEST_F(MemberGrid, HasOneColumnAFieldInFieldOrder) {
     EXPECT_EQ(grid().dataSource(), data->rstabRecipeMembers);
 }
 
-TEST_F(MemberGrid, HasGermanCaptionsForItsTwoColumnsAndFieldNamesForTheOthers) {
+TEST_F(MSurfingGrid, HasGermanCaptionsForItsTwoColumnsAndFieldNamesForTheOthers) {
     EXPECT_EQ(column("ID").caption(), "ID");
     EXPECT_EQ(column("ParentID").caption(), "ParentID");
     EXPECT_EQ(column("VarRecipe").caption(), "Variable");
     EXPECT_EQ(column("ChildID").caption(), "Unterrezept");
 }
 
-TEST_F(MemberGrid, HasEnglishCaptions) {
+TEST_F(MSurfingGrid, HasEnglishCaptions) {
     useLanguage(english);
     window->bindGrid();
     EXPECT_EQ(column("VarRecipe").caption(), "Variable");
     EXPECT_EQ(column("ChildID").caption(), "Sub Recipe");
 }
 
-TEST_F(MemberGrid, HasTheDefaultLayout) {
+TEST_F(MSurfingGrid, HasTheDefaultLayout) {
     EXPECT_EQ(column("VarRecipe").width(), 3000);
     EXPECT_EQ(column("ChildID").width(), 300);
     for (const char* field : {"VarRecipe", "ChildID"}) {
@@ -42,12 +42,12 @@ TEST_F(MemberGrid, HasTheDefaultLayout) {
     EXPECT_EQ(grid().font().weight(), 400);
 }
 
-TEST_F(MemberGrid, ShowsOnlyTheColumnsThatTheLayoutNames) {
+TEST_F(MSurfingGrid, ShowsOnlyTheColumnsThatTheLayoutNames) {
     EXPECT_FALSE(column("ID").visible());
     EXPECT_FALSE(column("ParentID").visible());
 }
 
-TEST_F(MemberGrid, LetsNobodyTypeKeysOrRecipes) {
+TEST_F(MSurfingGrid, LetsNobodyTypeKeysOrRecipes) {
     show(mixSubRecipes);
     for (const char* field : {"ID", "ParentID", "ChildID"}) {
         EXPECT_TRUE(column(field).locked()) << field;
@@ -56,13 +56,13 @@ TEST_F(MemberGrid, LetsNobodyTypeKeysOrRecipes) {
     EXPECT_TRUE(grid().editable(columnNumber("VarRecipe")));
 }
 
-TEST_F(MemberGrid, HasACellButtonWithAPictureForTheVariableOnly) {
+TEST_F(MSurfingGrid, HasACellButtonWithAPictureForTheVariableOnly) {
     EXPECT_TRUE(column("VarRecipe").button());
     EXPECT_FALSE(column("VarRecipe").buttonPicture().empty());
     for (const char* field : {"ID", "ParentID", "ChildID"}) EXPECT_FALSE(column(field).button()) << field;
 }
 
-TEST_F(MemberGrid, AppliesTheStoredLayout) {
+TEST_F(MSurfingGrid, AppliesTheStoredLayout) {
     host.iniFile.setBytes(
         iniPath,
         "[frmtabGridRCP]\r\ntdbRM.Font.Name=Courier\r\ntdbRM.Font.Size=11\r\n"
@@ -81,21 +81,21 @@ TEST_F(MemberGrid, AppliesTheStoredLayout) {
     EXPECT_EQ(column("ChildID").order(), 2);
 }
 
-TEST_F(MemberGrid, IgnoresNumbersOfAStoredOrderBeyondItsColumns) {
+TEST_F(MSurfingGrid, IgnoresNumbersOfAStoredOrderBeyondItsColumns) {
     window->inits().WriteAValueToCInits("tdbRMColOrders", Variant(",3,2,1,0,7,8"));
     window->bindGrid();
     EXPECT_EQ(column("ID").order(), 3);
     EXPECT_EQ(column("ChildID").order(), 0);
 }
 
-TEST_F(MemberGrid, KeepsItsOrderWithAnEmptyStoredOne) {
+TEST_F(MSurfingGrid, KeepsItsOrderWithAnEmptyStoredOne) {
     window->inits().WriteAValueToCInits("tdbRMColOrders", Variant(""));
     window->bindGrid();
     EXPECT_EQ(column("ID").order(), 0);
     EXPECT_EQ(column("ChildID").order(), 3);
 }
 
-TEST_F(MemberGrid, ComesThroughADamagedStoredLayout) {
+TEST_F(MSurfingGrid, ComesThroughADamagedStoredLayout) {
     host.iniFile.setBytes(
         iniPath,
         "[frmtabGridRCP]\r\ntdbRM.Columns(\"VarRecipe\").Width=wide\r\n"
@@ -109,12 +109,12 @@ TEST_F(MemberGrid, ComesThroughADamagedStoredLayout) {
     EXPECT_NE(messages()[0].find("\r\ntdbRM.Font.Size=0 ("), std::string::npos) << messages()[0];
 }
 
-TEST_F(MemberGrid, BuildsItsColumnsAnewEachTime) {
+TEST_F(MSurfingGrid, BuildsItsColumnsAnewEachTime) {
     window->bindGrid();
     EXPECT_EQ(grid().columns().size(), 4U);
 }
 
-TEST_F(MemberGrid, OpensAClosedRecordsetAndKeepsAnOpenOne) {
+TEST_F(MSurfingGrid, OpensAClosedRecordsetAndKeepsAnOpenOne) {
     members().close();
     window->bindGrid();
     EXPECT_EQ(members().state(), ado::adStateOpen);
@@ -122,20 +122,20 @@ TEST_F(MemberGrid, OpensAClosedRecordsetAndKeepsAnOpenOne) {
     EXPECT_EQ(members().state(), ado::adStateOpen);
 }
 
-TEST_F(MemberGrid, ShowsTheVariablesOfARecipe) {
+TEST_F(MSurfingGrid, ShowsTheVariablesOfARecipe) {
     show(mixKey);
     EXPECT_EQ(shown("VarRecipe"), (Texts{"Tank.Level", "Tank.Temp", "Pump.Speed"}));
     EXPECT_FALSE(window->subRecipeView());
 }
 
-TEST_F(MemberGrid, ShowsSubRecipesByTheirNames) {
+TEST_F(MSurfingGrid, ShowsSubRecipesByTheirNames) {
     show(mixSubRecipes);
     EXPECT_EQ(shown("ChildID"), (Texts{"Sirup", "Wasser"}));
     EXPECT_EQ(column("VarRecipe").caption(), "Dateiname");
     EXPECT_TRUE(window->subRecipeView());
 }
 
-TEST_F(MemberGrid, ShowsNothingForARecipeThatIsGoneAndForNone) {
+TEST_F(MSurfingGrid, ShowsNothingForARecipeThatIsGoneAndForNone) {
     addMember(syrup, "File.Gone", 999);
     addMember(syrup, "File.None", -3);
     show("RCPU" + std::to_string(syrup));
@@ -144,7 +144,7 @@ TEST_F(MemberGrid, ShowsNothingForARecipeThatIsGoneAndForNone) {
     EXPECT_EQ(shown("ChildID"), (Texts{"", "", ""}));
 }
 
-TEST_F(MemberGrid, KeepsTheNamesUntilTheyAreRefreshed) {
+TEST_F(MSurfingGrid, KeepsTheNamesUntilTheyAreRefreshed) {
     show(mixSubRecipes);
     EXPECT_EQ(shown("ChildID"), (Texts{"Sirup", "Wasser"}));
     const std::vector<ado::ColumnValue> renamed = {{1, Variant("Melasse")}};
@@ -154,7 +154,7 @@ TEST_F(MemberGrid, KeepsTheNamesUntilTheyAreRefreshed) {
     EXPECT_EQ(shown("ChildID"), (Texts{"Melasse", "Wasser"}));
 }
 
-TEST_F(MemberGrid, AsksAgainForANameThatCouldNotBeRead) {
+TEST_F(MSurfingGrid, AsksAgainForANameThatCouldNotBeRead) {
     show(mixSubRecipes);
     faults.arm(1, support::FaultPlan::Kind::open);
     EXPECT_THROW((void)grid().text(0, columnNumber("ChildID")), automation::Error);
@@ -163,7 +163,7 @@ TEST_F(MemberGrid, AsksAgainForANameThatCouldNotBeRead) {
     EXPECT_EQ(shown("ChildID"), (Texts{"Sirup", "Wasser"}));
 }
 
-TEST_F(MemberGrid, TellsWhatItsViewCouldNotRead) {
+TEST_F(MSurfingGrid, TellsWhatItsViewCouldNotRead) {
     bool busy = false;
     host.script.onMessage = [&](const headless::Message& message) {
         busy = addIn.busyFlag.isSet();
@@ -176,12 +176,12 @@ TEST_F(MemberGrid, TellsWhatItsViewCouldNotRead) {
     EXPECT_EQ(host.record.beeps, 0);
 }
 
-TEST_F(MemberGrid, ShowsNoRowsForTheRoot) {
+TEST_F(MSurfingGrid, ShowsNoRowsForTheRoot) {
     show("RCPE");
     EXPECT_EQ(grid().rowCount(), 0);
 }
 
-TEST_F(MemberGrid, SortsByTheClickedHeader) {
+TEST_F(MSurfingGrid, SortsByTheClickedHeader) {
     show(mixKey);
     host.record.pointers.clear();
     grid().headClick(columnNumber("VarRecipe"));
@@ -193,7 +193,7 @@ TEST_F(MemberGrid, SortsByTheClickedHeader) {
     EXPECT_EQ(shown("VarRecipe"), (Texts{"Tank.Level", "Tank.Temp", "Pump.Speed"}));
 }
 
-TEST_F(MemberGrid, KeepsRowAndSelectionWhereTheyAreWhenItIsSorted) {
+TEST_F(MSurfingGrid, KeepsRowAndSelectionWhereTheyAreWhenItIsSorted) {
     show(mixKey);
     grid().setRow(2);
     selectRows({2, 0});
@@ -205,7 +205,7 @@ TEST_F(MemberGrid, KeepsRowAndSelectionWhereTheyAreWhenItIsSorted) {
     EXPECT_EQ(members().indexOf(grid().selectedRows().bookmarks()[1]), 1);
 }
 
-TEST_F(MemberGrid, KeepsTheSelectedRowsThatAreLeftAfterARefresh) {
+TEST_F(MSurfingGrid, KeepsTheSelectedRowsThatAreLeftAfterARefresh) {
     show(mixKey);
     grid().setRow(1);
     selectRows({0, 1});
@@ -217,7 +217,7 @@ TEST_F(MemberGrid, KeepsTheSelectedRowsThatAreLeftAfterARefresh) {
     EXPECT_EQ(grid().row(), 0) << "the current row is gone";
 }
 
-TEST_F(MemberGrid, ForgetsRowAndSelectionWithANewNode) {
+TEST_F(MSurfingGrid, ForgetsRowAndSelectionWithANewNode) {
     show(mixKey);
     grid().setRow(2);
     selectRows({1});
@@ -228,7 +228,7 @@ TEST_F(MemberGrid, ForgetsRowAndSelectionWithANewNode) {
     EXPECT_EQ(grid().row(), 0);
 }
 
-TEST_F(MemberGrid, WritesAPendingEditBeforeARefresh) {
+TEST_F(MSurfingGrid, WritesAPendingEditBeforeARefresh) {
     show(mixKey);
     type(0, "Tank.Pressure");
     window->refreshMembers();
@@ -237,7 +237,7 @@ TEST_F(MemberGrid, WritesAPendingEditBeforeARefresh) {
     EXPECT_FALSE(grid().dataChanged());
 }
 
-TEST_F(MemberGrid, KeepsAPendingEditThatCannotBeWritten) {
+TEST_F(MSurfingGrid, KeepsAPendingEditThatCannotBeWritten) {
     show(mixKey);
     type(0, "Tank.Pressure");
     faults.arm(1, support::FaultPlan::Kind::update);
@@ -249,7 +249,7 @@ TEST_F(MemberGrid, KeepsAPendingEditThatCannotBeWritten) {
     EXPECT_EQ(storedVariable(1), "Tank.Pressure");
 }
 
-TEST_F(MemberGrid, WithoutADatabaseRefreshesNothing) {
+TEST_F(MSurfingGrid, WithoutADatabaseRefreshesNothing) {
     show(mixKey);
     window->setDataEnvironment(nullptr);
     window->refreshMembers();
@@ -259,7 +259,7 @@ TEST_F(MemberGrid, WithoutADatabaseRefreshesNothing) {
     EXPECT_EQ(messages(), Texts{});
 }
 
-TEST_F(MemberGrid, ReportsASortThatTheDatabaseFails) {
+TEST_F(MSurfingGrid, ReportsASortThatTheDatabaseFails) {
     show(mixKey);
     faults.arm(1, support::FaultPlan::Kind::open);
     grid().headClick(columnNumber("VarRecipe"));
@@ -267,12 +267,12 @@ TEST_F(MemberGrid, ReportsASortThatTheDatabaseFails) {
     EXPECT_EQ(host.record.messages[0].title, "tdbRM_HeadClick");
 }
 
-TEST_F(MemberGrid, ARefreshThatFailsReachesItsCaller) {
+TEST_F(MSurfingGrid, ARefreshThatFailsReachesItsCaller) {
     faults.arm(1, support::FaultPlan::Kind::open);
     EXPECT_THROW(show(mixKey), automation::Error);
 }
 
-TEST_F(MemberGrid, ShowsNoRowsAfterARefreshThatFails) {
+TEST_F(MSurfingGrid, ShowsNoRowsAfterARefreshThatFails) {
     show(mixKey);
     std::vector<std::int32_t> counts;
     const auto watch = grid().rowsChanged.subscribe([&] { counts.push_back(grid().rowCount()); });

@@ -11,10 +11,11 @@ namespace hx::editor {
 
 class frmtabgrid;
 
-/// The grid of a recipe's members: its columns and layout, and what happens when a cell or row is edited.
-class MemberGrid {
+/// The grid of a recipe's members, the module MSurfingGrid: its columns and layout, and what happens when a cell or row
+/// is edited.
+class MSurfingGrid {
   public:
-    MemberGrid(frmtabgrid& window, AddIn& addIn);
+    MSurfingGrid(frmtabgrid& window, AddIn& addIn);
 
     // --- columns
     /// One column a field of the recordset, which becomes the grid's; opens it when it is closed. Then the stored

@@ -1,4 +1,4 @@
-#include "editor/member_grid.h"
+#include "editor/msurfing_grid.h"
 
 #include <algorithm>
 #include <array>
@@ -39,7 +39,7 @@ const MemberColumn* memberColumn(std::string_view field) {
 
 }  // namespace
 
-MemberGrid::MemberGrid(frmtabgrid& window, AddIn& addIn) : window_(window), addIn_(addIn), grid_(*window.tdbRM) {
+MSurfingGrid::MSurfingGrid(frmtabgrid& window, AddIn& addIn) : window_(window), addIn_(addIn), grid_(*window.tdbRM) {
     grid_.setDataMember("tabRecipeMembers");
     subscriptions_.push_back(grid_.leavingRowEvent.subscribe([this](bool& stay) { leavingRow(stay); }));
     subscriptions_.push_back(grid_.errorEvent.subscribe([this](forms::GridError& error) { reportedError(error); }));
@@ -48,14 +48,14 @@ MemberGrid::MemberGrid(frmtabgrid& window, AddIn& addIn) : window_(window), addI
     subscriptions_.push_back(grid_.headClickEvent.subscribe([this](std::int32_t) { sorted(); }));
 }
 
-void MemberGrid::sorted() {
+void MSurfingGrid::sorted() {
     guard(addIn_, "tdbRM_HeadClick", [this] {
         const recipe::WaitCursor wait(window_.screen());
         window_.refreshMembers();
     });
 }
 
-void MemberGrid::build(const std::shared_ptr<ado::Recordset>& members) {
+void MSurfingGrid::build(const std::shared_ptr<ado::Recordset>& members) {
     if (members->state() == ado::adStateClosed) members->open();
     grid_.font().setValues(window_.font().values());
     grid_.clearColumns();
@@ -70,7 +70,7 @@ void MemberGrid::build(const std::shared_ptr<ado::Recordset>& members) {
     applyLayout();
 }
 
-void MemberGrid::addColumn(const std::string& field) {
+void MSurfingGrid::addColumn(const std::string& field) {
     forms::Column& column = grid_.addColumn(field);
     const MemberColumn* known = memberColumn(field);
     column.setVisible(known != nullptr);
@@ -88,26 +88,26 @@ void MemberGrid::addColumn(const std::string& field) {
     }
 }
 
-void MemberGrid::applyLayout() {
+void MSurfingGrid::applyLayout() {
     window_.applySettings(grid_.name());
     applyColumnOrder();
 }
 
-void MemberGrid::applyColumnOrder() {
+void MSurfingGrid::applyColumnOrder() {
     const Variant stored = window_.inits().ReadAValueFromCInits(std::string(columnOrderEntry), Variant(""));
     editor::applyColumnOrder(grid_, automation::toText(stored));
 }
 
-void MemberGrid::saveColumnOrder() {
+void MSurfingGrid::saveColumnOrder() {
     if (grid_.columns().empty()) return;
     window_.inits().WriteAValueToCInits(std::string(columnOrderEntry), Variant(columnOrderText(grid_)));
 }
 
-void MemberGrid::refreshSubRecipeNames() {
+void MSurfingGrid::refreshSubRecipeNames() {
     if (forms::Column* child = grid_.findColumn(member::childId)) child->valueItems().clear();
 }
 
-void MemberGrid::refreshMembers() {
+void MSurfingGrid::refreshMembers() {
     if (!window_.dataEnvironment() || !finishEdit()) return;
     const bool again = shownKey_ == window_.nodeKey() && window_.memberRecordset().state() == ado::adStateOpen;
     const ado::Bookmark current = again ? grid_.bookmark() : ado::Bookmark();
@@ -115,11 +115,11 @@ void MemberGrid::refreshMembers() {
     readMembers(current, selected);
 }
 
-void MemberGrid::refreshMembersAt(const ado::Bookmark& row) {
+void MSurfingGrid::refreshMembersAt(const ado::Bookmark& row) {
     if (window_.dataEnvironment() && finishEdit()) readMembers(row, {});
 }
 
-void MemberGrid::readMembers(const ado::Bookmark& current, const std::vector<ado::Bookmark>& selected) {
+void MSurfingGrid::readMembers(const ado::Bookmark& current, const std::vector<ado::Bookmark>& selected) {
     shownKey_.clear();
     recipe::RefreshMemberView(window_, addIn_.texts());
     shownKey_ = window_.nodeKey();
@@ -127,13 +127,13 @@ void MemberGrid::readMembers(const ado::Bookmark& current, const std::vector<ado
     select(selected);
 }
 
-void MemberGrid::standOn(const ado::Bookmark& row) {
+void MSurfingGrid::standOn(const ado::Bookmark& row) {
     const std::ptrdiff_t place = window_.memberRecordset().indexOf(row);
     if (place >= 0) grid_.setRow(static_cast<std::int32_t>(place));
 }
 
 // Through all rows once: looking each selected one up would take a walk for each in a sorted recordset.
-void MemberGrid::select(std::vector<ado::Bookmark> rows) {
+void MSurfingGrid::select(std::vector<ado::Bookmark> rows) {
     if (rows.empty()) return;
     const ado::Recordset& members = window_.memberRecordset();
     std::unordered_set<ado::Key> present;

@@ -1,10 +1,10 @@
-#include "addin/explorer_nodes.h"
+#include "addin/msurfing_tree.h"
 
 #include <array>
 
 #include "addin/trap.h"
 #include "automation/convert.h"
-#include "recipe/hierarchy.h"
+#include "recipe/mhxrcp_hirarch_func.h"
 #include "recipe/node_key.h"
 #include "recipe/recipe_nodes.h"
 #include "recipe/schema.h"

@@ -1,7 +1,7 @@
 #include "automation/text.h"
 #include "editor/frmtabgrid.h"
 #include "editor/guard.h"
-#include "editor/member_grid.h"
+#include "editor/msurfing_grid.h"
 #include "recipe/node_key.h"
 #include "recipe/schema.h"
 
@@ -17,12 +17,12 @@ constexpr std::int32_t staleRowText = 407;
 
 }  // namespace
 
-std::shared_ptr<ado::Recordset> MemberGrid::members() const {
+std::shared_ptr<ado::Recordset> MSurfingGrid::members() const {
     const auto& data = window_.dataEnvironment();
     return data == nullptr ? nullptr : data->recordset(grid_.dataMember());
 }
 
-void MemberGrid::dropEdit() noexcept {
+void MSurfingGrid::dropEdit() noexcept {
     try {
         const auto recordset = members();
         const bool edited = recordset && recordset->state() == ado::adStateOpen &&
@@ -35,11 +35,11 @@ void MemberGrid::dropEdit() noexcept {
 }
 
 // What the database said earlier must not be taken for the reason of the next error.
-void MemberGrid::clearErrors() {
+void MSurfingGrid::clearErrors() {
     if (const auto& data = window_.dataEnvironment()) data->CnnRecipes->clearErrors();
 }
 
-void MemberGrid::verifyAdds() {
+void MSurfingGrid::verifyAdds() {
     grid_.settle();
     const std::string_view type = recipe::KeyPrefix(window_.nodeKey());
     if (type != recipe::prefixRecipe && type != recipe::prefixSubRecipes) return;
@@ -61,12 +61,12 @@ void MemberGrid::verifyAdds() {
     }
 }
 
-void MemberGrid::leavingRow(bool& stay) {
+void MSurfingGrid::leavingRow(bool& stay) {
     stay = true;
     guard(addIn_, "tdbRM_BeforeUpdate", [&] { stay = !finishRow(); });
 }
 
-bool MemberGrid::finishRow() {
+bool MSurfingGrid::finishRow() {
     clearErrors();
     try {
         grid_.update();
@@ -80,7 +80,7 @@ bool MemberGrid::finishRow() {
     }
 }
 
-void MemberGrid::reportedError(forms::GridError& error) {
+void MSurfingGrid::reportedError(forms::GridError& error) {
     if (gridShowsError_) return;
     guard(addIn_, "tdbRM_Error", [&] {
         if (error.code == forms::gridErrStaleRow) resetStaleRows(error.code);
@@ -91,13 +91,13 @@ void MemberGrid::reportedError(forms::GridError& error) {
     grid_.setFocus();
 }
 
-void MemberGrid::viewFailed(forms::GridError& error) {
+void MSurfingGrid::viewFailed(forms::GridError& error) {
     error.response = 0;
     const Busy busy(addIn_.busy());
     showError(window_.screen(), Error(error.code, error.description), "tdbRM");
 }
 
-void MemberGrid::resetStaleRows(std::int32_t code) {
+void MSurfingGrid::resetStaleRows(std::int32_t code) {
     const std::string text = addIn_.texts().GetResource(staleRowText);
     {
         const Busy busy(addIn_.busy());
@@ -112,7 +112,7 @@ void MemberGrid::resetStaleRows(std::int32_t code) {
     grid_.reload();
 }
 
-void MemberGrid::showRefusals(std::int32_t code) {
+void MSurfingGrid::showRefusals(std::int32_t code) {
     const auto& data = window_.dataEnvironment();
     if (data == nullptr) return;
     const std::vector<ado::ProviderError> errors = data->CnnRecipes->errors();
@@ -124,24 +124,24 @@ void MemberGrid::showRefusals(std::int32_t code) {
 }
 
 // The row stays as the user typed it, to be corrected.
-void MemberGrid::showRefusal(const ado::ProviderError& error) {
+void MSurfingGrid::showRefusal(const ado::ProviderError& error) {
     const Busy busy(addIn_.busy());
     showError(window_.screen(), Error(error.number, error.description), "tdbRM_Error");
 }
 
-void MemberGrid::refuseDuplicate() {
+void MSurfingGrid::refuseDuplicate() {
     dropEdit();
     const Busy busy(addIn_.busy());
     window_.screen().messageBox("Doppelter Name", forms::message::ok, forms::message::defaultTitle);
     grid_.refetchRow();
 }
 
-void MemberGrid::buttonClicked(std::int32_t column) {
+void MSurfingGrid::buttonClicked(std::int32_t column) {
     if (grid_.columns()[static_cast<std::size_t>(column)]->dataField() != member::varRecipe) return;
     guard(addIn_, "tdbRM_ButtonClick", [this] { chooseVariable(); });
 }
 
-void MemberGrid::chooseVariable() {
+void MSurfingGrid::chooseVariable() {
     grid_.settle();
     const std::int32_t row = grid_.row();
     if (row < 0 && !grid_.addNewMode()) return;

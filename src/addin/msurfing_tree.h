@@ -6,6 +6,7 @@
 #include "host/services.h"
 #include "resources/resource_table.h"
 
+/// The recipe branch of the explorer: the module MSurfingTree.
 namespace hx::addin {
 
 /// Hands the node images to the explorer and adds the root of the recipe branch. An error is shown and leaves `ok`

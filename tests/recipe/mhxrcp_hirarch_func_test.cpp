@@ -1,7 +1,8 @@
+#include "recipe/mhxrcp_hirarch_func.h"
+
 #include <gtest/gtest.h>
 
 #include "plant.h"
-#include "recipe/hierarchy.h"
 
 namespace hx::recipe {
 namespace {

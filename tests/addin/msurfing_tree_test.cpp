@@ -1,4 +1,4 @@
-#include "addin/explorer_nodes.h"
+#include "addin/msurfing_tree.h"
 
 #include <gtest/gtest.h>
 
