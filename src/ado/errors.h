@@ -38,6 +38,11 @@ namespace hx::ado {
 
 [[noreturn]] inline void throwDeletedRow() { throw automation::Error(dbErrDeletedRow, "The row has been deleted."); }
 
+[[noreturn]] inline void throwRowChanged(const std::string& column) {
+    throw automation::Error(dbErrRowChanged, "The row was changed by another: column \"" + column +
+                                                 "\" does not hold any more what was read.");
+}
+
 [[noreturn]] inline void throwInvalidArgument(const std::string& what) {
     throw automation::Error(adErrInvalidArgument, what);
 }

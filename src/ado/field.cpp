@@ -27,7 +27,12 @@ automation::Variant Field::value() const {
 
 void Field::setValue(const automation::Variant& value) {
     columnOf(recordset_, column_);
-    recordset_.setCurrentValue(column_, value);
+    recordset_.setCurrentValue(column_, value, nullptr);
+}
+
+void Field::replaceValue(const automation::Variant& read, const automation::Variant& value) {
+    columnOf(recordset_, column_);
+    recordset_.setCurrentValue(column_, value, &read);
 }
 
 const automation::MemberTable& Field::members() const {

@@ -24,6 +24,9 @@ class Field : public automation::Dispatch {
     /// Starts or continues the edit of the current row. The value is converted to the column's type
     /// (dbErrCannotConvert when it cannot be); a key column throws adErrIllegalOperation.
     void setValue(const automation::Variant& value);
+    /// The same for a value that takes the place of what was read earlier: update() stores it only if that is still
+    /// there.
+    void replaceValue(const automation::Variant& read, const automation::Variant& value);
 
     [[nodiscard]] const automation::MemberTable& members() const override;
 

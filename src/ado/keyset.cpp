@@ -74,8 +74,8 @@ void Keyset::insertAll(std::span<const std::size_t> columns, RowSource& rows) {
     requery();
 }
 
-void Keyset::update(Key key, std::span<const ColumnValue> values) {
-    write([&](Rowset& open) { open.update(key, values); });
+void Keyset::update(Key key, std::span<const ColumnValue> values, std::span<const ColumnValue> read) {
+    write([&](Rowset& open) { open.update(key, values, read); });
     forEachList([&](KeyList& list) { list.changed(key); });
 }
 

@@ -30,7 +30,7 @@ class Keyset : public ConnectionClient {
     Key insert(std::span<const ColumnValue> values, KeyList& storing);
     /// Many rows: the keys are then read afresh, also after an error.
     void insertAll(std::span<const std::size_t> columns, RowSource& rows);
-    void update(Key key, std::span<const ColumnValue> values);
+    void update(Key key, std::span<const ColumnValue> values, std::span<const ColumnValue> read);
     void remove(Key key);
 
     /// Keys and rows are read afresh when next needed.

@@ -1,6 +1,15 @@
 #include "ado/provider.h"
 
+#include <cmath>
+
 namespace hx::ado {
+
+bool sameValue(const automation::Variant& stored, const automation::Variant& read) {
+    const auto notANumber = [](const automation::Variant& value) {
+        return value.type() == automation::VarType::real8 && std::isnan(value.asDouble());
+    };
+    return stored == read || (notANumber(stored) && notANumber(read));
+}
 
 void Rowset::insertAll(std::span<const std::size_t> columns, RowSource& rows) {
     std::vector<automation::Variant> row(columns.size());

@@ -41,6 +41,9 @@ struct ColumnValue {
     automation::Variant value;
 };
 
+/// Whether a column holds what was read of it. Text counts by its bytes; what is not a number is the same as itself.
+[[nodiscard]] bool sameValue(const automation::Variant& stored, const automation::Variant& read);
+
 /// Receives the rows that Rowset::read finds.
 class RowSink {
   public:
@@ -80,7 +83,9 @@ class Rowset {
     /// before it are stored then is up to the provider, so that a transaction belongs around it. One after the other by
     /// insert(), unless a provider has a faster way.
     virtual void insertAll(std::span<const std::size_t> columns, RowSource& rows);
-    virtual void update(Key key, std::span<const ColumnValue> values) = 0;
+    /// Stores the values if the row still holds what read() has given of the columns of `read` (sameValue); else
+    /// dbErrRowChanged, and the row stays as it is. Nobody else writes the row in between.
+    virtual void update(Key key, std::span<const ColumnValue> values, std::span<const ColumnValue> read) = 0;
     virtual void remove(Key key) = 0;
 };
 

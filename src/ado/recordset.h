@@ -95,6 +95,9 @@ class Recordset : public automation::Dispatch {
     /// Stores many rows at once, with values for these fields in this order, and stands on the first row of the
     /// recordset. After an error some of them may be stored: with a transaction around it they are stored all or none.
     void addNew(std::span<const std::string> fields, RowSource& rows);
+    /// Stores the pending new row, or of the pending edit the columns whose value has changed; dbErrRowChanged when one
+    /// of these does not hold any more what was read of it, dbErrDeletedRow when the row is gone. After an error the
+    /// edit stays pending, and the other columns show what is stored now.
     void update();
     void cancelUpdate();
     void remove();  ///< ADO's Delete: the current row; it stays "current but deleted" until a move
@@ -130,7 +133,7 @@ class Recordset : public automation::Dispatch {
     [[nodiscard]] std::size_t columnNumber(std::string_view name) const;
     [[nodiscard]] automation::Variant storedValue(std::size_t position, std::size_t column) const;
     [[nodiscard]] automation::Variant currentValue(std::size_t column) const;
-    void setCurrentValue(std::size_t column, const automation::Variant& value);
+    void setCurrentValue(std::size_t column, const automation::Variant& value, const automation::Variant* read);
 
     std::string source_;
     std::string filter_;

@@ -51,15 +51,16 @@ Variant Recordset::valueAt(std::size_t index, std::size_t column) const {
     return storedValue(index, column);
 }
 
-void Recordset::setCurrentValue(std::size_t column, const Variant& value) {
+void Recordset::setCurrentValue(std::size_t column, const Variant& value, const Variant* read) {
     requireWritable();
     requireRow();
     Variant converted = convertFor(keyset_->columns()[column], value);
-    if (!edit_->pending()) {
-        if (!list_->exists(cursor_->position)) throwDeletedRow();
-        edit_->begin(adEditInProgress, keyset_->columns().size());
-    }
-    edit_->set(column, std::move(converted));
+    if (edit_->mode() == adEditAdd || edit_->value(column) != nullptr) return edit_->set(column, std::move(converted));
+    if (!edit_->pending() && !list_->exists(cursor_->position)) throwDeletedRow();
+    if (read == nullptr) read = list_->value(cursor_->position, column);  // null: the row is gone, as update() will say
+    Variant before = read != nullptr ? *read : Variant();
+    if (!edit_->pending()) edit_->begin(adEditInProgress, keyset_->columns().size());
+    edit_->set(column, std::move(converted), std::move(before));
 }
 
 void Recordset::addNew() {
@@ -115,7 +116,8 @@ void Recordset::update() {
     requireOpen();
     if (edit_->mode() == adEditAdd) return storeNew();
     if (edit_->mode() != adEditInProgress) return;
-    keyset_->update(cursor_->key, edit_->assigned());
+    const RowEdit::Changes changes = edit_->changes();
+    if (!changes.values.empty()) keyset_->update(cursor_->key, changes.values, changes.read);
     edit_->end();
 }
 

@@ -22,15 +22,31 @@ void RowEdit::end() noexcept {
 }
 
 const Variant* RowEdit::value(std::size_t column) const noexcept {
-    return column < values_.size() && values_[column] ? &*values_[column] : nullptr;
+    return column < values_.size() && values_[column] ? &values_[column]->value : nullptr;
+}
+
+void RowEdit::set(std::size_t column, Variant value, Variant read) {
+    std::optional<Value>& assigned = values_[column];
+    if (assigned) assigned->value = std::move(value);
+    else assigned = {std::move(value), std::move(read)};
 }
 
 std::vector<ColumnValue> RowEdit::assigned() const {
     std::vector<ColumnValue> assigned;
     for (std::size_t i = 0; i < values_.size(); ++i) {
-        if (values_[i]) assigned.push_back({i, *values_[i]});
+        if (values_[i]) assigned.push_back({i, values_[i]->value});
     }
     return assigned;
+}
+
+RowEdit::Changes RowEdit::changes() const {
+    Changes changes;
+    for (std::size_t i = 0; i < values_.size(); ++i) {
+        if (!values_[i] || sameValue(values_[i]->value, values_[i]->read)) continue;
+        changes.values.push_back({i, values_[i]->value});
+        changes.read.push_back({i, values_[i]->read});
+    }
+    return changes;
 }
 
 namespace {

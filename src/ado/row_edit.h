@@ -7,22 +7,32 @@
 
 namespace hx::ado {
 
-/// The values that wait for Recordset::update.
+/// The values that wait for Recordset::update, each with what its column held when it was read.
 class RowEdit {
   public:
     [[nodiscard]] EditMode mode() const noexcept { return mode_; }
     [[nodiscard]] bool pending() const noexcept { return mode_ != adEditNone; }
     void begin(EditMode mode, std::size_t columns);
     void end() noexcept;
-    void set(std::size_t column, automation::Variant value) { values_[column] = std::move(value); }
+    /// Of a column that is assigned again the first `read` counts. On a new row nothing was read.
+    void set(std::size_t column, automation::Variant value, automation::Variant read = {});
     /// Null when the column has not been assigned.
     [[nodiscard]] const automation::Variant* value(std::size_t column) const noexcept;
     /// The assigned columns only.
     [[nodiscard]] std::vector<ColumnValue> assigned() const;
 
+    struct Changes {
+        std::vector<ColumnValue> values, read;
+    };
+    /// The assigned columns whose value is another one than was read.
+    [[nodiscard]] Changes changes() const;
+
   private:
+    struct Value {
+        automation::Variant value, read;
+    };
     EditMode mode_ = adEditNone;
-    std::vector<std::optional<automation::Variant>> values_;
+    std::vector<std::optional<Value>> values_;
 };
 
 /// The value in the kind that the column stores. Throws dbErrCannotConvert when it does not fit, adErrIllegalOperation

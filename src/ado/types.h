@@ -38,8 +38,11 @@ inline constexpr std::int32_t adErrObjectOpen = hresult(0x800A0E79);
 inline constexpr std::int32_t adErrInvalidConnection = hresult(0x800A0E7D);
 
 // Providers' errors.
-inline constexpr std::int32_t dbErrDuplicate = hresult(0x80040E21);      ///< a value that must be unique exists already
-inline constexpr std::int32_t dbErrDeletedRow = hresult(0x80040E23);     ///< the row was deleted by somebody else
+inline constexpr std::int32_t dbErrDuplicate = hresult(0x80040E21);   ///< a value that must be unique exists already
+inline constexpr std::int32_t dbErrDeletedRow = hresult(0x80040E23);  ///< the row was deleted by somebody else
+/// OLE DB's DB_E_CONCURRENCYVIOLATION: the row does not hold any more what was read of it, so that an update under
+/// optimistic locking would overwrite what another has stored. ADO passes it on as -2147217864.
+inline constexpr std::int32_t dbErrRowChanged = hresult(0x80040E38);
 inline constexpr std::int32_t dbErrBadCommand = hresult(0x80040E14);     ///< the command text has an error
 inline constexpr std::int32_t dbErrNoTable = hresult(0x80040E37);        ///< no such table
 inline constexpr std::int32_t dbErrCannotConvert = hresult(0x80040E07);  ///< the value does not fit the column's type

@@ -101,7 +101,7 @@ const Transfer* transferOf(std::string_view name) {
 
 bool EditRecipe(ado::Recordset& recipes, RecipeWindow& window) {
     const auto dialog = std::make_shared<FRecipe>(window.services(), window.texts(), window.help());
-    if (!ReadRecipeToDialog(recipes, *dialog, window.services().numberFormat)) {
+    if (!readAgain(recipes) || !ReadRecipeToDialog(recipes, *dialog, window.services().numberFormat)) {
         window.tell(notRead);
         return false;
     }

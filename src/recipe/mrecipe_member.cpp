@@ -77,7 +77,7 @@ bool AddSubRecipeMember(RecipeWindow& window) {
 
 bool EditSubRecipeMember(ado::Recordset& members, RecipeWindow& window) {
     const auto dialog = std::make_shared<FSubRecipe>(window.services(), window.texts(), window.help());
-    if (!ReadMemberToDialog(members, *dialog, window)) {
+    if (!readAgain(members) || !ReadMemberToDialog(members, *dialog, window)) {
         window.tell(window.texts().GetResource(text::notRead));
         return false;
     }

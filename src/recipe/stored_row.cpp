@@ -4,14 +4,28 @@ namespace hx::recipe {
 
 using automation::Error;
 
-bool forEachField(ado::Recordset& recordset, const std::function<void(ado::Field&)>& use) noexcept {
+namespace {
+
+bool succeeds(const auto& action) noexcept {
     try {
-        const std::size_t count = recordset.fieldCount();
-        for (std::size_t i = 0; i < count; ++i) use(recordset.field(i));
+        action();
         return true;
     } catch (const std::exception&) {
         return false;
     }
+}
+
+}  // namespace
+
+bool readAgain(ado::Recordset& recordset) noexcept {
+    return succeeds([&] { recordset.resync(ado::adAffectCurrent); });
+}
+
+bool forEachField(ado::Recordset& recordset, const std::function<void(ado::Field&)>& use) noexcept {
+    return succeeds([&] {
+        const std::size_t count = recordset.fieldCount();
+        for (std::size_t i = 0; i < count; ++i) use(recordset.field(i));
+    });
 }
 
 void showOver(RecipeWindow& window, dialogs::Dialog& dialog) {

@@ -8,6 +8,9 @@
 /// What the transfers between a row and its dialog have in common.
 namespace hx::recipe {
 
+/// Reads the current row again: another may have changed it since. False after any error.
+[[nodiscard]] bool readAgain(ado::Recordset& recordset) noexcept;
+
 /// Calls `use` with each field of the current row, in the order of the recordset. False after any error.
 [[nodiscard]] bool forEachField(ado::Recordset& recordset, const std::function<void(ado::Field&)>& use) noexcept;
 

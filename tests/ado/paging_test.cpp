@@ -61,7 +61,7 @@ class CountedRowset : public Rowset {
         }
     }
     Key insert(std::span<const ColumnValue>) override { return ++lastKey_; }
-    void update(Key, std::span<const ColumnValue>) override {}
+    void update(Key, std::span<const ColumnValue>, std::span<const ColumnValue>) override {}
     void remove(Key) override {}
 
   private:

@@ -49,9 +49,9 @@ class FaultyRowset : public ado::Rowset {
         plan_.pass(Kind::insert);
         return inner_->insert(values);
     }
-    void update(Key key, std::span<const ado::ColumnValue> values) override {
+    void update(Key key, std::span<const ado::ColumnValue> values, std::span<const ado::ColumnValue> read) override {
         plan_.pass(Kind::update);
-        inner_->update(key, values);
+        inner_->update(key, values, read);
     }
     void remove(Key key) override {
         plan_.pass(Kind::remove);

@@ -1,5 +1,6 @@
 #include "support/memory_database.h"
 
+#include "ado/errors.h"
 #include "automation/convert.h"
 #include "automation/text.h"
 
@@ -32,8 +33,12 @@ ado::Key MemoryTable::insert(std::span<const ado::ColumnValue> values) {
     return key;
 }
 
-void MemoryTable::update(ado::Key key, std::span<const ado::ColumnValue> values) {
+void MemoryTable::update(ado::Key key, std::span<const ado::ColumnValue> values,
+                         std::span<const ado::ColumnValue> read) {
     Row& stored = require(key);
+    for (const ado::ColumnValue& value : read) {
+        if (!ado::sameValue(stored[value.column], value.value)) ado::throwRowChanged(columns_[value.column].name);
+    }
     Row changed = stored;
     for (const ado::ColumnValue& value : values) changed[value.column] = value.value;
     requireUnique(key, changed);

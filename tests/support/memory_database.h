@@ -33,7 +33,7 @@ class MemoryTable {
     [[nodiscard]] const Row* row(ado::Key key) const;
 
     ado::Key insert(std::span<const ado::ColumnValue> values);
-    void update(ado::Key key, std::span<const ado::ColumnValue> values);
+    void update(ado::Key key, std::span<const ado::ColumnValue> values, std::span<const ado::ColumnValue> read = {});
     void remove(ado::Key key);
 
   private:

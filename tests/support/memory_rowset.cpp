@@ -96,7 +96,9 @@ std::vector<ColumnValue> MemoryRowset::inTable(std::span<const ColumnValue> valu
 }
 
 Key MemoryRowset::insert(std::span<const ColumnValue> values) { return table().insert(inTable(values)); }
-void MemoryRowset::update(Key key, std::span<const ColumnValue> values) { table().update(key, inTable(values)); }
+void MemoryRowset::update(Key key, std::span<const ColumnValue> values, std::span<const ColumnValue> read) {
+    table().update(key, inTable(values), inTable(read));
+}
 void MemoryRowset::remove(Key key) { table().remove(key); }
 
 }  // namespace hx::support

@@ -18,7 +18,8 @@ class MemoryRowset : public ado::Rowset {
     [[nodiscard]] ado::KeySet keys(const ado::Criterion* criterion) override;
     void read(std::span<const ado::Key> keys, ado::ColumnMask mask, ado::RowSink& sink) override;
     ado::Key insert(std::span<const ado::ColumnValue> values) override;
-    void update(ado::Key key, std::span<const ado::ColumnValue> values) override;
+    void update(ado::Key key, std::span<const ado::ColumnValue> values,
+                std::span<const ado::ColumnValue> read) override;
     void remove(ado::Key key) override;
 
   private:

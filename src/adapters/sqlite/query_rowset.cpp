@@ -76,7 +76,7 @@ void QueryRowset::read(std::span<const Key> keys, ado::ColumnMask, ado::RowSink&
 }
 
 Key QueryRowset::insert(std::span<const ado::ColumnValue>) { refuse(); }
-void QueryRowset::update(Key, std::span<const ado::ColumnValue>) { refuse(); }
+void QueryRowset::update(Key, std::span<const ado::ColumnValue>, std::span<const ado::ColumnValue>) { refuse(); }
 void QueryRowset::remove(Key) { refuse(); }
 
 }  // namespace hx::sqlite

@@ -140,8 +140,8 @@ void TableRowset::insertAll(std::span<const std::size_t> columns, ado::RowSource
     writes_->insertAll(table_, columns_, columns, rows);
 }
 
-void TableRowset::update(Key key, std::span<const ColumnValue> values) {
-    writes_->update(table_, columns_, key, values);
+void TableRowset::update(Key key, std::span<const ColumnValue> values, std::span<const ColumnValue> read) {
+    writes_->update(table_, columns_, key, values, read);
 }
 
 void TableRowset::remove(Key key) { writes_->remove(table_, key); }

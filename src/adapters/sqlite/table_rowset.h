@@ -19,7 +19,8 @@ class TableRowset : public ado::Rowset {
     void read(std::span<const ado::Key> keys, ado::ColumnMask mask, ado::RowSink& sink) override;
     ado::Key insert(std::span<const ado::ColumnValue> values) override;
     void insertAll(std::span<const std::size_t> columns, ado::RowSource& rows) override;
-    void update(ado::Key key, std::span<const ado::ColumnValue> values) override;
+    void update(ado::Key key, std::span<const ado::ColumnValue> values,
+                std::span<const ado::ColumnValue> read) override;
     void remove(ado::Key key) override;
 
   private:

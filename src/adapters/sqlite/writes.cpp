@@ -1,5 +1,9 @@
 #include "adapters/sqlite/writes.h"
 
+#include <optional>
+
+#include "adapters/sqlite/transaction.h"
+#include "ado/errors.h"
 #include "automation/convert.h"
 
 namespace hx::sqlite {
@@ -61,6 +65,11 @@ std::string updateQuery(const TableInfo& table, std::span<const ado::Column> col
     return "UPDATE " + quotedName(table.name) + " SET " + assignments + " WHERE " + quotedName(table.key) + " = ?";
 }
 
+[[noreturn]] void throwDeleted(const TableInfo& table, Key key) {
+    throw Error(ado::dbErrDeletedRow,
+                "Row " + std::to_string(key) + " of table \"" + table.name + "\" has been deleted.");
+}
+
 }  // namespace
 
 Key Writes::insert(const TableInfo& table, std::span<const ado::Column> columns, std::span<const ColumnValue> values) {
@@ -110,16 +119,39 @@ void Writes::insertTogether(const TableInfo& table, std::span<const ado::Column>
     for (std::size_t row = 0; row < rows; ++row) (void)insert(table, columns, one(row));
 }
 
+// What was read is compared and replaced in one transaction.
 void Writes::update(const TableInfo& table, std::span<const ado::Column> columns, Key key,
-                    std::span<const ColumnValue> values) {
+                    std::span<const ColumnValue> values, std::span<const ColumnValue> read) {
     requireTransaction();
     if (values.empty()) return;
-    Statement& statement = database_.prepared(updateQuery(table, columns, values));
+    std::optional<Transaction> own;
+    if (!database_.inTransaction()) own.emplace(database_);
+    requireRead(table, columns, key, read);
+    {
+        Statement& statement = database_.prepared(updateQuery(table, columns, values));
+        const ResetGuard guard(statement);
+        bindAll(statement, values);
+        statement.bind(static_cast<int>(values.size()) + 1, key);
+        namingDuplicates(table, columns, values, [&] { statement.step(); });
+    }
+    if (own) own->commit();
+}
+
+// By the values as they are read, not in SQL: another program may have stored them in another type.
+void Writes::requireRead(const TableInfo& table, std::span<const ado::Column> columns, Key key,
+                         std::span<const ColumnValue> read) {
+    std::string names;
+    for (const ColumnValue& value : read) names += quotedName(columns[value.column].name) + ", ";
+    Statement& statement = database_.prepared("SELECT " + names + quotedName(table.key) + " FROM " +
+                                              quotedName(table.name) + " WHERE " + quotedName(table.key) + " = ?");
     const ResetGuard guard(statement);
-    bindAll(statement, values);
-    statement.bind(static_cast<int>(values.size()) + 1, key);
-    namingDuplicates(table, columns, values, [&] { statement.step(); });
-    requireChanged(table, key);
+    statement.bind(1, key);
+    if (!statement.step()) throwDeleted(table, key);
+    int number = 0;
+    for (const ColumnValue& value : read) {
+        const ado::Column& column = columns[value.column];
+        if (!ado::sameValue(statement.value(number++, column.type), value.value)) ado::throwRowChanged(column.name);
+    }
 }
 
 void Writes::remove(const TableInfo& table, Key key) {
@@ -129,7 +161,7 @@ void Writes::remove(const TableInfo& table, Key key) {
     const ResetGuard guard(statement);
     statement.bind(1, key);
     statement.step();
-    requireChanged(table, key);
+    if (database_.changedRows() == 0) throwDeleted(table, key);
 }
 
 void Writes::execute(const std::string& sql) {
@@ -166,12 +198,6 @@ void Writes::requireTransaction() const {
     if (!inTransaction_ || database_.inTransaction()) return;
     throw Error(ado::dbErrUnspecified,
                 "The changes to '" + database_.path() + "' were taken back after an error; nothing of them is stored.");
-}
-
-void Writes::requireChanged(const TableInfo& table, Key key) const {
-    if (database_.changedRows() != 0) return;
-    throw Error(ado::dbErrDeletedRow,
-                "Row " + std::to_string(key) + " of table \"" + table.name + "\" has been deleted.");
 }
 
 }  // namespace hx::sqlite

@@ -21,7 +21,7 @@ class Writes {
     void insertAll(const TableInfo& table, std::span<const ado::Column> columns, std::span<const std::size_t> assigned,
                    ado::RowSource& rows);
     void update(const TableInfo& table, std::span<const ado::Column> columns, ado::Key key,
-                std::span<const ado::ColumnValue> values);
+                std::span<const ado::ColumnValue> values, std::span<const ado::ColumnValue> read);
     void remove(const TableInfo& table, ado::Key key);
     void execute(const std::string& sql);
 
@@ -33,7 +33,8 @@ class Writes {
     void insertTogether(const TableInfo& table, std::span<const ado::Column> columns,
                         std::span<const ado::ColumnValue> values, std::size_t rows);
     void requireTransaction() const;
-    void requireChanged(const TableInfo& table, ado::Key key) const;
+    void requireRead(const TableInfo& table, std::span<const ado::Column> columns, ado::Key key,
+                     std::span<const ado::ColumnValue> read);
 
     Database database_;
     bool inTransaction_ = false;
