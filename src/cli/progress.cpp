@@ -13,8 +13,8 @@ constexpr int whole = 100;
 
 }  // namespace
 
-Progress::Progress(const Output& output, std::int64_t total)
-    : output_(output), total_(std::max<std::int64_t>(total, 1)) {}
+Progress::Progress(const Output& output, std::int64_t total, std::function<Clock::time_point()> now)
+    : output_(output), total_(std::max<std::int64_t>(total, 1)), now_(std::move(now)) {}
 
 Progress::~Progress() {
     if (drawn_ >= 0) output_.problems << "\r\x1B[K" << std::flush;
@@ -23,7 +23,7 @@ Progress::~Progress() {
 void Progress::reach(std::int64_t done) {
     if (!output_.problemsAreShown || done < next_) return;
     next_ = done + total_ / whole;
-    if (Clock::now() - start_ < patience) return;
+    if (now_() - start_ < patience) return;
     // A file may grow while it is read.
     const int percent = static_cast<int>(std::min(done, total_) * whole / total_);
     if (percent != drawn_) draw(percent);

@@ -1,5 +1,4 @@
 #include <set>
-#include <thread>
 
 #include "cli/generated_names.h"
 #include "cli/progress.h"
@@ -70,11 +69,13 @@ TEST_F(Generate, AProgressBarAppearsOnLongWorkOnATerminalOnly) {
         std::ostringstream results;
         std::ostringstream problems;
         const Output output{results, problems, terminal};
+        Progress::Clock::time_point now;
         {
-            Progress progress(output, 200);
+            Progress progress(output, 200, [&now] { return now; });
+            now += std::chrono::milliseconds(499);
             progress.reach(50);
             EXPECT_EQ(problems.str(), "");
-            std::this_thread::sleep_for(std::chrono::milliseconds(550));
+            now += std::chrono::milliseconds(1);
             progress.reach(100);
         }
         const std::string bar = "\r[####################....................] 50 %";
@@ -86,8 +87,9 @@ TEST_F(Generate, AProgressBarIsFullWhenThereIsMoreThanExpected) {
     std::ostringstream results;
     std::ostringstream problems;
     const Output output{results, problems, true};
-    Progress progress(output, 200);
-    std::this_thread::sleep_for(std::chrono::milliseconds(550));
+    Progress::Clock::time_point now;
+    Progress progress(output, 200, [&now] { return now; });
+    now += std::chrono::seconds(1);
     progress.reach(300);
     EXPECT_EQ(problems.str(), "\r[########################################] 100 %");
 }

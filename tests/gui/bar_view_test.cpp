@@ -106,12 +106,10 @@ TEST_F(BarViewTest, APopUpMenuEndsWithTheCommandsOfTheMainBand) {
     std::vector<std::string> clicks;
     form->abr->toolClickEvent.connect([&](forms::Tool& clicked) { clicks.push_back(clicked.name()); });
     std::vector<std::string> shown;
-    QTimer::singleShot(50, [&] {
-        auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
-        ASSERT_NE(menu, nullptr);
-        shown = texts(*menu);
-        QTest::keyClick(menu, Qt::Key_Up);
-        QTest::keyClick(menu, Qt::Key_Return);
+    const NextMenu next([&](QMenu& menu) {
+        shown = texts(menu);
+        QTest::keyClick(&menu, Qt::Key_Up);
+        QTest::keyClick(&menu, Qt::Key_Return);
     });
     screen.popUp(*form->abr, form->abr->band(automation::Variant("edit")));
     EXPECT_EQ(shown.front(), "Rezept");

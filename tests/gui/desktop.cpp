@@ -13,7 +13,7 @@ namespace hx::gui {
 
 namespace {
 
-constexpr int patience = 5000;
+constexpr int patience = 60'000;  // milliseconds: the machine may be busy
 
 /// Gives the tests a QApplication, on no display when the environment names none.
 class Application : public testing::Environment {
@@ -46,6 +46,26 @@ void handleEvents() {
         QCoreApplication::processEvents();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
+}
+
+Once::Once(std::function<bool()> condition, std::function<void()> action)
+    : condition_(std::move(condition)), action_(std::move(action)) {
+    QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] { look(); });
+    timer_.start(5);
+}
+
+Once::~Once() { EXPECT_TRUE(done_) << "what was waited for did not come"; }
+
+void Once::look() {
+    if (!condition_()) return;
+    timer_.stop();
+    done_ = true;
+    action_();
+}
+
+QMenu* NextMenu::menu() {
+    auto* popup = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    return popup != nullptr && popup->isVisible() ? popup : nullptr;
 }
 
 void type(QWidget& widget, const QString& text) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QApplication>
+#include <QMenu>
 #include <QTemporaryDir>
 #include <QTimer>
 #include <QWidget>
@@ -14,10 +16,60 @@
 
 namespace hx::gui {
 
-/// Handles what waits in the event loop, until `condition` holds. False when it does not within five seconds.
+/// Handles what waits in the event loop, until `condition` holds. False when it does not within a minute.
 bool waitUntil(const std::function<bool()>& condition);
 /// Handles what waits in the event loop, deletions too.
 void handleEvents();
+
+/// Acts once, as soon as `condition` holds while events are handled. A test in which it never does fails.
+class Once {
+  public:
+    Once(std::function<bool()> condition, std::function<void()> action);
+    ~Once();
+    Once(const Once&) = delete;
+    Once& operator=(const Once&) = delete;
+
+  private:
+    void look();
+    std::function<bool()> condition_;
+    std::function<void()> action_;
+    QTimer timer_;
+    bool done_ = false;
+};
+
+/// Acts on the modal window that comes next, once it is the active one; a test failure when none comes or it is of
+/// another class.
+template <class W>
+class NextModal {
+  public:
+    explicit NextModal(std::function<void(W&)> action) : action_(std::move(action)) {}
+
+  private:
+    [[nodiscard]] bool came() const {
+        const QWidget* window = QApplication::activeModalWidget();
+        return window != nullptr && window != before_ && window->isVisible() && window->isActiveWindow();
+    }
+    void act() const {
+        QWidget* window = QApplication::activeModalWidget();
+        if (auto* wanted = dynamic_cast<W*>(window)) return action_(*wanted);
+        ADD_FAILURE() << "another window came than the expected one";
+        window->close();
+    }
+    const QWidget* before_ = QApplication::activeModalWidget();
+    std::function<void(W&)> action_;
+    Once once_{[this] { return came(); }, [this] { act(); }};
+};
+
+/// Acts on the menu that pops up next.
+class NextMenu {
+  public:
+    explicit NextMenu(std::function<void(QMenu&)> action) : action_(std::move(action)) {}
+
+  private:
+    [[nodiscard]] static QMenu* menu();
+    std::function<void(QMenu&)> action_;
+    Once once_{[] { return menu() != nullptr; }, [this] { action_(*menu()); }};
+};
 
 /// Types a text, of any letters.
 void type(QWidget& widget, const QString& text);

@@ -242,10 +242,11 @@ TEST_F(DialogControlsTest, SendsKeysAsIfTyped) {
 TEST_F(DialogControlsTest, AModalFormReturnsWhenItIsHidden) {
     form->hide();
     bool shown = false;
-    QTimer::singleShot(50, [&] {
-        shown = windowOf(*form).isVisible() && windowOf(*form).isModal();
-        form->hide();
-    });
+    const Once next([&] { return windowOf(*form).isVisible(); },
+                    [&] {
+                        shown = windowOf(*form).isModal();
+                        form->hide();
+                    });
     form->showModal(0);
     EXPECT_TRUE(shown);
     EXPECT_FALSE(windowOf(*form).isVisible());
@@ -253,7 +254,7 @@ TEST_F(DialogControlsTest, AModalFormReturnsWhenItIsHidden) {
 
 TEST_F(DialogControlsTest, AModalFormReturnsWhenItEnds) {
     form->hide();
-    QTimer::singleShot(50, [&] { windowOf(*form).close(); });
+    const Once next([&] { return windowOf(*form).isVisible(); }, [&] { windowOf(*form).close(); });
     form->showModal(0);
     EXPECT_FALSE(form->loaded());
 }

@@ -287,7 +287,7 @@ TEST_F(HelpViewerTest, HelpThatIsAskedForInAModalDialogCanBeUsed) {
     QWidget owner;
     owner.show();
     QDialog dialog(&owner);
-    QTimer::singleShot(50, &dialog, [&] {
+    const NextModal<QDialog> next([&](QDialog&) {
         show(100030);
         EXPECT_EQ(window().windowHandle()->transientParent(), dialog.windowHandle());
         clickContents(window(), "Tasten");
@@ -304,10 +304,10 @@ TEST_F(HelpViewerTest, HelpThatIsAskedForInAModalDialogCanBeUsed) {
 TEST_F(HelpViewerTest, HelpThatIsOpenStaysUsableWhenModalDialogsCome) {
     show(100042);
     QDialog first, second;
-    QTimer::singleShot(100, &first, [&] {
+    const NextModal<QDialog> next([&](QDialog&) {
         clickContents(window(), "Tasten");
         EXPECT_EQ(shown(), "/keys.htm");
-        QTimer::singleShot(100, &second, [&] {
+        const NextModal<QDialog> inner([&](QDialog&) {
             clickContents(window(), "Report");
             EXPECT_EQ(shown(), "/report.htm");
             second.accept();

@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QTest>
 #include <QToolBar>
+#include <optional>
 
 #include "adapters/qt/text.h"
 
@@ -12,7 +13,7 @@ namespace hx::gui {
 
 namespace {
 
-constexpr int patience = 8000;  // milliseconds
+constexpr int patience = 60'000;  // milliseconds: the machine may be busy
 
 }  // namespace
 
@@ -39,11 +40,13 @@ QAction& StudioMacroTest::entry(const QString& path) {
     throw std::runtime_error("no entry " + qt::fromQt(path));
 }
 
-std::string StudioMacroTest::run(const std::string& text, const std::function<void()>& meanwhile) {
+std::string StudioMacroTest::run(const std::string& text, const std::function<void()>& meanwhile,
+                                 const std::function<bool()>& when) {
     writeMacro("test.lua", text);
     if (!find<QDockWidget>(window(), "macroDock").isHidden()) press("actionClearOutput");
     entry("test").trigger();
-    if (meanwhile) QTimer::singleShot(50, &window(), meanwhile);
+    std::optional<Once> once;
+    if (meanwhile) once.emplace([&] { return running() && when(); }, meanwhile);
     QTimer guard;  // a macro that waits for ever would keep the test from ending
     guard.callOnTimeout([this] {
         ADD_FAILURE() << "the macro does not end by itself";

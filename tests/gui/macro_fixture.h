@@ -21,8 +21,11 @@ class StudioMacroTest : public StudioTest {
     [[nodiscard]] QAction& entry(const QString& path);
     [[nodiscard]] QAction& action(const char* name) { return find<QAction>(window(), name); }
     [[nodiscard]] bool running() { return action("actionStopMacro").isEnabled(); }
-    /// Writes and runs a macro by the menu; `meanwhile` is done once it runs. What it has printed.
-    std::string run(const std::string& text, const std::function<void()>& meanwhile = {});
+    /// Writes and runs a macro by the menu; `meanwhile` is done while it runs, as soon as `when` holds. What it has
+    /// printed.
+    std::string run(
+        const std::string& text, const std::function<void()>& meanwhile = {},
+        const std::function<bool()>& when = [] { return true; });
     /// Runs it as `run`, and stops it by the button after a while; fails when it does not end then.
     std::string runAndStop(const std::string& text);
     /// Presses the button in the output.

@@ -12,6 +12,13 @@ namespace {
 using testing::HasSubstr;
 using testing::StartsWith;
 
+/// The menu or dialog that waits for the user, once it is shown.
+QWidget* shownWindow() {
+    QWidget* shown = QApplication::activePopupWidget();
+    if (shown == nullptr) shown = QApplication::activeModalWidget();
+    return shown != nullptr && shown->isVisible() ? shown : nullptr;
+}
+
 TEST_F(StudioMacroTest, StopsEndlessMacrosByTheButton) {
     start();
     open(makeProject());
@@ -94,12 +101,9 @@ TEST_F(StudioMacroTest, ClosesTheDialogThatWaitsForTheUserWhenItIsStopped) {
          {"studio.Click('RCPE0') studio.Click('RCPR1') while true do editor.abr.Click('mnuRecipeDelete') end",
           "studio.Click('RCPE0') studio.Click('RCPR1') while true do editor.abr.Click('mnuRecipeEdit') end",
           "while true do studio.MouseUp('RCPE0', 2) end"}) {
-        run(text, [] {
-            QWidget* shown = QApplication::activePopupWidget();
-            if (shown == nullptr) shown = QApplication::activeModalWidget();
-            ASSERT_NE(shown, nullptr);
-            QTest::keyClick(shown, Qt::Key_F5, Qt::ShiftModifier);
-        });
+        run(
+            text, [] { QTest::keyClick(shownWindow(), Qt::Key_F5, Qt::ShiftModifier); },
+            [] { return shownWindow() != nullptr; });
         EXPECT_THAT(status(), StartsWith("test.lua: angehalten")) << text;
         EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
         EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
@@ -111,17 +115,14 @@ TEST_F(StudioMacroTest, ClosesDialogsInDialogsWhenItIsStopped) {
     start();
     open(makeProject());
     // The user is in the choice of a variable that a dialog has opened.
-    run("studio.Click('RCPE0') studio.Click('RCPR1') editor.abr.Click('mnuRecipeEdit') print('on') while true do end",
+    run(
+        "studio.Click('RCPE0') studio.Click('RCPR1') editor.abr.Click('mnuRecipeEdit') print('on') while true do end",
         [] {
-            QWidget* outer = QApplication::activeModalWidget();
-            ASSERT_NE(outer, nullptr);
-            QTimer::singleShot(50, outer, [outer] {
-                QWidget* inner = QApplication::activeModalWidget();
-                EXPECT_NE(inner, outer);
-                QTest::keyClick(inner, Qt::Key_F5, Qt::ShiftModifier);
-            });
-            QTest::mouseClick(&find<QWidget>(*outer, "cmdChooseItem(0)"), Qt::LeftButton);
-        });
+            const NextModal<QWidget> inner(
+                [](QWidget& choice) { QTest::keyClick(&choice, Qt::Key_F5, Qt::ShiftModifier); });
+            QTest::mouseClick(&find<QWidget>(*shownWindow(), "cmdChooseItem(0)"), Qt::LeftButton);
+        },
+        [] { return shownWindow() != nullptr; });
     EXPECT_THAT(status(), StartsWith("test.lua: angehalten"));
     EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
 }

@@ -31,33 +31,11 @@ QByteArray contentOf(const QString& path) {
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("no file");
 }
 
-/// Runs `action` on the modal window that comes next, once; a test failure when none comes or it is of another class.
-template <class W>
-class NextModal {
-  public:
-    explicit NextModal(std::function<void(W&)> action) : action_(std::move(action)) {
-        QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] { look(); });
-        timer_.start(10);
-    }
-    ~NextModal() { EXPECT_TRUE(came_) << "the expected window did not come"; }
-    NextModal(const NextModal&) = delete;
-    NextModal& operator=(const NextModal&) = delete;
-
-  private:
-    void look() {
-        QWidget* window = QApplication::activeModalWidget();
-        if (window == nullptr || window == before_ || !window->isActiveWindow()) return;
-        timer_.stop();
-        auto* wanted = dynamic_cast<W*>(window);
-        came_ = wanted != nullptr;
-        if (came_) action_(*wanted);
-        else window->close();
-    }
-    const QWidget* before_ = QApplication::activeModalWidget();
-    std::function<void(W&)> action_;
-    QTimer timer_;
-    bool came_ = false;
-};
+/// Whether a file is chosen again, after a message.
+bool choosesAfter(const BoxAnswers& answers) {
+    const auto* choice = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+    return !answers.shown().empty() && choice != nullptr && choice->isVisible() && choice->isActiveWindow();
+}
 
 /// The editor with the project of StudioTest, and the preview that Options, Report opens.
 class ReportPreview : public StudioTest {
@@ -227,16 +205,13 @@ TEST_F(ReportPreview, AFileIsReplacedOnlyWhenTheUserSaysSo) {
     inPreview([&](QWidget& preview) {
         {
             const BoxAnswers answers({"Nein"});
-            const NextModal<QFileDialog> next([&](QFileDialog& dialog) {
-                // What comes after "no" is the choice again.
-                QTimer::singleShot(300, &preview, [] {
-                    auto* again = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-                    ASSERT_NE(again, nullptr);
-                    EXPECT_EQ(find<QLineEdit>(*again, "fileNameEdit").text(), "alt.html");
-                    QTest::keyClick(again, Qt::Key_Escape);
-                });
-                choosing(path)(dialog);
-            });
+            const Once again([&] { return choosesAfter(answers); },
+                             [] {
+                                 QWidget& choice = *QApplication::activeModalWidget();
+                                 EXPECT_EQ(find<QLineEdit>(choice, "fileNameEdit").text(), "alt.html");
+                                 QTest::keyClick(&choice, Qt::Key_Escape);
+                             });
+            const NextModal<QFileDialog> next(choosing(path));
             find<QAction>(preview, "reportHtml").trigger();
             ASSERT_EQ(answers.shown().size(), 1u);
             EXPECT_EQ(answers.shown()[0].text,
@@ -255,11 +230,9 @@ TEST_F(ReportPreview, TheProjectFileIsNeverReplaced) {
     const QByteArray before = contentOf(project);
     inPreview([this](QWidget& preview) {
         const BoxAnswers answers({"OK"});
-        const NextModal<QFileDialog> next([&](QFileDialog& dialog) {
-            QTimer::singleShot(300, &preview,
-                               [] { QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape); });
-            choosing(project)(dialog);
-        });
+        const Once again([&] { return choosesAfter(answers); },
+                         [] { QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape); });
+        const NextModal<QFileDialog> next(choosing(project));
         find<QAction>(preview, "reportPdf").trigger();
         ASSERT_EQ(answers.shown().size(), 1u);
         EXPECT_TRUE(answers.shown()[0].text.find("Projektdatei") != std::string::npos) << answers.shown()[0].text;

@@ -18,14 +18,12 @@ class ScreenTest : public Desktop {
   protected:
     /// Lets the box's buttons be read, then presses a key.
     Answer ask(std::int32_t style, Qt::Key key, std::vector<std::string>* buttons = nullptr) {
-        QTimer::singleShot(50, [key, buttons] {
-            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-            ASSERT_NE(box, nullptr);
-            for (const QAbstractButton* button : box->buttons()) {
-                const bool isDefault = button == box->defaultButton();
+        const NextModal<QMessageBox> next([key, buttons](QMessageBox& box) {
+            for (const QAbstractButton* button : box.buttons()) {
+                const bool isDefault = button == box.defaultButton();
                 if (buttons != nullptr) buttons->push_back(button->text().toStdString() + (isDefault ? "*" : ""));
             }
-            QTest::keyClick(box, key);
+            QTest::keyClick(&box, key);
         });
         return screen.messageBox("Text", style, "Titel");
     }
@@ -69,19 +67,15 @@ TEST_F(ScreenTest, ThePointerIsAnHourglassUntilItIsTheStandardAgain) {
 
 TEST_F(ScreenTest, AFontIsChosenOrLeftAsItWas) {
     forms::Font::Values font{.name = "Arial", .size = 8.25};
-    QTimer::singleShot(50, [] {
-        auto* dialog = qobject_cast<QFontDialog*>(QApplication::activeModalWidget());
-        ASSERT_NE(dialog, nullptr);
-        dialog->setCurrentFont(QFont("DejaVu Sans", 12, QFont::Bold));
-        dialog->reject();
+    const NextModal<QFontDialog> cancelled([](QFontDialog& dialog) {
+        dialog.setCurrentFont(QFont("DejaVu Sans", 12, QFont::Bold));
+        dialog.reject();
     });
     EXPECT_FALSE(screen.chooseFont(font));
     EXPECT_EQ(font, (forms::Font::Values{.name = "Arial", .size = 8.25}));
-    QTimer::singleShot(50, [] {
-        auto* dialog = qobject_cast<QFontDialog*>(QApplication::activeModalWidget());
-        ASSERT_NE(dialog, nullptr);
-        dialog->setCurrentFont(QFont("DejaVu Sans", 12, QFont::Bold));
-        dialog->accept();
+    const NextModal<QFontDialog> accepted([](QFontDialog& dialog) {
+        dialog.setCurrentFont(QFont("DejaVu Sans", 12, QFont::Bold));
+        dialog.accept();
     });
     EXPECT_TRUE(screen.chooseFont(font));
     EXPECT_EQ(font.name, "DejaVu Sans");

@@ -40,11 +40,7 @@ class ServicesTest : public Desktop {
     }
     /// Runs a choice while `action` acts on its dialog.
     std::string choose(const std::string& current, const std::function<void(qt::ItemDialog&)>& action) {
-        QTimer::singleShot(50, [&action] {
-            auto* dialog = dynamic_cast<qt::ItemDialog*>(QApplication::activeModalWidget());
-            ASSERT_NE(dialog, nullptr);
-            action(*dialog);
-        });
+        const NextModal<qt::ItemDialog> next(action);
         return items.choose(0, current);
     }
     static std::pair<std::int32_t, std::string> errorOf(qt::ModuleComponents& components, const char* programId) {

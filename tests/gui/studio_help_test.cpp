@@ -48,19 +48,17 @@ TEST_F(StudioHelpTest, F1InTheRecipeDialogOpensItsTopicBesideIt) {
     click("Rezepte/Limonade");
     tree().setFocus();
     std::string title;
-    QTimer::singleShot(100, &window(), [&] {
-        QWidget* dialog = QApplication::activeModalWidget();
-        ASSERT_NE(dialog, nullptr);
-        EXPECT_EQ(dialog->objectName(), "FRecipe");
-        QTest::keyClick(dialog->focusWidget(), Qt::Key_F1);
+    const NextModal<QWidget> next([&](QWidget& dialog) {
+        EXPECT_EQ(dialog.objectName(), "FRecipe");
+        QTest::keyClick(dialog.focusWidget(), Qt::Key_F1);
         handleEvents();
         if (host().help().window() != nullptr) {
             title = qt::fromQt(host().help().window()->windowTitle());
             clickContents(*host().help().window(), "Tasten");
         }
-        dialog->activateWindow();
-        EXPECT_TRUE(waitUntil([dialog] { return dialog->isActiveWindow(); }));
-        QTest::keyClick(dialog, Qt::Key_Escape);
+        dialog.activateWindow();
+        EXPECT_TRUE(waitUntil([&dialog] { return dialog.isActiveWindow(); }));
+        QTest::keyClick(&dialog, Qt::Key_Escape);
     });
     QTest::keyClick(&tree(), Qt::Key_F9);
     handleEvents();

@@ -42,11 +42,9 @@ TEST_F(StudioTest, TheMenuOfANodeOfSubRecipesShowsTheEditorAlone) {
     open(makeProject());
     click("Rezepte");
     QStringList shown;
-    QTimer::singleShot(200, [&] {
-        auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
-        ASSERT_NE(menu, nullptr);
-        for (const QAction* action : menu->actions()) shown.append(action->text().section('\t', 0, 0));
-        menu->close();
+    const NextMenu next([&](QMenu& menu) {
+        for (const QAction* action : menu.actions()) shown.append(action->text().section('\t', 0, 0));
+        menu.close();
     });
     click("Rezepte/Limonade/Unterrezepte", Qt::RightButton);
     EXPECT_EQ(shown, (QStringList{"Editor anzeigen"}));

@@ -71,7 +71,6 @@ TEST_F(Stop, ReachesEveryCoroutine) {
              "end)()",
          }) {
         stopped(text);
-        EXPECT_LT(std::chrono::steady_clock::now() - begun, std::chrono::seconds(5)) << text;
     }
 }
 
