@@ -7,6 +7,7 @@
 #include "adapters/sqlite/provider.h"
 #include "ado/recordset.h"
 #include "cli/sample.h"
+#include "cli/unfinished_file.h"
 
 namespace hx::cli {
 
@@ -80,6 +81,7 @@ std::size_t memberCount(const Sample& sample) {
 void buildSample(const std::string& folder, const std::string& path, const Output& output) {
     const Sample sample = readSample(folder);
     sqlite::ProjectDraft draft(path);
+    const UnfinishedFile unfinished(draft.temporaryPath());
     draft.createTables();
     SampleWriter(draft.temporaryPath()).write(sample);
     draft.publish();

@@ -6,6 +6,7 @@
 #include "adapters/sqlite/project_file.h"
 #include "cli/generated_names.h"
 #include "cli/progress.h"
+#include "cli/unfinished_file.h"
 
 namespace hx::cli {
 
@@ -111,6 +112,7 @@ class Generator {
 
 void generate(const GeneratePlan& plan, const Output& output) {
     sqlite::ProjectDraft draft(plan.path);
+    const UnfinishedFile unfinished(draft.temporaryPath());
     draft.createTables(false);
     Generator(plan, draft.temporaryPath(), output).run();
     draft.createIndexes();

@@ -1,9 +1,11 @@
 #pragma once
 
-#include <filesystem>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
+
+#include "host/disk.h"
 
 namespace hx::host {
 
@@ -13,8 +15,12 @@ namespace hx::host {
 /// The whole file; nothing when it is missing. Throws automation::Error when it is there and cannot be read.
 [[nodiscard]] std::optional<std::string> readFile(const std::filesystem::path& path);
 
-/// Replaces the contents in one step: a reader, and a crash, sees the old or the new file, never a part. Links are
-/// followed and permissions kept. Throws automation::Error when it cannot be written; the old file is then untouched.
-void replaceFile(const std::filesystem::path& path, std::string_view bytes);
+/// Replaces the contents in one step, as FileReplacement does.
+void replaceFile(const std::filesystem::path& path, std::string_view bytes, const Disk& disk = systemDisk());
+
+/// Replaces the contents by what `change` makes of them; a missing file counts as empty. No other program changes the
+/// file meanwhile. What is the same afterwards is not written.
+using FileChange = std::function<std::string(std::string_view bytes)>;
+void changeFile(const std::filesystem::path& path, const FileChange& change, const Disk& disk = systemDisk());
 
 }  // namespace hx::host

@@ -62,7 +62,7 @@ TEST(AFullDisk, ShowsInTheMessageWhichFileIsConcerned) {
         replaceFile(folder.file("x"), "text");
         FAIL() << "written";
     } catch (const automation::Error& error) {
-        EXPECT_EQ(error.description(), "Cannot write \"" + folder.file("x") + "\": the disk took only a part of it");
+        EXPECT_EQ(error.description(), "The file '" + folder.file("x") + "' cannot be written: File too large.");
     }
 }
 

@@ -32,6 +32,14 @@ TEST(LayerRules, TheEditorsFoldersStandOnTheStandardLibraryAlone) {
                             "forms/grid.cpp:4: includes string.h: forms stands on the standard library alone"));
 }
 
+TEST(LayerRules, OnlyTheFilesOfTheOperatingSystemIncludeItsHeaders) {
+    EXPECT_THAT(wrongIncludes("host/posix_disk.cpp", "#include <fcntl.h>\n#include \"host/disk.h\"\n"), IsEmpty());
+    EXPECT_THAT(wrongIncludes("host/posix_disk.cpp", "#include \"editor/frmtabgrid.h\"\n"),
+                ElementsAre("host/posix_disk.cpp:1: includes editor/frmtabgrid.h: host may not include editor"));
+    EXPECT_THAT(wrongIncludes("host/file_lock.cpp", "#include <fcntl.h>\n"),
+                ElementsAre("host/file_lock.cpp:1: includes fcntl.h: host stands on the standard library alone"));
+}
+
 TEST(LayerRules, AnAdapterIncludesWhatIsInstalledAndTheContracts) {
     EXPECT_THAT(
         wrongIncludes("adapters/qt/grid_view.cpp",

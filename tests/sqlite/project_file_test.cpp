@@ -75,7 +75,7 @@ TEST_F(ProjectFile, DoesNotFollowALinkThatLeadsNowhere) {
 TEST_F(ProjectFile, NeedsAFolder) {
     const std::string path = folder_.file("no/such/folder.hxs");
     EXPECT_EQ(errorOf([&] { createProject(path); }).description(),
-              "The file '" + path + "' cannot be made: No such file or directory.");
+              "The file '" + path + "' cannot be written: No such file or directory.");
     EXPECT_EQ(filesInFolder(), "plant.hxs ");
 }
 

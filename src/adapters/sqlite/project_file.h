@@ -1,6 +1,9 @@
 #pragma once
 
+#include <optional>
 #include <string>
+
+#include "host/file_replacement.h"
 
 namespace hx::sqlite {
 
@@ -28,6 +31,7 @@ class ProjectDraft {
 
   private:
     std::string path_;
+    std::optional<host::FileReplacement> file_;
     std::string temporary_;
 };
 

@@ -1,0 +1,42 @@
+#include "host/file_lock.h"
+
+#include <thread>
+
+#include "host/file_place.h"
+
+namespace hx::host {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+constexpr auto pause = std::chrono::milliseconds(2);
+
+fs::file_time_type changeOf(const fs::path& file) {
+    std::error_code ignored;
+    return fs::last_write_time(file, ignored);
+}
+
+}  // namespace
+
+FileLock::FileLock(const fs::path& file, const Disk& disk, std::chrono::milliseconds patience) : disk_(disk) {
+    const fs::path target = behindLinks(file);
+    auto change = changeOf(target);
+    auto since = Clock::now();
+    std::optional<Disk::Handle> lock;
+    while (!(lock = disk_.tryLock(folderOf(target)))) {
+        if (const auto now = changeOf(target); now != change) {
+            change = now;
+            since = Clock::now();
+        }
+        if (Clock::now() - since >= patience)
+            failWith("cannot be written", file, "another program does not let go of it");
+        std::this_thread::sleep_for(pause);
+    }
+    lock_ = *lock;
+}
+
+FileLock::~FileLock() { disk_.close(lock_); }
+
+}  // namespace hx::host
