@@ -49,10 +49,17 @@ bool isUtf8(std::string_view text) {
 
 bool inOneLine(std::string_view text) { return text.find_first_of(std::string_view("\r\n\0", 3)) == text.npos; }
 
-void require(bool holds, std::string_view what, std::string_view text) {
+void require(bool holds, std::string_view what, std::string_view name) {
     if (holds) return;
     throw automation::Error(automation::errFail,
-                            std::string(what) + " cannot stand in an INI file: " + std::string(text));
+                            std::string(what) + " cannot stand in an INI file: " + std::string(name));
+}
+
+// Whether a line that begins so is read again as this key.
+bool isKey(std::string_view key) {
+    const std::string line = std::string(key) + "=";
+    const std::string_view name = withoutBlanks(key);
+    return inOneLine(key) && !name.empty() && name.front() != '[' && keyOf(line) == name;
 }
 
 }  // namespace
@@ -84,10 +91,9 @@ std::optional<std::string> IniDocument::text(std::string_view section, std::stri
 
 void IniDocument::setText(std::string_view section, std::string_view key, std::string_view text) {
     require(!utf16_, "A new text", "the file is UTF-16, not UTF-8 or a Windows code page");
-    require(inOneLine(section), "A section of several lines", section);
-    const bool keyFits = inOneLine(key) && key.find('=') == key.npos && !key.starts_with(';') && !key.starts_with('[');
-    require(keyFits && !withoutBlanks(key).empty(), "This key", key);
-    require(inOneLine(text), "A text of several lines", text);
+    require(inOneLine(section), "A section with a line break or a NUL", section);
+    require(isKey(key), "This key", key);
+    require(inOneLine(text), "A text with a line break or a NUL", key);
 
     std::string line = std::string(key) + "=" + std::string(text);
     const Place place = find(section, key);
@@ -99,6 +105,18 @@ void IniDocument::setText(std::string_view section, std::string_view key, std::s
         insert(lines_.size(), "[" + std::string(section) + "]");
         insert(lines_.size(), std::move(line));
     }
+}
+
+std::optional<automation::Error> IniDocument::setTexts(std::string_view section, std::span<const IniText> texts) {
+    std::optional<automation::Error> refused;
+    for (const auto& [key, text] : texts) {
+        try {
+            setText(section, key, text);
+        } catch (const automation::Error& error) {
+            if (!refused) refused = error;
+        }
+    }
+    return refused;
 }
 
 IniDocument::Place IniDocument::find(std::string_view section, std::string_view key) const {

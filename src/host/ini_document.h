@@ -2,9 +2,13 @@
 
 #include <cstddef>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include "automation/error.h"
+#include "host/system_services.h"
 
 namespace hx::host {
 
@@ -21,8 +25,11 @@ class IniDocument {
     /// UTF-8; a text that is not is taken as Windows-1252.
     [[nodiscard]] std::optional<std::string> text(std::string_view section, std::string_view key) const;
     /// Adds section and key as needed: a key behind the last one of its section, a section at the end. Throws errFail
-    /// for a section, key or text that cannot stand in one line, and for a file that is not made of bytes (UTF-16).
+    /// for a section, key or text that would not be read again as it is, and for a file that is not made of bytes
+    /// (UTF-16).
     void setText(std::string_view section, std::string_view key, std::string_view text);
+    /// All that can be set. The error of the first that cannot.
+    [[nodiscard]] std::optional<automation::Error> setTexts(std::string_view section, std::span<const IniText> texts);
 
     [[nodiscard]] std::string bytes() const;
     /// The bytes of a UTF-16 file: none of its texts are found.

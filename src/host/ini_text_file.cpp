@@ -2,16 +2,20 @@
 
 #include "automation/error.h"
 #include "host/file_bytes.h"
+#include "host/file_place.h"
 
 namespace hx::host {
 
 std::string IniTextFile::read(std::string_view section, std::string_view key, std::string_view fallback,
                               const std::string& path) const {
+    const Place place{path, std::string(section), std::string(key)};
     std::optional<std::string> bytes;
     try {
         bytes = readFile(fileSystemPath(path));
+        unread_.erase(place);
     } catch (const automation::Error&) {
-        return std::string(fallback);  // a file that cannot be read counts as missing
+        unread_.insert(place);
+        return std::string(fallback);
     }
     if (!bytes) return std::string(fallback);
     // Comparing the bytes, not a time stamp, notices every change that another program made.
@@ -22,12 +26,21 @@ std::string IniTextFile::read(std::string_view section, std::string_view key, st
     return known_->document.text(section, key).value_or(std::string(fallback));
 }
 
-void IniTextFile::write(std::string_view section, std::string_view key, std::string_view text,
-                        const std::string& path) {
-    const auto file = fileSystemPath(path);
-    IniDocument document(readFile(file).value_or(""));
-    document.setText(section, key, text);
-    replaceFile(file, document.bytes());
+void IniTextFile::writeAll(std::string_view section, std::span<const IniText> texts, const std::string& path) {
+    requireRead(path);
+    std::optional<automation::Error> refused;
+    changeFile(fileSystemPath(path), [&](std::string_view bytes) {
+        IniDocument document(bytes);
+        refused = document.setTexts(section, texts);
+        return document.bytes();
+    });
+    if (refused) throw *refused;
+}
+
+void IniTextFile::requireRead(const std::string& path) const {
+    const auto unread = unread_.lower_bound({path});
+    if (unread == unread_.end() || unread->front() != path) return;
+    failWith("cannot be written", fileSystemPath(path), "it could not be read before, so what it holds stays");
 }
 
 }  // namespace hx::host

@@ -62,12 +62,14 @@ std::string RegistryFile::stored(std::string_view key, std::string_view value) c
 }
 
 void RegistryFile::store(std::string_view key, std::string_view value, const std::string& text) {
-    IniDocument changed = document();
-    changed.setText(sectionName(key), value, text);
     const auto file = fileSystemPath(path_);
     std::error_code ignored;  // a folder that cannot be made shows when the file is written
     if (file.has_parent_path()) std::filesystem::create_directories(file.parent_path(), ignored);
-    replaceFile(file, changed.bytes());
+    changeFile(file, [&](std::string_view bytes) {
+        IniDocument changed(bytes);
+        changed.setText(sectionName(key), value, text);
+        return changed.bytes();
+    });
 }
 
 }  // namespace hx::host

@@ -15,7 +15,8 @@ namespace hx::host {
 ///
 /// A number stands in decimal behind "dword:"; a text between quotes, without escapes. A value written by hand without
 /// either is a text, and a number where one is asked for and it is a whole one. A value of the other kind counts as
-/// missing. The file is read at each access, so several processes may share it, and replaced in one step.
+/// missing. The file is read at each access and changed in one step, so several processes may share it and lose
+/// nothing.
 class RegistryFile : public Registry {
   public:
     /// The file may be missing: it is then empty, and made by the first write, its folders too.

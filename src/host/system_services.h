@@ -1,7 +1,9 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <functional>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -33,6 +35,11 @@ inline constexpr std::string_view helvix = "SOFTWARE\\Tarnwell\\Helvix\\4.0";
 inline constexpr std::string_view projects = "SOFTWARE\\Tarnwell\\Helvix\\4.0\\Projects\\";  ///< + project name
 }  // namespace registry_keys
 
+/// A key of an INI file and its text.
+struct IniText {
+    std::string key, text;
+};
+
 /// Reads and writes single keys of INI files. Keys and sections compare ignoring case.
 class IniFile {
   public:
@@ -40,10 +47,13 @@ class IniFile {
     /// The text of a key, or the fallback when key, section or file is missing or unreadable.
     [[nodiscard]] virtual std::string read(std::string_view section, std::string_view key, std::string_view fallback,
                                            const std::string& path) const = 0;
-    /// Creates file and section as needed; every other line of the file stays. Throws automation::Error when the file
-    /// cannot be written; it is then as it was.
-    virtual void write(std::string_view section, std::string_view key, std::string_view text,
-                       const std::string& path) = 0;
+    /// Creates file and section as needed, in one step for all; every other line of the file stays. Throws
+    /// automation::Error when the file cannot be written; it is then as it was. What cannot stand in an INI file is
+    /// left out, and thrown when the others are written.
+    virtual void writeAll(std::string_view section, std::span<const IniText> texts, const std::string& path) = 0;
+    void write(std::string_view section, std::string_view key, std::string_view text, const std::string& path) {
+        writeAll(section, std::to_array<IniText>({{std::string(key), std::string(text)}}), path);
+    }
 };
 
 class Clipboard {

@@ -72,10 +72,10 @@ std::string AttendedIniFile::read(std::string_view section, std::string_view key
     return folderFiles_.read(section, key, fallback, path);
 }
 
-void AttendedIniFile::write(std::string_view section, std::string_view key, std::string_view text,
-                            const std::string& path) {
-    if (!attendance_.answers()) return user_.write(section, key, text, path);
-    folderFiles_.write(section, key, text, path);
+void AttendedIniFile::writeAll(std::string_view section, std::span<const host::IniText> texts,
+                               const std::string& path) {
+    if (!attendance_.answers()) return user_.writeAll(section, texts, path);
+    folderFiles_.writeAll(section, texts, path);
 }
 
 void AttendedHelp::showContext(forms::WindowHandle owner, const std::string& file, std::int32_t context) {

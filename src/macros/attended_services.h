@@ -34,7 +34,7 @@ class AttendedIniFile : public host::IniFile {
         : user_(user), folderFiles_(user, std::move(folder)), attendance_(attendance) {}
     [[nodiscard]] std::string read(std::string_view section, std::string_view key, std::string_view fallback,
                                    const std::string& path) const override;
-    void write(std::string_view section, std::string_view key, std::string_view text, const std::string& path) override;
+    void writeAll(std::string_view section, std::span<const host::IniText> texts, const std::string& path) override;
 
   private:
     host::IniFile& user_;

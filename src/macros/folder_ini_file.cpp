@@ -13,9 +13,8 @@ std::string FolderIniFile::read(std::string_view section, std::string_view key, 
     return files_.read(section, key, fallback, allowed(path));
 }
 
-void FolderIniFile::write(std::string_view section, std::string_view key, std::string_view text,
-                          const std::string& path) {
-    files_.write(section, key, text, allowed(path));
+void FolderIniFile::writeAll(std::string_view section, std::span<const host::IniText> texts, const std::string& path) {
+    files_.writeAll(section, texts, allowed(path));
 }
 
 std::string FolderIniFile::allowed(const std::string& path) const {

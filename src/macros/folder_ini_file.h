@@ -17,7 +17,7 @@ class FolderIniFile : public host::IniFile {
 
     [[nodiscard]] std::string read(std::string_view section, std::string_view key, std::string_view fallback,
                                    const std::string& path) const override;
-    void write(std::string_view section, std::string_view key, std::string_view text, const std::string& path) override;
+    void writeAll(std::string_view section, std::span<const host::IniText> texts, const std::string& path) override;
 
   private:
     [[nodiscard]] std::string allowed(const std::string& path) const;

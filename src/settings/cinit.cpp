@@ -107,9 +107,11 @@ void CInit::ReadFromIni(const std::string& entry) {
 
 void CInit::SaveInits(const std::string& path) {
     if (!path.empty()) path_ = path;
+    std::vector<host::IniText> texts;
     visitAll(*root_, [&](const std::string& entry, const CInitItem& item) {
-        WriteToIni(entry, ValueToText(item.val, format_));
+        texts.push_back({entry, ValueToText(item.val, format_)});
     });
+    iniFile_.writeAll(section_, texts, path_);
 }
 
 void CInit::GetInitFromControl(const std::string& name) {

@@ -58,6 +58,21 @@ TEST_F(Closing, SavesTheWholeLayout) {
     EXPECT_EQ(stored("sb.Visible"), "True");
 }
 
+TEST_F(Closing, WritesTheSettingsFileOnce) {
+    window->unload(forms::UnloadMode::byCode);
+    EXPECT_EQ(host.iniFile.writes(), 1);
+    EXPECT_EQ(stored("LoadOnForeGround"), "True");
+}
+
+TEST_F(Closing, TellsWhichEntryCannotBeSavedAndSavesTheOthers) {
+    window->inits().WriteAValueToCInits(" ;k", Variant("text"));
+    window->inits().WriteAValueToCInits("mine", Variant("text"));
+    window->unload(forms::UnloadMode::byCode);
+    EXPECT_EQ(stored("LoadOnForeGround"), "True");
+    EXPECT_EQ(stored("mine"), "text");
+    EXPECT_EQ(messages(), (Texts{"-2147467259: This key cannot stand in an INI file:  ;k"}));
+}
+
 TEST_F(Closing, ComesBackWithTheSavedLayout) {
     window->setWindowState(forms::WindowState::normal);
     window->move(300, 150, 9000, 4500);

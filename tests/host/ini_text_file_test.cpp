@@ -149,9 +149,57 @@ TEST_F(IniFileTest, RefusesWhatCannotStandInOneLine) {
     EXPECT_NE(refusal("a=b", "1"), "written");
     EXPECT_NE(refusal("[a", "1"), "written");
     EXPECT_NE(refusal(";a", "1"), "written");
+    EXPECT_EQ(refusal(" ;k", "1"), "This key cannot stand in an INI file:  ;k");
+    EXPECT_NE(refusal("\t[k]", "1"), "written");
     EXPECT_NE(refusal("", "1"), "written");
     EXPECT_NE(refusal("a", "1", "S]\n[T"), "written");
     EXPECT_EQ(bytes(), "[S]\na=1\n");
+}
+
+TEST_F(IniFileTest, ReadsEveryKeyThatItTakes) {
+    for (const std::string key : {" k", "k ", "k;", "a ; b", "k]", "k [x]", "\xEF\xBB\xBFk", "#k", "\"k\""}) {
+        write(key, " text ");
+        EXPECT_EQ(read(key), " text ") << key;
+        write(key, "again");
+        EXPECT_EQ(read(key), "again") << key;
+    }
+}
+
+TEST_F(IniFileTest, WritesAllThatCanStandInTheFileAndNamesWhatCannot) {
+    file("[S]\nb=0\nz=9\n");
+    const std::vector<IniText> texts = {{"a", "1"}, {"b", "x\0y"s}, {" ;k", "2"}, {"c", "3"}};
+    try {
+        ini.writeAll("S", texts, folder.file("a.ini"));
+        FAIL() << "written";
+    } catch (const automation::Error& error) {
+        EXPECT_EQ(error.description(), "A text with a line break or a NUL cannot stand in an INI file: b");
+    }
+    EXPECT_EQ(bytes(), "[S]\nb=0\nz=9\na=1\nc=3\n");
+}
+
+TEST_F(IniFileTest, MakesNoFileForWhatCannotStandInIt) {
+    EXPECT_NE(refusal("", "1"), "written");
+    EXPECT_EQ(folder.entries(), 0U);
+}
+
+TEST_F(IniFileTest, DoesNotWriteFallbacksOverTextsThatCouldNotBeRead) {
+    file("[S]\na=mine\nb=2\n");
+    // While a folder stands in the way nothing can be read.
+    std::filesystem::rename(folder.file("a.ini"), folder.file("away"));
+    std::filesystem::create_directory(folder.file("a.ini"));
+    EXPECT_EQ(read("a", "S"), "none");
+    std::filesystem::remove(folder.file("a.ini"));
+    std::filesystem::rename(folder.file("away"), folder.file("a.ini"));
+    EXPECT_EQ(read("b", "S"), "2");
+
+    EXPECT_EQ(refusal("a", "none"), "The file '" + folder.file("a.ini") +
+                                        "' cannot be written: it could not be read before, so what it holds stays.");
+    EXPECT_EQ(bytes(), "[S]\na=mine\nb=2\n");
+    ini.write("S", "a", "1", folder.file("other.ini"));
+
+    EXPECT_EQ(read("a", "S"), "mine");
+    write("a", "3", "S");
+    EXPECT_EQ(bytes(), "[S]\na=3\nb=2\n");
 }
 
 TEST_F(IniFileTest, SeesWhatAnotherProgramWroteOfTheSameLength) {
@@ -170,14 +218,15 @@ TEST_F(IniFileTest, SaysWhichFileInAMissingFolderCannotBeWritten) {
         ini.write("s", "a", "1", folder.file("gone/a.ini"));
         FAIL() << "written";
     } catch (const automation::Error& error) {
-        EXPECT_EQ(error.description(), "Cannot write in the folder of \"" + folder.file("gone/a.ini") + "\"");
+        EXPECT_EQ(error.description(),
+                  "The file '" + folder.file("gone/a.ini") + "' cannot be written: No such file or directory.");
     }
 }
 
 TEST_F(IniFileTest, DoesNotOverruleAFileThatIsSetToReadOnly) {
     file("[S]\na=1\n");
     std::filesystem::permissions(folder.file("a.ini"), std::filesystem::perms::owner_read);
-    EXPECT_EQ(refusal("a", "2"), "Cannot write \"" + folder.file("a.ini") + "\": it is set to read-only");
+    EXPECT_EQ(refusal("a", "2"), "The file '" + folder.file("a.ini") + "' cannot be written: it is set to read-only.");
     EXPECT_EQ(bytes(), "[S]\na=1\n");
     EXPECT_EQ(folder.entries(), 1U);
 }

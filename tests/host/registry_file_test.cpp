@@ -81,7 +81,7 @@ TEST(RegistryFile, SaysWhichFileCannotBeReadOrWritten) {
             use();
             ADD_FAILURE() << "a folder was used as a file";
         } catch (const automation::Error& error) {
-            EXPECT_EQ(error.description(), "Cannot read \"" + folder.path() + "\": it is no file");
+            EXPECT_EQ(error.description(), "The file '" + folder.path() + "' cannot be read: it is no file.");
         }
     }
     EXPECT_THROW(RegistryFile(folder.write("f", "") + "/registry").writeNumber("K", "a", 1), automation::Error);

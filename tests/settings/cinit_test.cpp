@@ -202,6 +202,27 @@ TEST_F(CInitTest, SavesAllLeavesInOrder) {
     EXPECT_EQ(host.iniFile.bytes(path), "[merge]\r\nMe.Width=1\r\nnew.Entry=2\r\n");
 }
 
+TEST_F(CInitTest, WritesTheFileOnceForAllLeaves) {
+    loadDefaults();
+    inits.SaveInits(path);
+    EXPECT_EQ(host.iniFile.writes(), 1);
+    EXPECT_EQ(stored("LoadOnForeGround"), "True");
+}
+
+TEST_F(CInitTest, SavesAllThatCanBeSavedAndTellsWhatCannot) {
+    inits.LoadDefaultInit("merge");
+    inits.WriteAValueToCInits("Me.Width", Variant("6\0000"s));
+    inits.WriteAValueToCInits(" ;k", Variant("lost"));
+    inits.WriteAValueToCInits("last", Variant("kept"));
+    try {
+        inits.SaveInits(path);
+        FAIL() << "nothing was told";
+    } catch (const automation::Error& error) {
+        EXPECT_NE(error.description().find("Me.Width"), std::string::npos) << error.description();
+    }
+    EXPECT_EQ(host.iniFile.bytes(path), "[merge]\r\nnew.Entry=2\r\nlast=kept\r\n");
+}
+
 TEST_F(CInitTest, WritesNumbersInTheUsersLocaleAndReadsThemBack) {
     loadDefaults();
     inits.SaveInits(path);

@@ -9,12 +9,13 @@ std::string MemoryIniFile::read(std::string_view section, std::string_view key, 
     return found->second.text(section, key).value_or(std::string(fallback));
 }
 
-void MemoryIniFile::write(std::string_view section, std::string_view key, std::string_view text,
-                          const std::string& path) {
+void MemoryIniFile::writeAll(std::string_view section, std::span<const host::IniText> texts, const std::string& path) {
+    ++writes_;
     if (error_) throw *error_;
     host::IniDocument changed = exists(path) ? files_.at(path) : host::IniDocument();
-    changed.setText(section, key, text);
-    files_[path] = std::move(changed);
+    const auto refused = changed.setTexts(section, texts);
+    if (!changed.bytes().empty()) files_[path] = std::move(changed);
+    if (refused) throw *refused;
 }
 
 std::string MemoryIniFile::bytes(const std::string& path) const { return exists(path) ? files_.at(path).bytes() : ""; }
