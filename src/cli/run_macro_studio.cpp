@@ -14,7 +14,6 @@ namespace {
 constexpr std::string_view extension = ".hxs";
 constexpr std::int32_t allLevels = std::numeric_limits<std::int32_t>::max();
 constexpr const char* languageValue = "LCID";
-constexpr const char* folderValue = "Path";
 
 using automation::Error;
 
@@ -28,29 +27,28 @@ void requireNameable(const std::string& path) {
     throw Error(automation::errFail, "The path '" + path + "' holds a semicolon or a quotation mark");
 }
 
-std::string projectKey(const std::string& name) { return std::string(host::registry_keys::projects) + name; }
+std::unique_ptr<host::Registry> makeRegistry(const std::string& config) {
+    if (config.empty()) return std::make_unique<headless::MemoryRegistry>();
+    return std::make_unique<host::RegistryFile>((std::filesystem::path(config) / "registry.ini").string());
+}
 
-headless::HostOptions hostOptions(const MacroStudioOptions& options, host::Registry* registry, host::IniFile* ini) {
+headless::HostOptions hostOptions(const MacroStudioOptions& options, host::Registry& registry, host::IniFile& ini) {
     headless::HostOptions made;
     made.decimalPoint = options.decimalPoint;
-    made.registry = registry;
-    made.iniFile = ini;
+    made.registry = &registry;
+    made.iniFile = &ini;
     return made;
 }
 
 }  // namespace
 
 MacroStudio::MacroStudio(const MacroStudioOptions& options)
-    : folderIniFile_(iniFile_, [this] { return std::filesystem::path(file_).parent_path(); }) {
-    if (!options.config.empty()) {
-        const auto file = std::filesystem::path(options.config) / "registry.ini";
-        registry_ = std::make_unique<host::RegistryFile>(file.string());
-    }
-    host::IniFile* const settings = options.trusted ? static_cast<host::IniFile*>(&iniFile_) : &folderIniFile_;
-    host_ = std::make_unique<headless::Host>(provider_, hostOptions(options, registry_.get(), settings));
-    if (options.lcid) {
-        host_->services().registry.writeNumber(host::registry_keys::helvix, languageValue, *options.lcid);
-    }
+    : folderIniFile_(iniFile_, [this] { return std::filesystem::path(file_).parent_path(); }),
+      registry_(makeRegistry(options.config)),
+      projectRegistry_(*registry_) {
+    host::IniFile& settings = options.trusted ? static_cast<host::IniFile&>(iniFile_) : folderIniFile_;
+    host_ = std::make_unique<headless::Host>(provider_, hostOptions(options, projectRegistry_, settings));
+    if (options.lcid) projectRegistry_.writeNumber(host::registry_keys::helvix, languageValue, *options.lcid);
 }
 
 MacroStudio::~MacroStudio() { closeProject(); }
@@ -71,14 +69,14 @@ void MacroStudio::openProject(const std::string& pathOrName) {
     requireNameable(file.string());
     closeProject();
     const std::string name = file.stem().string();
-    host_->services().registry.writeString(projectKey(name), folderValue, file.parent_path().string());
+    projectRegistry_.open(name, file.parent_path().string());
     file_ = file.string();
     host_->explorer.setProject(name);
     startAddIn(name);
 }
 
 std::string MacroStudio::fileOfName(const std::string& name) const {
-    const std::string folder = host_->services().registry.readString(projectKey(name), folderValue);
+    const std::string folder = projectRegistry_.folderOf(name);
     if (folder.empty()) throw Error(automation::errFail, "No project '" + name + "' is known");
     return (std::filesystem::path(folder) / (name + std::string(extension))).string();
 }
@@ -99,6 +97,7 @@ void MacroStudio::closeProject() {
     formerAddIns_.push_back(std::move(addIn_));
     addIn_.reset();
     host_->explorer.setProject({});
+    projectRegistry_.close();
     file_.clear();
 }
 

@@ -9,6 +9,7 @@
 #include "adapters/sqlite/provider.h"
 #include "addin/connect.h"
 #include "host/ini_text_file.h"
+#include "host/project_registry.h"
 #include "host/registry_file.h"
 #include "macros/folder_ini_file.h"
 #include "macros/studio.h"
@@ -44,7 +45,7 @@ class MacroStudio : public macros::Studio {
     void select(const std::string& key) override { host_->explorer.select(key); }
     void showExpanded(const std::string&) override {}
 
-    [[nodiscard]] host::Registry& registry() override { return host_->services().registry; }
+    [[nodiscard]] host::Registry& registry() override { return projectRegistry_; }
     [[nodiscard]] headless::Script& script() override { return host_->script; }
     [[nodiscard]] headless::Record& record() override { return host_->record; }
     [[nodiscard]] headless::Components& components() override { return host_->components; }
@@ -56,7 +57,8 @@ class MacroStudio : public macros::Studio {
     sqlite::Provider provider_;
     host::IniTextFile iniFile_;
     macros::FolderIniFile folderIniFile_;
-    std::unique_ptr<host::RegistryFile> registry_;
+    std::unique_ptr<host::Registry> registry_;
+    host::ProjectRegistry projectRegistry_;
     std::unique_ptr<headless::Host> host_;
     std::string file_;
     std::shared_ptr<addin::Connect> addIn_;
