@@ -14,6 +14,7 @@ namespace {
 constexpr std::string_view extension = ".hxs";
 constexpr std::int32_t allLevels = std::numeric_limits<std::int32_t>::max();
 constexpr const char* languageValue = "LCID";
+constexpr std::int32_t german = 1031;
 
 using automation::Error;
 
@@ -43,12 +44,18 @@ headless::HostOptions hostOptions(const MacroStudioOptions& options, host::Regis
 }  // namespace
 
 MacroStudio::MacroStudio(const MacroStudioOptions& options)
-    : folderIniFile_(iniFile_, [this] { return std::filesystem::path(file_).parent_path(); }),
+    : provider_([this] { return sqlite::OpenOptions{.language = language()}; }),
+      folderIniFile_(iniFile_, [this] { return std::filesystem::path(file_).parent_path(); }),
       registry_(makeRegistry(options.config)),
       projectRegistry_(*registry_) {
     host::IniFile& settings = options.trusted ? static_cast<host::IniFile&>(iniFile_) : folderIniFile_;
     host_ = std::make_unique<headless::Host>(provider_, hostOptions(options, projectRegistry_, settings));
     if (options.lcid) projectRegistry_.writeNumber(host::registry_keys::helvix, languageValue, *options.lcid);
+}
+
+automation::Language MacroStudio::language() const {
+    return automation::languageOf(
+        host_->services().registry.readNumber(host::registry_keys::helvix, languageValue, german));
 }
 
 MacroStudio::~MacroStudio() { closeProject(); }

@@ -51,6 +51,7 @@ class MacroStudio : public macros::Studio {
     [[nodiscard]] headless::Components& components() override { return host_->components; }
 
   private:
+    [[nodiscard]] automation::Language language() const;
     [[nodiscard]] std::string fileOfName(const std::string& name) const;
     void startAddIn(const std::string& name);
 

@@ -10,6 +10,9 @@ namespace hx::studio {
 
 namespace {
 
+// A window that waits does nothing else.
+constexpr sqlite::LockWait::Milliseconds longestLockWait{500};
+
 automation::NumberFormat systemFormat() { return {qt::fromQt(QLocale::system().decimalPoint())}; }
 
 }  // namespace
@@ -18,10 +21,12 @@ StudioHost::StudioHost(const QString& configFolder, const QStringList& moduleFol
     : configFolder_(configFolder),
       moduleFolders_(moduleFolders),
       screen_(windows_, wording_),
+      provider_([this] { return openOptions(); }),
       registry_(qt::fromQt(configFolder + QStringLiteral("/registry.ini"))),
       help_(screen_, windows_, wording_),
       helpFile_(registry_, moduleFolders, configFolder + QStringLiteral("/common")),
       components_(moduleFolders),
+      variables_([this] { return openOptions(); }),
       items_(variables_, windows_, wording_),
       folders_(windows_, wording_),
       attendedIniFile_(iniFile_, attendance_, [this] { return projectFolder_; }),
@@ -48,6 +53,10 @@ StudioHost::StudioHost(const QString& configFolder, const QStringList& moduleFol
                 .moduleFile = {}} {
     components_.setServices(services_);
     screen_.setVariables(variables_);
+}
+
+sqlite::OpenOptions StudioHost::openOptions() const {
+    return {.language = automation::languageOf(wording_.language()), .lockWait = longestLockWait};
 }
 
 void StudioHost::setProjectFile(const QString& path) {

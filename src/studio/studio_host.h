@@ -51,6 +51,8 @@ class StudioHost {
     void setProjectFile(const QString& path);
 
   private:
+    [[nodiscard]] sqlite::OpenOptions openOptions() const;
+
     QString configFolder_;
     QStringList moduleFolders_;
     qt::Wording wording_;

@@ -4,13 +4,13 @@
 #include <sqlite3.h>
 
 #include "adapters/sqlite/functions.h"
+#include "adapters/sqlite/project_schema.h"
 #include "adapters/sqlite/sqlite_error.h"
 
 namespace hx::sqlite {
 
 namespace {
 
-constexpr int busyMilliseconds = 2000;
 constexpr int interruptSteps = 10000;  // of SQLite's machine between two questions
 constexpr std::size_t keptStatements = 48;
 
@@ -33,14 +33,18 @@ constexpr const char* largeCache = "PRAGMA cache_size=-32000";
 
 void Database::Closer::operator()(sqlite3* handle) const noexcept { sqlite3_close_v2(handle); }
 
-Database::Database(const std::string& path) : path_(path), collecting_(std::make_unique<ado::KeySet*>(nullptr)) {
+Database::Database(const std::string& path, const OpenOptions& options)
+    : path_(path),
+      language_(options.language),
+      lockWait_(std::make_unique<LockWait>(options.lockWait, options.sleep)),
+      collecting_(std::make_unique<ado::KeySet*>(nullptr)) {
     sqlite3* handle = nullptr;
     // An absolute name is never taken for a URI or for a database in memory.
     const std::string absolute = std::filesystem::absolute(path).string();
     const int code = sqlite3_open_v2(absolute.c_str(), &handle, openFlags, nullptr);
     handle_.reset(handle);
     check(code);
-    check(sqlite3_busy_timeout(handle, busyMilliseconds));
+    lockWait_->serve(handle);
     check(sqlite3_db_config(handle, SQLITE_DBCONFIG_DQS_DML, 0, nullptr));
     check(sqlite3_db_config(handle, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr));
     check(registerFunctions(handle, collecting_.get()));
@@ -66,6 +70,7 @@ Statement& Database::prepared(const std::string& sql) {
 }
 
 void Database::execute(const std::string& sql) {
+    lockWait_->begin(false);
     check(sqlite3_exec(handle(), sql.c_str(), nullptr, nullptr, nullptr));
 }
 
@@ -97,6 +102,12 @@ ado::KeySet Database::collect(Statement& statement) {
 }
 
 bool Database::inTransaction() const noexcept { return sqlite3_get_autocommit(handle()) == 0; }
+
+void Database::expectTransaction(bool expected) {
+    expectsTransaction_ = expected;
+    lostBy_.reset();
+}
+
 std::int64_t Database::lastInsertedKey() const noexcept { return sqlite3_last_insert_rowid(handle()); }
 std::int64_t Database::changedRows() const noexcept { return sqlite3_changes64(handle()); }
 
@@ -104,8 +115,18 @@ void Database::check(int code) const {
     if (code != SQLITE_OK) fail(code);
 }
 
+automation::Error Database::error(std::int32_t number, const automation::Sentence& sentence,
+                                  std::initializer_list<std::string_view> names) const {
+    return {number, automation::say(language_, sentence, names)};
+}
+
+std::string_view Database::nameOf(std::string_view column) const { return columnName(language_, column); }
+
 void Database::fail(int code) const {
-    throw errorOf(code, handle() == nullptr ? std::string_view() : sqlite3_errmsg(handle()), path_);
+    const auto error =
+        errorOf(code, handle() == nullptr ? std::string_view() : sqlite3_errmsg(handle()), path_, language_);
+    if (expectsTransaction_ && !inTransaction() && !lostBy_) lostBy_ = error.description();
+    throw error;
 }
 
 }  // namespace hx::sqlite

@@ -4,16 +4,27 @@
 #include <functional>
 #include <list>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <unordered_map>
 
+#include "adapters/sqlite/lock_wait.h"
 #include "adapters/sqlite/statement.h"
 #include "ado/key_set.h"
+#include "automation/error.h"
+#include "automation/sentence.h"
 
 struct sqlite3;
 
 namespace hx::sqlite {
+
+/// How a file is opened.
+struct OpenOptions {
+    automation::Language language = automation::Language::english;  ///< of the errors' descriptions
+    LockWait::Milliseconds lockWait{2000};                          ///< for a lock that another program holds
+    LockWait::Sleep sleep = {};                                     ///< none: the thread sleeps
+};
 
 /// An open SQLite file. Every failure is an automation::Error that names the file: dbErrDuplicate, dbErrIntegrity,
 /// dbErrNoTable, dbErrBadCommand, else dbErrUnspecified.
@@ -21,7 +32,7 @@ class Database {
   public:
     /// Opens an existing file for reading and writing (for reading when it is write-protected). Writes are on the disk
     /// when a statement, or the transaction around it, returns. Nothing is read yet.
-    explicit Database(const std::string& path);
+    explicit Database(const std::string& path, const OpenOptions& options = {});
     ~Database();
     Database(const Database&) = delete;
     Database& operator=(const Database&) = delete;
@@ -44,12 +55,22 @@ class Database {
     [[nodiscard]] ado::KeySet collect(Statement& statement);
 
     [[nodiscard]] bool inTransaction() const noexcept;
+    /// Whether a transaction is meant to be open from now on: SQLite takes it back by itself after some errors.
+    void expectTransaction(bool expected);
+    /// The error that an expected transaction was lost by; nothing while it is there.
+    [[nodiscard]] const std::optional<std::string>& lostBy() const noexcept { return lostBy_; }
     [[nodiscard]] std::int64_t lastInsertedKey() const noexcept;
     [[nodiscard]] std::int64_t changedRows() const noexcept;
 
+    /// An error that says the sentence in the connection's language.
+    [[nodiscard]] automation::Error error(std::int32_t number, const automation::Sentence& sentence,
+                                          std::initializer_list<std::string_view> names = {}) const;
+    /// What the user calls a column; its own name when he does not know it.
+    [[nodiscard]] std::string_view nameOf(std::string_view column) const;
     [[noreturn]] void fail(int code) const;
     void check(int code) const;
     [[nodiscard]] sqlite3* handle() const noexcept { return handle_.get(); }
+    [[nodiscard]] LockWait& lockWait() const noexcept { return *lockWait_; }
 
   private:
     struct Closer {
@@ -58,11 +79,15 @@ class Database {
     using Statements = std::list<std::pair<std::string, Statement>>;
 
     std::string path_;
+    automation::Language language_;
+    std::unique_ptr<LockWait> lockWait_;
     std::unique_ptr<const std::function<bool()>> interrupt_;  // SQLite holds its address
     std::unique_ptr<sqlite3, Closer> handle_;
     std::unique_ptr<ado::KeySet*> collecting_;  // where hx_keys appends to
     Statements statements_;                     // the last used one first
     std::unordered_map<std::string_view, Statements::iterator> bySql_;
+    bool expectsTransaction_ = false;
+    mutable std::optional<std::string> lostBy_;
 };
 
 /// Ends the use of a statement.

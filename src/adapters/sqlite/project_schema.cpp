@@ -1,5 +1,10 @@
 #include "adapters/sqlite/project_schema.h"
 
+#include <array>
+
+#include "adapters/sqlite/sentences.h"
+#include "automation/text.h"
+
 namespace hx::sqlite {
 
 namespace {
@@ -56,5 +61,55 @@ std::string projectTables() {
 }
 
 std::string projectIndexes() { return indexes; }
+
+std::string_view columnName(automation::Language language, std::string_view column) {
+    struct Known {
+        std::string_view column;
+        automation::Sentence name;
+    };
+    static constexpr auto all = std::to_array<Known>({
+        {"Name", {"Name", "Name"}},
+        {"VarRecipeName", {"Recipe File Name", "Rezeptdateiname"}},
+        {"VarDescription", {"Description Variable", "Beschreibungsvariable"}},
+        {"FilePath", {"Recipe File Path", "Rezeptdateipfad"}},
+        {"FileExtension", {"File Extension", "Dateiendung"}},
+        {"Enabled", {"Definition active", "Definition aktiv"}},
+        {"Comment", {"Comment", "Kommentar"}},
+        {"VarLoad", {"Load Trigger", "Ladetrigger"}},
+        {"VarSave", {"Save Trigger", "Speichertrigger"}},
+        {"VarRead", {"Read Trigger", "Lesetrigger"}},
+        {"VarWrite", {"Write Trigger", "Schreibtrigger"}},
+        {"StandardValue", {"Norm Factor", "Normfaktor"}},
+        {"VarSetValue", {"Multiply Factor Variable", "Sollfaktorvariable"}},
+        {"SaveSubRecipes", {"Save Sub Recipe Values here", "Unterrezeptwerte hier speichern"}},
+        {"SaveChanges", {"activate Change History", "Änderungshistorie aktivieren"}},
+        {"CryptEngine", {"Crypt Recipe Files", "Rezeptdateien verschlüsseln"}},
+        {"Options", {"Transfer behaviour", "Transferverhalten"}},
+        {"VarRecipe", {"Variable", "Variable"}},
+        {"ChildID", {"Sub Recipe", "Unterrezept"}},
+    });
+    for (const Known& known : all) {
+        if (!automation::equalIgnoreCase(known.column, column)) continue;
+        return language == automation::Language::german ? known.name.german : known.name.english;
+    }
+    return column;
+}
+
+// The user knows recipes and variables, not the names of tables and columns.
+const automation::Sentence& duplicateSentence(std::string_view table, std::string_view column) {
+    struct Known {
+        std::string_view table, column;
+        const automation::Sentence& sentence;
+    };
+    static constexpr std::array<Known, 3> all = {{{"TrcpRecipe", "Name", sentence::recipeExists},
+                                                  {"TrcpRecipeMember", "VarRecipe", sentence::memberExists},
+                                                  {"ThxVariable", "Name", sentence::variableExists}}};
+    for (const Known& known : all) {
+        if (automation::equalIgnoreCase(known.table, table) && automation::equalIgnoreCase(known.column, column)) {
+            return known.sentence;
+        }
+    }
+    return sentence::valueExists;
+}
 
 }  // namespace hx::sqlite

@@ -2,6 +2,9 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
+
+#include "automation/sentence.h"
 
 namespace hx::sqlite {
 
@@ -17,5 +20,10 @@ inline constexpr std::int32_t projectSchemaVersion = 1;
 /// compared ignoring case too is up to the provider.
 [[nodiscard]] std::string projectTables();
 [[nodiscard]] std::string projectIndexes();
+
+/// What the user calls a column of the recipes and their members; the column's own name when he does not know it.
+[[nodiscard]] std::string_view columnName(automation::Language language, std::string_view column);
+/// What is said of a value (%1) that a column (%2) of a table (%3) holds already.
+[[nodiscard]] const automation::Sentence& duplicateSentence(std::string_view table, std::string_view column);
 
 }  // namespace hx::sqlite

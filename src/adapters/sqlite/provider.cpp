@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <fstream>
 
+#include "adapters/sqlite/sentences.h"
 #include "adapters/sqlite/session.h"
 #include "ado/connection_string.h"
 #include "automation/text.h"
@@ -15,15 +16,17 @@ namespace {
 
 namespace fs = std::filesystem;
 
-void requireFile(const std::string& path) {
-    const auto refuse = [](const std::string& problem) { throw Error(ado::dbErrUnspecified, problem); };
+void requireFile(const std::string& path, automation::Language language) {
+    const auto refuse = [&](const automation::Sentence& problem, std::string_view reason = {}) {
+        throw Error(ado::dbErrUnspecified, automation::say(language, problem, {path, reason}));
+    };
     std::error_code error;
     const fs::file_status status = path.empty() ? fs::file_status(fs::file_type::not_found) : fs::status(path, error);
-    if (status.type() == fs::file_type::not_found) refuse("Could not find file '" + path + "'.");
-    if (error) refuse("The file '" + path + "' cannot be reached: " + error.message() + ".");
-    if (fs::is_directory(status)) refuse("'" + path + "' is a folder, not a project file.");
-    if (!fs::is_regular_file(status)) refuse("'" + path + "' is not a file.");
-    if (!std::ifstream(path).is_open()) refuse("No permission to read the file '" + path + "'.");
+    if (status.type() == fs::file_type::not_found) refuse(sentence::missing);
+    if (error) refuse(sentence::unreachable, error.message());
+    if (fs::is_directory(status)) refuse(sentence::folder);
+    if (!fs::is_regular_file(status)) refuse(sentence::noFile);
+    if (!std::ifstream(path).is_open()) refuse(sentence::noReadPermission);
 }
 
 bool isReadOnly(std::string_view connectionString) {
@@ -40,8 +43,9 @@ bool isReadOnly(std::string_view connectionString) {
 
 std::unique_ptr<ado::Session> Provider::connect(std::string_view connectionString) {
     const std::string path = ado::connectionStringValue(connectionString, "Data Source");
-    requireFile(path);
-    return std::make_unique<Session>(path, isReadOnly(connectionString));
+    const OpenOptions options = options_();
+    requireFile(path, options.language);
+    return std::make_unique<Session>(path, isReadOnly(connectionString), options);
 }
 
 }  // namespace hx::sqlite

@@ -1,5 +1,9 @@
 #pragma once
 
+#include <functional>
+#include <utility>
+
+#include "adapters/sqlite/database.h"
 #include "ado/provider.h"
 
 namespace hx::sqlite {
@@ -11,7 +15,13 @@ namespace hx::sqlite {
 /// that says which.
 class Provider : public ado::Provider {
   public:
+    /// How files are opened; asked at each connect, since the language may change.
+    using Options = std::function<OpenOptions()>;
+    explicit Provider(Options options = [] { return OpenOptions(); }) : options_(std::move(options)) {}
     [[nodiscard]] std::unique_ptr<ado::Session> connect(std::string_view connectionString) override;
+
+  private:
+    Options options_;
 };
 
 }  // namespace hx::sqlite

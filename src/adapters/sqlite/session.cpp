@@ -2,11 +2,10 @@
 
 #include "adapters/sqlite/project_schema.h"
 #include "adapters/sqlite/query_rowset.h"
+#include "adapters/sqlite/sentences.h"
 #include "adapters/sqlite/table_rowset.h"
 
 namespace hx::sqlite {
-
-using automation::Error;
 
 namespace {
 
@@ -25,7 +24,8 @@ std::string uniquenessTrigger(const TableInfo& table, const std::string& column,
 
 }  // namespace
 
-Session::Session(const std::string& path, bool readOnly) : writes_(std::make_shared<Writes>(path)) {
+Session::Session(const std::string& path, bool readOnly, const OpenOptions& options)
+    : writes_(std::make_shared<Writes>(path, options)) {
     requireProject();
     if (readOnly) writes_->database().execute("PRAGMA query_only=ON");
     else compareNamesBeyondAscii();
@@ -34,14 +34,12 @@ Session::Session(const std::string& path, bool readOnly) : writes_(std::make_sha
 void Session::requireProject() {
     Database& database = writes_->database();
     if (database.number("PRAGMA application_id") != projectApplicationId) {
-        throw Error(ado::dbErrUnspecified, "The file '" + database.path() + "' is not a project file.");
+        throw database.error(ado::dbErrUnspecified, sentence::noProject, {database.path()});
     }
     const std::int64_t version = database.number("PRAGMA user_version");
     if (version > projectSchemaVersion) {
-        throw Error(ado::dbErrUnspecified, "The project '" + database.path() +
-                                               "' was made by a newer program (format " + std::to_string(version) +
-                                               "; this program reads up to format " +
-                                               std::to_string(projectSchemaVersion) + ").");
+        throw database.error(ado::dbErrUnspecified, sentence::newer,
+                             {database.path(), std::to_string(version), std::to_string(projectSchemaVersion)});
     }
 }
 

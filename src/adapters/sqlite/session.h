@@ -13,7 +13,7 @@ namespace hx::sqlite {
 class Session : public ado::Session {
   public:
     /// Opens the file and makes sure that it is a project; throws dbErrUnspecified.
-    explicit Session(const std::string& path, bool readOnly);
+    Session(const std::string& path, bool readOnly, const OpenOptions& options);
 
     [[nodiscard]] std::unique_ptr<ado::Rowset> open(std::string_view command, ado::CommandType type) override;
     void beginTransaction() override { writes_->begin(); }

@@ -3,32 +3,39 @@
 #include <array>
 #include <sqlite3.h>
 
+#include "adapters/sqlite/sentences.h"
 #include "ado/types.h"
 
 namespace hx::sqlite {
 
 using automation::Error;
+using automation::Language;
+using automation::say;
 
 namespace {
 
 struct Cause {
     int code;
-    const char* before;  // the file's name stands between the two
-    const char* after;
+    const automation::Sentence* sentence;
 };
 
-constexpr std::array<Cause, 10> causes = {{
-    {SQLITE_BUSY, "The file '", "' is locked by another program."},
-    {SQLITE_LOCKED, "The file '", "' is locked by another program."},
-    {SQLITE_READONLY, "The file '", "' is write-protected."},
-    {SQLITE_FULL, "The disk with the file '", "' is full."},
-    {SQLITE_IOERR, "The disk does not read or write the file '", "' (input/output error)."},
-    {SQLITE_CORRUPT, "The file '", "' is damaged."},
-    {SQLITE_NOTADB, "The file '", "' is not a project file."},
-    {SQLITE_CANTOPEN, "The file '", "' or its journal beside it cannot be opened."},
-    {SQLITE_PERM, "No permission for the file '", "'."},
-    {SQLITE_NOMEM, "Not enough memory for the file '", "'."},
-}};
+// An extended code comes before the one that it belongs to.
+constexpr auto causes = std::to_array<Cause>({
+    {SQLITE_READONLY_DBMOVED, &sentence::moved},
+    {SQLITE_READONLY_DIRECTORY, &sentence::folderWriteProtected},
+    {SQLITE_BUSY, &sentence::locked},
+    {SQLITE_LOCKED, &sentence::locked},
+    {SQLITE_READONLY, &sentence::writeProtected},
+    {SQLITE_FULL, &sentence::full},
+    {SQLITE_IOERR, &sentence::broken},
+    {SQLITE_CORRUPT, &sentence::damaged},
+    {SQLITE_NOTADB, &sentence::noProject},
+    {SQLITE_CANTOPEN, &sentence::notOpened},
+    {SQLITE_PERM, &sentence::noPermission},
+    {SQLITE_NOMEM, &sentence::noMemory},
+});
+
+constexpr int primary(int code) { return code & 0xFF; }
 
 // "UNIQUE constraint failed: Table.Column" names the column; so does NOT NULL. Of several columns the last one tells
 // the rows of its group apart.
@@ -40,39 +47,36 @@ std::string_view columnIn(std::string_view message) {
     return message;
 }
 
-Error constraintError(std::string_view message) {
-    const std::string column(columnIn(message));
-    if (message.starts_with("UNIQUE")) {
-        return {ado::dbErrDuplicate, "The value exists already in column \"" + column + "\"."};
-    }
-    if (message.starts_with("NOT NULL")) {
-        return {ado::dbErrIntegrity, "Column \"" + column + "\" needs a value."};
-    }
-    return {ado::dbErrIntegrity, "The row breaks a rule of its table (" + std::string(message) + ")."};
+Error constraintError(std::string_view message, Language language) {
+    const std::string_view column = columnIn(message);
+    if (message.starts_with("UNIQUE")) return {ado::dbErrDuplicate, say(language, sentence::someValueExists, {column})};
+    if (message.starts_with("NOT NULL")) return {ado::dbErrIntegrity, say(language, sentence::valueMissing, {column})};
+    return {ado::dbErrIntegrity, say(language, sentence::ruleBroken, {message})};
 }
 
-Error commandError(std::string_view message) {
+Error commandError(std::string_view message, Language language) {
     constexpr std::string_view noTable = "no such table: ";
     constexpr std::string_view noColumn = "no such column: ";
     if (message.starts_with(noTable)) {
-        return {ado::dbErrNoTable, "There is no table \"" + std::string(message.substr(noTable.size())) + "\"."};
+        return {ado::dbErrNoTable, say(language, sentence::noTable, {message.substr(noTable.size())})};
     }
     if (message.starts_with(noColumn)) {
-        return {ado::dbErrBadCommand, "There is no column \"" + std::string(message.substr(noColumn.size())) + "\"."};
+        return {ado::dbErrBadCommand, say(language, sentence::noColumn, {message.substr(noColumn.size())})};
     }
-    return {ado::dbErrBadCommand, "The command cannot be carried out: " + std::string(message) + "."};
+    return {ado::dbErrBadCommand, say(language, sentence::notCarriedOut, {message})};
 }
 
 }  // namespace
 
-Error errorOf(int code, std::string_view message, const std::string& path) {
-    const int primary = code & 0xFF;
+Error errorOf(int code, std::string_view message, const std::string& path, Language language) {
     for (const Cause& cause : causes) {
-        if (cause.code == primary) return {ado::dbErrUnspecified, cause.before + path + cause.after};
+        if (cause.code == code || cause.code == primary(code)) {
+            return {ado::dbErrUnspecified, say(language, *cause.sentence, {path})};
+        }
     }
-    if (primary == SQLITE_CONSTRAINT) return constraintError(message);
-    if (primary == SQLITE_ERROR) return commandError(message);
-    return {ado::dbErrUnspecified, "The file '" + path + "' cannot be used: " + std::string(message) + "."};
+    if (primary(code) == SQLITE_CONSTRAINT) return constraintError(message, language);
+    if (primary(code) == SQLITE_ERROR) return commandError(message, language);
+    return {ado::dbErrUnspecified, say(language, sentence::unusable, {path, message})};
 }
 
 }  // namespace hx::sqlite

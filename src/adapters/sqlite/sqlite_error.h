@@ -4,10 +4,12 @@
 #include <string_view>
 
 #include "automation/error.h"
+#include "automation/sentence.h"
 
 namespace hx::sqlite {
 
 /// SQLite's (extended) result code and message as an error that says what happened to which file.
-[[nodiscard]] automation::Error errorOf(int code, std::string_view message, const std::string& path);
+[[nodiscard]] automation::Error errorOf(int code, std::string_view message, const std::string& path,
+                                        automation::Language language);
 
 }  // namespace hx::sqlite

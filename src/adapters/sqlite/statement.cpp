@@ -16,6 +16,7 @@ void Statement::Finalizer::operator()(sqlite3_stmt* statement) const noexcept { 
 
 Statement::Statement(const Database& database, std::string_view sql) : database_(&database) {
     sqlite3_stmt* statement = nullptr;
+    database.lockWait().begin(true);
     const int code = sqlite3_prepare_v3(database.handle(), sql.data(), static_cast<int>(sql.size()),
                                         SQLITE_PREPARE_PERSISTENT, &statement, nullptr);
     statement_.reset(statement);
@@ -46,10 +47,12 @@ void Statement::bind(int parameter, ado::Key key) {
 }
 
 bool Statement::step() {
+    LockWait& wait = database_->lockWait();
+    wait.begin(isReadOnly());
     const int code = sqlite3_step(statement_.get());
-    if (code == SQLITE_ROW) return true;
-    if (code != SQLITE_DONE) database_->fail(code);
-    return false;
+    if (code != SQLITE_ROW && code != SQLITE_DONE) database_->fail(code);
+    wait.letIn();
+    return code == SQLITE_ROW;
 }
 
 void Statement::reset() noexcept {

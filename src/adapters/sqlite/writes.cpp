@@ -2,8 +2,9 @@
 
 #include <optional>
 
+#include "adapters/sqlite/project_schema.h"
+#include "adapters/sqlite/sentences.h"
 #include "adapters/sqlite/transaction.h"
-#include "ado/errors.h"
 #include "automation/convert.h"
 
 namespace hx::sqlite {
@@ -18,8 +19,8 @@ constexpr std::size_t rowsPerStatement = 64;
 
 // A refused duplicate names only the column; which value it was the caller knows.
 template <class Action>
-void namingDuplicates(const TableInfo& table, std::span<const ado::Column> columns, std::span<const ColumnValue> values,
-                      Action&& action) {
+void namingDuplicates(const Database& database, const TableInfo& table, std::span<const ado::Column> columns,
+                      std::span<const ColumnValue> values, Action&& action) {
     try {
         action();
     } catch (const Error& error) {
@@ -27,9 +28,8 @@ void namingDuplicates(const TableInfo& table, std::span<const ado::Column> colum
         for (const ColumnValue& value : values) {
             const std::string& name = columns[value.column].name;
             if (error.description().find("\"" + table.name + "." + name + "\"") == std::string::npos) continue;
-            throw Error(ado::dbErrDuplicate, "The value \"" + automation::toText(value.value) +
-                                                 "\" exists already in column \"" + name + "\" of table \"" +
-                                                 table.name + "\".");
+            throw database.error(ado::dbErrDuplicate, duplicateSentence(table.name, name),
+                                 {automation::toText(value.value), name, table.name});
         }
         throw;
     }
@@ -65,11 +65,6 @@ std::string updateQuery(const TableInfo& table, std::span<const ado::Column> col
     return "UPDATE " + quotedName(table.name) + " SET " + assignments + " WHERE " + quotedName(table.key) + " = ?";
 }
 
-[[noreturn]] void throwDeleted(const TableInfo& table, Key key) {
-    throw Error(ado::dbErrDeletedRow,
-                "Row " + std::to_string(key) + " of table \"" + table.name + "\" has been deleted.");
-}
-
 }  // namespace
 
 Key Writes::insert(const TableInfo& table, std::span<const ado::Column> columns, std::span<const ColumnValue> values) {
@@ -77,7 +72,7 @@ Key Writes::insert(const TableInfo& table, std::span<const ado::Column> columns,
     Statement& statement = database_.prepared(insertQuery(table, columns, values));
     const ResetGuard guard(statement);
     bindAll(statement, values);
-    namingDuplicates(table, columns, values, [&] { statement.step(); });
+    namingDuplicates(database_, table, columns, values, [&] { statement.step(); });
     return database_.lastInsertedKey();
 }
 
@@ -132,7 +127,7 @@ void Writes::update(const TableInfo& table, std::span<const ado::Column> columns
         const ResetGuard guard(statement);
         bindAll(statement, values);
         statement.bind(static_cast<int>(values.size()) + 1, key);
-        namingDuplicates(table, columns, values, [&] { statement.step(); });
+        namingDuplicates(database_, table, columns, values, [&] { statement.step(); });
     }
     if (own) own->commit();
 }
@@ -146,11 +141,13 @@ void Writes::requireRead(const TableInfo& table, std::span<const ado::Column> co
                                               quotedName(table.name) + " WHERE " + quotedName(table.key) + " = ?");
     const ResetGuard guard(statement);
     statement.bind(1, key);
-    if (!statement.step()) throwDeleted(table, key);
+    if (!statement.step()) throw database_.error(ado::dbErrDeletedRow, sentence::rowDeleted);
     int number = 0;
     for (const ColumnValue& value : read) {
         const ado::Column& column = columns[value.column];
-        if (!ado::sameValue(statement.value(number++, column.type), value.value)) ado::throwRowChanged(column.name);
+        if (!ado::sameValue(statement.value(number++, column.type), value.value)) {
+            throw database_.error(ado::dbErrRowChanged, sentence::rowChanged, {database_.nameOf(column.name)});
+        }
     }
 }
 
@@ -161,7 +158,7 @@ void Writes::remove(const TableInfo& table, Key key) {
     const ResetGuard guard(statement);
     statement.bind(1, key);
     statement.step();
-    if (database_.changedRows() == 0) throwDeleted(table, key);
+    if (database_.changedRows() == 0) throw database_.error(ado::dbErrDeletedRow, sentence::rowDeleted);
 }
 
 void Writes::execute(const std::string& sql) {
@@ -175,29 +172,28 @@ void Writes::begin() {
     requireTransaction();
     // IMMEDIATE takes the lock now, while nothing has been written that a refusal would undo.
     database_.execute("BEGIN IMMEDIATE");
-    inTransaction_ = true;
+    database_.expectTransaction(true);
     database_.useLargeCache(true);
 }
 
 void Writes::commit() {
     requireTransaction();
     database_.execute("COMMIT");
-    inTransaction_ = false;
+    database_.expectTransaction(false);
     database_.useLargeCache(false);
 }
 
 void Writes::rollback() {
     // After some errors (disk full, disk errors) SQLite has rolled back already.
     if (database_.inTransaction()) database_.execute("ROLLBACK");
-    inTransaction_ = false;
+    database_.expectTransaction(false);
     database_.useLargeCache(false);
 }
 
 // When SQLite has rolled a transaction back by itself, what follows must not be written as if it had not.
 void Writes::requireTransaction() const {
-    if (!inTransaction_ || database_.inTransaction()) return;
-    throw Error(ado::dbErrUnspecified,
-                "The changes to '" + database_.path() + "' were taken back after an error; nothing of them is stored.");
+    if (!database_.lostBy()) return;
+    throw database_.error(ado::dbErrUnspecified, sentence::takenBack, {*database_.lostBy(), database_.path()});
 }
 
 }  // namespace hx::sqlite

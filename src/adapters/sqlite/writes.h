@@ -11,7 +11,7 @@ namespace hx::sqlite {
 /// The database of one session and all that changes it. A session and its rowsets share it.
 class Writes {
   public:
-    explicit Writes(const std::string& path) : database_(path) {}
+    explicit Writes(const std::string& path, const OpenOptions& options = {}) : database_(path, options) {}
 
     [[nodiscard]] Database& database() noexcept { return database_; }
 
@@ -37,7 +37,6 @@ class Writes {
                      std::span<const ado::ColumnValue> read);
 
     Database database_;
-    bool inTransaction_ = false;
 };
 
 }  // namespace hx::sqlite
