@@ -42,6 +42,14 @@ TEST_F(Stop, EndsAnEndlessLoop) {
     EXPECT_THAT(error.traceback(), testing::MatchesRegex("stack traceback:\n\ttest.lua:[23]: in main chunk(\n.*)?"));
 }
 
+TEST_F(Stop, AskedForBeforeTheMacroBeginsEndsItAtItsFirstSteps) {
+    stop = true;
+    engine.defineGlobal("early", [] { return automation::Variant(); });
+    engine.define("early", "Run", [this](Values) { return Value(++ran); });
+    stopped("early.Run()");
+    EXPECT_EQ(ran, 0);
+}
+
 TEST_F(Stop, CannotBeCaught) {
     for (const char* text : {
              "while true do pcall(function() while true do end end) end",
@@ -177,6 +185,23 @@ TEST_F(Stop, FailsAMacroThatTakesTooMuchMemory) {
         }
     }
     EXPECT_NO_THROW(engine.run("assert(#('x'):rep(1000000) == 1000000)", "test.lua"));
+}
+
+TEST(Memory, ThatEndsWhileTheEngineIsMadeIsAnErrorOfTheStandardLibrary) {
+    bool ran = false;
+    int refused = 0;
+    for (std::size_t limit = 1; !ran; limit += 100) {
+        try {
+            Engine engine({.print = [](std::string_view) {}, .folder = {}, .memoryLimit = limit});
+            engine.define("host", "Run", [&](Values) { return Value(ran = true); });
+            engine.run("host.Run()", "test.lua", {"argument"});
+        } catch (const std::bad_alloc&) {
+            ++refused;
+        } catch (const MacroError& error) {
+            EXPECT_THAT(error.what(), HasSubstr("not enough memory"));
+        }
+    }
+    EXPECT_GT(refused, 10);
 }
 
 }  // namespace

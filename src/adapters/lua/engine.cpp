@@ -59,21 +59,30 @@ void pushArguments(lua_State* state, const List& arguments) {
 
 Engine::Engine(EngineOptions options) : machine_(std::make_shared<Machine>(std::move(options))) {}
 
+// Past the globals that are asked for: no macro runs yet that a request to stop could end here.
 void Engine::define(const std::string& table, const std::string& name, Native function) {
     const Native* const kept = &machine_->natives.emplace_back(std::move(function));
-    protect(machine_->main, 0, 0, [&](lua_State* state) {
-        if (lua_getglobal(state, table.c_str()) != LUA_TTABLE) {
+    const auto action = [&](lua_State* state) {
+        lua_pushglobaltable(state);
+        lua_pushstring(state, table.c_str());
+        if (lua_rawget(state, 1) != LUA_TTABLE) {
             lua_newtable(state);
             lua_pushvalue(state, -1);
-            lua_setglobal(state, table.c_str());
-            lua_replace(state, 1);
+            lua_setfield(state, 1, table.c_str());
+            lua_replace(state, 2);
         }
         lua_pushlightuserdata(state, const_cast<Native*>(kept));
-        lua_pushvalue(state, 1);
+        lua_pushvalue(state, 2);
         lua_pushcclosure(state, guarded<callNative>, tableUpvalue);
-        lua_setfield(state, 1, name.c_str());
+        lua_setfield(state, 2, name.c_str());
         return 0;
-    });
+    };
+    try {
+        protect(machine_->main, 0, 0, action);
+    } catch (const Raised&) {
+        lua_settop(machine_->main, 0);
+        throw std::bad_alloc();
+    }
 }
 
 void Engine::defineGlobal(const std::string& name, std::function<automation::Variant()> read) {

@@ -84,9 +84,9 @@ Machine::Machine(EngineOptions given) : options(std::move(given)), main(luaL_new
     limitMemory(main, memory);
     try {
         protect(main, 0, 0, [](lua_State* state) { return setUp(state); });
-    } catch (...) {
+    } catch (...) {  // for want of memory: nothing else can fail in it
         lua_close(main);
-        throw;
+        throw std::bad_alloc();
     }
 }
 
