@@ -1,5 +1,6 @@
 #include "cli/build_sample.h"
 
+#include <array>
 #include <map>
 #include <memory>
 
@@ -38,7 +39,8 @@ class SampleWriter {
         Recordset table;
         table.open("ThxVariable", connection_);
         for (const SampleVariable& variable : sample.variables) {
-            table.addNew(Values{{"Name", variable.name}, {"Type", variable.type}, {"Comment", variable.comment}});
+            table.addNew(std::to_array<Values::value_type>(
+                {{"Name", variable.name}, {"Type", variable.type}, {"Comment", variable.comment}}));
         }
     }
 
@@ -59,8 +61,8 @@ class SampleWriter {
         for (const SampleRecipe& recipe : sample.recipes) {
             for (const SampleMember& member : recipe.members) {
                 const std::int32_t child = member.subRecipe.empty() ? 0 : ids_.at(member.subRecipe);
-                table.addNew(
-                    Values{{"ParentID", ids_.at(recipe.name)}, {"VarRecipe", member.variable}, {"ChildID", child}});
+                table.addNew(std::to_array<Values::value_type>(
+                    {{"ParentID", ids_.at(recipe.name)}, {"VarRecipe", member.variable}, {"ChildID", child}}));
             }
         }
     }

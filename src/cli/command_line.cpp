@@ -62,6 +62,11 @@ void addBuildSample(CLI::App& app, Command& chosen, const Output& output) {
     });
 }
 
+void explain(const std::exception& error, const Output& output) {
+    const bool isMemory = dynamic_cast<const std::bad_alloc*>(&error) != nullptr;
+    output.problems << "hxrecipe: " << (isMemory ? "There is not enough memory." : error.what()) << "\n";
+}
+
 int carryOut(const Command& command, const Output& output) {
     try {
         const int status = command.run();
@@ -69,7 +74,7 @@ int carryOut(const Command& command, const Output& output) {
         if (output.results.fail()) throw automation::Error(automation::errFail, "The results cannot be written.");
         return status;
     } catch (const std::exception& error) {
-        output.problems << "hxrecipe: " << error.what() << "\n";
+        explain(error, output);
         return command.onFailure;
     }
 }
@@ -113,14 +118,19 @@ std::unique_ptr<CLI::App> makeApplication(Command& chosen, const Output& output)
 }
 
 int run(int argc, const char* const* argv, const Output& output) {
-    Command chosen;
-    const auto app = makeApplication(chosen, output);
     try {
-        app->parse(argc, argv);
-    } catch (const CLI::ParseError& error) {
-        return explainUsage(*app, error, output);
+        Command chosen;
+        const auto app = makeApplication(chosen, output);
+        try {
+            app->parse(argc, argv);
+        } catch (const CLI::ParseError& error) {
+            return explainUsage(*app, error, output);
+        }
+        return carryOut(chosen, output);
+    } catch (const std::exception& error) {  // before it is known what to do
+        explain(error, output);
+        return wrongUsage;
     }
-    return carryOut(chosen, output);
 }
 
 }  // namespace hx::cli
