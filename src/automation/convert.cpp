@@ -21,18 +21,14 @@ bool isDigit(char c) { return c >= '0' && c <= '9'; }
 // Takes digits (and a sign, a point, an exponent where they may stand) off the front of `text`.
 class NumberScanner {
   public:
-    explicit NumberScanner(std::string_view text) {
-        for (const char c : text) {
-            if (c != ' ' && c != '\t') text_ += c;
-        }
-    }
+    explicit NumberScanner(std::string_view text) : text_(text) {}
 
     std::string_view longestNumber() {
         sign();
         const bool digits = takeDigits() + fraction() > 0;
         if (!digits) return {};
         exponent();
-        return std::string_view(text_).substr(0, at_);
+        return text_.substr(0, at_);
     }
 
   private:
@@ -57,7 +53,7 @@ class NumberScanner {
         if (takeDigits() == 0) at_ = before;
     }
 
-    std::string text_;
+    std::string_view text_;
     std::size_t at_ = 0;
 };
 
@@ -106,7 +102,9 @@ std::string toText(const Variant& value, const NumberFormat& format) {
 }
 
 double leadingNumber(std::string_view text) {
-    NumberScanner scanner(text);
+    const std::size_t start = text.find_first_not_of(" \t");
+    if (start == text.npos) return 0;
+    NumberScanner scanner(text.substr(start));
     return parse(scanner.longestNumber());
 }
 

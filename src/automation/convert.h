@@ -19,8 +19,8 @@ struct NumberFormat {
 /// Any value as text: "" for empty, null and object, "True"/"False", numbers in `format`.
 [[nodiscard]] std::string toText(const Variant& value, const NumberFormat& format = {});
 
-/// The longest leading part of `text` that reads as a number with a point as decimal separator, whatever the
-/// locale; blanks and tabs are skipped; 0 when there is none ("12abc" is 12, "1,2" is 1, "abc" is 0).
+/// The longest leading part of `text`, blanks and tabs before it left out, that reads as a number with a point as
+/// decimal separator, whatever the locale; 0 when there is none ("12abc" is 12, "1,2" and "1 2" are 1, "abc" is 0).
 [[nodiscard]] double leadingNumber(std::string_view text);
 
 /// The whole text as a number (point as decimal separator, blanks around it allowed); throws errTypeMismatch.

@@ -12,7 +12,9 @@ Variant TextToValue(std::string_view text) {
     if (text == "TRUE" || text == "True" || text == "true") return Variant(true);
     const bool number = !text.empty() && text.front() >= '0' && text.front() <= '9';
     if (!number) return Variant(text);
-    return Variant(automation::leadingNumber(automation::replaceAll(text, ",", ".")));
+    std::string digits = automation::replaceAll(text, ",", ".");
+    std::erase_if(digits, [](char c) { return c == ' ' || c == '\t'; });
+    return Variant(automation::leadingNumber(digits));
 }
 
 std::string ValueToText(const Variant& value, const automation::NumberFormat& format) {

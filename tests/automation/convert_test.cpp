@@ -38,7 +38,12 @@ TEST(LeadingNumber, StopsAtTheFirstCharacterThatCannotContinueIt) {
     EXPECT_EQ(leadingNumber("abc"), 0);
     EXPECT_EQ(leadingNumber("1,2"), 1);
     EXPECT_EQ(leadingNumber("1.2.3"), 1.2);
-    EXPECT_EQ(leadingNumber(" - 5x"), -5);
+    EXPECT_EQ(leadingNumber(" -5x"), -5);
+    EXPECT_EQ(leadingNumber("\t7"), 7);
+    EXPECT_EQ(leadingNumber("1 2"), 1);
+    EXPECT_EQ(leadingNumber("1. 5"), 1);
+    EXPECT_EQ(leadingNumber("- 5"), 0);
+    EXPECT_EQ(leadingNumber("   "), 0);
     EXPECT_EQ(leadingNumber("1e3"), 1000);
     EXPECT_EQ(leadingNumber("1e"), 1);
     EXPECT_EQ(leadingNumber("."), 0);

@@ -30,7 +30,7 @@ TEST(TextToValue, ReadsTheNumberAtTheStartWithPointOrComma) {
     EXPECT_EQ(TextToValue("8.25"), Variant(8.25));
     EXPECT_EQ(TextToValue("1,2,3"), Variant(1.2));
     EXPECT_EQ(TextToValue("12abc"), Variant(12.0));
-    EXPECT_EQ(TextToValue("1 000"), Variant(1000.0));
+    EXPECT_EQ(TextToValue("1 000\t000 , 5"), Variant(1000000.5));
     EXPECT_EQ(TextToValue(" 0"), Variant(0.0));
     EXPECT_EQ(TextToValue("2").type(), automation::VarType::real8);
 }
