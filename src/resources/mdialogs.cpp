@@ -9,7 +9,6 @@
 namespace hx::resources {
 
 using automation::Dispatch;
-using automation::Error;
 using automation::ObjectRef;
 using automation::Variant;
 
@@ -22,7 +21,7 @@ template <class Action>
 void ignoringErrors(const Action& action) {
     try {
         action();
-    } catch (const Error&) {
+    } catch (...) {
         // A control that lacks a property, or refuses a value, must not keep the others from theirs.
     }
 }

@@ -130,24 +130,24 @@ void CInit::SetInitToMotherObject() {
     if (form == nullptr) return;
     const auto controls = form->controls();
     for (const auto& control : controls) {
-        applyTo(pathOf(*control), [](const Error&) {
+        applyTo(pathOf(*control), [] {
             // What a control cannot take must not keep the other entries from theirs.
         });
     }
 }
 
 void CInit::SetInitToControl(const std::string& name) {
-    applyTo(name, [](const Error& error) { throw error; });
+    applyTo(name, [] { throw; });
 }
 
-void CInit::applyTo(const std::string& name, const std::function<void(const Error&)>& onError) {
+void CInit::applyTo(const std::string& name, const std::function<void()>& onError) {
     CInitItem* const item = FindItem(name);
     if (item == nullptr) return;
     const auto apply = [&](const std::string& entry, const CInitItem& leaf) {
         try {
             SetValueByPath(window(), entry, leaf.val);
-        } catch (const Error& error) {
-            onError(error);
+        } catch (...) {
+            onError();
         }
     };
     visit(name, *item, apply);

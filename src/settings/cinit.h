@@ -46,7 +46,8 @@ class CInit : public automation::Dispatch {
 
   private:
     void takeDefaultLine(std::string_view line);
-    void applyTo(const std::string& name, const std::function<void(const automation::Error&)>& onError);
+    /// `onError` is called in the handler of what an entry could not be applied for.
+    void applyTo(const std::string& name, const std::function<void()>& onError);
     void ReadFromIni(const std::string& entry);
     [[nodiscard]] CInitItem* FindItem(std::string_view path) const;
     [[nodiscard]] automation::Dispatch& window() const;

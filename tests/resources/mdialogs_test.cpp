@@ -2,6 +2,7 @@
 
 #include <array>
 #include <gtest/gtest.h>
+#include <stdexcept>
 
 #include "adapters/headless/host.h"
 #include "automation/member_rows.h"
@@ -325,12 +326,12 @@ TEST_F(FixTabStopsTest, LookNoFurtherThanTheWindow) {
     EXPECT_TRUE(window->txtFree->tabStop());
 }
 
-/// A control whose place cannot be read.
+/// A control whose place and tag cannot be read, for a reason that is no error of late binding.
 class LostControl : public forms::TextBox {
   public:
     using TextBox::TextBox;
     automation::Variant get(std::string_view name, automation::Args args) override {
-        if (name == "Left") throw automation::Error(automation::errFail, "lost");
+        if (name == "Left" || name == "Tag") throw std::runtime_error("lost");
         return TextBox::get(name, args);
     }
 };
@@ -338,18 +339,31 @@ class LostControl : public forms::TextBox {
 class WindowWithALostControl : public TestWindow {
   public:
     explicit WindowWithALostControl(forms::Screen& display) : TestWindow(display) {
-        add<LostControl>("txtLost");
+        txtLost = add<LostControl>("txtLost");
+        lblLast = add<forms::Label>("lblLast");
         txtLast = add<forms::TextBox>("txtLast");
         txtLast->setTabStop(false);
+        lblLast->setTag("C701");
     }
-    std::shared_ptr<forms::TextBox> txtLast;
+    std::shared_ptr<forms::TextBox> txtLost, txtLast;
+    std::shared_ptr<forms::Label> lblLast;
 };
 
 TEST_F(FixTabStopsTest, CarryOnBehindAControlThatFails) {
     const auto lost = std::make_shared<WindowWithALostControl>(host.screen);
-    FixTabStops(*lost, "tab");
+    for (const bool before : {true, false}) {
+        lost->txtLost->setTabStop(before);
+        FixTabStops(*lost, "tab");
+        EXPECT_EQ(lost->txtLost->tabStop(), before);
+    }
     EXPECT_TRUE(lost->txtLast->tabStop());
     EXPECT_FALSE(lost->txtSecond->tabStop());
+}
+
+TEST_F(MDialogs, LocaliseTheControlsBehindOneThatFails) {
+    const auto lost = std::make_shared<WindowWithALostControl>(host.screen);
+    LocaliseDialog(*lost, german);
+    EXPECT_EQ(lost->lblLast->caption(), "&Editorfont");
 }
 
 }  // namespace
