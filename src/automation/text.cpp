@@ -49,7 +49,7 @@ void append(std::string& out, char32_t point) {
 
 // Latin Extended-A pairs upper and lower case on neighbouring code points, in three runs of different parity.
 char32_t foldLatinExtended(char32_t c) {
-    if (c == 0x130) return 'i';
+    if (c == 0x130) return c;  // the store takes it for another letter than "i", and so do all
     if (c == 0x178) return 0xFF;
     const bool evenIsUpper = (c >= 0x100 && c <= 0x137) || (c >= 0x14A && c <= 0x177);
     const bool oddIsUpper = (c >= 0x139 && c <= 0x148) || (c >= 0x179 && c <= 0x17E);

@@ -133,6 +133,16 @@ TEST_P(Schema, AnIdIsNeverGivenTwice) {
     EXPECT_EQ(stored("TrcpRecipe", "ID"), "1,3");
 }
 
+TEST_P(Schema, WhetherTwoNamesAreTheSameDoesNotDependOnWhichComesFirst) {
+    addRecipes({"i", "İ", "DİE", "die", "ſ", "s", "ß", "ẞ1"});
+    const auto recordset = recipes();
+    for (const char* name : {"I", "İ", "dİe", "DIE", "S", "ſ", "ẞ", "ß1"}) {
+        EXPECT_EQ(errorOf([&] { recordset->addNew(Values{{"Name", name}}); }), ado::dbErrDuplicate) << name;
+        recordset->cancelUpdate();
+    }
+    EXPECT_EQ(recordset->recordCount(), 8);
+}
+
 TEST_P(Schema, NamesAreUniqueIgnoringCaseAlsoOfUmlauts) {
     addRecipes({"Mühle", "Cola"});
     const auto recordset = recipes();
