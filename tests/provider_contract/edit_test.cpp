@@ -154,14 +154,31 @@ TEST_P(Edit, ARecipeHasAVariableOnce) {
     EXPECT_EQ(recordset->field("VarRecipe").value(), Variant("Tank.Temp"));
 }
 
-TEST_P(Edit, EmptyVariablesAndThoseOfSubRecipesMayRepeat) {
+TEST_P(Edit, EmptyVariablesMayRepeatAndSubRecipesMayShareTheVariableOfTheirFileName) {
     const auto recordset = members();
     for (int i = 0; i < 2; ++i) {
         recordset->addNew(Values{{"ParentID", 1}, {"VarRecipe", ""}, {"ChildID", 0}});
-        recordset->addNew(Values{{"ParentID", 1}, {"VarRecipe", "CIP.Datei"}, {"ChildID", 2}});
+        recordset->addNew(Values{{"ParentID", 1}, {"VarRecipe", ""}, {"ChildID", 2}});
     }
-    recordset->addNew(Values{{"ParentID", 1}, {"VarRecipe", "CIP.Datei"}, {"ChildID", 0}});
-    EXPECT_EQ(recordset->recordCount(), 5);
+    for (const std::int32_t child : {0, 2, 3}) {
+        recordset->addNew(Values{{"ParentID", 1}, {"VarRecipe", "CIP.Datei"}, {"ChildID", child}});
+    }
+    EXPECT_EQ(recordset->recordCount(), 7);
+}
+
+TEST_P(Edit, ARecipeHasASubRecipeOnceUnderTheSameVariable) {
+    const auto recordset = members();
+    recordset->addNew(Values{{"ParentID", 1}, {"VarRecipe", "CIP.Datei"}, {"ChildID", 2}});
+    EXPECT_EQ(errorOf([&] {
+                  recordset->addNew(Values{{"ParentID", 1}, {"VarRecipe", "cip.datei"}, {"ChildID", 2}});
+              }),
+              ado::dbErrDuplicate);
+    recordset->cancelUpdate();
+    recordset->addNew(Values{{"ParentID", 1}, {"VarRecipe", "Other"}, {"ChildID", 2}});
+    recordset->field("VarRecipe").setValue("CIP.Datei");
+    EXPECT_EQ(errorOf([&] { recordset->update(); }), ado::dbErrDuplicate);
+    recordset->cancelUpdate();
+    EXPECT_EQ(stored("TrcpRecipeMember", "VarRecipe"), "CIP.Datei,Other");
 }
 
 TEST_P(Edit, AddNewWithAnUnknownColumnStoresNothing) {

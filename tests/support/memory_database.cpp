@@ -101,12 +101,12 @@ MemoryColumn uniqueText(std::string name) {
     return column;
 }
 
-// A recipe has a variable once; sub-recipes may share the variable of their file name.
-std::string variableOf(const MemoryTable::Row& row) {
+// A recipe has a member once under a name; different sub-recipes may share the variable of their file name.
+std::string memberOf(const MemoryTable::Row& row) {
     constexpr std::size_t parent = 1, variable = 2, child = 3;
     const std::string name = toText(row[variable]);
-    if (toText(row[child]) != "0" || name.empty()) return {};
-    return toText(row[parent]) + "/" + automation::foldCase(name);
+    if (name.empty()) return {};
+    return toText(row[parent]) + "/" + toText(row[child]) + "/" + automation::foldCase(name);
 }
 
 }  // namespace
@@ -133,7 +133,7 @@ MemoryDatabase MemoryDatabase::withRecipeTables() {
                         boolean("CryptEngine"),
                         integer("Options")}});
     database.addTable(
-        {"TrcpRecipeMember", {key("ID"), integer("ParentID"), text("VarRecipe"), integer("ChildID")}, &variableOf});
+        {"TrcpRecipeMember", {key("ID"), integer("ParentID"), text("VarRecipe"), integer("ChildID")}, &memberOf});
     return database;
 }
 

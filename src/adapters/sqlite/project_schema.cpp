@@ -45,12 +45,13 @@ CREATE TABLE ThxVariable (
 )";
 
 // The first one holds all that a member query asks for, so its keys are read from it alone. The last one refuses a
-// variable that the recipe has already; sub-recipes may share the variable of their file name.
+// member that the recipe has already under that name: a variable, or a sub-recipe with the same variable for its file
+// name. Different sub-recipes may share that variable.
 constexpr const char* indexes = R"(
 CREATE INDEX IrcpRecipeMember_ParentID_ChildID ON TrcpRecipeMember (ParentID, ChildID);
 CREATE INDEX IrcpRecipeMember_ChildID ON TrcpRecipeMember (ChildID);
-CREATE UNIQUE INDEX IrcpRecipeMember_Variable ON TrcpRecipeMember (ParentID, VarRecipe)
-    WHERE ChildID = 0 AND VarRecipe <> '';
+CREATE UNIQUE INDEX IrcpRecipeMember_Variable ON TrcpRecipeMember (ParentID, ChildID, VarRecipe)
+    WHERE VarRecipe <> '';
 )";
 
 }  // namespace
