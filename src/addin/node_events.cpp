@@ -130,7 +130,6 @@ void Connect::ShowSelectedNode() {
     const auto window = openWindow();
     if (!window) return;
     window->show();
-    if (window->windowState() == forms::WindowState::minimised) window->setWindowState(forms::WindowState::normal);
     window->bringToFront();
 }
 

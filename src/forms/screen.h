@@ -39,7 +39,7 @@ class Screen {
     virtual void destroyWindow(Form& form) = 0;
     /// Makes the form visible (Form::setVisible) and returns when it has been hidden or unloaded. `owner` may be 0.
     virtual void showModal(Form& form, WindowHandle owner) = 0;
-    /// Shows the form's window in front, restored when minimised, and gives it the keyboard.
+    /// Raises the form's window, restored when minimised, and gives it the keyboard. A hidden one stays hidden.
     virtual void bringToFront(Form& form) = 0;
 
     /// Closing the box by its frame or Esc answers cancel, no or ok, whichever the style has, in this order.

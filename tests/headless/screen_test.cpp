@@ -167,6 +167,14 @@ TEST_F(ScreenTest, RestoresAndActivatesAFormThatIsBroughtToFront) {
     EXPECT_THAT(host.record.broughtToFront, ElementsAre("FTest"));
 }
 
+TEST_F(ScreenTest, LeavesAHiddenFormHiddenThatIsBroughtToFront) {
+    form->show();
+    form->hide();
+    form->bringToFront();
+    EXPECT_FALSE(form->visible());
+    EXPECT_NE(host.windows.active(), form->handle());
+}
+
 TEST_F(ScreenTest, LetsTheScriptChangeAFontOrCancel) {
     forms::Font::Values font;
     EXPECT_FALSE(host.screen.chooseFont(font));

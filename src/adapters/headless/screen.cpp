@@ -65,9 +65,8 @@ void Screen::runScript(forms::Form& form, ModalForm& entry) {
 void Screen::bringToFront(forms::Form& form) {
     record_.broughtToFront.push_back(form.name());
     if (form.windowState() == forms::WindowState::minimised) form.setWindowState(forms::WindowState::normal);
-    form.setVisible(true);
     const auto found = shown_.find(&form);
-    if (found != shown_.end()) windows_.activate(found->second.handle, host::window::active);
+    if (found != shown_.end() && form.visible()) windows_.activate(found->second.handle, host::window::active);
 }
 
 forms::message::Answer Screen::messageBox(std::string_view text, std::int32_t style, std::string_view title) {
