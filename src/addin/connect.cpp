@@ -44,8 +44,11 @@ void Connect::start(const std::string& projectName, host::ProjectExplorer* explo
         throw automation::Error(automation::errFail, "The studio gave no project explorer.");
     }
     hostValue_ = explorer->hostWindow();
-    InitTreeView(services_, *explorer, resources_, images_, rootAdded_);
-    if (rootAdded_) help_.SetHelpFile();
+    bool added = false;
+    InitTreeView(services_, *explorer, resources_, images_, added);
+    if (!added) return;
+    rootAdded_ = true;
+    help_.SetHelpFile();
 }
 
 bool Connect::ReadLanguageChanged(bool& flag) noexcept {
@@ -129,6 +132,7 @@ void Connect::closeWindow() noexcept {
         if (services_.runsAsLibrary()) step([&] { embedding_.UnhookEditorWindow(*window); });
         step([&] { window->unload(forms::UnloadMode::byCode); });
     }
+    window->releaseAddIn();
     // One of its own commands may have asked for this.
     step([&] { retired_.push_back(window); });
     editor_.reset();

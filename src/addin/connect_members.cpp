@@ -8,16 +8,19 @@ namespace {
 using automation::ObjectRef;
 
 // An explorer that is handed over by name is one of the studio's objects, or what another add-in's Explorer gave.
-host::ProjectExplorer* explorerOf(const ObjectRef& object) {
+host::ProjectExplorer* explorerOf(const automation::Variant& value) {
+    if (value.isEmpty() || value.isNull()) return nullptr;
+    const ObjectRef& object = value.asObject();
     if (!object) return nullptr;
     if (const auto* wrapped = dynamic_cast<ExplorerObject*>(object.get())) return &wrapped->explorer();
     if (auto* explorer = dynamic_cast<host::ProjectExplorer*>(object.get())) return explorer;
     throw automation::Error(automation::errTypeMismatch, "Type mismatch: a project explorer expected");
 }
 
-void initialize(Connect& connect, const std::string& projectName, const std::string& second, const ObjectRef& explorer,
-                const ObjectRef& fourth) {
-    connect.Initialize(projectName, second, explorerOf(explorer), fourth);
+// The fourth object is ignored, whatever it is: a macro passes nil.
+void initialize(Connect& connect, const std::string& projectName, const std::string& second,
+                const automation::Variant& explorer, const automation::Variant&) {
+    connect.Initialize(projectName, second, explorerOf(explorer), nullptr);
 }
 
 using NodeMember = void (Connect::*)(const host::NodeEvent&);

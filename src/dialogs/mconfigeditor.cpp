@@ -40,10 +40,6 @@ void tickFrom(const settings::CInit& inits, const char* name, CheckBox& box) {
 
 bool isSet(const CheckBox& box) { return box.value() != CheckState::unchecked; }
 
-void say(forms::Screen& screen, std::string_view text) {
-    screen.messageBox(text, forms::message::ok, forms::message::defaultTitle);
-}
-
 }  // namespace
 
 bool asksBeforeDeleting(const settings::CInit& inits) {
@@ -54,11 +50,11 @@ bool asksBeforeDeleting(const settings::CInit& inits) {
 std::int32_t ShowConfigEditor(ConfigurableWindow& window, const host::Services& services, resources::Help& help) {
     const auto dialog = std::make_shared<FConfigEditor>(services, help);
     if (!InitConfigEditor(window, *dialog)) {
-        say(services.screen, initFailed);
+        window.tell(initFailed);
         return 0;
     }
     dialog->showModal(window.editorWindow().handle());
-    if (!dialog->cancelled() && !WriteBackConfigEditor(window, *dialog)) say(services.screen, writeBackFailed);
+    if (!dialog->cancelled() && !WriteBackConfigEditor(window, *dialog)) window.tell(writeBackFailed);
     return 0;
 }
 

@@ -19,6 +19,8 @@ class ConfigurableWindow {
     [[nodiscard]] virtual forms::StatusBar& statusBar() = 0;
     /// The settings of the window, with the window as Motherobject.
     [[nodiscard]] virtual settings::CInit& inits() = 0;
+    /// A message box with OK and the default title. The window is not refreshed meanwhile.
+    virtual void tell(std::string_view text) = 0;
     /// Lays out bar, status line and grid anew.
     virtual void abr_Resize() = 0;
 };

@@ -49,6 +49,33 @@ class AddIn {
     [[nodiscard]] virtual BusyFlag& busy() = 0;
 };
 
+/// A window's reference to the add-in that created it, released when the window is closed: somebody may keep the window
+/// for longer than the add-in lives. What needs the add-in then throws errFail, and there is no explorer; messages can
+/// still be shown.
+class AddInReference : public AddIn {
+  public:
+    explicit AddInReference(AddIn& addIn) : addIn_(&addIn), services_(addIn.services()) {}
+    void release() noexcept { addIn_ = nullptr; }
+
+    void RefreshView() override { required().RefreshView(); }
+    [[nodiscard]] host::ProjectExplorer* explorer() const override { return addIn_ ? addIn_->explorer() : nullptr; }
+    [[nodiscard]] const host::Services& services() const override { return services_; }
+    [[nodiscard]] const resources::ResourceTable& texts() const override { return required().texts(); }
+    [[nodiscard]] resources::Help& help() override { return required().help(); }
+    [[nodiscard]] recipe::StatusCounters& counters() override { return required().counters(); }
+    [[nodiscard]] BusyFlag& busy() override { return addIn_ ? addIn_->busy() : busy_; }
+
+  private:
+    [[nodiscard]] AddIn& required() const {
+        if (addIn_ == nullptr) throw automation::Error(automation::errFail, "The editor has been closed.");
+        return *addIn_;
+    }
+
+    AddIn* addIn_;
+    const host::Services& services_;
+    BusyFlag busy_;  // of nobody, when the add-in is gone
+};
+
 /// "number: description" under the procedure's name: the box of every trapped error.
 void showError(forms::Screen& screen, const automation::Error& error, std::string_view procedure);
 

@@ -35,12 +35,12 @@ frmtabgrid::frmtabgrid(AddIn& addIn)
       sb(add<forms::StatusBar>("sb", statusPanels)),
       pctrcpTabSplit(add<forms::PictureBox>("pctrcpTabSplit")),
       addIn_(addIn),
-      commands_(std::make_unique<Commands>(*this, addIn)),
-      menus_(std::make_unique<Menus>(*this, addIn)),
-      memberGrid_(std::make_unique<MSurfingGrid>(*this, addIn)),
-      gridKeys_(std::make_unique<MemberGridKeys>(*this, *memberGrid_, *menus_, addIn)),
-      gridMouse_(std::make_unique<MemberGridMouse>(*this, *menus_, addIn)),
-      functionBar_(std::make_unique<FunctionBar>(*this, *menus_, addIn)),
+      commands_(std::make_unique<Commands>(*this, addIn_)),
+      menus_(std::make_unique<Menus>(*this, addIn_)),
+      memberGrid_(std::make_unique<MSurfingGrid>(*this, addIn_)),
+      gridKeys_(std::make_unique<MemberGridKeys>(*this, *memberGrid_, *menus_, addIn_)),
+      gridMouse_(std::make_unique<MemberGridMouse>(*this, *menus_, addIn_)),
+      functionBar_(std::make_unique<FunctionBar>(*this, *menus_, addIn_)),
       splitBar_(std::make_unique<SplitBar>(*this)) {
     tbrfunc->setHeight(toolBarHeight);
     sb->setHeight(statusBarHeight);
@@ -156,6 +156,11 @@ std::string frmtabgrid::recipeName(const std::string& key) const {
     const std::int32_t id = recipe::KeyId(key);
     if (id <= 0 || data_ == nullptr) return {};
     return nameOfRecipe(data_->CnnRecipes, id).value_or(std::string());
+}
+
+void frmtabgrid::tell(std::string_view text) {
+    const Busy busy(addIn_.busy());
+    screen().messageBox(text, forms::message::ok, forms::message::defaultTitle);
 }
 
 recipe::DataEnvironment& frmtabgrid::requireData() const {

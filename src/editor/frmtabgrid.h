@@ -43,6 +43,8 @@ class frmtabgrid : public forms::Form, public recipe::RecipeWindow, public dialo
     // --- what the add-in hands over
     void setDataEnvironment(std::shared_ptr<recipe::DataEnvironment> data) { data_ = std::move(data); }
     [[nodiscard]] const std::shared_ptr<recipe::DataEnvironment>& dataEnvironment() const noexcept { return data_; }
+    /// Lets go of the add-in: the window has been closed.
+    void releaseAddIn() noexcept { addIn_.release(); }
     /// The project file; the settings file lies in its folder. The second path is handed to sibling add-ins.
     void setPaths(const std::string& path, const std::string& secondPath);
     [[nodiscard]] const std::string& path() const noexcept { return path_; }
@@ -105,6 +107,7 @@ class frmtabgrid : public forms::Form, public recipe::RecipeWindow, public dialo
     [[nodiscard]] const host::Services& services() const override { return addIn_.services(); }
     [[nodiscard]] const resources::ResourceTable& texts() const override { return addIn_.texts(); }
     [[nodiscard]] resources::Help& help() override { return addIn_.help(); }
+    void tell(std::string_view text) override;
     /// Throws errFail while the window has no data environment; the same for the members.
     [[nodiscard]] ado::Recordset& recipeRecordset() override;
     [[nodiscard]] forms::Grid& memberGrid() override { return *tdbRM; }
@@ -126,7 +129,7 @@ class frmtabgrid : public forms::Form, public recipe::RecipeWindow, public dialo
     [[nodiscard]] std::optional<double> hostOffset(float (*offset)(const host::WindowOperations&, forms::WindowHandle,
                                                                    forms::WindowHandle)) const;
 
-    AddIn& addIn_;
+    AddInReference addIn_;
     std::shared_ptr<recipe::DataEnvironment> data_;
     std::string path_, secondPath_, nodeKey_;
     std::shared_ptr<settings::CInit> inits_;

@@ -20,10 +20,8 @@ class RecipeWindow : public MemberView {
     [[nodiscard]] virtual const resources::ResourceTable& texts() const = 0;
     [[nodiscard]] virtual resources::Help& help() = 0;
 
-    /// A message box with OK and the default title.
-    void tell(std::string_view text) const {
-        services().screen.messageBox(text, forms::message::ok, forms::message::defaultTitle);
-    }
+    /// A message box with OK and the default title. The window is not refreshed meanwhile.
+    virtual void tell(std::string_view text) = 0;
 };
 
 }  // namespace hx::recipe

@@ -1,5 +1,7 @@
+#include <array>
 #include <gtest/gtest.h>
 
+#include "editor/commands.h"
 #include "studio.h"
 
 namespace hx::addin {
@@ -37,6 +39,24 @@ TEST_F(ClosingTheEditor, TerminateRemovesTheBranchAndEndsTheWindow) {
     EXPECT_EQ(studio.connect->explorer(), nullptr);
     EXPECT_EQ(record.helpCloses, 1);
     EXPECT_EQ(studio.boxes(), Texts{});
+}
+
+TEST_F(ClosingTheEditor, AWindowThatSomebodyKeepsHasLetGoOfTheAddIn) {
+    const auto window = studio.connect->editorWindow();
+    studio.connect->Terminate();
+    window->commands().mnuOption(2);
+    EXPECT_EQ(studio.boxes(), (Texts{"mnuOption|-2147467259: The editor has been closed."}));
+    studio.connect.reset();
+    for (const auto command : std::to_array<std::int16_t>({0, 2, 6})) window->commands().mnuOption(command);
+    window->commands().mnuRecipeFunc(0);
+    EXPECT_EQ(studio.boxes(), (Texts{"mnuOption|-2147467259: The editor has no database now",
+                                     "mnuOption|-2147467259: The editor has been closed.",
+                                     "mnuOption|-2147467259: The editor has been closed.",
+                                     "mnuRecipeFunc|-2147467259: The editor has no database now"}));
+    EXPECT_EQ(window->PosLeft(), window->left());
+    forms::KeyEvent key{forms::key::f6, forms::shift::alt};
+    window->onKeyDown(key);
+    window->MenuSwitcher("RCPR1", true);
 }
 
 TEST_F(ClosingTheEditor, GivesTheWindowMinusOneAsItsParent) {
@@ -148,6 +168,44 @@ TEST_F(ClosingTheEditor, AnAddInReleasedWithoutTerminateEndsItsWindow) {
     studio.connect.reset();
     EXPECT_TRUE(window.expired());
     EXPECT_TRUE(studio.host.iniFile.exists("D:\\Prj\\HXEditors.ini"));
+}
+
+// Half way through: the window is asked whether it may end.
+TEST(ClosingTheLibrarysEditor, LeavesTheStudioTheDatabaseAndTheHookBeforeTheWindowEndsAndTheHelpLast) {
+    Studio studio(Studio::libraryOptions());
+    studio.addRecipe("Cola");
+    studio.start();
+    studio.click("RCPR1");
+    const auto window = studio.connect->editorWindow();
+    const auto data = window->dataEnvironment();
+    const auto hooked = studio.host.windows.procedure(window->handle());
+    bool asked = false;
+    const auto watched = window->queryUnloadEvent.subscribe([&](bool&, forms::UnloadMode) {
+        asked = true;
+        EXPECT_EQ(studio.host.windows.parent(window->handle()), 0);
+        EXPECT_EQ(window->dataEnvironment(), nullptr);
+        EXPECT_EQ(data->CnnRecipes->state(), ado::adStateClosed);
+        EXPECT_NE(studio.host.windows.procedure(window->handle()), hooked);
+        EXPECT_EQ(studio.connect->editorWindow(), window);
+        EXPECT_EQ(studio.connect->explorer(), &studio.host.explorer);
+        EXPECT_EQ(studio.host.record.helpCloses, 0);
+    });
+    studio.connect->Terminate();
+    EXPECT_TRUE(asked);
+    EXPECT_EQ(studio.host.record.helpCloses, 1);
+}
+
+TEST_F(ClosingTheEditor, RefreshViewEmptiesAndClosesTheBranchBeforeItClosesTheWindow) {
+    studio.host.explorer.setNodeProperty("RCPE0", host::node_property::expanded, true);
+    bool asked = false;
+    const auto watched = studio.window().queryUnloadEvent.subscribe([&](bool&, forms::UnloadMode) {
+        asked = true;
+        EXPECT_EQ(studio.nodes(), (Texts{"RCPE0"}));
+        EXPECT_FALSE(studio.host.explorer.isExpanded("RCPE0"));
+    });
+    studio.connect->RefreshView();
+    EXPECT_TRUE(asked);
+    EXPECT_EQ(record.helpCloses, 1);
 }
 
 TEST_F(ClosingTheEditor, TerminateKeepsTheOpenedFlagSoThatLaterClicksDoNothing) {

@@ -170,5 +170,26 @@ TEST_F(Members, InitializeTakesAnExplorerByName) {
     (void)studio.boxes();
 }
 
+TEST_F(Members, InitializeTakesAnythingForTheObjectThatItIgnores) {
+    for (const Variant& fourth :
+         {Variant(), Variant(automation::Null{}), Variant(automation::ObjectRef()), Variant(1)}) {
+        Studio other;
+        other.start();
+        studio.create();
+        call("Initialize", {"Plant", "", other.connect->Explorer(), fourth});
+        EXPECT_EQ(studio.connect->explorer(), &other.host.explorer);
+        studio.connect.reset();
+        (void)studio.boxes();
+    }
+}
+
+TEST_F(Members, InitializeSaysWhenThereIsNoExplorer) {
+    for (const Variant& none : {Variant(), Variant(automation::Null{}), Variant(automation::ObjectRef())}) {
+        studio.create();
+        call("Initialize", {"Plant", "", none, Variant()});
+        EXPECT_EQ(studio.boxes(), (Texts{"Connect: Initialize|-2147467259: The studio gave no project explorer."}));
+    }
+}
+
 }  // namespace
 }  // namespace hx::addin

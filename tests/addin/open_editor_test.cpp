@@ -94,6 +94,27 @@ TEST_F(OpeningTheEditor, ShowsTheHourglassMeanwhile) {
     EXPECT_EQ(studio.host.screen.pointer(), forms::Pointer::standard);
 }
 
+TEST(OpeningTheLibrarysEditor, HooksNoWindowWhoseDatabaseCannotBeOpened) {
+    Studio studio(Studio::libraryOptions());
+    studio.start();
+    studio.faults.arm(1, Kind::connect, Error(ado::dbErrUnspecified, "Locked."));
+    studio.click("RCPE0");
+    EXPECT_EQ(studio.boxes(), (Texts{"ConnectToDataBase|-2147467259: Locked."}));
+    EXPECT_EQ(studio.connect->embedding().editorMessage(), 0u);
+    EXPECT_EQ(studio.connect->embedding().hostParent(), 0);
+    studio.click("RCPE0");
+    EXPECT_NE(studio.connect->embedding().editorMessage(), 0u);
+    EXPECT_EQ(studio.boxes(), Texts{});
+}
+
+TEST_F(OpeningTheEditor, HandsTheMemberRecordsetToTheGrid) {
+    studio.addMember(studio.addRecipe("Cola"), "Tank1.Level");
+    studio.start();
+    studio.connect->NodeExpand(Studio::node("RCPE0"));
+    EXPECT_EQ(studio.window().tdbRM->dataSource(), studio.window().dataEnvironment()->rstabRecipeMembers);
+    EXPECT_EQ(studio.window().tdbRM->columns().size(), 4u);
+}
+
 TEST_F(OpeningTheEditor, HappensOnce) {
     studio.addRecipe("Cola");
     studio.start();

@@ -122,6 +122,16 @@ TEST_F(StartUp, TerminateWithoutAnEditorRemovesTheRootAndNothingElse) {
     EXPECT_TRUE(record.pointers.empty());
 }
 
+TEST_F(StartUp, TerminateRemovesTheBranchAlsoAfterASecondInitialize) {
+    studio.start();
+    studio.connect->Initialize("Plant", "", &studio.host.explorer, nullptr);
+    EXPECT_EQ(studio.boxes().size(), 1u) << "the root is there already";
+    EXPECT_EQ(studio.nodes(), (Texts{"RCPE0"}));
+    studio.connect->Terminate();
+    EXPECT_EQ(studio.nodes(), Texts{});
+    EXPECT_EQ(studio.boxes(), Texts{});
+}
+
 TEST_F(StartUp, TerminateBeforeInitializeDoesNothing) {
     studio.create();
     studio.connect->Terminate();

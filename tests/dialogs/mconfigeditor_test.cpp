@@ -29,6 +29,9 @@ class EditorWindow : public forms::Form, public ConfigurableWindow {
         if (brokenSettings) throw automation::Error(automation::errFail, "broken");
         return *settings_;
     }
+    void tell(std::string_view text) override {
+        screen().messageBox(text, forms::message::ok, forms::message::defaultTitle);
+    }
     void abr_Resize() override { steps.push_back(sb->visible() ? "Resize, seen" : "Resize, hidden"); }
 
     [[nodiscard]] Variant stored(const std::string& entry) const {

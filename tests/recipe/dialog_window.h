@@ -24,6 +24,9 @@ struct FakeWindow : forms::Form, RecipeWindow {
     const host::Services& services() const override { return hostServices; }
     const resources::ResourceTable& texts() const override { return resourceTexts; }
     resources::Help& help() override { return onlineHelp; }
+    void tell(std::string_view text) override {
+        screen().messageBox(text, forms::message::ok, forms::message::defaultTitle);
+    }
     forms::Grid& memberGrid() override { return *grid; }
     ado::Recordset& memberRecordset() override { return *data.rstabRecipeMembers; }
     const std::string& nodeKey() const override { return key; }
