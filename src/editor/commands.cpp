@@ -56,6 +56,7 @@ bool Commands::showsOneOf(Nodes nodes) const {
 void Commands::run(std::span<const Row> rows, std::int16_t index, std::string_view procedure) {
     const auto row = std::ranges::find(rows, index, &Row::index);
     if (row == rows.end() || !showsOneOf(row->nodes)) return;
+    if (dialogOpen_) return window_.screen().beep();
     guard(addIn_, procedure, [this, command = row->command] {
         const auto keep = window_.share();  // the window may end while a dialog is open
         (this->*command)();

@@ -18,7 +18,9 @@ class frmtabgrid;
 
 /// What the tools of the bar run. Each procedure takes the fixed number of a command; a number without a command does
 /// nothing. A command that acts on a recipe does nothing either while the window shows a node of another kind. Errors
-/// are shown under the procedure's name. A command may end the window.
+/// are shown under the procedure's name. A command may end the window. While a recipe or a sub-recipe is edited in its
+/// dialog, the window follows the explorer, but each further command beeps: it would take the row from under the
+/// dialog.
 class Commands {
   public:
     Commands(frmtabgrid& window, AddIn& addIn) : window_(window), addIn_(addIn) {}
@@ -42,6 +44,17 @@ class Commands {
         std::int16_t index;
         Nodes nodes;
         void (Commands::*command)();
+    };
+    /// A dialog on a row is open while it lives.
+    class Dialog {
+      public:
+        explicit Dialog(bool& open) : open_(open) { open_ = true; }
+        ~Dialog() { open_ = false; }
+        Dialog(const Dialog&) = delete;
+        Dialog& operator=(const Dialog&) = delete;
+
+      private:
+        bool& open_;
     };
     void run(std::span<const Row> rows, std::int16_t index, std::string_view procedure);
     [[nodiscard]] bool showsOneOf(Nodes nodes) const;
@@ -77,6 +90,7 @@ class Commands {
     frmtabgrid& window_;
     AddIn& addIn_;
     automation::ObjectRef report_;  // while it is shown
+    bool dialogOpen_ = false;
 };
 
 }  // namespace hx::editor

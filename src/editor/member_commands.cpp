@@ -86,7 +86,7 @@ void Commands::newSubRecipe() {
     const ado::Bookmark row = window_.tdbRM->bookmark();
     bool added = false;
     const bool done = guard(addIn_, procedure, [&] {
-        const Busy busy(addIn_.busy());
+        const Dialog dialog(dialogOpen_);
         added = recipe::AddSubRecipeMember(window_);
     });
     // After an error too: the recordset then stands on its last row.
@@ -98,7 +98,7 @@ void Commands::editSubRecipe() {
     const DatabaseWork work(window_.dataEnvironment());
     bool edited = false;
     {
-        const Busy busy(addIn_.busy());
+        const Dialog dialog(dialogOpen_);
         edited = recipe::EditSubRecipeMember(window_.memberRecordset(), window_);
     }
     if (edited) window_.refreshMembers();

@@ -64,7 +64,7 @@ void Commands::editRecipe() {
     if (!findRecipe(work.recipes(), "ID=" + std::to_string(id))) return;
     const std::string before = nameIn(work.recipes());
     {
-        const Busy busy(addIn_.busy());
+        const Dialog dialog(dialogOpen_);
         recipe::EditRecipe(work.recipes(), window_);
     }
     const std::string after = nameIn(work.recipes());

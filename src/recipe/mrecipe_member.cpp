@@ -62,12 +62,13 @@ void FillSubRecipeList(RecipeWindow& window, FSubRecipe& dialog) {
 bool AddSubRecipeMember(RecipeWindow& window) {
     const auto dialog = std::make_shared<FSubRecipe>(window.services(), window.texts(), window.help());
     FillSubRecipeList(window, *dialog);
+    const std::int32_t parent = KeyId(window.nodeKey());  // the window may show another node when the dialog is closed
     showOver(window, *dialog);
     if (dialog->cancelled()) return false;
     ado::Recordset& members = window.memberRecordset();
     OpenAndMoveLast(members);
     members.addNew(std::to_array<std::pair<std::string, Variant>>({
-        {std::string(column::parentId), KeyId(window.nodeKey())},
+        {std::string(column::parentId), parent},
         {std::string(column::varRecipe), dialog->txtVarRecipe->text()},
         {std::string(column::childId), chosenRecipe(*dialog)},
     }));
@@ -81,8 +82,10 @@ bool EditSubRecipeMember(ado::Recordset& members, RecipeWindow& window) {
         window.tell(window.texts().GetResource(text::notRead));
         return false;
     }
+    const ado::Bookmark row = members.bookmark();
     showOver(window, *dialog);
     if (dialog->cancelled()) return false;
+    members.setBookmark(row);  // the window may have read its members anew meanwhile
     storeOrRestore(members, WriteDialogToMember(members, *dialog),
                    [&] { window.tell(window.texts().GetResource(text::notWritten)); });
     return true;
@@ -91,7 +94,7 @@ bool EditSubRecipeMember(ado::Recordset& members, RecipeWindow& window) {
 bool ReadMemberToDialog(ado::Recordset& members, FSubRecipe& dialog, RecipeWindow& window) {
     try {
         FillSubRecipeList(window, dialog);
-    } catch (const automation::Error&) {
+    } catch (const std::exception&) {
         return false;
     }
     return forEachField(members, [&](const ado::Field& field) {

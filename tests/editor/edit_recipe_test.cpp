@@ -69,9 +69,46 @@ TEST_F(EditRecipe, CancelledChangesNothing) {
     expectAtRest();
 }
 
-TEST_F(EditRecipe, KeepsTheWindowBusyWhileTheDialogIsOpen) {
+TEST_F(EditRecipe, LeavesTheWindowFreeToFollowTheStudioWhileTheDialogIsOpen) {
+    edit([&](FRecipe& dialog) {
+        EXPECT_FALSE(addIn.busyFlag.isSet());
+        show("RCPR" + std::to_string(syrup));
+        dialog.txtName->setText("Mischung");
+        dialog.cmdOk->click();
+    });
+    EXPECT_EQ(storedRecipes()[0], "1 Mischung");
+    EXPECT_EQ(storedRecipes()[1], "2 Sirup");
+    EXPECT_EQ(shownNodes()[0], "RCPR1 Mischung");
+    EXPECT_EQ(messages(), Texts{});
+    expectAtRest();
+}
+
+TEST_F(EditRecipe, LetsNoOtherCommandRunWhileTheDialogIsOpen) {
+    edit([&](FRecipe& dialog) {
+        window->commands().mnuRecipeFunc(1);
+        window->commands().mnuRecipeFunc(0);
+        EXPECT_EQ(host.record.beeps, 2);
+        dialog.txtName->setText("Mischung");
+        dialog.cmdOk->click();
+    });
+    EXPECT_EQ(host.record.modals.size(), 1U);
+    EXPECT_EQ(storedRecipes(), (Texts{"1 Mischung", "2 Sirup", "3 Wasser"}));
+    window->commands().mnuRecipeFunc(0);
+    EXPECT_EQ(storedRecipes().back(), "4 Neues Rezept");
+    EXPECT_EQ(messages(), Texts{});
+}
+
+TEST_F(EditRecipe, KeepsTheWindowBusyWhileAMessageIsShown) {
     bool busy = false;
-    edit([&](FRecipe&) { busy = addIn.busyFlag.isSet(); });
+    host.script.onMessage = [&](const headless::Message&) {
+        busy = addIn.busyFlag.isSet();
+        return forms::message::Answer::ok;
+    };
+    edit([&](FRecipe& dialog) {
+        dialog.txtComment->setText(std::string(300, 'x'));
+        dialog.cmdOk->click();
+    });
+    EXPECT_EQ(messages(), (Texts{"Zurückschreiben von Rezept-Dialog fehlgegangen"}));
     EXPECT_TRUE(busy);
     EXPECT_FALSE(addIn.busyFlag.isSet());
 }

@@ -44,6 +44,15 @@ TEST_F(DeleteMembers, AsksWithNoAsTheDefault) {
     expectAtRest();
 }
 
+TEST_F(DeleteMembers, ShowTheHourglassMeanwhile) {
+    host.script.onMessage = [this](const headless::Message&) {
+        host.record.pointers.clear();
+        return Answer::yes;
+    };
+    deleteRows({0});
+    EXPECT_EQ(host.record.pointers, (std::vector{forms::Pointer::hourglass, forms::Pointer::standard}));
+}
+
 TEST_F(DeleteMembers, AsksInEnglish) {
     useLanguage(english);
     answer(Answer::no);
@@ -212,7 +221,7 @@ struct SubRecipes : CommandWindow {
     SubRecipes() { show(mixSubRecipes); }
     void choose(std::int32_t entry, const std::string& variable) {
         inDialog<FSubRecipe>("FSubRecipe", [=, this](FSubRecipe& dialog) {
-            busy = addIn.busyFlag.isSet();
+            EXPECT_FALSE(addIn.busyFlag.isSet());
             dialog.cmbChooseRecipe->setListIndex(entry);
             dialog.txtVarRecipe->setText(variable);
             dialog.cmdOk->click();
@@ -224,7 +233,6 @@ struct SubRecipes : CommandWindow {
             dialog.cmdCancel->click();
         });
     }
-    bool busy = false;
 };
 
 TEST_F(SubRecipes, ANewOneIsStoredAndShownAndTheCursorStays) {
@@ -234,7 +242,6 @@ TEST_F(SubRecipes, ANewOneIsStoredAndShownAndTheCursorStays) {
     EXPECT_EQ(storedMembers().back(), "1 File.Mix 1");
     EXPECT_EQ(shown("ChildID"), (Texts{"Sirup", "Wasser", "Mix"}));
     EXPECT_EQ(grid().row(), 1);
-    EXPECT_TRUE(busy);
     EXPECT_EQ(host.record.modals.at(0).owner, window->handle());
     EXPECT_EQ(messages(), Texts{});
     expectAtRest();
@@ -294,7 +301,7 @@ TEST_F(SubRecipes, ANewOneIsStoredOrReportedWhateverFails) {
 TEST_F(SubRecipes, AnEditedOneIsStoredAndShownAndTheCursorStays) {
     grid().setRow(1);
     inDialog<FSubRecipe>("FSubRecipe", [this](FSubRecipe& dialog) {
-        busy = addIn.busyFlag.isSet();
+        EXPECT_FALSE(addIn.busyFlag.isSet());
         EXPECT_EQ(dialog.cmbChooseRecipe->text(), "Wasser");
         EXPECT_EQ(dialog.txtVarRecipe->text(), "File.Water");
         dialog.cmbChooseRecipe->setListIndex(0);
@@ -306,9 +313,45 @@ TEST_F(SubRecipes, AnEditedOneIsStoredAndShownAndTheCursorStays) {
     EXPECT_EQ(shown("ChildID"), (Texts{"Sirup", "Mix"}));
     EXPECT_EQ(shown("VarRecipe"), (Texts{"File.Syrup", "File.Mix"}));
     EXPECT_EQ(grid().row(), 1);
-    EXPECT_TRUE(busy);
     EXPECT_EQ(messages(), Texts{});
     expectAtRest();
+}
+
+TEST_F(SubRecipes, ANewOneBelongsToTheRecipeThatItWasAskedForWhateverIsShownWhenTheDialogCloses) {
+    inDialog<FSubRecipe>("FSubRecipe", [this](FSubRecipe& dialog) {
+        show("RCPU" + std::to_string(water));
+        dialog.txtVarRecipe->setText("File.Mix");
+        dialog.cmdOk->click();
+    });
+    click("mnuRecipeMemberNewRecipe");
+    EXPECT_EQ(storedMembers().back(), "1 File.Mix 1");
+    EXPECT_EQ(messages(), Texts{});
+}
+
+TEST_F(SubRecipes, AnEditedOneIsTheOneThatWasAskedForAlsoWhenTheRowsAreReadAnewMeanwhile) {
+    grid().setRow(1);
+    inDialog<FSubRecipe>("FSubRecipe", [this](FSubRecipe& dialog) {
+        window->refreshMembers();
+        grid().setRow(0);
+        dialog.txtVarRecipe->setText("File.Mix");
+        dialog.cmdOk->click();
+    });
+    click("mnuRecipeMemberEditSubRecipe");
+    EXPECT_EQ(storedVariable(4), "File.Syrup");
+    EXPECT_EQ(storedVariable(5), "File.Mix");
+    EXPECT_EQ(messages(), Texts{});
+}
+
+TEST_F(SubRecipes, AnEditedOneThatIsNotShownAnyMoreIsReportedAndNoOtherIsWritten) {
+    inDialog<FSubRecipe>("FSubRecipe", [this](FSubRecipe& dialog) {
+        show(mixKey);
+        dialog.txtVarRecipe->setText("File.Mix");
+        dialog.cmdOk->click();
+    });
+    const Texts before = storedMembers();
+    click("mnuRecipeMemberEditSubRecipe");
+    EXPECT_EQ(storedMembers(), before);
+    EXPECT_EQ(messages().size(), 1U);
 }
 
 TEST_F(SubRecipes, AnEditedOneFollowsTheOrderOfTheGrid) {
