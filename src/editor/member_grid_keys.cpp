@@ -155,8 +155,7 @@ void MemberGridKeys::naturalPlace(forms::KeyEvent& event) {
 }
 
 void MemberGridKeys::neighbour(forms::KeyEvent& event) {
-    // In an open cell editor these keys select characters.
-    if (grid_.columns().empty() || grid_.editorOpen()) return;
+    if (grid_.columns().empty()) return;
     const std::int32_t column = neighbourColumn(grid_, grid_.col(), event.code == key::left);
     if (column >= 0) grid_.setCol(column);
 }

@@ -19,7 +19,8 @@ QWidget* GridDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem&
     line->setTextMargins(cellMargin - 2, 0, 0, 0);
     line->setAccessibleName(model_.headerData(index.column(), Qt::Horizontal, Qt::DisplayRole).toString());
     line->setObjectName(QStringLiteral("cellEditor"));
-    return line.release();  // the view owns it
+    line->setContextMenuPolicy(Qt::NoContextMenu);  // the grid shows its own
+    return line.release();                          // the view owns it
 }
 
 void GridDelegate::updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option,
