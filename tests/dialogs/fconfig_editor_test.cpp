@@ -81,6 +81,21 @@ TEST_F(FConfigEditorTest, OpensItsHelpByTheButtonAndByF1) {
     EXPECT_EQ(host.record.sentKeys[0].form, "FConfigEditor");
 }
 
+TEST_F(FConfigEditorTest, OpensTheChoiceWithAStruckOutFontToo) {
+    font.setValues({.name = "Times", .strikethrough = true});
+    dialog->cmdEditorFont->click();
+    ASSERT_EQ(host.record.fonts.size(), 1U);
+    EXPECT_TRUE(host.record.fonts[0].before.strikethrough);
+    EXPECT_FALSE(host.record.fonts[0].before.italic);
+    EXPECT_FALSE(host.record.fonts[0].before.underline);
+}
+
+TEST_F(FConfigEditorTest, IsCancelledFromTheMomentItIsLoaded) {
+    dialog->setCancelled(false);
+    dialog->load();
+    EXPECT_TRUE(dialog->cancelled());
+}
+
 TEST_F(FConfigEditorTest, OpensTheChoiceWithTheFontOfItsField) {
     font.setValues({.name = "Times", .size = 8.25, .charset = 2, .weight = 700, .italic = true, .underline = true});
     dialog->cmdEditorFont->click();

@@ -97,6 +97,13 @@ TEST_F(Closing, WithoutSavingWritesThatChoiceAndNothingElse) {
     EXPECT_FALSE(window->visible());
 }
 
+TEST_F(Closing, SavesAlsoWhenNothingSaysWhetherTo) {
+    window->inits().DeleteAValueInCInits("SaveOnExit");
+    window->unload(forms::UnloadMode::byCode);
+    EXPECT_EQ(stored("Me.WindowState"), "2");
+    EXPECT_EQ(stored("SaveOnExit"), "(none)");
+}
+
 TEST_F(Closing, TakesAChoiceThatIsNotTrueForNo) {
     window->inits().WriteAValueToCInits("SaveOnExit", Variant("yes"));
     window->unload(forms::UnloadMode::byCode);

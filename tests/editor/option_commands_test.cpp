@@ -1,3 +1,5 @@
+#include <array>
+
 #include "editor/record_count.h"
 #include "editor_window.h"
 
@@ -43,6 +45,24 @@ TEST_F(OptionCommands, StatisticLeavesTheTablesClosedAndTheGridAsItIs) {
     EXPECT_EQ(data->rsRecipeMembers->state(), ado::adStateClosed);
     EXPECT_EQ(grid().row(), 2);
     EXPECT_EQ(host.screen.pointer(), forms::Pointer::standard);
+}
+
+TEST_F(OptionCommands, StatisticShowsTheHourglassMeanwhile) {
+    host.record.pointers.clear();
+    window->abr->click("mnuOptionStatistik");
+    EXPECT_EQ(host.record.pointers, (std::vector{forms::Pointer::hourglass, forms::Pointer::standard}));
+}
+
+TEST_F(OptionCommands, TheNumbersWithoutACommandDoNothing) {
+    const Texts before = {window->sb->panel(1).text(), window->sb->panel(2).text()};
+    host.record.pointers.clear();
+    for (const auto number : std::to_array<std::int16_t>({1, 3, 4, 8, -1})) window->commands().mnuOption(number);
+    EXPECT_EQ((Texts{window->sb->panel(1).text(), window->sb->panel(2).text()}), before);
+    EXPECT_EQ(addIn.refreshes, 0);
+    EXPECT_TRUE(host.record.modals.empty());
+    EXPECT_TRUE(host.record.components.empty());
+    EXPECT_TRUE(host.record.pointers.empty());
+    EXPECT_EQ(messages(), Texts{});
 }
 
 TEST_F(OptionCommands, StatisticWithoutADatabaseIsReported) {

@@ -42,6 +42,17 @@ TEST_F(ChooseVariables, ShowsTheRecipesVariablesAsTheSelection) {
     EXPECT_FALSE(addIn.busyFlag.isSet());
 }
 
+TEST_F(ChooseVariables, ShowTheHourglassWhileTheyAreReadAndWhileTheyAreReplaced) {
+    using enum forms::Pointer;
+    host.record.pointers.clear();
+    inDialog<FMultiSelectItems>("FMultiSelectItems", [this](FMultiSelectItems& dialog) {
+        EXPECT_EQ(host.record.pointers, (std::vector{hourglass, standard}));
+        dialog.cmdOk->click();
+    });
+    click("mnuRecipeMemberNewVariable");
+    EXPECT_EQ(host.record.pointers, (std::vector{hourglass, standard, hourglass, standard}));
+}
+
 TEST_F(ChooseVariables, WithoutVariablesStartsWithNoSelection) {
     show("RCPR" + std::to_string(water));
     inDialog<FMultiSelectItems>("FMultiSelectItems", [](FMultiSelectItems& dialog) {

@@ -78,6 +78,18 @@ TEST_F(FieldText, ANumberThatDoesNotFitAnIntegerColumnIsRefused) {
     EXPECT_THROW(TextToField(field("Options"), "99999999999"), automation::Error);
 }
 
+TEST_F(FieldText, ASmallIntegerColumnTakesTheLeadingNumberToo) {
+    plant.database.addTable(
+        {"Small", {{{"ID", ado::adInteger, 4, true, false}, 0, false}, {{"Level", ado::adSmallInt, 2}, 0, false}}});
+    ado::Recordset small;
+    small.open("Small", plant.data.CnnRecipes);
+    small.addNew();
+    TextToField(small.field("Level"), "12,5 Stück");
+    EXPECT_EQ(small.field("Level").value(), Variant(12));
+    EXPECT_THROW(TextToField(small.field("Level"), "40000"), automation::Error);
+    small.cancelUpdate();
+}
+
 TEST_F(FieldText, AnEmptyTextIsStoredAsAnEmptyString) {
     field("Comment").setValue("süß");
     TextToField(field("Comment"), "");

@@ -331,6 +331,15 @@ TEST_F(MRecipe, ValuesThatDoNotFitLeaveTheRowAsItIsStored) {
     EXPECT_EQ(recipes.field("Name").value(), Variant("Tee"));
 }
 
+TEST_F(MRecipe, ARowThatCouldNotBeWrittenBackIsReadAnewAsAnotherHasLeftItMeanwhile) {
+    editAndConfirm([this](FRecipe& dialog) {
+        store(Comment, "Changed by another");
+        dialog.txtVarLoad->setText(std::string(300, 'x'));
+    });
+    expectMessage("Zurückschreiben von Rezept-Dialog fehlgegangen");
+    EXPECT_EQ(recipes.field("Comment").value(), Variant("Changed by another"));
+}
+
 TEST_F(MRecipe, ADuplicateNameReachesTheCallerAndLeavesTheRowAsItIsStored) {
     const std::vector<Variant> before = storedRow();
     try {

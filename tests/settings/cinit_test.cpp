@@ -4,6 +4,7 @@
 
 #include "adapters/headless/host.h"
 #include "automation/error.h"
+#include "automation/text.h"
 #include "settings_window.h"
 #include "support/memory_provider.h"
 
@@ -79,6 +80,27 @@ TEST_F(CInitTest, HasItsDefaultTextAsOneResource) {
     EXPECT_TRUE(text.ends_with("LoadOnForeGround=True\r\n"));
     EXPECT_EQ(std::count(text.begin(), text.end(), '\n'), 35);
     EXPECT_EQ(std::count(text.begin(), text.end(), '\r'), 35);
+}
+
+TEST_F(CInitTest, KeepsTheEntriesOfTheDefaultTextInItsOrder) {
+    loadDefaults();
+    inits.SaveInits(path);
+    const std::string font =
+        ".Font.Name=Arial\r\n@.Font.Size=8,25\r\n@.Font.Underline=False\r\n@.Font.Strikethrough=False\r\n"
+        "@.Font.Charset=0\r\n@.Font.Italic=False\r\n@.Font.Weight=400\r\n";
+    EXPECT_EQ(
+        host.iniFile.bytes(path),
+        "[frmtabGridRCP]\r\nMe.WindowState=2\r\nMe.PosLeft=0\r\nMe.PosTop=0\r\nMe.Width=6000\r\nMe.Height=3000\r\n"
+        "Me" +
+            automation::replaceAll(font, "@", "Me") + "tdbRM" + automation::replaceAll(font, "@", "tdbRM") +
+            "tdbRM.Columns(\"VarRecipe\").Width=3000,189\r\n"
+            "tdbRM.Columns(\"VarRecipe\").AllowSizing=True\r\n"
+            "tdbRM.Columns(\"VarRecipe\").Visible=True\r\n"
+            "tdbRM.Columns(\"ChildID\").Width=300\r\n"
+            "tdbRM.Columns(\"ChildID\").AllowSizing=True\r\n"
+            "tdbRM.Columns(\"ChildID\").Visible=True\r\n"
+            "tdbRMColOrders=,0,1,2,3\r\n"
+            "sb.Visible=True\r\nSaveOnExit=True\r\nRequestOnDelete=True\r\nLoadOnForeGround=True\r\n");
 }
 
 TEST_F(CInitTest, ShowsAndSizesBothColumnsByDefault) {
