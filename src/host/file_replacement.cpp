@@ -13,6 +13,7 @@ namespace {
 constexpr std::string_view mark = ".new";
 constexpr std::string_view hexDigits = "0123456789abcdef";
 constexpr std::size_t numberSize = 16;
+constexpr int mostNames = 10;  // that are tried
 
 // Long enough that nobody else gives a file such a name.
 fs::path temporaryName(const fs::path& target) {
@@ -73,11 +74,11 @@ FileReplacement::~FileReplacement() {
 }
 
 void FileReplacement::create() {
-    std::error_code code;
-    do {
+    auto code = std::make_error_code(std::errc::file_exists);
+    for (int i = 0; i < mostNames && code == std::errc::file_exists; ++i) {
         temporary_ = temporaryName(target_);
         code = disk_.create(temporary_, target_, file_);
-    } while (code == std::errc::file_exists);
+    }
     if (code) failWith("cannot be written", target_, code);
 }
 

@@ -1,7 +1,6 @@
 // Projects of the same name in different folders, opened by several programs that share a registry.
-#include "host/registry_file.h"
 #include "run_macro_text.h"
-#include "support/processes.h"
+#include "support/rival.h"
 
 namespace hx::cli {
 
@@ -44,16 +43,18 @@ TEST_F(SameName, EachOfTwoProgramsWorksOnItsOwnProject) {
 }
 
 TEST_F(SameName, AProgramWorksOnItsProjectWhileAnotherRecordsOneOfThatNameAllTheTime) {
-    std::filesystem::create_directory(config_);
-    support::Processes other;
-    const pid_t writer = other.start([this] {
-        host::RegistryFile registry(config_ + "/registry.ini");
-        for (int i = 0;; ++i) {
-            registry.writeString(std::string(host::registry_keys::projects) + "p", "Path", "/" + std::to_string(i));
-        }
-    });
-    for (int i = 0; i < 25; ++i) EXPECT_TRUE(isOpened(i % 2 == 0 ? "a" : "b"));
-    kill(writer, SIGKILL);
+    const support::Rival rival(config_ + "/registry.ini", "p");
+    for (int i = 0; i < 50; ++i) EXPECT_TRUE(isOpened(i % 2 == 0 ? "a" : "b"));
+}
+
+TEST_F(SameName, TheProjectThatIsOpenIsTheOneOfItsName) {
+    const std::string path = project("a"), registry = config_ + "/registry.ini";
+    const std::string text = "[SOFTWARE\\Tarnwell\\Helvix\\4.0\\Projects\\p]\nPath=\"" + folder_.file("b") + "\"\n";
+    const Result result = macro("local file = io.open([[" + registry + "]], 'w') file:write([[" + text +
+                                    "]]) file:close() studio.OpenProject('p') print(addin.ProjectPath)",
+                                {"--trust", "--config", config_.c_str(), "--project", path.c_str()});
+    EXPECT_EQ(result.problems, "");
+    EXPECT_EQ(result.results, path + "\n");
 }
 
 }  // namespace
