@@ -4,10 +4,11 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 
 #include "adapters/qt/text.h"
 #include "adapters/qt/wording.h"
+#include "automation/error.h"
+#include "host/file_bytes.h"
 
 namespace hx::studio {
 
@@ -27,8 +28,12 @@ QByteArray read(const QString& path) {
 }
 
 bool write(const QString& path, const QByteArray& bytes) {
-    QSaveFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit();
+    try {
+        host::replaceFile(host::fileSystemPath(qt::fromQt(path)), bytes.toStdString());
+        return true;
+    } catch (const automation::Error&) {
+        return false;
+    }
 }
 
 QByteArray sumOf(const QByteArray& bytes) {

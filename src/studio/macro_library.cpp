@@ -7,6 +7,11 @@
 #include <QLocale>
 #include <algorithm>
 
+#include "adapters/qt/text.h"
+#include "automation/error.h"
+#include "host/file_bytes.h"
+#include "host/file_replacement.h"
+
 namespace hx::studio {
 
 namespace {
@@ -54,6 +59,18 @@ MacroFolder read(const QString& name, const QDir& folder) {
     return found;
 }
 
+// What was installed for all may be protected; the copy is the user's own.
+bool copyFile(const QString& from, const QString& to) {
+    try {
+        const auto bytes = host::readFile(host::fileSystemPath(qt::fromQt(from)));
+        host::FileReplacement file(host::fileSystemPath(qt::fromQt(to)));
+        file.write(bytes.value_or(""));
+        return bytes && file.publishNew();
+    } catch (const automation::Error&) {
+        return false;
+    }
+}
+
 }  // namespace
 
 MacroLibrary::MacroLibrary(QString folder, QStringList programFolders)
@@ -91,9 +108,7 @@ int MacroLibrary::copySamples() const {
     for (const QString& path : samples()) {
         const QString copy = target.absoluteFilePath(QFileInfo(path).fileName());
         if (QFileInfo::exists(copy)) continue;
-        if (!QFile::copy(path, copy)) return -1;
-        // What was installed for all may be protected; the copy is the user's own.
-        QFile::setPermissions(copy, QFile::permissions(copy) | QFile::ReadOwner | QFile::WriteOwner);
+        if (!copyFile(path, copy)) return -1;
         ++copied;
     }
     return copied;

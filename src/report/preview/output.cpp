@@ -1,10 +1,16 @@
 #include "report/preview/output.h"
 
+#include <QIODevice>
 #include <QPageLayout>
 #include <QPdfWriter>
-#include <QSaveFile>
+#include <functional>
+#include <optional>
 
 #include "adapters/qt/text.h"
+#include "automation/error.h"
+#include "host/file_bytes.h"
+#include "host/file_place.h"
+#include "host/file_replacement.h"
 #include "report/html_writer.h"
 
 namespace hx::report {
@@ -14,8 +20,43 @@ namespace {
 constexpr int twipsPerInch = 1440;
 constexpr double twipsPerPoint = 20;
 
-// A device that shows nothing on a full disk says so only at the end.
-QString commit(QSaveFile& file) { return file.commit() ? QString() : file.errorString(); }
+/// A file that takes its place when it is whole, as a device to write on.
+class ReplacementDevice : public QIODevice {
+  public:
+    explicit ReplacementDevice(host::FileReplacement& file) : file_(file) { open(WriteOnly | Unbuffered); }
+    [[nodiscard]] bool isSequential() const override { return true; }
+    /// What went wrong first: who writes on a device does not look after each part.
+    [[nodiscard]] const std::optional<automation::Error>& error() const noexcept { return error_; }
+
+  protected:
+    qint64 readData(char*, qint64) override { return -1; }
+    qint64 writeData(const char* bytes, qint64 size) override {
+        if (error_) return -1;
+        try {
+            file_.write({bytes, static_cast<std::size_t>(size)});
+            return size;
+        } catch (const automation::Error& error) {
+            error_ = error;
+            return -1;
+        }
+    }
+
+  private:
+    host::FileReplacement& file_;
+    std::optional<automation::Error> error_;
+};
+
+// Fills a file and puts it in its place; why not, empty when it is done.
+QString save(const QString& path, const std::function<void(host::FileReplacement&)>& fill) {
+    try {
+        host::FileReplacement file(host::fileSystemPath(qt::fromQt(path)));
+        fill(file);
+        file.publish();
+        return {};
+    } catch (const automation::Error& error) {
+        return qt::toQt(error.description());
+    }
+}
 
 }  // namespace
 
@@ -35,28 +76,28 @@ bool paintPages(const Pages& pages, PageRange range, QPagedPaintDevice& device) 
 }
 
 QString savePdf(const Report& report, const Pages& pages, PageRange range, const QString& path) {
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly)) return file.errorString();
-    {
-        QPdfWriter writer(&file);
-        writer.setResolution(twipsPerInch);
-        writer.setTitle(qt::toQt(report.fullTitle()));
-        writer.setCreator(QStringLiteral("HXProjectReport"));
-        writer.setPageLayout(
-            {QPageSize(pages.paper() / twipsPerPoint, QPageSize::Point), QPageLayout::Portrait, QMarginsF()});
-        if (!paintPages(pages, range, writer)) {
-            file.cancelWriting();
-            return file.errorString();
+    return save(path, [&](host::FileReplacement& file) {
+        ReplacementDevice device(file);
+        bool painted = false;
+        {
+            QPdfWriter writer(&device);
+            writer.setResolution(twipsPerInch);
+            writer.setTitle(qt::toQt(report.fullTitle()));
+            writer.setCreator(QStringLiteral("HXProjectReport"));
+            writer.setPageLayout(
+                {QPageSize(pages.paper() / twipsPerPoint, QPageSize::Point), QPageLayout::Portrait, QMarginsF()});
+            painted = paintPages(pages, range, writer);
         }
-    }
-    return commit(file);
+        if (device.error()) throw *device.error();
+        if (!painted)
+            host::failWith("cannot be written", host::fileSystemPath(qt::fromQt(path)), "no page can be drawn");
+    });
 }
 
 QString saveHtml(const Report& report, const QString& path) {
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly)) return file.errorString();
-    writeHtml(report, [&file](std::string_view part) { file.write(part.data(), static_cast<qint64>(part.size())); });
-    return commit(file);
+    return save(path, [&](host::FileReplacement& file) {
+        writeHtml(report, [&file](std::string_view part) { file.write(part); });
+    });
 }
 
 }  // namespace hx::report
