@@ -1,7 +1,12 @@
 #include "studio/preferences.h"
 
 #include <QSettings>
+#include <QTemporaryFile>
 #include <QVariant>
+
+#include "adapters/qt/text.h"
+#include "automation/error.h"
+#include "host/file_bytes.h"
 
 namespace hx::studio {
 
@@ -13,6 +18,27 @@ const QString recentKey = QStringLiteral("projects/recent");
 
 QVariant read(const QString& file, const QString& key) { return QSettings(file, QSettings::IniFormat).value(key); }
 
+QStringList recentIn(const QSettings& settings) {
+    return settings.value(recentKey).toStringList().mid(0, Preferences::recentCount);
+}
+
+// The bytes of a settings file after a change.
+std::string changed(std::string_view bytes, const Preferences::Change& change) {
+    QTemporaryFile copy;
+    if (!copy.open() || copy.write(bytes.data(), static_cast<qint64>(bytes.size())) < 0 || !copy.flush()) {
+        throw automation::Error(automation::errFail, qt::fromQt(copy.errorString()));
+    }
+    {
+        QSettings settings(copy.fileName(), QSettings::IniFormat);
+        change(settings);
+        settings.sync();
+        if (settings.status() != QSettings::NoError) {
+            throw automation::Error(automation::errFail, qt::fromQt(copy.fileName()));
+        }
+    }
+    return host::readFile(host::fileSystemPath(qt::fromQt(copy.fileName()))).value_or("");
+}
+
 }  // namespace
 
 Preferences::Preferences(QString folder) : file_(std::move(folder) + QStringLiteral("/studio.ini")) {}
@@ -22,31 +48,44 @@ QByteArray Preferences::geometry() const { return read(file_, geometryKey).toByt
 QByteArray Preferences::layout() const { return read(file_, layoutKey).toByteArray(); }
 
 bool Preferences::saveWindow(const QByteArray& geometry, const QByteArray& layout) {
-    return write(geometryKey, geometry) && write(layoutKey, layout);
+    return write([&](QSettings& settings) {
+        settings.setValue(geometryKey, geometry);
+        settings.setValue(layoutKey, layout);
+    });
 }
 
-QStringList Preferences::recent() const { return read(file_, recentKey).toStringList().mid(0, recentCount); }
+QStringList Preferences::recent() const { return recentIn(QSettings(file_, QSettings::IniFormat)); }
 
 bool Preferences::addRecent(const QString& path) {
-    QStringList list = recent();
-    list.removeAll(path);
-    list.prepend(path);
-    return write(recentKey, QStringList(list.mid(0, recentCount)));
+    return write([&](QSettings& settings) {
+        QStringList list = recentIn(settings);
+        list.removeAll(path);
+        list.prepend(path);
+        settings.setValue(recentKey, QStringList(list.mid(0, recentCount)));
+    });
 }
 
 bool Preferences::removeRecent(const QString& path) {
-    QStringList list = recent();
-    list.removeAll(path);
-    return write(recentKey, list);
+    return write([&](QSettings& settings) {
+        QStringList list = recentIn(settings);
+        list.removeAll(path);
+        settings.setValue(recentKey, list);
+    });
 }
 
-bool Preferences::clearRecent() { return write(recentKey, QStringList()); }
+bool Preferences::clearRecent() {
+    return write([](QSettings& settings) { settings.setValue(recentKey, QStringList()); });
+}
 
-bool Preferences::write(const QString& key, const QVariant& value) {
-    QSettings settings(file_, QSettings::IniFormat);
-    settings.setValue(key, value);
-    settings.sync();
-    return settings.status() == QSettings::NoError;
+// The toolkit takes a file that it cannot read for an empty one, and would write it so; it changes a copy alone.
+bool Preferences::write(const Change& change) {
+    try {
+        host::changeFile(host::fileSystemPath(qt::fromQt(file_)),
+                         [&](std::string_view bytes) { return changed(bytes, change); });
+        return true;
+    } catch (const automation::Error&) {
+        return false;
+    }
 }
 
 }  // namespace hx::studio

@@ -3,10 +3,14 @@
 #include <QByteArray>
 #include <QString>
 #include <QStringList>
+#include <functional>
+
+class QSettings;
 
 namespace hx::studio {
 
-/// What the studio remembers between two starts, in the file studio.ini of the configuration folder.
+/// What the studio remembers between two starts, in the file studio.ini of the configuration folder. Studios that run
+/// side by side share it.
 class Preferences {
   public:
     explicit Preferences(QString folder);
@@ -24,8 +28,10 @@ class Preferences {
     bool clearRecent();
     [[nodiscard]] const QString& file() const noexcept { return file_; }
 
+    using Change = std::function<void(QSettings&)>;
+
   private:
-    bool write(const QString& key, const QVariant& value);
+    bool write(const Change& change);
     QString file_;
 };
 
