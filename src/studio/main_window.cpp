@@ -75,7 +75,15 @@ void MainWindow::restoreWindow() {
 }
 
 void MainWindow::readLanguage() {
-    useLanguage(host_.registry().readNumber(host::registry_keys::helvix, languageValue, qt::Wording::german));
+    std::int32_t lcid = qt::Wording::german;
+    try {
+        lcid = host_.registry().readNumber(host::registry_keys::helvix, languageValue, lcid);
+    } catch (const automation::Error& error) {
+        const QString reason = qt::toQt(error.message());
+        QMetaObject::invokeMethod(
+            this, [this, reason] { warn(Text::registryNotRead, reason); }, Qt::QueuedConnection);
+    }
+    useLanguage(lcid);
 }
 
 void MainWindow::useLanguage(std::int32_t lcid) {

@@ -22,7 +22,7 @@ Project::Project(const QString& file, StudioHost& host, qt::QtExplorer& explorer
       name_(QFileInfo(file).completeBaseName()),
       host_(host),
       explorer_(explorer) {
-    recordFolder();
+    host_.registry().open(qt::fromQt(name_), qt::fromQt(QFileInfo(file_).absolutePath()));
     host_.setProjectFile(file_);
     explorer_.openProject(qt::fromQt(name_), qt::svgIcon(icons::project));
 }
@@ -33,11 +33,7 @@ Project::~Project() {
     explorer_.closeProject();
     addIn_.reset();
     host_.setProjectFile({});
-}
-
-void Project::recordFolder() {
-    host_.registry().writeString(std::string(host::registry_keys::projects) + qt::fromQt(name_), "Path",
-                                 qt::fromQt(QFileInfo(file_).absolutePath()));
+    host_.registry().close();
 }
 
 void Project::startAddIn() {

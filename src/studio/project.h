@@ -27,7 +27,6 @@ class Project {
     [[nodiscard]] const std::shared_ptr<host::CHX4Extensibility>& addIn() const noexcept { return addIn_; }
 
   private:
-    void recordFolder();
     QString file_, name_;
     StudioHost& host_;
     qt::QtExplorer& explorer_;

@@ -14,6 +14,7 @@
 #include "adapters/qt/wording.h"
 #include "adapters/sqlite/provider.h"
 #include "host/ini_text_file.h"
+#include "host/project_registry.h"
 #include "host/registry_file.h"
 #include "host/services.h"
 #include "macros/attended_screen.h"
@@ -38,7 +39,7 @@ class StudioHost {
     [[nodiscard]] qt::QtScreen& screen() noexcept { return screen_; }
     [[nodiscard]] qt::QtWindows& windows() noexcept { return windows_; }
     [[nodiscard]] qt::Wording& wording() noexcept { return wording_; }
-    [[nodiscard]] host::Registry& registry() noexcept { return registry_; }
+    [[nodiscard]] host::ProjectRegistry& registry() noexcept { return projectRegistry_; }
     [[nodiscard]] host::Clipboard& clipboard() noexcept { return clipboard_; }
     [[nodiscard]] qt::ModuleComponents& components() noexcept { return components_; }
     [[nodiscard]] qt::QtHelpViewer& help() noexcept { return help_; }
@@ -60,6 +61,7 @@ class StudioHost {
     qt::QtScreen screen_;
     sqlite::Provider provider_;
     host::RegistryFile registry_;
+    host::ProjectRegistry projectRegistry_;
     host::IniTextFile iniFile_;
     qt::QtClipboard clipboard_;
     qt::QtHelpViewer help_;

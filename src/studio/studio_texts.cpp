@@ -83,6 +83,8 @@ constexpr auto entries = std::to_array<Entry>({
     {Text::addInNotLoaded, "Der Rezepteditor steht nicht zur Verfügung.\n%1",
      "The recipe editor is not available.\n%1"},
     {Text::addInWrong, "Das Modul ist kein Add-In des Studios.", "The module is no add-in of the studio."},
+    {Text::registryNotRead, "Die Einstellungen konnten nicht gelesen werden.\n%1",
+     "The settings could not be read.\n%1"},
     {Text::registryNotWritten, "Die Einstellung konnte nicht gespeichert werden.\n%1",
      "The setting could not be saved.\n%1"},
     {Text::settingsNotWritten, "Fenster und Projektliste konnten nicht gespeichert werden:\n%1",

@@ -68,6 +68,7 @@ enum class Text {
     notProjectPath,
     addInNotLoaded,
     addInWrong,
+    registryNotRead,
     registryNotWritten,
     settingsNotWritten,
     unexpected,

@@ -34,7 +34,7 @@ void WindowStudio::openProject(const std::string& pathOrName) {
 }
 
 QString WindowStudio::fileOfName(const std::string& name) const {
-    const std::string folder = host_.registry().readString(std::string(host::registry_keys::projects) + name, "Path");
+    const std::string folder = host_.registry().folderOf(name);
     if (folder.empty()) throw automation::Error(automation::errFail, "No project '" + name + "' is known");
     return QDir(qt::toQt(folder)).absoluteFilePath(qt::toQt(name) + extension);
 }

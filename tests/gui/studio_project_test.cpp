@@ -1,10 +1,13 @@
+#include <QDir>
 #include <QMenu>
 #include <QTest>
 #include <QTimer>
 
 #include "adapters/qt/text.h"
 #include "adapters/sqlite/project_file.h"
+#include "automation/convert.h"
 #include "gui/studio_fixture.h"
+#include "support/rival.h"
 
 namespace hx::gui {
 namespace {
@@ -22,6 +25,29 @@ TEST_F(StudioTest, OpensAProjectWhoseNameLooksLikeAFile) {
     click("Rezepte");
     EXPECT_EQ(stored(folder.filePath("Anlage.hxs.hxs"), 1), (Texts{"Mischer.Honig", "Mischer.Wasser"}));
     EXPECT_EQ(stored(folder.filePath("Anlage.hxs"), 1), (Texts{"Mischer.Zucker", "Mischer.Wasser"}));
+}
+
+TEST_F(StudioTest, WorksOnItsProjectWhileAnotherProgramRecordsOneOfThatNameAllTheTime) {
+    start();
+    const support::Rival rival(qt::fromQt(folder.filePath("config/registry.ini")), "Anlage");
+    const QString file = makeProject();
+    for (int i = 0; i < 10; ++i) {
+        open(file);
+        EXPECT_EQ(automation::toText(window().project()->addIn()->get("ProjectPath")), qt::fromQt(file));
+        EXPECT_EQ(automation::toText(window().project()->addIn()->get("ProjectName")), "Anlage");
+    }
+}
+
+TEST_F(StudioTest, StartsAndSaysSoWhenItsSettingsCannotBeRead) {
+    ASSERT_TRUE(QDir(folder.path()).mkpath("config/registry.ini"));
+    const BoxAnswers answers({"OK"});
+    studio::StudioHost host(folder.filePath("config"), {builtModules()});
+    studio::Preferences preferences(folder.filePath("config"));
+    studio::MainWindow window(host, preferences);
+    window.show();
+    ASSERT_TRUE(waitUntil([&] { return !answers.shown().empty(); }));
+    EXPECT_EQ(answers.shown()[0].text.substr(0, 47), "Die Einstellungen konnten nicht gelesen werden.");
+    EXPECT_TRUE(window.isVisible());
 }
 
 TEST_F(StudioTest, RefusesAPathThatNoConnectionStringCanName) {
