@@ -28,10 +28,22 @@ void takeAttributes(int file, const struct stat& old) {
     (void)fchmod(file, mode);  // not every file system has permissions
 }
 
+// A file in use is locked at one byte far behind its end: a database that it holds locks other bytes, and a network
+// file system lets nobody write where another has locked.
+bool lockMark(int file, short kind) {
+    constexpr off_t mark = off_t{1} << 62;
+    struct flock lock {};
+    lock.l_type = kind;
+    lock.l_whence = SEEK_SET;
+    lock.l_start = mark;
+    lock.l_len = 1;
+    return fcntl(file, F_OFD_SETLK, &lock) == 0;
+}
+
 // Somebody who clears away can have come between making the file and locking it.
 bool takeForUse(int file) {
     struct stat made {};
-    if (flock(file, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK) return false;
+    if (!lockMark(file, F_WRLCK) && (errno == EAGAIN || errno == EACCES)) return false;
     return fstat(file, &made) == 0 && made.st_nlink > 0;
 }
 
@@ -98,7 +110,7 @@ std::error_code PosixDisk::syncFolder(const Path& folder) const {
 void PosixDisk::removeAbandoned(const Path& path) const noexcept {
     const int file = open(path.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
     if (file < 0) return;
-    if (flock(file, LOCK_EX | LOCK_NB) == 0) unlink(path.c_str());
+    if (lockMark(file, F_RDLCK)) unlink(path.c_str());
     ::close(file);
 }
 

@@ -4,7 +4,7 @@
 
 namespace hx::host {
 
-/// Files in use and locked folders carry an advisory lock (flock), which ends with the process however that ends.
+/// Files in use and locked folders carry advisory locks, which end with the process however that ends.
 class PosixDisk : public Disk {
   public:
     std::error_code create(const Path& path, const Path& like, Handle& file) const override;

@@ -1,7 +1,9 @@
 #include "host/file_replacement.h"
 
+#include <fcntl.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <sys/file.h>
 
 #include "automation/error.h"
 #include "host/failing_disk.h"
@@ -182,6 +184,21 @@ TEST_F(FileReplacementTest, LeavesWhatAnotherIsStillWriting) {
     EXPECT_EQ(folder.entries(), 3U);
     slow.publish();
     EXPECT_EQ(text(), "slow");
+}
+
+TEST_F(FileReplacementTest, LeavesTheBytesThatADatabaseLocksToIt) {
+    FileReplacement draft(path());
+    support::Processes others;
+    others.start([&] {
+        const int file = open(draft.temporary().c_str(), O_RDWR);
+        struct flock lock {};
+        lock.l_type = F_WRLCK;
+        lock.l_whence = SEEK_SET;
+        lock.l_len = off_t{1} << 40;
+        const bool locked = file >= 0 && fcntl(file, F_SETLK, &lock) == 0 && flock(file, LOCK_EX | LOCK_NB) == 0;
+        _exit(locked ? EXIT_SUCCESS : EXIT_FAILURE);
+    });
+    EXPECT_EQ(others.wait(), 0);
 }
 
 TEST_F(FileReplacementTest, LeavesFilesThatAreOnlyNamedAlike) {
