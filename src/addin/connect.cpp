@@ -127,6 +127,7 @@ void Connect::closeWindow() noexcept {
     const auto step = [&](auto action) { trap(services_.screen, "Connect: CloseEditor", action); };
     // A window that was never loaded, because the database could not be opened, was not placed anywhere either.
     if (window->loaded()) embedding_.GetParentFromMe(*window, previousParent_);
+    step([&] { window->finishOrDropEdit(); });
     step([&] { disconnectFromDataBase(*window); });
     if (window->loaded()) {
         if (services_.runsAsLibrary()) step([&] { embedding_.UnhookEditorWindow(*window); });

@@ -99,7 +99,7 @@ void Connect::showNode(editor::frmtabgrid& window, const std::string& nodeKey) {
     const std::string_view prefix = recipe::KeyPrefix(nodeKey);
     if (menuOf(nodeKey) == nullptr) return;
     const bool root = prefix == recipe::prefixRoot;
-    window.VerifyAdds();
+    window.finishOrDropEdit();
     if (window.tdbRM->columns().empty()) window.bindGrid();
     if (!root) window.SwitchGrids(nodeKey);
     window.tdbRM->setAllowUpdate(!root);
@@ -135,6 +135,7 @@ void Connect::ShowSelectedNode() {
 
 void Connect::NodeDblClick(const host::NodeEvent&) {
     event("Connect: NodeDblClick", [&] {
+        if (editor_) OpenEditor();  // one whose database could not be opened is tried again, and tells again
         const auto window = openWindow();
         if (!window) return;
         window->show();

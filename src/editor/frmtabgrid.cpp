@@ -85,6 +85,10 @@ void frmtabgrid::onLoad() {
 void frmtabgrid::onQueryUnload(bool& cancel, forms::UnloadMode mode) {
     if (mode == forms::UnloadMode::byUser) {
         cancel = true;  // the window only hides: the add-in ends it
+        guard(addIn_, "frmtabgrid: QueryUnload", [this] {
+            tdbRM->settle();
+            (void)finishEdit();  // what cannot be stored waits for the window to be shown again
+        });
         guard(addIn_, "frmtabgrid: QueryUnload", [this] { showInHost(); });
     }
     guard(addIn_, "frmtabgrid: QueryUnload", [this] { saveSettings(); });
@@ -122,6 +126,8 @@ void frmtabgrid::MakeMyCaption(const std::string& key, const std::string& name) 
     // A key without a number is not the root: it shows the name.
     setCaption(recipe::KeyId(key) == 0 ? title : title + texts.GetResource(text::titleSeparator) + name);
 }
+
+void frmtabgrid::finishOrDropEdit() { memberGrid_->finishOrDrop(); }
 
 void frmtabgrid::VerifyAdds() { memberGrid_->verifyAdds(); }
 

@@ -58,6 +58,8 @@ class frmtabgrid : public forms::Form, public recipe::RecipeWindow, public dialo
     void MakeMyCaption(const std::string& key, const std::string& name);
     /// Writes a pending edit before the selection changes; one that is refused is dropped without a word.
     void VerifyAdds();
+    /// The same before the rows go away; the user is told what was dropped, and why.
+    void finishOrDropEdit();
     /// Enables and shows the tools for a node; `context` when a context menu is about to be shown.
     void MenuSwitcher(const std::string& key, bool context);
     /// Runs the tool's command, which may end the window; a disabled tool beeps.

@@ -81,7 +81,7 @@ void Commands::chooseVariables() {
 }
 
 void Commands::newSubRecipe() {
-    window_.VerifyAdds();
+    window_.finishOrDropEdit();
     const DatabaseWork work(window_.dataEnvironment());
     const ado::Bookmark row = window_.tdbRM->bookmark();
     bool added = false;
@@ -94,7 +94,7 @@ void Commands::newSubRecipe() {
 }
 
 void Commands::editSubRecipe() {
-    window_.VerifyAdds();
+    window_.finishOrDropEdit();
     const DatabaseWork work(window_.dataEnvironment());
     bool edited = false;
     {
@@ -139,7 +139,7 @@ ado::Bookmark Commands::rowLeftByDeletion() const {
 }
 
 void Commands::deleteMembers() {
-    window_.VerifyAdds();
+    window_.finishOrDropEdit();
     const std::vector<std::int32_t> ids = selectedMembers();
     if (ids.empty() || !mayDelete(deleteMembersText)) return;
     const DatabaseWork work(window_.dataEnvironment());

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -30,7 +31,9 @@ class MSurfingGrid {
 
     // --- editing
     /// Writes a pending edit or new row; one that the database refuses is dropped without a word.
-    void verifyAdds();
+    void verifyAdds() { (void)writeOrDrop(); }
+    /// The same before the rows go away; the user is told what was dropped, and why.
+    void finishOrDrop();
     /// Writes a pending edit or new row. False when that failed: the user has been told, and the edit is still pending
     /// unless it was refused as a duplicate or its row is gone.
     bool finishRow();
@@ -45,6 +48,9 @@ class MSurfingGrid {
     [[nodiscard]] bool finishEdit() { return !holdsEdit() || finishRow(); }
 
   private:
+    std::optional<automation::Error> writeOrDrop();
+    [[nodiscard]] automation::Error lossOf(const std::string& entry, const automation::Error& reason) const;
+    [[nodiscard]] std::string entry() const noexcept;
     void readMembers(const ado::Bookmark& current, const std::vector<ado::Bookmark>& selected);
     void addColumn(const std::string& field);
     void standOn(const ado::Bookmark& row);

@@ -14,6 +14,8 @@ namespace member = recipe::schema::member;
 namespace {
 
 constexpr std::int32_t staleRowText = 407;
+constexpr automation::Sentence dropped{"The entry \"%1\" could not be stored and was dropped. %2",
+                                       "Die Eingabe \"%1\" konnte nicht gespeichert werden und wurde verworfen. %2"};
 
 }  // namespace
 
@@ -39,14 +41,36 @@ void MSurfingGrid::clearErrors() {
     if (const auto& data = window_.dataEnvironment()) data->CnnRecipes->clearErrors();
 }
 
-void MSurfingGrid::verifyAdds() {
+// What the user has typed into the current row.
+std::string MSurfingGrid::entry() const noexcept {
+    try {
+        return grid_.text(grid_.row(), grid_.columnNumber(Variant(member::varRecipe)));
+    } catch (const Error&) {
+        return {};  // the edit is of another column, and the row cannot be read
+    }
+}
+
+// The grid has numbers of its own for what the database said.
+Error MSurfingGrid::lossOf(const std::string& entry, const Error& reason) const {
+    const auto& errors = window_.dataEnvironment()->CnnRecipes->errors();
+    const Error told = errors.empty() ? reason : Error(errors.back().number, errors.back().description);
+    return {told.number(), automation::say(addIn_.texts().wording(), dropped, {entry, told.description()})};
+}
+
+std::optional<Error> MSurfingGrid::writeOrDrop() {
     grid_.settle();
     const std::string_view type = recipe::KeyPrefix(window_.nodeKey());
-    if (type != recipe::prefixRecipe && type != recipe::prefixSubRecipes) return;
-    const auto write = [this] {
+    if (type != recipe::prefixRecipe && type != recipe::prefixSubRecipes) return {};
+    std::optional<Error> lost;
+    // The view could not even hand the text over.
+    if (grid_.editorOpen()) lost = lossOf(grid_.editorText(), Error(automation::errFail, {}));
+    const auto write = [&] {
+        const std::string typed = entry();
         try {
+            clearErrors();
             grid_.update();
-        } catch (const Error&) {
+        } catch (const Error& error) {
+            lost = lossOf(typed, error);
             dropEdit();  // the selection is about to change: there is nowhere left to correct the row
             clearErrors();
         }
@@ -59,6 +83,14 @@ void MSurfingGrid::verifyAdds() {
         write();
         grid_.setAddNewMode(false);
     }
+    return lost;
+}
+
+void MSurfingGrid::finishOrDrop() {
+    const std::optional<Error> lost = writeOrDrop();
+    if (!lost) return;
+    const Busy busy(addIn_.busy());
+    showError(window_.screen(), *lost, "VerifyAdds");
 }
 
 void MSurfingGrid::leavingRow(bool& stay) {

@@ -161,6 +161,7 @@ class Grid : public Control {
     void editorReported(const std::string& text, std::int32_t caret);
     void editorClosed();
     [[nodiscard]] bool editorOpen() const noexcept { return editorOpen_; }
+    [[nodiscard]] const std::string& editorText() const noexcept { return editorText_; }
     /// Whether the caret stands behind the last character of the current cell's text (an unopened editor counts as
     /// behind).
     [[nodiscard]] bool caretAtEnd() const;

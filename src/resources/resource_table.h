@@ -6,6 +6,7 @@
 #include <string_view>
 #include <unordered_map>
 
+#include "automation/sentence.h"
 #include "host/system_services.h"
 
 namespace hx::resources {
@@ -21,6 +22,10 @@ class ResourceTable {
     void AddResource(std::int32_t id, const std::array<std::string_view, 2>& texts);
     /// Never fails: an unknown number gives "Resource " + id + " not found".
     [[nodiscard]] std::string GetResource(std::int32_t id) const;
+    /// The language of the texts.
+    [[nodiscard]] automation::Language wording() const noexcept {
+        return offset_ == 0 ? automation::Language::german : automation::Language::english;
+    }
     /// The language code that was read (a Windows locale identifier).
     [[nodiscard]] std::int32_t language() const noexcept { return language_; }
 

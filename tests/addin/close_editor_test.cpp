@@ -88,6 +88,35 @@ TEST_F(ClosingTheEditor, DropsAnEditThatTheDatabaseRefusesAndClosesAllTheSame) {
     EXPECT_EQ(data->CnnRecipes->state(), ado::adStateClosed);
 }
 
+TEST_F(ClosingTheEditor, TellsWhichEditWasDroppedAndWhy) {
+    studio.window().tdbRM->setText(0, 2, "Tank2.Level");
+    studio.faults.arm(1, support::FaultPlan::Kind::update, automation::Error(ado::dbErrUnspecified, "Gesperrt."));
+    studio.connect->Terminate();
+    EXPECT_EQ(studio.boxes(), (Texts{"VerifyAdds|-2147467259: Die Eingabe \"Tank2.Level\" konnte nicht gespeichert "
+                                     "werden und wurde verworfen. Gesperrt."}));
+}
+
+TEST_F(ClosingTheEditor, TheNextNodeToldWhichEditWasDroppedAndWhy) {
+    studio.window().tdbRM->setText(0, 2, "Tank2.Level");
+    studio.faults.arm(1, support::FaultPlan::Kind::update, automation::Error(ado::dbErrUnspecified, "Gesperrt."));
+    studio.click("RCPR2");
+    EXPECT_EQ(studio.boxes(), (Texts{"VerifyAdds|-2147467259: Die Eingabe \"Tank2.Level\" konnte nicht gespeichert "
+                                     "werden und wurde verworfen. Gesperrt."}));
+    EXPECT_EQ(studio.window().nodeKey(), "RCPR2");
+}
+
+TEST_F(ClosingTheEditor, ByTheUserStoresTheEditAndKeepsOneThatIsRefused) {
+    studio.window().tdbRM->setText(0, 2, "Tank2.Level");
+    studio.faults.arm(1, support::FaultPlan::Kind::update, automation::Error(ado::dbErrUnspecified, "Gesperrt."));
+    studio.window().closeByFrame();
+    EXPECT_EQ(studio.boxes().size(), 1U);
+    EXPECT_TRUE(studio.window().loaded());
+    EXPECT_EQ(studio.window().tdbRM->text(0, 2), "Tank2.Level");
+    studio.window().closeByFrame();
+    EXPECT_EQ(storedVariable(), "Tank2.Level");
+    EXPECT_EQ(studio.boxes(), Texts{});
+}
+
 TEST_F(ClosingTheEditor, WritesTheSettingsOfTheWindow) {
     studio.connect->Terminate();
     EXPECT_TRUE(studio.host.iniFile.exists("D:\\Prj\\HXEditors.ini"));
@@ -127,6 +156,19 @@ TEST_F(ClosingTheEditor, RefreshViewOnARootWithoutChildrenRemovesNothing) {
     EXPECT_NE(studio.connect->editorWindow(), before);
     EXPECT_TRUE(studio.window().loaded());
     EXPECT_EQ(studio.boxes(), Texts{});
+}
+
+TEST_F(ClosingTheEditor, ADoubleClickOnTheRootTellsAgainWhyThereIsNoConnection) {
+    studio.faults.arm(1, support::FaultPlan::Kind::connect, automation::Error(ado::dbErrUnspecified, "Locked."));
+    studio.connect->RefreshView();
+    studio.faults.arm(1, support::FaultPlan::Kind::connect, automation::Error(ado::dbErrUnspecified, "Still locked."));
+    studio.connect->NodeDblClick(studio.host.explorer.eventOf("RCPE0"));
+    EXPECT_EQ(studio.boxes(),
+              (Texts{"ConnectToDataBase|-2147467259: Locked.", "ConnectToDataBase|-2147467259: Still locked."}));
+    studio.connect->NodeDblClick(studio.host.explorer.eventOf("RCPE0"));
+    EXPECT_EQ(studio.boxes(), Texts{});
+    EXPECT_TRUE(studio.window().loaded());
+    EXPECT_EQ(studio.nodes(), (Texts{"RCPE0", "RCPR1", "RCPU1", "RCPR2", "RCPU2"}));
 }
 
 TEST_F(ClosingTheEditor, RefreshViewWithoutItsConnectionLeavesTheRootAndTriesAgainLater) {

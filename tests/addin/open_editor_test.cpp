@@ -160,7 +160,6 @@ TEST_F(OpeningTheEditor, AfterAFailedConnectionEventsOfNodesAreIgnored) {
     (void)studio.boxes();
     studio.rightClick("RCPE0");
     studio.press("RCPE0", forms::key::f8);
-    studio.connect->NodeDblClick(Studio::node("RCPE0"));
     EXPECT_TRUE(record.popUps.empty());
     EXPECT_TRUE(record.broughtToFront.empty());
     EXPECT_EQ(studio.boxes(), Texts{});

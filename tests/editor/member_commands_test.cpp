@@ -132,9 +132,12 @@ TEST_F(DeleteMembers, WritesAPendingEditFirst) {
 TEST_F(DeleteMembers, DropsAnEditThatTheDatabaseRefuses) {
     type(1, "Tank.Pressure");
     refuseNextUpdate(ado::dbErrDuplicate);
+    turnQuestionsOff();
+    host.script.onMessage = nullptr;
     deleteRows({0});
     EXPECT_EQ(storedMembers()[0], "1 Tank.Temp 0");
-    EXPECT_EQ(messages(), (Texts{question}));
+    EXPECT_EQ(messages(), (Texts{"-2147217887: Die Eingabe \"Tank.Pressure\" konnte nicht gespeichert werden und wurde "
+                                 "verworfen. Refused."}));
     expectNoOldDuplicate();
 }
 

@@ -87,6 +87,52 @@ TEST_F(VerifyAdds, DoesNothingWithoutAnEdit) {
     EXPECT_FALSE(faults.fired());
 }
 
+TEST_F(VerifyAdds, BeforeTheRowsGoAwayTheUserIsToldWhatWasDroppedAndWhy) {
+    type(1, "Tank.Level");
+    refuseNextUpdate(ado::dbErrUnspecified, "Die Datei ist gesperrt.");
+    window->finishOrDropEdit();
+    EXPECT_EQ(messages(), (Texts{"-2147467259: Die Eingabe \"Tank.Level\" konnte nicht gespeichert werden und wurde "
+                                 "verworfen. Die Datei ist gesperrt."}));
+    EXPECT_EQ(host.record.messages[0].title, "VerifyAdds");
+    EXPECT_EQ(members().editMode(), ado::adEditNone);
+    EXPECT_FALSE(grid().dataChanged());
+    EXPECT_EQ(shown("VarRecipe")[1], "Tank.Temp");
+    window->finishOrDropEdit();
+    EXPECT_EQ(messages().size(), 1U);
+}
+
+TEST_F(VerifyAdds, NamesADuplicateByTheNumberOfTheDatabaseAndInEnglishToo) {
+    useLanguage(english);
+    type(1, "Tank.Level");
+    refuseNextUpdate(ado::dbErrDuplicate, "It has it already.");
+    window->finishOrDropEdit();
+    EXPECT_EQ(messages(), (Texts{"-2147217887: The entry \"Tank.Level\" could not be stored and was dropped. It has it "
+                                 "already."}));
+}
+
+TEST_F(VerifyAdds, NamesANewRowThatWasDropped) {
+    startNewMember("Pump.State");
+    faults.arm(1, support::FaultPlan::Kind::insert);
+    window->finishOrDropEdit();
+    ASSERT_EQ(messages().size(), 1U);
+    EXPECT_NE(messages()[0].find("\"Pump.State\""), std::string::npos) << messages()[0];
+    EXPECT_FALSE(grid().addNewMode());
+}
+
+TEST_F(VerifyAdds, NamesATextThatTheViewCouldNotHandOver) {
+    grid().editorReported("Half.Typed", 4);
+    window->finishOrDropEdit();
+    ASSERT_EQ(messages().size(), 1U);
+    EXPECT_NE(messages()[0].find("\"Half.Typed\""), std::string::npos) << messages()[0];
+}
+
+TEST_F(VerifyAdds, TellsNothingOfAnEditThatIsStored) {
+    type(1, "Tank.Pressure");
+    window->finishOrDropEdit();
+    EXPECT_EQ(storedVariable(2), "Tank.Pressure");
+    EXPECT_EQ(messages(), Texts{});
+}
+
 TEST_F(VerifyAdds, LeavesNoDuplicateForTheNextErrorOfTheGrid) {
     type(1, "Tank.Level");
     refuseNextUpdate(ado::dbErrDuplicate);
