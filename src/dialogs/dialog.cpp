@@ -59,6 +59,7 @@ void Dialog::chooseItem(forms::TextBox& field) {
 void Dialog::sendHelpKey() { screen().sendKeys(*this, "{F1}"); }
 
 void Dialog::closeWith(bool cancelled) {
+    if (!cancelled && accept_ && !accept_()) return;
     cancelled_ = cancelled;
     hide();
 }

@@ -20,6 +20,8 @@ class Dialog : public forms::Form {
     /// False after OK. What it is before and after closing by the frame, each dialog states.
     [[nodiscard]] bool cancelled() const noexcept { return cancelled_; }
     void setCancelled(bool cancelled) noexcept { cancelled_ = cancelled; }
+    /// Asked by OK before the dialog closes: false keeps it open with all that the user has entered.
+    void setAccept(std::function<bool()> accept) { accept_ = std::move(accept); }
     /// The window that shows the dialog; it lives at least as long as the dialog. Null until it is set.
     [[nodiscard]] const automation::ObjectRef& owner() const noexcept { return owner_; }
     void setOwner(const automation::ObjectRef& owner) { owner_ = owner; }
@@ -78,6 +80,7 @@ class Dialog : public forms::Form {
     resources::Help& help_;
     automation::ObjectRef owner_;
     bool cancelled_ = false;
+    std::function<bool()> accept_;
     std::vector<forms::Subscription> subscriptions_;
 };
 

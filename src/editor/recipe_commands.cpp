@@ -65,7 +65,10 @@ void Commands::editRecipe() {
     const std::string before = nameIn(work.recipes());
     {
         const Dialog dialog(dialogOpen_);
-        recipe::EditRecipe(work.recipes(), window_);
+        recipe::EditRecipe(work.recipes(), window_, [this](const automation::Error& error) {
+            const Busy busy(addIn_.busy());
+            showError(window_.screen(), error, procedure);
+        });
     }
     const std::string after = nameIn(work.recipes());
     if (after != before) recipeRenamed(id, after);

@@ -10,6 +10,7 @@
 
 namespace hx::recipe {
 
+using automation::Error;
 using automation::NumberFormat;
 using automation::Variant;
 using dialogs::FRecipe;
@@ -97,16 +98,45 @@ const Transfer* transferOf(std::string_view name) {
     return found != transfers.end() ? &*found : nullptr;
 }
 
+// Another has changed or deleted the row: it would be refused for ever.
+bool isLost(const Error& error) {
+    return error.number() == ado::dbErrRowChanged || error.number() == ado::dbErrDeletedRow;
+}
+
+/// How OK ends an edit while the dialog is open.
+enum class Ending { stored, refused, failed };
+
+// What is refused stays pending: the next try is compared with what was read for the dialog.
+Ending tryToStore(ado::Recordset& recipes, const FRecipe& dialog, const Refusal& refused) {
+    if (!refused || !WriteDialogToRecipe(recipes, dialog)) return Ending::failed;
+    try {
+        recipes.update();
+        return Ending::stored;
+    } catch (const Error& error) {
+        if (isLost(error)) return Ending::failed;
+        refused(error);
+        return Ending::refused;
+    }
+}
+
 }  // namespace
 
-bool EditRecipe(ado::Recordset& recipes, RecipeWindow& window) {
+bool EditRecipe(ado::Recordset& recipes, RecipeWindow& window, const Refusal& refused) {
     const auto dialog = std::make_shared<FRecipe>(window.services(), window.texts(), window.help());
     if (!readAgain(recipes) || !ReadRecipeToDialog(recipes, *dialog, window.services().numberFormat)) {
         window.tell(notRead);
         return false;
     }
-    showOver(window, *dialog);
-    if (dialog->cancelled()) return false;
+    Ending ending = Ending::failed;
+    showOver(window, *dialog, [&] {
+        ending = tryToStore(recipes, *dialog, refused);
+        return ending != Ending::refused;
+    });
+    if (ending == Ending::stored) return true;
+    if (dialog->cancelled()) {
+        if (recipes.editMode() == ado::adEditInProgress) recipes.cancelUpdate();
+        return false;
+    }
     storeOrRestore(recipes, WriteDialogToRecipe(recipes, *dialog), [&] { window.tell(notWritten); });
     return true;
 }

@@ -28,7 +28,12 @@ bool forEachField(ado::Recordset& recordset, const std::function<void(ado::Field
     });
 }
 
-void showOver(RecipeWindow& window, dialogs::Dialog& dialog) {
+void showOver(RecipeWindow& window, dialogs::Dialog& dialog, std::function<bool()> accept) {
+    struct Accepting {
+        dialogs::Dialog& dialog;
+        ~Accepting() { dialog.setAccept(nullptr); }
+    } const accepting{dialog};
+    dialog.setAccept(std::move(accept));
     forms::Form& owner = window.editorWindow();
     dialog.setOwner(owner.share());
     dialog.showModal(owner.handle());

@@ -141,6 +141,72 @@ TEST_F(EditRecipe, ReportsADuplicateNameAndLeavesRecipeAndNodeAsTheyWere) {
     expectNoOldDuplicate();
 }
 
+TEST_F(EditRecipe, KeepsTheDialogWithAllThatWasEnteredWhileTheNameExists) {
+    inDialog<FRecipe>("FRecipe", [this](FRecipe& dialog) {
+        dialog.txtName->setText("sirup");
+        dialog.txtComment->setText("Neu");
+        dialog.cmdOk->click();
+        EXPECT_TRUE(dialog.visible());
+        EXPECT_TRUE(dialog.cancelled());
+        EXPECT_EQ(dialog.txtComment->text(), "Neu");
+        ASSERT_EQ(messages().size(), 1U);
+        EXPECT_EQ(messages()[0].substr(0, 13), "-2147217887: ");
+        EXPECT_EQ(host.record.messages[0].title, "mnuRecipeFunc");
+        dialog.txtName->setText("Mischung");
+        dialog.cmdOk->click();
+        EXPECT_FALSE(dialog.visible());
+    });
+    click("mnuRecipeEdit");
+    EXPECT_EQ(storedRows("TrcpRecipe", {1, 7})[0], "Mischung Neu");
+    EXPECT_EQ(shownNodes(), nodesOfStoredRecipes());
+    EXPECT_EQ(messages().size(), 1U);
+    expectAtRest();
+}
+
+TEST_F(EditRecipe, KeepsTheDialogWhileTheFileIsLocked) {
+    inDialog<FRecipe>("FRecipe", [this](FRecipe& dialog) {
+        dialog.txtComment->setText("Neu");
+        refuseNextUpdate(ado::dbErrUnspecified, "Gesperrt.");
+        dialog.cmdOk->click();
+        EXPECT_TRUE(dialog.visible());
+        dialog.cmdOk->click();
+        EXPECT_FALSE(dialog.visible());
+    });
+    click("mnuRecipeEdit");
+    EXPECT_EQ(messages(), (Texts{"-2147467259: Gesperrt."}));
+    EXPECT_EQ(storedRows("TrcpRecipe", {1, 7})[0], "Mix Neu");
+    expectAtRest();
+}
+
+TEST_F(EditRecipe, CancelledAfterARefusalChangesNothing) {
+    const Texts before = storedRecipes();
+    inDialog<FRecipe>("FRecipe", [](FRecipe& dialog) {
+        dialog.txtName->setText("sirup");
+        dialog.cmdOk->click();
+        dialog.txtName->setText("Mischung");
+        dialog.cmdCancel->click();
+    });
+    click("mnuRecipeEdit");
+    EXPECT_EQ(storedRecipes(), before);
+    EXPECT_EQ(shownNodes(), nodesOfStoredRecipes());
+    expectAtRest();
+}
+
+TEST_F(EditRecipe, AfterARefusalAnotherProgramsChangeIsNotOverwritten) {
+    inDialog<FRecipe>("FRecipe", [this](FRecipe& dialog) {
+        dialog.txtComment->setText("Neu");
+        refuseNextUpdate(ado::dbErrUnspecified, "Gesperrt.");
+        dialog.cmdOk->click();
+        const std::vector<ado::ColumnValue> theirs = {{7, Variant("Theirs")}};
+        database.table("TrcpRecipe").update(mix, theirs);
+        dialog.cmdOk->click();
+    });
+    click("mnuRecipeEdit");
+    EXPECT_EQ(storedRows("TrcpRecipe", {1, 7})[0], "Mix Theirs");
+    EXPECT_EQ(messages().size(), 2U);
+    expectAtRest();
+}
+
 TEST_F(EditRecipe, LeavesAnEditOfTheGridWaiting) {
     type(0, "Tank.Pressure");
     edit([](FRecipe& dialog) { dialog.txtName->setText("Mischung"); });
