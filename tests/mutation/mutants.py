@@ -14,6 +14,7 @@ INTEGERS = {TypeKind.SHORT, TypeKind.USHORT, TypeKind.INT, TypeKind.UINT, TypeKi
             TypeKind.ULONGLONG, TypeKind.CHAR_S, TypeKind.UCHAR}
 NUMBERS = INTEGERS | {TypeKind.FLOAT, TypeKind.DOUBLE}
 LITERALS = {Kind.INTEGER_LITERAL, Kind.FLOATING_LITERAL, Kind.STRING_LITERAL, Kind.CHARACTER_LITERAL, Kind.CXX_BOOL_LITERAL_EXPR}
+SYMMETRIC = {'equalIgnoreCase', 'min', 'max'}  # functions whose arguments may change places
 CLASSES = {Kind.CLASS_DECL, Kind.STRUCT_DECL, Kind.CLASS_TEMPLATE}
 FUNCTIONS = {Kind.FUNCTION_DECL, Kind.CXX_METHOD, Kind.CONSTRUCTOR, Kind.DESTRUCTOR, Kind.FUNCTION_TEMPLATE,
              Kind.CONVERSION_FUNCTION}
@@ -39,6 +40,7 @@ class Wrap:
     behind: str
     numbers: tuple
     replaces: bool = False  # `before` stands in place of the piece
+    first: bool = False     # `before` is a statement of its own, in front of all others
 
 
 class File:
@@ -66,7 +68,7 @@ class File:
                 use.append(Wrap(start, end, word, '', (), True))
         opening, closing, skipped = {}, {}, {}
         for order, wrap in enumerate(use):
-            opening.setdefault(wrap.start, []).append((-wrap.end, order, wrap.before))
+            opening.setdefault(wrap.start, []).append((-wrap.end, -1 if wrap.first else order, wrap.before))
             closing.setdefault(wrap.end, []).append((-wrap.start, -order, wrap.behind))
             if wrap.replaces:
                 skipped[wrap.start] = wrap.end
@@ -216,7 +218,7 @@ class File:
             return
         number = self._mutant(first, f'"{self._short(second)}" before "{self._short(first)}"')
         self.wraps.append(Wrap(first.extent.start.offset, self._end_of_statement(first), f'if(hxMutant({number})){{{code};}}', '',
-                               (number,)))
+                               (number,), first=True))
         self.wraps.append(Wrap(second.extent.start.offset, self._end_of_statement(second), f'if(hxMutant({number})){{}}else ', '',
                                (number,)))
 
@@ -307,13 +309,14 @@ class File:
     def _call(self, cursor, children):
         if cursor.spelling.startswith('operator'):
             arguments = [c for c in children if c.kind != Kind.UNEXPOSED_EXPR or not c.spelling.startswith('operator')]
-            sign = cursor.spelling[len('operator'):]
-            if sign in COMPARISONS and len(arguments) == 2:
+            sign = self._operator(*arguments) if len(arguments) == 2 else ''
+            if sign in COMPARISONS:
                 self._other_operator(cursor, arguments[0], arguments[1], COMPARISONS[sign])
             return
         arguments = [a for a in cursor.get_arguments() if a is not None and self._code(a)]
-        for first, second in zip(arguments, arguments[1:]):
-            self._swap_arguments(first, second)
+        if cursor.spelling not in SYMMETRIC:
+            for first, second in zip(arguments, arguments[1:]):
+                self._swap_arguments(first, second)
         parameters = list(cursor.referenced.type.argument_types()) if cursor.referenced is not None and \
             cursor.referenced.kind in FUNCTIONS else []
         for argument, parameter in zip(arguments, parameters):
