@@ -142,10 +142,12 @@ class NotedFont : public forms::Font {
         if (name == refused) throw automation::Error(automation::errOverflow, "refused");
         writes.emplace_back(name);
         types.push_back(value.type());
+        if (name == "Size") size = value;
         Font::set(name, value, index);
     }
     std::vector<std::string> reads, writes;
     std::vector<automation::VarType> types;
+    Variant size;
     std::string refused;
 };
 
@@ -180,6 +182,13 @@ TEST(CopyFont, KeepsItsOrderWithTheWeightLast) {
     EXPECT_EQ(target.writes, order);
     EXPECT_EQ(target.types[2], automation::VarType::int16);
     EXPECT_EQ(target.types[6], automation::VarType::int16);
+}
+
+TEST(CopyFont, HandsTheSizeOverWithFourDecimals) {
+    NotedFont source, target;
+    source.setSize(10.1234);
+    CopyFont(source, target);
+    EXPECT_EQ(target.size, Variant(10.1234));
 }
 
 TEST(CopyFont, LeavesAFontAsItIsWhenCopiedOntoItself) {
@@ -270,6 +279,8 @@ TEST_F(FillList, PassesErrorsToItsCaller) {
         FAIL() << "numbers are missing";
     } catch (const automation::Error& error) {
         EXPECT_EQ(error.number(), automation::errBadIndex);
+        EXPECT_NE(error.description().find("numbers"), std::string::npos) << error.description();
+        EXPECT_NE(error.description().find('2'), std::string::npos) << error.description();
     }
     EXPECT_THROW(FillListWithData(*window->txtFirst, automation::Null{}, names, ids), automation::Error);
     EXPECT_THROW(FillListWithData(*window->cmbList, Variant("abc"), names, ids), automation::Error);
