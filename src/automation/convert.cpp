@@ -14,7 +14,8 @@ namespace hx::automation {
 
 namespace {
 
-constexpr int significantDigits = 15;
+// Outside of these the general format goes over to powers of ten.
+constexpr double fixedFrom = 1e-4, fixedTo = 1e15;
 
 bool isDigit(char c) { return c >= '0' && c <= '9'; }
 
@@ -82,12 +83,14 @@ Integer roundTo(double value) {
 
 std::string numberToText(double value, const NumberFormat& format) {
     if (value == 0) return "0";  // never "-0"
+    const double size = std::abs(value);
+    const bool fixed = size >= fixedFrom && size < fixedTo;
     char buffer[40];
-    const auto end =
-        std::to_chars(buffer, buffer + sizeof buffer, value, std::chars_format::general, significantDigits);
+    const auto end = std::to_chars(buffer, buffer + sizeof buffer, value,
+                                   fixed ? std::chars_format::fixed : std::chars_format::scientific);
     std::string text(buffer, end.ptr);
     if (const auto exponent = text.find('e'); exponent != std::string::npos) text[exponent] = 'E';
-    return replaceAll(text, ".", format.decimalPoint);
+    return format.decimalPoint == "," ? replaceAll(text, ".", ",") : text;
 }
 
 std::string toText(const Variant& value, const NumberFormat& format) {

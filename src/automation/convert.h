@@ -8,12 +8,12 @@
 
 namespace hx::automation {
 
-/// How a locale writes numbers. No grouping is ever written.
+/// How a locale writes numbers, without grouping. Any separator but "," is written as a point, to be read back.
 struct NumberFormat {
     std::string decimalPoint = ".";
 };
 
-/// The general format: up to 15 significant digits, whole numbers without decimals, "1E+20" beyond.
+/// The shortest text that reads back to this value: whole numbers without decimals, "1E+20" from 15 digits on.
 [[nodiscard]] std::string numberToText(double value, const NumberFormat& format = {});
 
 /// Any value as text: "" for empty, null and object, "True"/"False", numbers in `format`.

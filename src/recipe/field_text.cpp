@@ -7,22 +7,17 @@ namespace hx::recipe {
 
 using automation::Variant;
 
-namespace {
-
-std::string withPoint(std::string_view number) { return automation::replaceAll(number, ",", "."); }
-
-}  // namespace
-
 std::string FieldToText(const ado::Field& field, const automation::NumberFormat& format) {
-    const std::string text = automation::toText(field.value(), format);
-    return field.type() == ado::adDouble ? withPoint(text) : text;
+    return automation::toText(field.value(), field.type() == ado::adDouble ? automation::NumberFormat{} : format);
 }
 
+// Not every value of a number column can be read from a text: one that is infinite or missing would come back as 0.
 void TextToField(ado::Field& field, std::string_view text) {
+    if (field.type() != ado::adVarWChar && text == FieldToText(field)) return;
     switch (field.type()) {
         case ado::adSmallInt:
         case ado::adInteger: return field.setValue(automation::leadingNumber(text));
-        case ado::adDouble: return field.setValue(automation::leadingNumber(withPoint(text)));
+        case ado::adDouble: return field.setValue(automation::leadingNumber(automation::replaceAll(text, ",", ".")));
         case ado::adVarWChar: return field.setValue(text);
         default: return;
     }

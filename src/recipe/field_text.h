@@ -16,8 +16,8 @@ namespace hx::recipe {
 [[nodiscard]] std::string FieldToText(const ado::Field& field, const automation::NumberFormat& format = {});
 
 /// By the column's type: whole numbers and doubles receive the leading number of the text (0 without one; a double
-/// takes "," for "."), a text of variable length receives the text, any other type nothing. A number that does not fit
-/// throws automation::Error.
+/// takes "," for "."), unless it is what FieldToText gives; a text of variable length receives the text, any other type
+/// nothing. A number that does not fit throws automation::Error.
 void TextToField(ado::Field& field, std::string_view text);
 
 /// Checked when the column is true or not 0; Null is unchecked.

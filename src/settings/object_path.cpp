@@ -13,6 +13,7 @@ namespace hx::settings {
 using automation::Dispatch;
 using automation::ObjectRef;
 using automation::Variant;
+using automation::VarType;
 
 namespace {
 
@@ -67,11 +68,24 @@ class PathWalk {
     bool tolerant_ = false;
 };
 
+bool takesNumber(const Dispatch& owner, std::string_view property) {
+    const automation::Member* const member = owner.members().find(property);
+    if (member == nullptr) return false;
+    const automation::VarType type = member->type;
+    return type == VarType::int16 || type == VarType::int32 || type == VarType::real8;
+}
+
+// A number below 0 is text here, with the decimal separator of the locale that it was written in.
+Variant assignable(const Dispatch& owner, std::string_view property, const Variant& value) {
+    if (!value.isString()) return Variant(automation::toInt16(value));
+    return takesNumber(owner, property) ? Variant(automation::replaceAll(value.asString(), ",", ".")) : value;
+}
+
 }  // namespace
 
 void SetValueByPath(Dispatch& object, std::string_view path, const Variant& value) {
     PathWalk(object, path).run([&](Dispatch& owner, std::string_view property) {
-        owner.set(property, value.isString() ? value : Variant(automation::toInt16(value)));
+        owner.set(property, assignable(owner, property, value));
         return Variant();
     });
 }

@@ -1,6 +1,7 @@
 #include "automation/convert.h"
 
 #include <gtest/gtest.h>
+#include <limits>
 
 #include "automation/error.h"
 
@@ -21,9 +22,29 @@ TEST(NumberToText, UsesTheLocalesDecimalSeparator) {
     EXPECT_EQ(numberToText(3000.189, german), "3000,189");
 }
 
-TEST(NumberToText, KeepsFifteenSignificantDigits) {
-    EXPECT_EQ(numberToText(0.1 + 0.2), "0.3");
+TEST(NumberToText, IsTheShortestThatReadsBackToTheSameNumber) {
+    EXPECT_EQ(numberToText(0.1 + 0.2), "0.30000000000000004");
+    EXPECT_EQ(numberToText(0.3), "0.3");
+    EXPECT_EQ(numberToText(1.0 / 3), "0.3333333333333333");
+    EXPECT_EQ(numberToText(9007199254740993.0), "9.007199254740992E+15");
+    EXPECT_EQ(numberToText(std::numeric_limits<double>::denorm_min()), "5E-324");
+    for (const double value :
+         {1.0 / 3, 2.0 / 3, 0.1 + 0.2, 1e23, 123456.789, 4.35, 1e-7, 5e-324, 1.7976931348623157e308}) {
+        EXPECT_EQ(leadingNumber(numberToText(value)), value);
+        EXPECT_EQ(leadingNumber(numberToText(-value)), -value);
+    }
+}
+
+TEST(NumberToText, GoesOverToPowersOfTenFromFifteenDigitsOn) {
+    EXPECT_EQ(numberToText(123456789012345), "123456789012345");
+    EXPECT_EQ(numberToText(1e15), "1E+15");
     EXPECT_EQ(numberToText(1e20), "1E+20");
+    EXPECT_EQ(numberToText(0.0001), "0.0001");
+    EXPECT_EQ(numberToText(0.00001), "1E-05");
+}
+
+TEST(NumberToText, WritesAPointWhereTheLocaleHasNeitherPointNorComma) {
+    EXPECT_EQ(numberToText(8.25, {"\u066B"}), "8.25");
 }
 
 TEST(ToText, WritesBooleansAsWordsAndNothingForNull) {

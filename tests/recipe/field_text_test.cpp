@@ -1,6 +1,8 @@
 #include "recipe/field_text.h"
 
+#include <cmath>
 #include <gtest/gtest.h>
+#include <limits>
 
 #include "plant.h"
 #include "recipe/schema.h"
@@ -42,6 +44,33 @@ TEST_F(FieldText, ADoubleIsShownWithAPointUnderEveryLocale) {
     field("StandardValue").setValue(1.5);
     EXPECT_EQ(FieldToText(field("StandardValue")), "1.5");
     EXPECT_EQ(FieldToText(field("StandardValue"), comma), "1.5");
+}
+
+TEST_F(FieldText, ADoubleIsShownWithAllDigitsThatItTakesToReadItBack) {
+    for (const double value : {1.0 / 3, 0.1 + 0.2, 1e23, 5e-324}) {
+        field("StandardValue").setValue(value);
+        const std::string text = FieldToText(field("StandardValue"));
+        field("StandardValue").setValue(0.0);
+        TextToField(field("StandardValue"), text);
+        EXPECT_EQ(field("StandardValue").value(), Variant(value)) << text;
+    }
+}
+
+TEST_F(FieldText, ANumberThatNoTextGivesBackStaysWhileItsTextDoes) {
+    constexpr double infinity = std::numeric_limits<double>::infinity();
+    for (const Variant& value : {Variant(infinity), Variant(-infinity), Variant(Null{})}) {
+        field("StandardValue").setValue(value);
+        TextToField(field("StandardValue"), FieldToText(field("StandardValue")));
+        EXPECT_EQ(field("StandardValue").value(), value);
+    }
+    field("StandardValue").setValue(std::numeric_limits<double>::quiet_NaN());
+    TextToField(field("StandardValue"), FieldToText(field("StandardValue")));
+    EXPECT_TRUE(std::isnan(field("StandardValue").value().asDouble()));
+}
+
+TEST_F(FieldText, AnUnchangedNumberStartsNoEdit) {
+    for (const char* name : {"StandardValue", "Options"}) TextToField(field(name), FieldToText(field(name)));
+    EXPECT_EQ(recipes.editMode(), ado::adEditNone);
 }
 
 TEST_F(FieldText, AStandardValueOfZeroIsShownAsTheDigitZero) {

@@ -1,5 +1,7 @@
 #include "recipe/mrecipe.h"
 
+#include <limits>
+
 #include "automation/convert.h"
 #include "dialog_window.h"
 
@@ -118,6 +120,15 @@ TEST_F(MRecipe, ATypedCommaIsADecimalPoint) {
         dialog.txtStandardValue->setText("1,25");
     }));
     EXPECT_EQ(stored(StandardValue), Variant(1.25));
+}
+
+TEST_F(MRecipe, ANormFactorThatIsNotTouchedStaysToTheLastDigit) {
+    constexpr double infinity = std::numeric_limits<double>::infinity();
+    for (const Variant& factor : {Variant(0.3333333333333333), Variant(infinity), Variant(Null{})}) {
+        store(StandardValue, factor);
+        EXPECT_TRUE(editAndConfirm([](FRecipe& dialog) { dialog.txtComment->setText("neu"); }));
+        EXPECT_EQ(stored(StandardValue), factor);
+    }
 }
 
 TEST_F(MRecipe, ANormFactorThatIsNoNumberIsItsLeadingNumber) {

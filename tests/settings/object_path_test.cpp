@@ -67,6 +67,10 @@ TEST_F(ObjectPathTest, AssignsTextAsText) {
     EXPECT_EQ(window->caption(), "-5,50") << "no number on the way";
     set("Me.PosLeft", Variant("-5"));
     EXPECT_EQ(window->posLeft, -5);
+    set("Me.PosLeft", Variant("-37,5"));
+    EXPECT_EQ(window->posLeft, -37.5);
+    set("Me.PosLeft", Variant("-12.5"));
+    EXPECT_EQ(window->posLeft, -12.5);
 }
 
 TEST_F(ObjectPathTest, ReadsPropertiesAsTheyAre) {
