@@ -1,9 +1,10 @@
 #include "studio/studio_application.h"
 
 #include <QScopedValueRollback>
-#include <QStyleFactory>
 #include <clocale>
+#include <memory>
 
+#include "adapters/qt/style.h"
 #include "adapters/qt/text.h"
 #include "automation/error.h"
 
@@ -12,8 +13,9 @@ namespace hx::studio {
 StudioApplication::StudioApplication(int& argc, char** argv) : QApplication(argc, argv) {
     // Macros write and read numbers with a point, as on the command line; what is shown goes by QLocale.
     std::setlocale(LC_NUMERIC, "C");
-    setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    setStyle(std::make_unique<qt::Style>().release());  // the application owns it
     setApplicationName(QStringLiteral("HelvixStudio"));
+    installEventFilter(&inputRules_);
 }
 
 bool StudioApplication::notify(QObject* receiver, QEvent* event) {

@@ -3,6 +3,8 @@
 #include <QApplication>
 #include <functional>
 
+#include "adapters/qt/input_rules.h"
+
 namespace hx::studio {
 
 /// An application that survives what its event handlers throw: it is reported, and the studio goes on.
@@ -16,6 +18,7 @@ class StudioApplication : public QApplication {
 
   private:
     void report(const QString& message);
+    qt::InputRules inputRules_;
     Report report_;
     bool reporting_ = false;
 };

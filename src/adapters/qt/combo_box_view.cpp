@@ -11,7 +11,6 @@ ComboBoxView::ComboBoxView(forms::ComboBox& box, FormView& form, QWidget& area)
     : ControlView(box, form), combo_(&area) {
     combo_.setEditable(box.style() == forms::ComboBox::Style::dropDownCombo);
     combo_.setInsertPolicy(QComboBox::NoInsert);
-    combo_.setMaxVisibleItems(20);
     // The width does not follow from the entries: there may be thousands.
     combo_.setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     combo_.setMinimumContentsLength(1);
@@ -44,12 +43,15 @@ void ComboBoxView::showList() {
     showChoice();
 }
 
+// Whatever sets the text of the field, also the choice of an entry, ends the undo list and moves the caret: not while
+// the user types what is shown already.
 void ComboBoxView::showChoice() {
     const auto& box = *modelOf<forms::ComboBox>(*this);
     const QSignalBlocker quiet(combo_);
-    if (box.listIndex() < combo_.count()) combo_.setCurrentIndex(box.listIndex());
     const QString text = toQt(box.text());
-    if (combo_.isEditable() && combo_.currentText() != text) combo_.setEditText(text);
+    if (combo_.isEditable() && combo_.currentText() == text) return;
+    if (box.listIndex() < combo_.count()) combo_.setCurrentIndex(box.listIndex());
+    if (combo_.isEditable()) combo_.setEditText(text);
 }
 
 void ComboBoxView::show(std::string_view property) {

@@ -1,7 +1,6 @@
 #pragma once
 
-#include <QComboBox>
-
+#include "adapters/qt/combo_box.h"
 #include "adapters/qt/control_view.h"
 #include "forms/simple_controls.h"
 
@@ -21,7 +20,7 @@ class ComboBoxView : public ControlView {
     void showChoice();
     void chosen(int index);
     void typed(const QString& text);
-    QComboBox combo_;
+    ComboBox combo_;
 };
 
 }  // namespace hx::qt
