@@ -28,6 +28,7 @@ void Dialog::addDialogButtons() {
     cmdOk->setDefault(true);
     cmdCancel->setCancel(true);
     addButtons({cmdOk.get(), cmdCancel.get()}, cmdHelp.get());
+    on(cmdHelp->clickEvent, &Dialog::sendHelpKey);
 }
 
 void Dialog::tagDialogButtons() {

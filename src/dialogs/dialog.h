@@ -14,7 +14,7 @@ namespace hx::dialogs {
 
 /// What the editor's dialogs have in common. A dialog is made by std::make_shared, filled through its controls, given
 /// its owner, shown by showModal(owner's handle), and read afterwards: it only hides itself, or ends its window when it
-/// is closed by its frame; the controls keep their state. F1 opens the online help at the dialog's HelpContextID.
+/// is closed by its frame; the controls keep their state. F1 and the button open the help at the HelpContextID.
 class Dialog : public forms::Form {
   public:
     /// False after OK. What it is before and after closing by the frame, each dialog states.
@@ -67,13 +67,13 @@ class Dialog : public forms::Form {
 
     /// Lets the user choose a variable, with the field's text chosen before; cancelled, the text stays.
     void chooseItem(forms::TextBox& field);
-    /// "{F1}" to the dialog itself: the online help opens.
-    void sendHelpKey();
     void closeWith(bool cancelled);
     [[nodiscard]] const host::Services& services() const noexcept { return services_; }
 
   private:
     void guard(const std::function<void()>& action);
+    /// "{F1}" to the dialog itself: the online help opens.
+    void sendHelpKey();
     void onKeyDown(forms::KeyEvent& event);
 
     const host::Services& services_;

@@ -60,7 +60,6 @@ FConfigEditor::FConfigEditor(const host::Services& services, resources::Help& he
     on(cmdEditorFont->clickEvent, &FConfigEditor::onChooseFont);
     hear(cmdOk->clickEvent, [this] { closeWith(false); });
     hear(cmdCancel->clickEvent, [this] { closeWith(true); });
-    hear(cmdHelp->clickEvent, [this] { sendHelpKey(); });
 }
 
 void FConfigEditor::onChooseFont() {

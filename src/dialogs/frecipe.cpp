@@ -127,7 +127,6 @@ void FRecipe::connectControls() {
     }
     hear(cmdOk->clickEvent, [this] { closeWith(false); });
     hear(cmdCancel->clickEvent, [this] { closeWith(true); });
-    hear(cmdHelp->clickEvent, [this] { sendHelpKey(); });
     on(keyDownEvent, &FRecipe::onKey);
 }
 

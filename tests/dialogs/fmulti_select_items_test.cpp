@@ -84,10 +84,13 @@ TEST_F(FMultiSelectItemsTest, IsUnloadedByTheProgramAndTheSystem) {
     }
 }
 
-TEST_F(FMultiSelectItemsTest, HasAHelpButtonWithoutAnActionOfItsOwn) {
-    show<FMultiSelectItems>(*dialog, [](FMultiSelectItems& shown) { shown.cmdHelp->click(); });
-    EXPECT_TRUE(host.record.help.empty());
-    EXPECT_TRUE(host.record.sentKeys.empty());
+TEST_F(FMultiSelectItemsTest, OpensItsHelpByTheButtonToo) {
+    show<FMultiSelectItems>(*dialog, [](FMultiSelectItems& shown) {
+        shown.cmdHelp->click();
+        EXPECT_TRUE(shown.visible());
+    });
+    ASSERT_EQ(host.record.help.size(), 1U);
+    EXPECT_EQ(host.record.help[0].context, 100032);
 }
 
 TEST_F(FMultiSelectItemsTest, OpensItsHelpByF1) {

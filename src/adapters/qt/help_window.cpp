@@ -14,6 +14,21 @@ namespace {
 
 constexpr QSize usualSize(920, 680);
 constexpr int navigationWidth = 260, narrowest = 640, fromOwner = 60, noteTime = 8000;
+constexpr QSize least(240, 160);  // in which a topic can still be read
+
+bool isDialog(const QWidget& window) { return window.windowType() == Qt::Dialog; }
+
+int readableArea(const QRect& place) {
+    const bool readable = place.width() >= least.width() && place.height() >= least.height();
+    return readable ? place.width() * place.height() : 0;
+}
+
+// What the desktop puts around a window, around this one as around others.
+QMargins frameOf(const QWidget& window) {
+    const QRect inner = window.geometry(), outer = window.frameGeometry();
+    return {inner.left() - outer.left(), inner.top() - outer.top(), outer.right() - inner.right(),
+            outer.bottom() - inner.bottom()};
+}
 
 }  // namespace
 
@@ -186,10 +201,9 @@ void HelpWindow::note(const QString& text) { statusBar()->showMessage(text, note
 void HelpWindow::showOver(QWidget* owner) {
     owner_ = owner == nullptr ? nullptr : owner->window();
     retranslate();
-    if (!isVisible()) {
-        if (!testAttribute(Qt::WA_Moved)) place(owner_);
-        winId();  // the window must be there to be put above another
-    }
+    const bool covers = owner_ && isDialog(*owner_) && frameGeometry().intersects(owner_->frameGeometry());
+    if (covers || !testAttribute(Qt::WA_Moved)) place(owner_);
+    if (!isVisible()) winId();  // the window must be there to be put above another
     stayAbove();
     if (isMinimized()) showNormal();
     else show();
@@ -199,23 +213,45 @@ void HelpWindow::showOver(QWidget* owner) {
 }
 
 // Beside the owner where there is room for it, else towards the right edge: what help is asked for should stay seen.
-void HelpWindow::place(const QWidget* owner) {
+void HelpWindow::place(QWidget* owner) {
     const QScreen* screen = owner != nullptr ? owner->screen() : QGuiApplication::primaryScreen();
     const QRect room = screen->availableGeometry();
     const QRect around = owner != nullptr ? owner->frameGeometry() : room;
+    const QMargins frame = owner != nullptr ? frameOf(*owner) : QMargins();
     const int onTheRight = room.right() - around.right(), onTheLeft = around.left() - room.left();
-    const int beside = std::max(onTheRight, onTheLeft);
+    const int beside = std::max(onTheRight, onTheLeft) - frame.left() - frame.right();
+    if (beside < narrowest && owner != nullptr && isDialog(*owner) && placeInstead(*owner, room)) return;
     QRect own(QPoint(), usualSize.boundedTo(room.size() * 0.92));
     if (beside >= narrowest) {
         own.setWidth(std::min(own.width(), beside));
-        own.moveLeft(onTheRight >= onTheLeft ? around.right() + 1 : around.left() - own.width());
+        if (onTheRight >= onTheLeft) own.moveLeft(around.right() + 1 + frame.left());
+        else own.moveRight(around.left() - 1 - frame.right());
     } else {
         own.moveRight(around.width() > own.width() ? around.right() - fromOwner : room.right());
     }
     own.moveTop(around.top() + fromOwner);
-    own.moveLeft(std::max(room.left(), std::min(own.left(), room.right() - own.width())));
     own.moveTop(std::max(room.top() + fromOwner / 2, std::min(own.top(), room.bottom() - own.height())));
+    own.moveLeft(std::max(room.left(), own.left()));
     setGeometry(own);
+}
+
+// Where there is too little room on either side, the dialog moves to an edge of the screen, and the help takes the
+// rest, beside it or below it. False when the dialog leaves no such rest.
+bool HelpWindow::placeInstead(QWidget& dialog, const QRect& room) {
+    const QSize outer = dialog.frameGeometry().size();
+    const QRect beside = room.adjusted(outer.width(), 0, 0, 0).marginsRemoved(frameOf(dialog));
+    const QRect below = room.adjusted(0, outer.height(), 0, 0).marginsRemoved(frameOf(dialog));
+    const bool goesBeside = readableArea(beside) > readableArea(below);
+    const QRect& rest = goesBeside ? beside : below;
+    if (readableArea(rest) == 0) return false;
+    dialog.move(goesBeside ? QPoint(room.left(), dialog.y()) : QPoint(dialog.x(), room.top()));
+    setGeometry(QRect(rest.topLeft(), usualSize.boundedTo(rest.size())));
+    return true;
+}
+
+void HelpWindow::resizeEvent(QResizeEvent* event) {
+    QMainWindow::resizeEvent(event);
+    tabs_.setVisible(width() >= narrowest);  // else the topic takes the whole window
 }
 
 // A modal dialog blocks every window that is not its own: the help becomes one of it, for as long as it is open.

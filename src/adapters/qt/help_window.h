@@ -19,7 +19,7 @@
 namespace hx::qt {
 
 /// The window of the help viewer. It lies over the window that asked for help, and over every modal dialog that is open
-/// or comes: help can be read and searched beside a dialog.
+/// or comes: help can be read and searched beside a dialog, which gives way where the screen is small.
 class HelpWindow : public QMainWindow {
   public:
     /// The wording is lent.
@@ -37,6 +37,7 @@ class HelpWindow : public QMainWindow {
   protected:
     bool event(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
   private:
     void setUpActions();
@@ -48,7 +49,8 @@ class HelpWindow : public QMainWindow {
     void showTitle();
     void goHome();
     void escape();
-    void place(const QWidget* owner);
+    void place(QWidget* owner);
+    bool placeInstead(QWidget& dialog, const QRect& room);
     void stayAbove();
     void note(const QString& text);
 
