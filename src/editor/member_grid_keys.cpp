@@ -67,7 +67,6 @@ MemberGridKeys::MemberGridKeys(frmtabgrid& window, MSurfingGrid& members, Menus&
         {key::right, shift::alt, &Keys::swallow},
         {key::pageUp, shift::ctrl, &Keys::firstColumn},
         {key::pageDown, shift::ctrl, &Keys::lastColumn},
-        {key::o, shift::ctrl, &Keys::naturalPlace},
     });
     static constexpr auto up = std::to_array<Row>({
         {key::left, shift::shift, &Keys::neighbour},
@@ -147,11 +146,6 @@ void MemberGridKeys::lastColumn(forms::KeyEvent& event) {
     event.swallow();
     const std::vector<forms::Column*> visible = visibleColumns(grid_);
     if (!visible.empty()) grid_.setCol(grid_.columnNumber(automation::Variant(visible.back()->dataField())));
-}
-
-void MemberGridKeys::naturalPlace(forms::KeyEvent& event) {
-    event.swallow();
-    if (!grid_.columns().empty()) grid_.columnMoved(grid_.col(), static_cast<std::int16_t>(grid_.col()));
 }
 
 void MemberGridKeys::neighbour(forms::KeyEvent& event) {

@@ -34,7 +34,6 @@ class MemberGridKeys {
     void swallow(forms::KeyEvent& event);
     void firstColumn(forms::KeyEvent& event);
     void lastColumn(forms::KeyEvent& event);
-    void naturalPlace(forms::KeyEvent& event);
     void neighbour(forms::KeyEvent& event);
 
     frmtabgrid& window_;

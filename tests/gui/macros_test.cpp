@@ -148,7 +148,7 @@ TEST_F(StudioMacroTest, FollowsTheLanguageOfTheStudio) {
     start();
     run("print(1)");
     window().chooseLanguage(qt::Wording::english);
-    EXPECT_EQ(menu().title(), "&Macros");
+    EXPECT_EQ(menu().title(), "M&acros");
     EXPECT_EQ(action("actionStopMacro").text(), "&Stop");
     EXPECT_EQ(find<QDockWidget>(window(), "macroDock").windowTitle(), "Macro output");
     EXPECT_EQ(textOf().accessibleName(), "Macro output");
