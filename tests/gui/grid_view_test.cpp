@@ -201,6 +201,21 @@ TEST_F(GridViewTest, TheLastColumnFillsTheTableAndKeepsItsWidth) {
     }
 }
 
+TEST_F(GridViewTest, AColumnThatIsTakenFromTheEndKeepsTheWidthThatItWasSeenWith) {
+    show(3);
+    QHeaderView& header = *table().horizontalHeader();
+    const int last = header.logicalIndex(header.count() - 1);
+    grid().columns()[static_cast<std::size_t>(last)]->setWidth(300);
+    const int seen = header.sectionSize(last);
+    ASSERT_GT(seen, 200);
+    header.moveSection(header.count() - 1, 0);
+    EXPECT_EQ(header.sectionSize(last), seen);
+    header.moveSection(0, header.count() - 1);
+    EXPECT_EQ(header.length(), std::max(table().viewport()->width(), header.length()));
+    header.moveSection(0, header.count() - 1);
+    EXPECT_EQ(header.sectionSize(last), seen) << "another column came behind it";
+}
+
 TEST_F(GridViewTest, TheFirstSplitIsASecondTableThatScrollsAlong) {
     show(200);
     EXPECT_EQ(windowOf(*form).findChild<QTableView*>("grid.Splits(0)"), nullptr);

@@ -7,12 +7,25 @@
 #include <QScopeGuard>
 #include <QScrollBar>
 #include <algorithm>
+#include <ranges>
 
 #include "adapters/qt/form_view.h"
 #include "adapters/qt/keys.h"
 #include "adapters/qt/text.h"
 
 namespace hx::qt {
+
+namespace {
+
+/// The number of the visible column at the right end; -1 when none is visible.
+int lastShownColumn(const forms::Grid& grid) {
+    for (const forms::Column* column : grid.columnsInDisplayOrder() | std::views::reverse) {
+        if (column->visible()) return grid.columnNumber(automation::Variant(column->dataField()));
+    }
+    return -1;
+}
+
+}  // namespace
 
 GridView::GridView(forms::Grid& grid, FormView& form, QWidget& area)
     : ControlView(grid, form),
@@ -198,9 +211,15 @@ void GridView::headClicked(int column) {
     if (grid() != nullptr) show("SortText");
 }
 
+// The last column spans what is left of the table: taken from the end, it stays as wide as the user saw it.
 void GridView::columnMoved(int column, int order) {
     const auto keep = model()->share();
+    const int last = lastShownColumn(*grid());
+    const int width = last < 0 ? 0 : right_->columnWidth(last);
     grid()->columnMoved(column, static_cast<std::int16_t>(order));
+    if (grid() != nullptr && last >= 0 && lastShownColumn(*grid()) != last) {
+        grid()->columns()[static_cast<std::size_t>(last)]->setWidth(units().twips(width));
+    }
     layOutColumns();
 }
 
