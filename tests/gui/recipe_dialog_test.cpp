@@ -135,6 +135,28 @@ TEST_F(RecipeDialogTest, ThePagesAreReachedByKeyboard) {
     });
 }
 
+TEST_F(RecipeDialogTest, CtrlTabTurnsThePagesFromEveryControl) {
+    showDuring(*dialog, [this](QWidget& window) {
+        int tried = 0;
+        for (int page = 0; page < 3; ++page) {
+            for (QWidget* control : window.findChildren<QWidget*>()) {
+                goToPage(page);
+                handleEvents();
+                if (!control->isVisible() || !control->isEnabled() || control->focusPolicy() == Qt::NoFocus) continue;
+                control->setFocus();
+                press(Qt::Key_Tab, Qt::ControlModifier);
+                EXPECT_EQ(dialog->tab->tab(), (page + 1) % 3) << qt::fromQt(control->objectName());
+                goToPage(page);
+                control->setFocus();
+                press(Qt::Key_Backtab, Qt::ControlModifier | Qt::ShiftModifier);
+                EXPECT_EQ(dialog->tab->tab(), (page + 2) % 3) << qt::fromQt(control->objectName());
+                ++tried;
+            }
+        }
+        EXPECT_GT(tried, 35);
+    });
+}
+
 TEST_F(RecipeDialogTest, TheKeysOfTheDialogWorkOnTheTabsToo) {
     showDuring(*dialog, [this](QWidget&) {
         auto& bar = *widget<QTabWidget>("tab").tabBar();

@@ -33,6 +33,11 @@ void TabStripView::chosen(int tab) {
     form().startKeyboard();
 }
 
+void TabStripView::turn(int pages) {
+    const int count = tabs_.count();
+    tabs_.setCurrentIndex((tabs_.currentIndex() + pages + count) % count);
+}
+
 void TabStripView::showCaptions() {
     const auto& strip = *modelOf<forms::TabStrip>(*this);
     for (std::int16_t i = 0; i < strip.tabs(); ++i) tabs_.setTabText(i, toQt(strip.tabCaption(i)));

@@ -14,6 +14,8 @@ class TabStripView : public ControlView {
     TabStripView(forms::TabStrip& strip, FormView& form, QWidget& area);
     [[nodiscard]] QWidget& widget() override { return tabs_; }
     [[nodiscard]] QWidget* areaOf(const forms::Control& container) override;
+    /// To the page so many behind, round the ends.
+    void turn(int pages);
 
   protected:
     void show(std::string_view property) override;
