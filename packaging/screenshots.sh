@@ -92,7 +92,7 @@ tour() {
     started+=("$studio_process")
     until_true "$patience" window_or_end || true
     [ -n "$window" ] || { cat "$work/studio.log" >&2; fail "the studio's window did not come"; }
-    xdotool windowactivate --sync "$window" windowmove "$window" 10 30 windowsize --sync "$window" 1250 740 2>/dev/null || true
+    xdotool windowactivate --sync "$window" 2>/dev/null || true
     press Home Down
     take_picture "$1-1-rezepte"
     press Right Down

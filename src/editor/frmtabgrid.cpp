@@ -182,6 +182,8 @@ std::optional<double> frmtabgrid::hostOffset(float (*offset)(const host::WindowO
     const host::ProjectExplorer* explorer = addIn_.explorer();
     const host::WindowOperations& windows = addIn_.services().windows;
     if (!loaded() || explorer == nullptr || windows.embeddingObject(handle()) == nullptr) return {};
+    // Maximised or minimised it lies elsewhere than where it will lie again, which is what is stored.
+    if (windowState() != forms::WindowState::normal) return {};
     return offset(windows, handle(), explorer->hostWindow()) * screen().twipsPerPixel();
 }
 

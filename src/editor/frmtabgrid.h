@@ -89,7 +89,7 @@ class frmtabgrid : public forms::Form, public recipe::RecipeWindow, public dialo
     /// Puts other commands under the tools in place of the editor's own.
     void setCommands(std::unique_ptr<Commands> commands);
 
-    // --- position in the host's document area, in twips
+    // --- position in the host's document area, in twips; of the normal window also while it is maximised or minimised
     [[nodiscard]] double PosLeft() const;
     void setPosLeft(double twips);
     [[nodiscard]] double PosTop() const;

@@ -23,6 +23,7 @@ namespace hx::studio {
 namespace {
 
 constexpr QSize usualSize(1280, 800);
+constexpr QSize frameRoom(32, 64);  // what a frame takes at most; it is not there yet when the size is chosen
 constexpr int explorerWidth = 280;
 constexpr int messageTime = 8000;
 const QString title = QStringLiteral("HelvixStudio");
@@ -70,7 +71,11 @@ void MainWindow::setUp() {
 }
 
 void MainWindow::restoreWindow() {
-    if (!restoreGeometry(preferences_.geometry())) resize(usualSize.boundedTo(screen()->availableSize()));
+    if (!restoreGeometry(preferences_.geometry())) {
+        const QSize room = screen()->availableSize() - frameRoom;
+        resize(usualSize.boundedTo(room));
+        if (size() != usualSize) setWindowState(windowState() | Qt::WindowMaximized);
+    }
     if (!restoreState(preferences_.layout())) resizeDocks({&explorerDock_}, {explorerWidth}, Qt::Horizontal);
 }
 

@@ -40,6 +40,22 @@ TEST_F(Position, MovesTheWindowToWhereItIsSet) {
     EXPECT_EQ(window->top(), -30);
 }
 
+TEST_F(Position, OfAMaximisedWindowIsWhereItWillLieAgain) {
+    openNormal(450, 150);
+    window->setWindowState(forms::WindowState::maximised);
+    EXPECT_EQ(window->PosLeft(), 450);
+    EXPECT_EQ(window->PosTop(), 150);
+    for (int i = 0; i < 2; ++i) {
+        window->setPosLeft(600);
+        window->setPosTop(-37.5);
+        EXPECT_EQ(window->PosLeft(), 600);
+        EXPECT_EQ(window->PosTop(), -37.5);
+    }
+    window->setWindowState(forms::WindowState::normal);
+    EXPECT_EQ(window->left(), 600);
+    EXPECT_EQ(window->top(), -37.5);
+}
+
 TEST_F(Position, WithoutAnExplorerIsThatOfTheForm) {
     openNormal(450, 150);
     addIn.node = nullptr;

@@ -96,6 +96,66 @@ TEST_F(WindowsTest, AMaximisedFormFillsTheArea) {
     EXPECT_TRUE(document().isMaximized());
 }
 
+TEST_F(WindowsTest, AMaximisedFormKeepsItsNormalSizeWhileTheStudioIsResized) {
+    embed();
+    form->show();
+    document().setGeometry(30, 20, 500, 400);
+    document().showMaximized();
+    for (const QSize& size : {QSize(700, 500), QSize(1100, 800), QSize(900, 600)}) {
+        main.resize(size);
+        handleEvents();
+        EXPECT_EQ(form->windowState(), forms::WindowState::maximised);
+        EXPECT_EQ(form->left(), screen.units().twips(30));
+        EXPECT_EQ(form->width(), screen.units().twips(500));
+        EXPECT_EQ(form->height(), screen.units().twips(400));
+    }
+    document().showNormal();
+    handleEvents();
+    EXPECT_EQ(document().geometry(), QRect(30, 20, 500, 400));
+    EXPECT_EQ(form->width(), screen.units().twips(500));
+}
+
+TEST_F(WindowsTest, APlaceThatIsGivenToAMaximisedFormIsItsPlaceWhenItIsRestored) {
+    embed();
+    form->show();
+    document().setGeometry(30, 20, 500, 400);
+    document().showMaximized();
+    form->setLeft(screen.units().twips(60));
+    form->setHeight(screen.units().twips(350));
+    document().showNormal();
+    handleEvents();
+    EXPECT_EQ(document().geometry(), QRect(60, 20, 500, 350));
+    EXPECT_EQ(form->left(), screen.units().twips(60));
+    form->setWindowState(forms::WindowState::maximised);
+    form->setLeft(screen.units().twips(90));
+    form->setWindowState(forms::WindowState::normal);
+    EXPECT_EQ(document().geometry(), QRect(90, 20, 500, 350));
+}
+
+TEST_F(WindowsTest, AFormThatWouldLieOutOfReachIsBroughtIntoView) {
+    const QSize room = area->viewport()->size();
+    for (const QPoint& place : {QPoint(3000, 10), QPoint(10, 2000), QPoint(-590, 10), QPoint(10, -300)}) {
+        const auto shown = std::make_shared<DemoForm>(screen);
+        shown->move(screen.units().twips(place.x()), screen.units().twips(place.y()), 9000, 6000);
+        shown->load();
+        windows.setParent(shown->handle(), areaHandle);
+        shown->show();
+        const QRect there = document().geometry();
+        EXPECT_TRUE(QRect({}, room).contains(there)) << place.x() << " " << place.y();
+        EXPECT_EQ(shown->left(), screen.units().twips(there.x()));
+        EXPECT_EQ(shown->top(), screen.units().twips(there.y()));
+        shown->unload(forms::UnloadMode::byCode);
+        handleEvents();
+    }
+}
+
+TEST_F(WindowsTest, AFormWhoseTitleCanBeCaughtStaysWhereItIs) {
+    form->move(screen.units().twips(700), screen.units().twips(300), 9000, 6000);
+    embed();
+    form->show();
+    EXPECT_EQ(document().pos(), QPoint(700, 300));
+}
+
 TEST_F(WindowsTest, ActivationGoesThroughTheInstalledProcedures) {
     embed();
     std::vector<std::string> calls;

@@ -156,6 +156,8 @@ window::Rect WindowOperations::rect(forms::WindowHandle handle) const {
     if (placed.form == nullptr) return placed.rect;
     const forms::Form& form = *placed.form;
     const window::Rect outer = placed.parent == 0 ? window::Rect{} : rect(placed.parent);
+    const bool fills = placed.parent != 0 && form.windowState() == forms::WindowState::maximised;
+    if (fills) return outer;
     const std::int32_t left = outer.left + toPixels(form.left());
     const std::int32_t top = outer.top + toPixels(form.top());
     return {left, top, left + toPixels(form.width()), top + toPixels(form.height())};

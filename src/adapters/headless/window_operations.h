@@ -10,7 +10,7 @@
 namespace hx::headless {
 
 /// Windows by handle without a display: styles, parents, procedures and messages are kept as a window system keeps
-/// them. A form's place is that of its model.
+/// them. A form's place is that of its model; maximised, it fills its parent.
 class WindowOperations : public host::WindowOperations {
   public:
     static constexpr std::int32_t errInvalidWindow = automation::hresult(0x80070578);

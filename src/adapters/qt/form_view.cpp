@@ -5,12 +5,12 @@
 #include <QEventLoop>
 #include <QLineEdit>
 #include <QScopedValueRollback>
-#include <QScreen>
 #include <algorithm>
 
 #include "adapters/qt/fonts.h"
 #include "adapters/qt/keys.h"
 #include "adapters/qt/label_view.h"
+#include "adapters/qt/placement.h"
 #include "adapters/qt/status_bar_view.h"
 #include "adapters/qt/tab_strip_view.h"
 #include "adapters/qt/text.h"
@@ -103,75 +103,6 @@ void FormView::apply(std::string_view property) {
     else applyBounds();
 }
 
-void FormView::applyBounds() {
-    if (laidOut_) return;
-    const QScopedValueRollback applying(applying_, true);
-    const QSize size(units().pixels(form_->width()), units().pixels(form_->height()));
-    const QPoint place(units().pixels(form_->left()), units().pixels(form_->top()));
-    if (frame().isMaximized() || frame().isMinimized()) return;
-    if (!size.isEmpty()) frame().resize(size);
-    if (document_) document_->move(place);
-    reportClientArea();
-}
-
-void FormView::applyVisible() {
-    const QScopedValueRollback applying(applying_, true);
-    if (!form_->visible()) {
-        frame().hide();
-        if (modal_ != nullptr) modal_->quit();
-        return;
-    }
-    // Showing it shows the document window around it too.
-    if (document_ && widget_.isHidden()) widget_.show();
-    switch (form_->windowState()) {
-        case forms::WindowState::maximised: frame().showMaximized(); break;
-        case forms::WindowState::minimised: frame().showMinimized(); break;
-        default:
-            // A document window that is shown "normal" goes back to where it was before it was maximised.
-            if (frame().isMaximized() || frame().isMinimized()) frame().showNormal();
-            else frame().show();
-            break;
-    }
-    reportClientArea();
-}
-
-void FormView::embedIn(QMdiArea& area) {
-    widget_.hide();
-    document_ = area.addSubWindow(&widget_);
-    document_->setAttribute(Qt::WA_DeleteOnClose, false);
-    document_->setObjectName(widget_.objectName() + QStringLiteral("Document"));
-    document_->installEventFilter(this);
-    applyBounds();
-    applyVisible();
-}
-
-void FormView::takeOut() {
-    const QScopedValueRollback applying(applying_, true);
-    if (document_) {
-        document_->removeEventFilter(this);
-        document_->hide();
-        if (QMdiArea* area = document_->mdiArea()) area->removeSubWindow(document_);
-        document_->setWidget(nullptr);
-        document_->deleteLater();
-        document_.clear();
-    }
-    widget_.hide();
-    widget_.setParent(nullptr);
-}
-
-void FormView::bringToFront() {
-    QWidget& outer = frame();
-    if (form_->windowState() == forms::WindowState::minimised) form_->setWindowState(forms::WindowState::normal);
-    applyVisible();
-    outer.raise();
-    if (document_ && document_->mdiArea() != nullptr) document_->mdiArea()->setActiveSubWindow(document_);
-    outer.window()->activateWindow();
-    if (!widget_.isAncestorOf(QApplication::focusWidget())) {
-        QWidget* inside = widget_.focusWidget();
-        (inside == nullptr || inside == &widget_ ? firstField() : *inside).setFocus(Qt::OtherFocusReason);
-    }
-}
-
 // Where the keyboard starts in a window that has not had it yet: behind the tabs, in the first field of the page.
 QWidget& FormView::firstField() {
     ControlView* first = nullptr;
@@ -212,7 +143,7 @@ void FormView::openOver(QWidget* window, Qt::WindowModality modality) {
         widget_.setParent(window, dialogFlags);
     }
     widget_.setWindowModality(modality);
-    if (laidOut_) placeOver(window);
+    if (laidOut_) placeOver(widget_, window);
     if (!form_->visible()) form_->setVisible(true);
     applyVisible();
     if (widget_.focusWidget() == nullptr) startKeyboard();
@@ -229,17 +160,6 @@ void FormView::startKeyboard() {
     QWidget& field = firstField();
     field.setFocus(Qt::TabFocusReason);
     if (auto* line = qobject_cast<QLineEdit*>(&field)) line->selectAll();
-}
-
-void FormView::placeOver(const QWidget* window) {
-    widget_.adjustSize();
-    const QScreen* screen = window == nullptr ? QGuiApplication::primaryScreen() : window->screen();
-    const QRect free = screen->availableGeometry();
-    QRect place = widget_.rect();
-    if (window != nullptr) place.setSize(place.size() + window->frameSize() - window->size());  // as wide a frame
-    place.moveCenter(window == nullptr ? free.center() : window->frameGeometry().center());
-    widget_.move(std::max(free.left(), std::min(place.left(), free.right() - place.width())),
-                 std::max(free.top(), std::min(place.top(), free.bottom() - place.height())));
 }
 
 void FormView::settle() {
@@ -314,14 +234,16 @@ bool FormView::eventFilter(QObject* watched, QEvent* event) {
             if (inner && layout_) layout_->fit();
             return false;
         case QEvent::Move:
-        case QEvent::WindowStateChange:
             if (watched == &frame()) reportBounds();
+            return false;
+        case QEvent::WindowStateChange:
+            if (watched == &frame()) stateChanged();
             return false;
         case QEvent::KeyPress:
         case QEvent::KeyRelease:
             if (!inner) return false;
             if (widget_.hasFocus() && reportKey(static_cast<QKeyEvent&>(*event), *form_)) return true;
-            if (event->type() == QEvent::KeyPress) pressButton(static_cast<QKeyEvent&>(*event));
+            if (event->type() == QEvent::KeyPress) pressed(static_cast<QKeyEvent&>(*event));
             return form_ == nullptr;
         default: return false;
     }
@@ -333,31 +255,22 @@ void FormView::closed() {
     form_->closeByFrame();
 }
 
-void FormView::reportClientArea() {
-    if (widget_.size() == reported_) return;
-    reported_ = widget_.size();
-    const auto keep = form_->share();
-    form_->clientAreaChanged(units().twips(reported_.width()), units().twips(reported_.height()));
-    for (const auto& view : views_) {
-        if (view->model() != nullptr) view->containerResized();
-    }
-}
-
-void FormView::reportBounds() {
-    if (applying_ || form_ == nullptr || !frame().isVisible()) return;
-    const QWidget& outer = frame();
-    if (outer.isMaximized() || outer.isMinimized()) {
-        const auto state = outer.isMinimized() ? forms::WindowState::minimised : forms::WindowState::maximised;
-        form_->boundsReported(form_->left(), form_->top(), form_->width(), form_->height(), state);
-    } else {
-        form_->boundsReported(units().twips(outer.x()), units().twips(outer.y()), units().twips(outer.width()),
-                              units().twips(outer.height()), forms::WindowState::normal);
-    }
-}
-
-void FormView::pressButton(QKeyEvent& event) {
+// What no control has taken for itself.
+void FormView::pressed(QKeyEvent& event) {
     const bool enter = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
-    if (!enter && event.key() != Qt::Key_Escape) return;
+    if (enter || event.key() == Qt::Key_Escape) return pressButton(event, enter);
+    const bool back = event.key() == Qt::Key_Backtab;
+    if ((back || event.key() == Qt::Key_Tab) && event.modifiers().testFlag(Qt::ControlModifier))
+        turnPage(back ? -1 : 1);
+}
+
+void FormView::turnPage(int pages) {
+    for (const auto& view : views_) {
+        if (auto* tabs = dynamic_cast<TabStripView*>(view.get())) return tabs->turn(pages);
+    }
+}
+
+void FormView::pressButton(QKeyEvent& event, bool enter) {
     const auto controls = form_->controls();
     for (const auto& control : controls) {
         auto* button = dynamic_cast<forms::CommandButton*>(control.get());

@@ -88,14 +88,19 @@ class FormView : public QObject {
     void orderTabs();
     void openOver(QWidget* window, Qt::WindowModality modality);
     void closeOver(const QWidget* window);
-    void placeOver(const QWidget* window);
     [[nodiscard]] QWidget& firstField();
     void apply(std::string_view property);
     void applyBounds();
     void applyVisible();
+    void showFrame();
+    void bringIntoView();
+    void stateChanged();
+    [[nodiscard]] forms::WindowState stateOfFrame() const;
     void reportBounds();
     void reportClientArea();
-    void pressButton(QKeyEvent& event);
+    void pressed(QKeyEvent& event);
+    void pressButton(QKeyEvent& event, bool enter);
+    void turnPage(int pages);
     void closed();
 
     forms::Form* form_;
@@ -108,7 +113,7 @@ class FormView : public QObject {
     forms::Subscription changed_;
     QSize reported_;
     QEventLoop* modal_ = nullptr;
-    bool applying_ = false;
+    bool applying_ = false, restoring_ = false;
 };
 
 }  // namespace hx::qt
