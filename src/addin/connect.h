@@ -77,7 +77,7 @@ class Connect : public host::CHX4Extensibility, public editor::AddIn {
     // --- for macros, by name; nothing while there is no editor
     /// Opens the editor, unless it is open.
     void OpenEditor() noexcept;
-    /// Makes the editor show a node of the recipe branch.
+    /// Makes the editor show a node of the recipe branch. While an edit is refused, the node that is shown stays.
     void SelectNode(const std::string& key);
     /// Shows the explorer's selected node and brings the editor to the front.
     void ShowSelectedNode();
@@ -103,7 +103,7 @@ class Connect : public host::CHX4Extensibility, public editor::AddIn {
     // Node events.
     [[nodiscard]] std::shared_ptr<editor::frmtabgrid> openWindow() const;
     void showNode(editor::frmtabgrid& window, const std::string& key);
-    void SelectNode(editor::frmtabgrid& window, const std::string& key);
+    [[nodiscard]] bool reach(editor::frmtabgrid& window, const std::string& key);
 
     const host::Services& services_;
     resources::ResourceTable resources_;

@@ -63,11 +63,20 @@ void popUp(editor::frmtabgrid& window, std::string_view band) {
     window.screen().popUp(*window.abr, window.abr->band(automation::Variant(band)));
 }
 
-void runCommand(editor::frmtabgrid& window, const std::string& nodeKey, std::string_view command) {
+std::string_view commandsOf(std::string_view nodeKey) {
     const NodeMenu* menu = menuOf(nodeKey);
-    if (menu == nullptr || menu->commands.empty()) return;
-    forms::Band& band = window.abr->band(automation::Variant(menu->commands));
-    window.abr_ToolClick(band.tool(automation::Variant(std::string(menu->commands) + std::string(command))));
+    return menu == nullptr ? std::string_view() : menu->commands;
+}
+
+void runCommand(editor::frmtabgrid& window, std::string_view menu, std::string_view command) {
+    forms::Band& band = window.abr->band(automation::Variant(menu));
+    window.abr_ToolClick(band.tool(automation::Variant(std::string(menu) + std::string(command))));
+}
+
+// The window knows the root by its bare prefix too.
+bool isSameNode(std::string_view one, std::string_view other) {
+    const std::string_view prefix = recipe::KeyPrefix(one);
+    return one == other || (prefix == recipe::prefixRoot && prefix == recipe::KeyPrefix(other));
 }
 
 }  // namespace
@@ -90,36 +99,28 @@ void Connect::NodeClick(const host::NodeEvent& node) {
         OpenEditor();
         const auto window = openWindow();
         if (!window) return;
-        window->MenuSwitcher(node.key, false);
         showNode(*window, node.key);
     });
 }
 
 void Connect::showNode(editor::frmtabgrid& window, const std::string& nodeKey) {
-    const std::string_view prefix = recipe::KeyPrefix(nodeKey);
+    window.MenuSwitcher(nodeKey, false);
     if (menuOf(nodeKey) == nullptr) return;
-    const bool root = prefix == recipe::prefixRoot;
     window.finishOrDropEdit();
-    if (window.tdbRM->columns().empty()) window.bindGrid();
-    if (!root) window.SwitchGrids(nodeKey);
-    window.tdbRM->setAllowUpdate(!root);
-    {
-        const recipe::WaitCursor wait(services_.screen);
-        SelectNode(window, root ? std::string(prefix) : nodeKey);
-        window.tdbRM->refetch();
-    }
-    window.MakeMyCaption(nodeKey, window.recipeName(nodeKey));
+    const bool root = recipe::KeyPrefix(nodeKey) == recipe::prefixRoot;
+    window.showNode(root ? std::string(recipe::prefixRoot) : nodeKey);
 }
 
-void Connect::SelectNode(editor::frmtabgrid& window, const std::string& nodeKey) {
-    window.SwitchGrids(nodeKey);
-    window.setNodeKey(nodeKey);
-    window.refreshMembers();
+// What a key or button does with a node, it does with the node that the window shows. False when the window cannot show
+// it: nothing must happen to another one instead.
+bool Connect::reach(editor::frmtabgrid& window, const std::string& nodeKey) {
+    if (!isSameNode(window.nodeKey(), nodeKey)) showNode(window, nodeKey);
+    return isSameNode(window.nodeKey(), nodeKey);
 }
 
 void Connect::SelectNode(const std::string& nodeKey) {
     event("Connect: SelectNode", [&] {
-        if (const auto window = openWindow()) SelectNode(*window, nodeKey);
+        if (const auto window = openWindow()) window->showNode(nodeKey);
     });
 }
 
@@ -151,17 +152,16 @@ void Connect::NodeMouseUp(const host::NodeEvent& node, const host::NodeMouse& mo
     if (mouse.button != forms::button::right) return;
     event("Connect: NodeMouseUp", [&] {
         const auto window = openWindow();
-        if (!window) return;
-        const std::string shown = window->nodeKey();
+        const NodeMenu* menu = menuOf(node.key);
+        if (!window || (menu != nullptr && !reach(*window, node.key))) return;
         window->MenuSwitcher(node.key, true);
         // Whatever becomes of the menu, the bar must not keep the entries made for it.
         trap(services_.screen, "Connect: NodeMouseUp", [&] {
-            if (const NodeMenu* menu = menuOf(node.key)) popUp(*window, menu->popUp);
+            if (menu != nullptr) popUp(*window, menu->popUp);
         });
         // A command of the menu may have closed the window and opened another, or deleted the node and shown the next.
         if (const auto current = openWindow()) {
-            const bool moved = current == window && current->nodeKey() != shown;
-            current->MenuSwitcher(moved ? current->nodeKey() : node.key, false);
+            current->MenuSwitcher(menu != nullptr ? current->nodeKey() : node.key, false);
         }
     });
 }
@@ -179,7 +179,11 @@ void Connect::NodeKeyDown(const host::NodeEvent& node, std::int16_t keyCode, std
         // The keys come for every node of the explorer, also before there is an editor for them to act on.
         const auto window = openWindow();
         if (!window) return;
-        if (row->action == KeyAction::command) return runCommand(*window, node.key, row->command);
+        if (row->action == KeyAction::command) {
+            const std::string_view menu = commandsOf(node.key);
+            if (!menu.empty() && reach(*window, node.key)) runCommand(*window, menu, row->command);
+            return;
+        }
         const std::int32_t context = recipe::KeyHelpContext(node.key);
         if (context != 0) help_.ShowHelp(window->handle(), context);
     });

@@ -150,12 +150,35 @@ void frmtabgrid::refreshMembersAt(const ado::Bookmark& row) { memberGrid_->refre
 bool frmtabgrid::finishEdit() { return memberGrid_->finishEdit(); }
 
 void frmtabgrid::showNode(const std::string& key) {
+    if (!finishEdit()) return;
+    try {
+        readNode(key);
+    } catch (...) {
+        showNone();
+        throw;
+    }
+    MenuSwitcher(key, false);
+}
+
+void frmtabgrid::readNode(const std::string& key) {
+    const bool root = recipe::KeyPrefix(key) == recipe::prefixRoot;
+    const recipe::WaitCursor wait(screen());
+    if (tdbRM->columns().empty()) bindGrid();
     SwitchGrids(key);
-    tdbRM->setAllowUpdate(recipe::KeyPrefix(key) != recipe::prefixRoot);
+    tdbRM->setAllowUpdate(!root);
     setNodeKey(key);
     refreshMembers();
-    MakeMyCaption(key, recipeName(key));
-    MenuSwitcher(key, false);
+    tdbRM->refetch();
+    MakeMyCaption(root ? std::string(recipe::rootKey) : key, recipeName(key));
+}
+
+// A command would act on a node that is shown by half.
+void frmtabgrid::showNone() {
+    setNodeKey({});
+    memberGrid_->clear();
+    SwitchGrids({});
+    MakeMyCaption({}, "-");
+    MenuSwitcher({}, false);
 }
 
 std::string frmtabgrid::recipeName(const std::string& key) const {

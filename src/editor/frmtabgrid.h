@@ -77,9 +77,10 @@ class frmtabgrid : public forms::Form, public recipe::RecipeWindow, public dialo
     void refreshMembersAt(const ado::Bookmark& row);
     /// Writes a pending edit. False when that failed: the user has been told, and the edit waits to be corrected.
     [[nodiscard]] bool finishEdit();
-    /// Shows a node of the recipe branch, as a click on it does.
+    /// Shows a node of the recipe branch, whole: its members, caption and menus. While a pending edit is refused, the
+    /// node that is shown stays. When the node cannot be read, the window shows none, and the error reaches the caller.
     void showNode(const std::string& key);
-    /// The name of the node's recipe, empty for the root or when it is gone.
+    /// The name of the node's recipe, empty for the root or when it is gone; the database's errors reach the caller.
     [[nodiscard]] std::string recipeName(const std::string& key) const;
 
     /// Alt+F6 gives the explorer the keyboard; no other key does anything here.
@@ -122,6 +123,8 @@ class frmtabgrid : public forms::Form, public recipe::RecipeWindow, public dialo
 
   private:
     [[nodiscard]] recipe::DataEnvironment& requireData() const;
+    void readNode(const std::string& key);
+    void showNone();
     void onLoad();
     void onQueryUnload(bool& cancel, forms::UnloadMode mode);
     void showInHost();

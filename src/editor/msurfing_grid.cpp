@@ -83,7 +83,7 @@ void MSurfingGrid::addColumn(const std::string& field) {
         column.valueItems().setSource([this](const Variant& id) -> std::optional<std::string> {
             const auto& data = window_.dataEnvironment();
             if (data == nullptr || !id.isNumber()) return {};
-            return readNameOfRecipe(data->CnnRecipes, automation::toInt32(id));
+            return nameOfRecipe(data->CnnRecipes, automation::toInt32(id));
         });
     }
 }
@@ -108,7 +108,7 @@ void MSurfingGrid::refreshSubRecipeNames() {
 }
 
 void MSurfingGrid::refreshMembers() {
-    if (!window_.dataEnvironment() || !finishEdit()) return;
+    if (!window_.dataEnvironment() || window_.nodeKey().empty() || !finishEdit()) return;
     const bool again = shownKey_ == window_.nodeKey() && window_.memberRecordset().state() == ado::adStateOpen;
     const ado::Bookmark current = again ? grid_.bookmark() : ado::Bookmark();
     const std::vector<ado::Bookmark> selected = again ? grid_.selectedRows().bookmarks() : std::vector<ado::Bookmark>();
@@ -125,6 +125,12 @@ void MSurfingGrid::readMembers(const ado::Bookmark& current, const std::vector<a
     shownKey_ = window_.nodeKey();
     standOn(current);
     select(selected);
+}
+
+void MSurfingGrid::clear() {
+    shownKey_.clear();
+    if (const auto shown = members()) recipe::CloseRecordset(*shown, false);
+    grid_.reload();
 }
 
 void MSurfingGrid::standOn(const ado::Bookmark& row) {

@@ -40,8 +40,11 @@ class MSurfingGrid {
     /// The cell button: lets the user choose the variable of the current row.
     void chooseVariable();
     /// Shows the members of the window's node. When these are shown already, the current row and the selected rows
-    /// stay. A pending edit is written first; when that fails, nothing else happens.
+    /// stay. A pending edit is written first; when that fails, nothing else happens, and neither while the window shows
+    /// no node.
     void refreshMembers();
+    /// Shows no rows, until members are read again.
+    void clear();
     /// The same, but the current row is this one, when it is still there, and none is selected.
     void refreshMembersAt(const ado::Bookmark& row);
     /// finishRow where there is anything to write.

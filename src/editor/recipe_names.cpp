@@ -8,20 +8,12 @@ namespace hx::editor {
 
 namespace schema = recipe::schema;
 
-std::optional<std::string> readNameOfRecipe(const std::shared_ptr<ado::Connection>& connection, std::int32_t id) {
+std::optional<std::string> nameOfRecipe(const std::shared_ptr<ado::Connection>& connection, std::int32_t id) {
     if (connection == nullptr || connection->state() != ado::adStateOpen) return {};
     ado::Recordset found;
     found.open("SELECT * FROM " + std::string(schema::recipeTable) + " WHERE ID = " + std::to_string(id), connection);
     if (found.eof()) return {};
     return automation::toText(found.field(schema::recipe::name).value());
-}
-
-std::optional<std::string> nameOfRecipe(const std::shared_ptr<ado::Connection>& connection, std::int32_t id) noexcept {
-    try {
-        return readNameOfRecipe(connection, id);
-    } catch (...) {
-        return {};  // asked for while a caption is made: nothing is shown in its place
-    }
 }
 
 }  // namespace hx::editor

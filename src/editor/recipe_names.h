@@ -8,12 +8,9 @@
 
 namespace hx::editor {
 
-/// The name of one recipe, read from the database. None when there is no such recipe, no open connection (which may be
-/// null), or the name cannot be read.
+/// The name of one recipe, read from the database, whose errors reach the caller. None when there is no such recipe or
+/// no open connection (which may be null).
 [[nodiscard]] std::optional<std::string> nameOfRecipe(const std::shared_ptr<ado::Connection>& connection,
-                                                      std::int32_t id) noexcept;
-/// The same, but what keeps the name from being read is thrown.
-[[nodiscard]] std::optional<std::string> readNameOfRecipe(const std::shared_ptr<ado::Connection>& connection,
-                                                          std::int32_t id);
+                                                      std::int32_t id);
 
 }  // namespace hx::editor

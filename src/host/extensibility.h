@@ -17,7 +17,8 @@ struct NodeMouse {
 };
 
 /// What the studio calls on an add-in, in the order of the interface's slots. No member throws: an add-in reports its
-/// errors itself. All calls come on the user interface's thread.
+/// errors itself. All calls come on the user interface's thread. A studio tells NodeClick whenever another node is
+/// highlighted, before any key or button-up of it: what an add-in shows is what the user sees chosen.
 class CHX4Extensibility : public automation::Dispatch {
   public:
     virtual void Initialize(const std::string& projectName, const std::string& second, ProjectExplorer* explorer,

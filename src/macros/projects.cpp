@@ -1,3 +1,4 @@
+#include <array>
 #include <filesystem>
 #include <memory>
 
@@ -87,25 +88,46 @@ void defineExplorer(Engine& engine, Studio& studio) {
 /// What an event of a node does with the add-in.
 using Event = void (*)(host::CHX4Extensibility&, const host::NodeEvent&, const Arguments&);
 
-/// What the user does to a node with an event of it.
-enum class Shown { asItIs, selected, expanded };
+/// What the user does to a node before an event of it; `reached`: clicks it, unless he did so last.
+enum class Before { nothing, clicked, reached, expanded };
 
-void show(Studio& studio, const std::string& key, Shown shown) {
-    if (shown == Shown::selected) studio.select(key);
-    if (shown == Shown::expanded) studio.showExpanded(key);
-}
+/// The user's hand on the explorer.
+class Hand {
+  public:
+    explicit Hand(Studio& studio) : studio_(studio) {}
+    void prepare(host::CHX4Extensibility& addIn, const host::NodeEvent& node, Before before) {
+        if (before == Before::expanded) studio_.showExpanded(node.key);
+        const bool there = clicked_ == node.key && studio_.selected() == node.key;
+        if (before == Before::clicked || (before == Before::reached && !there)) click(addIn, node);
+    }
 
-// "Click", and by the name of the interface "NodeClick". Mouse and keys act on the node that they select.
-void defineEvent(Engine& engine, Studio& studio, const std::string& name, Shown shown, Event event) {
-    const auto run = [&studio, shown, event](Values given) {
+  private:
+    void click(host::CHX4Extensibility& addIn, const host::NodeEvent& node) {
+        studio_.select(node.key);
+        clicked_ = node.key;
+        addIn.NodeClick(node);
+    }
+    Studio& studio_;
+    std::string clicked_;
+};
+
+/// An event by its name, "KeyDown", and by that of the interface, "NodeKeyDown".
+struct EventRow {
+    const char* name;
+    Before before;
+    Event event;
+};
+
+void defineEvent(Engine& engine, Studio& studio, const std::shared_ptr<Hand>& hand, const EventRow& row) {
+    const auto run = [&studio, hand, row](Values given) {
         const Arguments arguments(given);
         const auto addIn = studio.requireAddIn();
-        const std::string key = arguments.text(0);
-        const host::NodeEvent node = studio.eventOf(key);
-        show(studio, key, shown);
-        event(*addIn, node, arguments);
+        const host::NodeEvent node = studio.eventOf(arguments.text(0));
+        hand->prepare(*addIn, node, row.before);
+        if (row.event != nullptr) row.event(*addIn, node, arguments);
         return Value();
     };
+    const std::string name = row.name;
     engine.define("studio", name, run);
     engine.define("studio", "Node" + name, run);
 }
@@ -114,27 +136,29 @@ host::NodeMouse mouseOf(const Arguments& given) {
     return {given.number(1), given.number(2), given.real(3), given.real(4)};
 }
 
+constexpr auto eventRows = std::to_array<EventRow>({
+    {"Click", Before::clicked, nullptr},
+    {"DblClick", Before::reached, [](auto& addIn, const auto& node, const auto&) { addIn.NodeDblClick(node); }},
+    {"Expand", Before::expanded, [](auto& addIn, const auto& node, const auto&) { addIn.NodeExpand(node); }},
+    {"MouseDown", Before::reached,
+     [](auto& addIn, const auto& node, const auto& given) { addIn.NodeMouseDown(node, mouseOf(given)); }},
+    {"MouseMove", Before::nothing,
+     [](auto& addIn, const auto& node, const auto& given) { addIn.NodeMouseMove(node, mouseOf(given)); }},
+    {"MouseUp", Before::reached,
+     [](auto& addIn, const auto& node, const auto& given) { addIn.NodeMouseUp(node, mouseOf(given)); }},
+    {"KeyDown", Before::reached,
+     [](auto& addIn, const auto& node, const auto& given) {
+         addIn.NodeKeyDown(node, given.number(1), given.number(2));
+     }},
+    {"KeyPress", Before::reached,
+     [](auto& addIn, const auto& node, const auto& given) { addIn.NodeKeyPress(node, given.number(1)); }},
+    {"KeyUp", Before::reached,
+     [](auto& addIn, const auto& node, const auto& given) { addIn.NodeKeyUp(node, given.number(1), given.number(2)); }},
+});
+
 void defineEvents(Engine& engine, Studio& studio) {
-    const auto add = [&](const char* name, Shown shown, Event event) {
-        defineEvent(engine, studio, name, shown, event);
-    };
-    add("Click", Shown::selected, [](auto& addIn, const auto& node, const auto&) { addIn.NodeClick(node); });
-    add("DblClick", Shown::selected, [](auto& addIn, const auto& node, const auto&) { addIn.NodeDblClick(node); });
-    add("Expand", Shown::expanded, [](auto& addIn, const auto& node, const auto&) { addIn.NodeExpand(node); });
-    add("MouseDown", Shown::selected,
-        [](auto& addIn, const auto& node, const auto& given) { addIn.NodeMouseDown(node, mouseOf(given)); });
-    add("MouseMove", Shown::asItIs,
-        [](auto& addIn, const auto& node, const auto& given) { addIn.NodeMouseMove(node, mouseOf(given)); });
-    add("MouseUp", Shown::selected,
-        [](auto& addIn, const auto& node, const auto& given) { addIn.NodeMouseUp(node, mouseOf(given)); });
-    add("KeyDown", Shown::selected, [](auto& addIn, const auto& node, const auto& given) {
-        addIn.NodeKeyDown(node, given.number(1), given.number(2));
-    });
-    add("KeyPress", Shown::selected,
-        [](auto& addIn, const auto& node, const auto& given) { addIn.NodeKeyPress(node, given.number(1)); });
-    add("KeyUp", Shown::selected, [](auto& addIn, const auto& node, const auto& given) {
-        addIn.NodeKeyUp(node, given.number(1), given.number(2));
-    });
+    const auto hand = std::make_shared<Hand>(studio);
+    for (const EventRow& row : eventRows) defineEvent(engine, studio, hand, row);
 }
 
 void defineOtherMembers(Engine& engine, Studio& studio) {

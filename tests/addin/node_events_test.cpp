@@ -192,7 +192,8 @@ TEST_F(NodeEvents, ACommandOfTheMenuMayReplaceTheWindow) {
     };
     studio.rightClick("RCPR1");
     EXPECT_NE(studio.connect->editorWindow(), before.lock());
-    EXPECT_TRUE(visible("mnuRecipeEdit")) << "the new window has the menus of the node";
+    EXPECT_EQ(studio.window().nodeKey(), "RCPE0");
+    EXPECT_TRUE(visible("mnuRecipeNew")) << "the new window has the menus of the node that it shows";
     EXPECT_EQ(studio.boxes(), Texts{});
 }
 
@@ -259,6 +260,7 @@ TEST_F(NodeEvents, TheCommandKeysClickTheToolsOfTheRecipeMenu) {
         {"RCPR1", key::o, shift::none, ""},
     };
     for (const CommandKey& row : rows) {
+        studio.click(row.node);
         // A disabled tool answers a click by a beep: the one that is expected, or any when none is.
         for (const char* tool : {"mnuRecipeNew", "mnuRecipeEdit", "mnuRecipeDelete"}) {
             studio.window()
@@ -278,6 +280,59 @@ TEST_F(NodeEvents, ADisabledCommandBeeps) {
     open();
     studio.press("RCPE0", key::f9);
     EXPECT_EQ(record.beeps, 1) << "the root has nothing to edit";
+}
+
+TEST_F(NodeEvents, AKeyOfANodeThatIsNotShownShowsItFirst) {
+    studio.click("RCPR1");
+    studio.host.script.onMessage = [this](const headless::Message&) {
+        EXPECT_EQ(studio.window().caption(), "HelvixStudio Rezepteditor: Sirup")
+            << "the user sees what he is asked for";
+        return forms::message::Answer::yes;
+    };
+    studio.press("RCPR2", key::del, shift::ctrl);
+    EXPECT_EQ(record.messages.size(), 1u) << "the question";
+    EXPECT_EQ(studio.nodes(), (Texts{"RCPE0", "RCPR1", "RCPU1"}));
+    studio.click("RCPR1");
+    studio.press("RCPE0", key::f8);
+    EXPECT_EQ(studio.nodes(), (Texts{"RCPE0", "RCPR1", "RCPU1", "RCPR3", "RCPU3"}));
+    EXPECT_EQ(studio.window().nodeKey(), "RCPE");
+}
+
+TEST_F(NodeEvents, AKeyWithoutACommandLeavesTheShownNode) {
+    studio.click("RCPR1");
+    for (const std::int16_t code : {key::f8, key::f9, key::f1}) studio.press("RCPU2", code);
+    studio.press("RCPR2", key::del);
+    EXPECT_EQ(studio.window().nodeKey(), "RCPR1");
+    EXPECT_EQ(record.beeps, 0);
+}
+
+TEST_F(NodeEvents, ARightClickOnANodeThatIsNotShownShowsItBeforeItsMenu) {
+    studio.click("RCPR1");
+    studio.host.script.onPopUp = [this](forms::Band&) {
+        EXPECT_EQ(studio.window().caption(), "HelvixStudio Rezepteditor: Sirup");
+        return std::string("mnuRecipeDelete");
+    };
+    studio.host.script.onMessage = [](const headless::Message&) { return forms::message::Answer::yes; };
+    studio.rightClick("RCPR2");
+    EXPECT_EQ(studio.nodes(), (Texts{"RCPE0", "RCPR1", "RCPU1"}));
+}
+
+TEST_F(NodeEvents, NothingHappensToAnotherNodeThanTheOneThatCannotBeShown) {
+    studio.click("RCPR1");
+    const auto fail = [this] {
+        studio.faults.armFrom(1, support::FaultPlan::Kind::open, automation::Error(ado::dbErrUnspecified, "Locked."));
+    };
+    fail();
+    studio.press("RCPR2", key::del, shift::ctrl);
+    EXPECT_EQ(studio.boxes(), (Texts{"Connect: NodeKeyDown|-2147467259: Locked."}));
+    fail();
+    studio.rightClick("RCPR2");
+    EXPECT_EQ(studio.boxes(), (Texts{"Connect: NodeMouseUp|-2147467259: Locked."}));
+    EXPECT_TRUE(record.popUps.empty());
+    studio.faults.disarm();
+    EXPECT_EQ(studio.nodes(), (Texts{"RCPE0", "RCPR1", "RCPU1", "RCPR2", "RCPU2"}));
+    studio.press("RCPR2", key::f9);
+    EXPECT_EQ(studio.window().nodeKey(), "RCPR2") << "the next key tries again";
 }
 
 TEST_F(NodeEvents, KeysBeforeTheEditorExistsAreIgnored) {

@@ -41,8 +41,28 @@ TEST_F(MacroStudioGlobal, SelectsNodesWithAndWithoutAnEvent) {
         studio.KeyPress("RCPE0", 65) selected()
         studio.KeyUp("RCPR1", 65, 0) selected()
         studio.Click("RCPU1") selected())"),
-              "RCPR1\tRCPR1\nRCPU1\tRCPR1\nnil\tRCPR1\nRCPU1\tRCPR1\nRCPU1\tRCPR1\nRCPU1\tRCPR1\nRCPR1\tRCPR1\n"
-              "RCPE0\tRCPR1\nRCPR1\tRCPR1\nRCPU1\tRCPU1\n");
+              "RCPR1\tRCPR1\nRCPU1\tRCPR1\nnil\tRCPR1\nRCPU1\tRCPU1\nRCPU1\tRCPU1\nRCPU1\tRCPU1\nRCPR1\tRCPR1\n"
+              "RCPE0\tRCPE\nRCPR1\tRCPR1\nRCPU1\tRCPU1\n");
+}
+
+TEST_F(MacroStudioGlobal, ClicksANodeBeforeItsKeysAndButtons) {
+    EXPECT_EQ(shown(R"(studio.Click("RCPE0") editor.abr.Click("mnuRecipeNew") editor.abr.Click("mnuRecipeNew")
+        studio.OnMessage(function() print(editor.Caption, studio.Selected()) return "yes" end)
+        studio.OnPopup(function() return "mnuRecipeDelete" end)
+        studio.Click("RCPR1") studio.KeyDown("RCPR3", 46, 2)
+        studio.Click("RCPR1") studio.MouseUp("RCPR2", 2)
+        studio.Click("RCPE0") studio.Select("RCPR1") studio.KeyDown("RCPR1", 46, 2)
+        print(#studio.Nodes()))"),
+              "HelvixStudio Rezepteditor: Neues Rezept(3)\tRCPR3\n"
+              "HelvixStudio Rezepteditor: Neues Rezept(2)\tRCPR2\n"
+              "HelvixStudio Rezepteditor: Neues Rezept\tRCPR1\n1\n");
+}
+
+TEST_F(MacroStudioGlobal, ClicksANodeOnceForAllItsKeys) {
+    EXPECT_EQ(shown(R"(studio.Click("RCPE0") studio.Click("RCPR1") editor.NodeKey = "RCPE"
+        studio.KeyDown("RCPR1", 65) studio.KeyUp("RCPR1", 65) print(editor.NodeKey)
+        studio.Click("RCPR1") print(editor.NodeKey))"),
+              "RCPE\nRCPR1\n");
 }
 
 TEST_F(MacroStudioGlobal, BringsTheEditorToTheFrontByADoubleClickAndByF6) {

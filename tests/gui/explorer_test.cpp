@@ -2,7 +2,9 @@
 #include <QGuiApplication>
 #include <QImage>
 #include <QMdiArea>
+#include <QMouseEvent>
 #include <QTest>
+#include <algorithm>
 
 #include "adapters/qt/qt_clipboard.h"
 #include "adapters/qt/qt_explorer.h"
@@ -190,6 +192,120 @@ TEST_F(ExplorerTest, TheRightButtonShowsTheNodeBeforeItAsksForTheMenu) {
     EXPECT_EQ(explorer.selectedNode().key, "RCPE0");
 }
 
+/// The mouse on the nodes of three recipes, one button event at a time.
+class ExplorerMouseTest : public ExplorerTest {
+  protected:
+    void SetUp() override {
+        ExplorerTest::SetUp();
+        addRecipes(3);
+        handleEvents();
+        showTree();
+        tree.expand(node("RCPE0"));
+        click("RCPR1");
+        addIn.heard.clear();
+    }
+    [[nodiscard]] QPoint place(std::string_view key) { return tree.visualRect(node(key)).center(); }
+    [[nodiscard]] QPoint emptySpace() { return tree.viewport()->rect().bottomRight() - QPoint(5, 5); }
+    void press(std::string_view key, Qt::MouseButton button = Qt::LeftButton) {
+        QTest::mousePress(tree.viewport(), button, {}, place(key));
+    }
+    void release(const QPoint& at, Qt::MouseButton button = Qt::LeftButton) {
+        QTest::mouseRelease(tree.viewport(), button, {}, at);
+    }
+    void drag(const QPoint& to, Qt::MouseButtons held = Qt::LeftButton) {
+        QMouseEvent move(QEvent::MouseMove, QPointF(to), QPointF(tree.viewport()->mapToGlobal(to)), Qt::NoButton, held,
+                         {});
+        QApplication::sendEvent(tree.viewport(), &move);
+    }
+    /// What the add-in heard, and that what it heard of last is highlighted.
+    void expect(const std::vector<std::string>& heard) {
+        std::vector<std::string> withNames;
+        for (const std::string& each : heard) withNames.push_back(each + " Rezept " + each.back());
+        EXPECT_EQ(addIn.heard, withNames);
+        EXPECT_EQ(explorer.selectedNode().key, lastClicked());
+    }
+
+  private:
+    [[nodiscard]] std::string lastClicked() const {
+        const auto isClick = [](const std::string& each) { return each.starts_with("click "); };
+        const auto found = std::find_if(addIn.heard.rbegin(), addIn.heard.rend(), isClick);
+        return found == addIn.heard.rend() ? "RCPR1" : "RCPR" + std::string(1, found->back());
+    }
+};
+
+TEST_F(ExplorerMouseTest, APressClicksTheNodeThatItHighlights) {
+    press("RCPR2");
+    expect({"down 1/0 Anlage RCPR2", "click Anlage RCPR2"});
+    release(place("RCPR2"));
+    expect({"down 1/0 Anlage RCPR2", "click Anlage RCPR2", "up 1/0 Anlage RCPR2"});
+}
+
+TEST_F(ExplorerMouseTest, ASlipToAnotherNodeClicksTheOneThatItLeavesHighlighted) {
+    press("RCPR2");
+    drag(place("RCPR3"));
+    release(place("RCPR3"));
+    expect({"down 1/0 Anlage RCPR2", "click Anlage RCPR2", "click Anlage RCPR3", "up 1/0 Anlage RCPR3"});
+}
+
+TEST_F(ExplorerMouseTest, ASlipFromTheNodeThatIsShownClicksTheOther) {
+    press("RCPR1");
+    drag(place("RCPR3"));
+    release(emptySpace());
+    expect({"down 1/0 Anlage RCPR1", "click Anlage RCPR3"});
+}
+
+TEST_F(ExplorerMouseTest, EmptySpaceLeavesTheNodeHighlighted) {
+    QTest::mouseClick(tree.viewport(), Qt::LeftButton, {}, emptySpace());
+    QTest::mouseClick(tree.viewport(), Qt::RightButton, {}, emptySpace());
+    expect({});
+    press("RCPR2");
+    release(emptySpace());
+    expect({"down 1/0 Anlage RCPR2", "click Anlage RCPR2"});
+}
+
+TEST_F(ExplorerMouseTest, TheMenuIsForTheNodeThatTheRightButtonLeavesHighlighted) {
+    press("RCPR2", Qt::RightButton);
+    drag(place("RCPR3"), Qt::RightButton);
+    release(place("RCPR3"), Qt::RightButton);
+    expect({"down 2/0 Anlage RCPR2", "click Anlage RCPR2", "click Anlage RCPR3", "up 2/0 Anlage RCPR3"});
+}
+
+TEST_F(ExplorerMouseTest, ARightClickOnTheNodeThatIsShownClicksItAgain) {
+    click("RCPR1", Qt::RightButton);
+    expect({"down 2/0 Anlage RCPR1", "click Anlage RCPR1", "up 2/0 Anlage RCPR1"});
+}
+
+TEST_F(ExplorerMouseTest, BothButtonsClickEachNodeBeforeItsMenu) {
+    press("RCPR2");
+    press("RCPR3", Qt::RightButton);
+    release(place("RCPR3"), Qt::RightButton);
+    release(place("RCPR3"));
+    expect({"down 1/0 Anlage RCPR2", "click Anlage RCPR2", "down 2/0 Anlage RCPR3", "click Anlage RCPR3",
+            "up 2/0 Anlage RCPR3", "up 1/0 Anlage RCPR3"});
+}
+
+TEST_F(ExplorerMouseTest, AKeyWhileAButtonIsHeldIsOfTheNodeThatWasClickedBefore) {
+    press("RCPR2");
+    QTest::keyClick(&tree, Qt::Key_F9);
+    drag(place("RCPR3"));
+    QTest::keyClick(&tree, Qt::Key_F9);
+    expect({"down 1/0 Anlage RCPR2", "click Anlage RCPR2", "key 120/0 Anlage RCPR2", "key up 120 Anlage RCPR2",
+            "click Anlage RCPR3", "key 120/0 Anlage RCPR3", "key up 120 Anlage RCPR3"});
+}
+
+TEST_F(ExplorerMouseTest, ANodeThatAProgramHighlightsIsClickedBeforeItsFirstKey) {
+    explorer.select("RCPR3");
+    QTest::keyClick(&tree, Qt::Key_F9);
+    expect({"click Anlage RCPR3", "key 120/0 Anlage RCPR3", "key up 120 Anlage RCPR3"});
+}
+
+TEST_F(ExplorerMouseTest, TheNodeThatTakesThePlaceOfARemovedOneIsClickedBeforeItsFirstKey) {
+    explorer.removeNode("RCPR1");
+    handleEvents();
+    QTest::keyClick(&tree, Qt::Key_F9);
+    expect({"click Anlage RCPR2", "key 120/0 Anlage RCPR2", "key up 120 Anlage RCPR2"});
+}
+
 TEST_F(ExplorerTest, TheStudiosOwnNodeIsNotTheAddIns) {
     showTree();
     click(qt::QtExplorer::projectKey);
@@ -203,7 +319,7 @@ TEST_F(ExplorerTest, ANodeThatCanBeFilledExpandsBeforeItHasNodes) {
     EXPECT_TRUE(explorer.model().hasChildren(node("RCPE0")));
     tree.setCurrentIndex(node("RCPE0"));
     QTest::keyClick(&tree, Qt::Key_Right);
-    EXPECT_EQ(addIn.heard[1], "expand Anlage RCPE0 Rezepte");
+    EXPECT_EQ(addIn.heard[2], "expand Anlage RCPE0 Rezepte");
     handleEvents();
     EXPECT_TRUE(tree.visualRect(node("RCPR2")).isValid());
     explorer.setNodeProperty("RCPE0", host::node_property::expanded, false);
@@ -215,7 +331,7 @@ TEST_F(ExplorerTest, KeysReachTheAddInAndMovingClicks) {
     handleEvents();
     showTree();
     tree.expand(node("RCPE0"));
-    tree.setCurrentIndex(node("RCPE0"));
+    click("RCPE0");
     addIn.heard.clear();
     QTest::keyClick(&tree, Qt::Key_F8, Qt::ControlModifier);
     QTest::keyClick(&tree, Qt::Key_Down);
@@ -234,7 +350,7 @@ TEST_F(ExplorerTest, ControlCLeavesTheClipboardAlone) {
     clipboard.setPicture({redSquare});
     QTest::keyClick(&tree, Qt::Key_C, Qt::ControlModifier);
     EXPECT_EQ(clipboard.picture().svg, redSquare);
-    EXPECT_EQ(addIn.heard.front(), "key 67/2 Anlage RCPE0 Rezepte");
+    EXPECT_EQ(addIn.heard[1], "key 67/2 Anlage RCPE0 Rezepte");
 }
 
 TEST_F(ExplorerTest, TakesNodeImagesFromTheClipboard) {

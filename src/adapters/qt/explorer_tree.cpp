@@ -24,7 +24,7 @@ ExplorerTree::ExplorerTree() {
     setExpandsOnDoubleClick(false);
     setAnimated(false);
     connect(this, &QTreeView::clicked, this, [this](const QModelIndex& node) {
-        if (listener_ != nullptr) listener_->nodeClicked(node);
+        if (!clickedByPress_ || clicked_ != node) click(node);
     });
     connect(this, &QTreeView::doubleClicked, this, [this](const QModelIndex& node) {
         if (listener_ != nullptr) listener_->nodeDoubleClicked(node);
@@ -39,8 +39,16 @@ void ExplorerTree::setListener(NodeListener* listener, PopUpPlace* popUps) {
     popUps_ = popUps;
 }
 
-void ExplorerTree::reportMouse(const QMouseEvent& event, NodeListener::Stage stage) {
-    const QModelIndex node = indexAt(event.position().toPoint());
+void ExplorerTree::click(const QModelIndex& node) {
+    clicked_ = node;
+    if (listener_ != nullptr) listener_->nodeClicked(node);
+}
+
+void ExplorerTree::followCurrent() {
+    if (currentIndex().isValid() && clicked_ != currentIndex()) click(currentIndex());
+}
+
+void ExplorerTree::reportMouse(const QModelIndex& node, const QMouseEvent& event, NodeListener::Stage stage) {
     if (listener_ == nullptr || !node.isValid()) return;
     const bool move = stage == NodeListener::Stage::move;
     listener_->nodeMouse(node, stage,
@@ -50,27 +58,38 @@ void ExplorerTree::reportMouse(const QMouseEvent& event, NodeListener::Stage sta
 
 void ExplorerTree::mousePressEvent(QMouseEvent* event) {
     QTreeView::mousePressEvent(event);
-    rightPressed_ = event->button() == Qt::RightButton ? indexAt(event->position().toPoint()) : QModelIndex();
-    reportMouse(*event, NodeListener::Stage::down);
+    const QModelIndex node = indexAt(event->position().toPoint());
+    rightPressed_ = event->button() == Qt::RightButton ? node : QModelIndex();
+    reportMouse(node, *event, NodeListener::Stage::down);
+    clickedByPress_ = clicked_ != currentIndex();
+    followCurrent();
 }
 
 void ExplorerTree::mouseMoveEvent(QMouseEvent* event) {
     QTreeView::mouseMoveEvent(event);
-    reportMouse(*event, NodeListener::Stage::move);
+    if (event->buttons() != Qt::NoButton) followCurrent();
+    reportMouse(indexAt(event->position().toPoint()), *event, NodeListener::Stage::move);
 }
 
 void ExplorerTree::mouseReleaseEvent(QMouseEvent* event) {
+    const QPersistentModelIndex node = indexAt(event->position().toPoint());
     QTreeView::mouseReleaseEvent(event);
-    // The menu is for the node under the mouse: what shows its content follows first.
-    const QPersistentModelIndex node = rightPressed_;
+    if (event->button() == Qt::RightButton && node.isValid()) releaseRight(node);
+    followCurrent();
+    reportMouse(node, *event, NodeListener::Stage::up);
+}
+
+// The menu is for the node under the mouse: it becomes the current one, also after a press on another, and what shows
+// its content follows first.
+void ExplorerTree::releaseRight(const QPersistentModelIndex& node) {
+    setCurrentIndex(node);
+    const bool again = node == rightPressed_ && !clickedByPress_;
     rightPressed_ = QModelIndex();
-    if (node.isValid() && node == indexAt(event->position().toPoint()) && listener_ != nullptr) {
-        listener_->nodeClicked(node);
-    }
-    reportMouse(*event, NodeListener::Stage::up);
+    if (again) click(node);
 }
 
 void ExplorerTree::keyPressEvent(QKeyEvent* event) {
+    followCurrent();
     const QPersistentModelIndex before = currentIndex();
     if (listener_ != nullptr && before.isValid()) {
         const auto code = virtualKey(*event);
@@ -83,12 +102,12 @@ void ExplorerTree::keyPressEvent(QKeyEvent* event) {
     }
     if (isEnter(*event) && listener_ != nullptr && before.isValid()) return listener_->nodeDoubleClicked(before);
     QTreeView::keyPressEvent(event);
-    const QModelIndex now = currentIndex();
-    if (now.isValid() && now != before && listener_ != nullptr) listener_->nodeClicked(now);
+    followCurrent();
 }
 
 void ExplorerTree::keyReleaseEvent(QKeyEvent* event) {
     QTreeView::keyReleaseEvent(event);
+    followCurrent();
     const auto code = virtualKey(*event);
     if (listener_ == nullptr || code == 0 || event->isAutoRepeat() || !currentIndex().isValid()) return;
     listener_->nodeKey(currentIndex(), NodeListener::Stage::up, code, shiftState(event->modifiers()));
@@ -106,7 +125,7 @@ void ExplorerTree::rightClick(const QPersistentModelIndex& node) {
     const host::NodeMouse mouse{forms::button::right, 0, static_cast<double>(point.x()),
                                 static_cast<double>(point.y())};
     listener_->nodeMouse(node, NodeListener::Stage::down, mouse);
-    if (node.isValid()) listener_->nodeClicked(node);
+    if (node.isValid()) click(node);
     if (node.isValid()) listener_->nodeMouse(node, NodeListener::Stage::up, mouse);
 }
 

@@ -22,8 +22,8 @@ class NodeListener {
     virtual void nodeTyped(const QModelIndex& node, std::int32_t character) = 0;
 };
 
-/// The tree of the project explorer: fit for 200,000 nodes. Moving by keyboard clicks the nodes on the way, Enter is
-/// the double click, the menu key the right mouse button.
+/// The tree of the project explorer: fit for 200,000 nodes. Whatever makes another node current clicks it, before any
+/// key or button-up of it is reported; Enter is the double click, the menu key the right mouse button.
 class ExplorerTree : public QTreeView {
   public:
     ExplorerTree();
@@ -39,11 +39,16 @@ class ExplorerTree : public QTreeView {
     void contextMenuEvent(QContextMenuEvent* event) override;
 
   private:
-    void reportMouse(const QMouseEvent& event, NodeListener::Stage stage);
+    void click(const QModelIndex& node);
+    void followCurrent();
+    void releaseRight(const QPersistentModelIndex& node);
+    void reportMouse(const QModelIndex& node, const QMouseEvent& event, NodeListener::Stage stage);
     void rightClick(const QPersistentModelIndex& node);
     NodeListener* listener_ = nullptr;
     PopUpPlace* popUps_ = nullptr;
+    QPersistentModelIndex clicked_;  ///< the one that was clicked last
     QPersistentModelIndex rightPressed_;
+    bool clickedByPress_ = false;
 };
 
 }  // namespace hx::qt
