@@ -100,6 +100,7 @@ void Connect::NodeClick(const host::NodeEvent& node) {
         const auto window = openWindow();
         if (!window) return;
         showNode(*window, node.key);
+        window->explorerUsed();
     });
 }
 

@@ -108,7 +108,10 @@ void frmtabgrid::onKeyDown(forms::KeyEvent& event) {
         addIn_.help().ShowHelp(handle(), resources::help_context::grid);
     } else if (event.code == forms::key::f6 && event.shift == forms::shift::alt) {
         event.swallow();
-        if (host::ProjectExplorer* explorer = addIn_.explorer()) explorer->activate();
+        host::ProjectExplorer* explorer = addIn_.explorer();
+        if (explorer == nullptr) return;
+        explorer->activate();
+        explorerUsed();
     }
 }
 
@@ -125,6 +128,8 @@ void frmtabgrid::MakeMyCaption(const std::string& key, const std::string& name) 
     const std::string title = texts.GetResource(text::title);
     // A key without a number is not the root: it shows the name.
     setCaption(recipe::KeyId(key) == 0 ? title : title + texts.GetResource(text::titleSeparator) + name);
+    shownName_ = name;
+    functionBar_->refresh();
 }
 
 void frmtabgrid::finishOrDropEdit() { memberGrid_->finishOrDrop(); }
@@ -146,6 +151,10 @@ void frmtabgrid::refreshSubRecipeNames() { memberGrid_->refreshSubRecipeNames();
 void frmtabgrid::refreshMembers() { memberGrid_->refreshMembers(); }
 
 void frmtabgrid::refreshMembersAt(const ado::Bookmark& row) { memberGrid_->refreshMembersAt(row); }
+
+bool frmtabgrid::readingMembers() const noexcept { return memberGrid_->reading(); }
+
+void frmtabgrid::explorerUsed() { functionBar_->explorerUsed(); }
 
 bool frmtabgrid::finishEdit() { return memberGrid_->finishEdit(); }
 

@@ -56,6 +56,8 @@ class frmtabgrid : public forms::Form, public recipe::RecipeWindow, public dialo
     /// Shows the grid for the node of a recipe, hides it for any other.
     void SwitchGrids(const std::string& key);
     void MakeMyCaption(const std::string& key, const std::string& name);
+    /// The name that the caption was made with.
+    [[nodiscard]] const std::string& shownName() const noexcept { return shownName_; }
     /// Writes a pending edit before the selection changes; one that is refused is dropped without a word.
     void VerifyAdds();
     /// The same before the rows go away; the user is told what was dropped, and why.
@@ -75,6 +77,9 @@ class frmtabgrid : public forms::Form, public recipe::RecipeWindow, public dialo
     void refreshMembers();
     /// refreshMembers, after which this row is current, when it is among the members, and none is selected.
     void refreshMembersAt(const ado::Bookmark& row);
+    [[nodiscard]] bool readingMembers() const noexcept;
+    /// The user is in the explorer: the tool bar's bin means its node.
+    void explorerUsed();
     /// Writes a pending edit. False when that failed: the user has been told, and the edit waits to be corrected.
     [[nodiscard]] bool finishEdit();
     /// Shows a node of the recipe branch, whole: its members, caption and menus. While a pending edit is refused, the
@@ -136,7 +141,7 @@ class frmtabgrid : public forms::Form, public recipe::RecipeWindow, public dialo
 
     AddInReference addIn_;
     std::shared_ptr<recipe::DataEnvironment> data_;
-    std::string path_, secondPath_, nodeKey_;
+    std::string path_, secondPath_, nodeKey_, shownName_;
     std::shared_ptr<settings::CInit> inits_;
     bool subRecipeView_ = false, saveFirst_ = true;
     // After the controls, whose events they hear.

@@ -15,6 +15,8 @@ namespace hx::editor {
 
 namespace {
 
+constexpr std::int32_t separatorText = 402;
+constexpr std::string_view binKey = "Delete";
 constexpr std::array newTools = {tool::recipeNew, tool::memberNewVariable, tool::memberNewRecipe};
 constexpr std::array editTools = {tool::recipeEdit, tool::memberEditSubRecipe};
 constexpr std::array deleteTools = {tool::memberDelete, tool::recipeDelete};
@@ -30,7 +32,7 @@ struct ButtonRow {
 constexpr auto rows = std::to_array<ButtonRow>({
     {"New", pictures::create, newTools},
     {"Edit", pictures::edit, editTools},
-    {"Delete", pictures::remove, deleteTools},
+    {binKey, pictures::remove, deleteTools},
     {"Refresh", pictures::refresh, refreshTools, true},
 });
 
@@ -46,35 +48,52 @@ std::string plainCaption(std::string_view caption) {
 }
 
 FunctionBar::FunctionBar(frmtabgrid& window, Menus& menus, AddIn& addIn)
-    : window_(window), menus_(menus), addIn_(addIn) {
+    : window_(window), menus_(menus), addIn_(addIn), bin_(window, menus, addIn) {
     for (const ButtonRow& row : rows) {
         window.tbrfunc->addButton(std::string(row.key), row.picture()).separatorBefore = row.separatorBefore;
     }
-    const auto follow = [this] { guard(addIn_, "tbrfunc", [this] { refresh(); }); };
+    const auto follow = [this] {
+        if (window_.loaded()) guard(addIn_, "tbrfunc", [this] { refresh(); });
+    };
     subscriptions_.push_back(
         window.tbrfunc->buttonClickEvent.subscribe([this](forms::ToolButton& button) { click(button); }));
-    subscriptions_.push_back(window.tdbRM->selectedRows().changed.subscribe(follow));
-    subscriptions_.push_back(window.tdbRM->currentCellChanged.subscribe(follow));
+    forms::Grid& grid = *window.tdbRM;
+    subscriptions_.push_back(grid.selectedRows().changed.subscribe(follow));
+    subscriptions_.push_back(grid.currentCellChanged.subscribe(follow));
+    subscriptions_.push_back(grid.focusEvent.subscribe([follow](bool) { follow(); }));
+    subscriptions_.push_back(grid.rowChanged.subscribe([follow](std::int32_t) { follow(); }));
+}
+
+void FunctionBar::explorerUsed() {
+    bin_.explorerUsed();
+    refresh();
+}
+
+std::string_view FunctionBar::toolOf(std::string_view button) const {
+    if (button == binKey) return bin_.tool();
+    const auto& tools = std::ranges::find(rows, button, &ButtonRow::key)->tools;
+    const auto runs = std::ranges::find_if(tools, [&](std::string_view name) { return menus_.wouldEnable(name); });
+    return runs != tools.end() ? *runs : std::string_view();
 }
 
 void FunctionBar::refresh() {
     for (const ButtonRow& row : rows) {
         forms::ToolButton& button = window_.tbrfunc->button(automation::Variant(row.key));
-        const auto runs =
-            std::ranges::find_if(row.tools, [&](std::string_view name) { return menus_.wouldEnable(name); });
-        button.setEnabled(runs != row.tools.end());
-        button.setToolTipText(plainCaption(menus_.tool(runs != row.tools.end() ? *runs : row.tools.front()).caption()));
+        const std::string_view runs = toolOf(row.key);
+        std::string tip = plainCaption(menus_.tool(runs.empty() ? row.tools.front() : runs).caption());
+        if (row.key == binKey && !runs.empty()) tip += addIn_.texts().GetResource(separatorText) + bin_.target();
+        button.setEnabled(!runs.empty());
+        button.setToolTipText(tip);
     }
 }
 
 void FunctionBar::click(const forms::ToolButton& button) {
     guard(addIn_, "tbrfunc_ButtonClick", [&] {
         menus_.switchAgain();
-        const auto row = std::ranges::find(rows, button.key(), &ButtonRow::key);
-        const auto runs =
-            std::ranges::find_if(row->tools, [&](std::string_view name) { return menus_.tool(name).enabled(); });
-        if (runs == row->tools.end()) return window_.screen().beep();
-        window_.abr_ToolClick(menus_.tool(*runs));
+        const std::string_view runs = toolOf(button.key());
+        if (runs.empty()) return window_.screen().beep();
+        if (button.key() == binKey) bin_.selectTarget();
+        window_.abr_ToolClick(menus_.tool(runs));
     });
 }
 

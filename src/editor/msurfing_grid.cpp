@@ -9,6 +9,7 @@
 #include "editor/guard.h"
 #include "editor/pictures.h"
 #include "editor/recipe_names.h"
+#include "forms/raised.h"
 #include "recipe/schema.h"
 
 namespace hx::editor {
@@ -120,6 +121,7 @@ void MSurfingGrid::refreshMembersAt(const ado::Bookmark& row) {
 }
 
 void MSurfingGrid::readMembers(const ado::Bookmark& current, const std::vector<ado::Bookmark>& selected) {
+    const forms::Raised reading(reading_);
     shownKey_.clear();
     recipe::RefreshMemberView(window_, addIn_.texts());
     shownKey_ = window_.nodeKey();

@@ -47,6 +47,8 @@ class MSurfingGrid {
     void clear();
     /// The same, but the current row is this one, when it is still there, and none is selected.
     void refreshMembersAt(const ado::Bookmark& row);
+    /// While the rows and what was selected among them come from the database, not from the user.
+    [[nodiscard]] bool reading() const noexcept { return reading_; }
     /// finishRow where there is anything to write.
     [[nodiscard]] bool finishEdit() { return !holdsEdit() || finishRow(); }
 
@@ -77,6 +79,7 @@ class MSurfingGrid {
     forms::Grid& grid_;
     std::string shownKey_;         // the node whose members the grid shows
     bool gridShowsError_ = false;  // in its own message box
+    bool reading_ = false;
     std::vector<forms::Subscription> subscriptions_;
 };
 

@@ -55,15 +55,12 @@ TEST_F(ToolBarButtons, FollowTheRowsOfTheGridWithoutTouchingTheMenus) {
     EXPECT_TRUE(button("Delete").enabled());
     EXPECT_FALSE(tool("mnuRecipeMemberDelete").enabled());
     EXPECT_FALSE(tool("mnuRecipeMemberEditSubRecipe").enabled());
-    grid().selectedRows().clear();
-    EXPECT_FALSE(button("Delete").enabled());
 }
 
 TEST_F(ToolBarButtons, TellWhatTheyRun) {
     show(mixKey);
     EXPECT_EQ(button("New").toolTipText(), "Variablen hinzufügen/löschen");
     EXPECT_EQ(button("Edit").toolTipText(), "Bearbeiten");
-    EXPECT_EQ(button("Delete").toolTipText(), "Löschen");
     EXPECT_EQ(button("Refresh").toolTipText(), "Ansicht aktualisieren");
     show(mixSubRecipes);
     EXPECT_EQ(button("New").toolTipText(), "Neues Unterrezept");
@@ -97,10 +94,110 @@ TEST_F(ToolBarButtons, RunTheFirstToolThatCanBeUsed) {
         for (const char* key : {"New", "Edit", "Delete"}) click(key);
         if (grid().rowCount() != 0) selectRows({0});
         click("Delete");
+        window->explorerUsed();
         click("Refresh");
         EXPECT_EQ(commands, row.commands) << row.key;
     }
     EXPECT_EQ(host.record.beeps, 0);
+}
+
+/// The bin, in the recipe "Mix" unless told otherwise.
+struct BinButton : ToolBarButtons {
+    BinButton() { window->showNode(mixKey); }
+    [[nodiscard]] std::string tip() const { return button("Delete").toolTipText(); }
+    void answer(forms::message::Answer answer) {
+        host.script.onMessage = [answer](const headless::Message&) { return answer; };
+    }
+};
+
+TEST_F(BinButton, MeansTheExplorersNodeUntilTheUserIsInTheGrid) {
+    EXPECT_EQ(tip(), "Löschen: Rezept Mix");
+    grid().setFocus();
+    EXPECT_EQ(tip(), "Löschen: Rezeptelement Tank.Level");
+    grid().focusChanged(false);
+    EXPECT_EQ(tip(), "Löschen: Rezeptelement Tank.Level") << "he is in a message box, say";
+    window->explorerUsed();
+    EXPECT_EQ(tip(), "Löschen: Rezept Mix");
+    selectRows({0});
+    EXPECT_EQ(tip(), "Löschen: Rezeptelement Tank.Level");
+    forms::KeyEvent altF6{forms::key::f6, forms::shift::alt};
+    window->onKeyDown(altF6);
+    EXPECT_EQ(tip(), "Löschen: Rezept Mix") << "the keyboard is in the explorer, though a row is selected";
+}
+
+TEST_F(BinButton, DeletesTheCurrentRowWhereTheKeyboardIsInTheGrid) {
+    answer(forms::message::Answer::yes);
+    grid().setFocus();
+    grid().setRow(1);
+    EXPECT_EQ(tip(), "Löschen: Rezeptelement Tank.Temp");
+    click("Delete");
+    ASSERT_EQ(host.record.messages.size(), 1U);
+    EXPECT_EQ(host.record.messages[0].text, "Wollen Sie wirklich die selektierten Rezeptelemente löschen ?");
+    EXPECT_EQ(shown("VarRecipe"), (Texts{"Tank.Level", "Pump.Speed"}));
+    EXPECT_NE(window->recipeName(mixKey), "") << "the recipe stays";
+}
+
+TEST_F(BinButton, DeletesTheSelectedRowsRatherThanTheCurrentOne) {
+    answer(forms::message::Answer::yes);
+    grid().setFocus();
+    grid().setRow(0);
+    selectRows({1});
+    EXPECT_EQ(tip(), "Löschen: Rezeptelement Tank.Temp");
+    selectRows({1, 2});
+    EXPECT_EQ(tip(), "Löschen: 2 Rezeptelemente");
+    click("Delete");
+    EXPECT_EQ(shown("VarRecipe"), (Texts{"Tank.Level"}));
+}
+
+TEST_F(BinButton, DeletesTheRecipeWhereTheKeyboardIsInTheExplorer) {
+    noteCommands();
+    selectRows({0});
+    window->explorerUsed();
+    click("Delete");
+    EXPECT_EQ(commands, (Texts{"mnuRecipeFunc(2)"}));
+}
+
+TEST_F(BinButton, NamesASubRecipe) {
+    window->showNode(mixSubRecipes);
+    EXPECT_FALSE(button("Delete").enabled()) << "the node itself cannot be deleted";
+    EXPECT_EQ(tip(), "Löschen");
+    grid().setFocus();
+    EXPECT_EQ(tip(), "Löschen: Unterrezept Sirup");
+}
+
+TEST_F(BinButton, FollowsTheNameOfTheRowAndOfTheRecipe) {
+    grid().setFocus();
+    type(0, "Pump.State");
+    EXPECT_EQ(tip(), "Löschen: Rezeptelement Pump.State");
+    window->explorerUsed();
+    window->MakeMyCaption(mixKey, "Mix 2");
+    EXPECT_EQ(tip(), "Löschen: Rezept Mix 2");
+}
+
+TEST_F(BinButton, IsDisabledWhereTheGridHasNoRow) {
+    window->showNode("RCPR" + std::to_string(water));
+    grid().setFocus();
+    EXPECT_FALSE(button("Delete").enabled());
+    window->explorerUsed();
+    EXPECT_TRUE(button("Delete").enabled());
+}
+
+TEST_F(BinButton, StaysWithTheExplorerWhenTheSelectedRowsAreReadAgain) {
+    selectRows({0});
+    window->explorerUsed();
+    window->refreshMembers();
+    EXPECT_EQ(grid().selectedRows().count(), 1);
+    EXPECT_EQ(tip(), "Löschen: Rezept Mix");
+}
+
+TEST_F(BinButton, TellsItInEnglish) {
+    useLanguage(english);
+    make();
+    open();
+    window->showNode(mixKey);
+    EXPECT_EQ(tip(), "Delete: Recipe Mix");
+    selectRows({0, 1});
+    EXPECT_EQ(tip(), "Delete: 2 Recipe Members");
 }
 
 TEST_F(ToolBarButtons, RefreshMayEndTheWindow) {

@@ -130,5 +130,23 @@ TEST_F(ExplorerCommands, DeleteFromTheMenuOfTheSecondButtonTheRecipeThatItHighli
     expectRecipes(withoutApfelschorle);
 }
 
+TEST_F(ExplorerCommands, OfTheToolBarsBinMeanTheRowOfTheGridThatHasTheKeyboard) {
+    auto& bin = find<QWidget>(window(), "tbrfunc.Delete");
+    EXPECT_EQ(qt::fromQt(bin.toolTip()), "Löschen: Rezept Limonade");
+    grid().setFocus();
+    EXPECT_EQ(qt::fromQt(bin.toolTip()), "Löschen: Rezeptelement Mischer.Zucker");
+    const BoxAnswers answers({"Ja"});
+    QTest::mouseClick(&bin, Qt::LeftButton);
+    handleEvents();
+    EXPECT_EQ(texts("Variable"), std::vector<std::string>{"Mischer.Wasser"});
+    expectRecipes({"Limonade", "Apfelschorle", "Meyer's Bräu"});
+    window().activateWindow();
+    ASSERT_TRUE(waitUntil([this] { return window().isActiveWindow(); }));
+    click("Rezepte/Limonade");
+    EXPECT_EQ(qt::fromQt(bin.toolTip()), "Löschen: Rezept Limonade");
+    edit(0, "Variable", "<b>Tank");
+    EXPECT_TRUE(bin.toolTip().contains("&lt;b&gt;Tank")) << "the name as it is";
+}
+
 }  // namespace
 }  // namespace hx::gui
