@@ -61,6 +61,7 @@ void MacroRunner::runText(const QByteArray& text, const QString& name, const QSt
 void MacroRunner::runEngine(WindowStudio& studio, const QByteArray& text, const QString& name,
                             const QStringList& arguments) {
     const InputHold hold(dock_, stopKey_, [this] { stop(); });
+    const qt::QtWindows::Quiet quiet(host_.windows());
     macros::Attendance& attendance = host_.attendance();
     lua::Engine engine({.print = [this](std::string_view printed) { dock_.print(printed); },
                         .folder = [&studio] { return std::filesystem::path(studio.file()).parent_path(); },

@@ -1,3 +1,5 @@
+#include <QApplication>
+#include <QDialog>
 #include <QDir>
 #include <QMenu>
 #include <QTest>
@@ -13,6 +15,16 @@ namespace hx::gui {
 namespace {
 
 using Texts = std::vector<std::string>;
+
+/// The user goes to a window of another program, and comes back; in the order in which the toolkit tells it.
+void leaveStudio() {
+    QApplication::setActiveWindow(nullptr);
+    emit qApp->applicationStateChanged(Qt::ApplicationInactive);
+}
+void comeBackTo(QWidget& window) {
+    emit qApp->applicationStateChanged(Qt::ApplicationActive);
+    QApplication::setActiveWindow(&window);
+}
 
 TEST_F(StudioTest, OpensAProjectWhoseNameLooksLikeAFile) {
     start();
@@ -97,6 +109,63 @@ TEST_F(StudioTest, TheEditorReadsItsMembersAfreshWhenItIsActivated) {
     EXPECT_EQ(texts("Variable"), (Texts{"Mischer.Zucker", "Mischer.Wasser", "Mischer.Aroma"}));
     documents().removeSubWindow(&other);
     delete beside;
+}
+
+TEST_F(StudioTest, TheEditorReadsItsMembersAfreshWhenTheKeyboardComesFromAnotherPartOfTheStudio) {
+    start();
+    const QString file = makeProject();
+    open(file);
+    click("Rezepte");
+    click("Rezepte/Limonade");
+    std::vector<std::string> expected = {"Mischer.Zucker", "Mischer.Wasser"};
+    auto& output = find<QWidget>(window(), "macroText");
+    find<QWidget>(window(), "macroDock").show();
+    for (QWidget* part : {static_cast<QWidget*>(&tree()), &output}) {
+        part->setFocus();
+        expected.push_back("Mischer.Aroma" + std::to_string(expected.size()));
+        store(file, 1, expected.back());
+        EXPECT_NE(texts("Variable"), expected);
+        QTest::mouseClick(grid().viewport(), Qt::LeftButton, {}, QPoint(20, 5));
+        EXPECT_EQ(texts("Variable"), expected) << part->objectName().toStdString();
+    }
+}
+
+TEST_F(StudioTest, TheEditorReadsItsMembersAfreshWhenTheUserComesBackFromAnotherProgram) {
+    start();
+    const QString file = makeProject();
+    open(file);
+    click("Rezepte");
+    click("Rezepte/Limonade");
+    std::vector<std::string> expected = {"Mischer.Zucker", "Mischer.Wasser"};
+    for (QWidget* part : {static_cast<QWidget*>(&grid()), static_cast<QWidget*>(&tree())}) {
+        part->setFocus();
+        leaveStudio();
+        handleEvents();
+        expected.push_back("Mischer.Aroma" + std::to_string(expected.size()));
+        store(file, 1, expected.back());
+        EXPECT_NE(texts("Variable"), expected);
+        comeBackTo(window());
+        EXPECT_TRUE(waitUntil([&] { return texts("Variable") == expected; })) << part->objectName().toStdString();
+        EXPECT_TRUE(part->hasFocus());
+    }
+}
+
+TEST_F(StudioTest, BehindADialogNothingIsReadAfresh) {
+    start();
+    const QString file = makeProject();
+    open(file);
+    click("Rezepte");
+    click("Rezepte/Limonade");
+    grid().setFocus();
+    const auto before = texts("Variable");
+    store(file, 1, "Mischer.Aroma");
+    QDialog dialog(&window());
+    dialog.setModal(true);
+    dialog.show();
+    leaveStudio();
+    comeBackTo(dialog);
+    handleEvents();
+    EXPECT_EQ(texts("Variable"), before);
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 #include "adapters/qt/qt_windows.h"
 
 #include <QApplication>
+#include <QMenuBar>
 #include <memory>
 
 #include "adapters/qt/mdi_edit.h"
@@ -18,12 +19,17 @@ host::window::Rect toRect(const QPoint& place, const QSize& size) {
 
 }  // namespace
 
+QtWindows::QtWindows() {
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) { keyboardMoved(now); });
+    connect(qApp, &QGuiApplication::applicationStateChanged, this, &QtWindows::studioChanged);
+}
+
 forms::WindowHandle QtWindows::add(FormView& view) { return insert({&view.widget(), &view}); }
 
 forms::WindowHandle QtWindows::add(QMdiArea& area) {
     connect(&area, &QMdiArea::subWindowActivated, this, [this, &area] {
         // The area forgets its active window while the studio is not in front, but not the current one.
-        activated(handleOf(area.currentSubWindow()));
+        documentChanged(documentAround(area.currentSubWindow()));
     });
     return insert({&area, nullptr});
 }
@@ -36,6 +42,7 @@ forms::WindowHandle QtWindows::insert(Window window) {
 
 void QtWindows::remove(forms::WindowHandle handle) {
     if (active_ == handle) active_ = 0;
+    if (document_ == handle) document_ = 0;
     windows_.erase(handle);
 }
 
@@ -115,11 +122,41 @@ automation::ObjectRef QtWindows::embeddingObject(forms::WindowHandle handle) con
     return std::make_shared<MdiEdit>(*view->documentWindow());
 }
 
-forms::WindowHandle QtWindows::handleOf(const QMdiSubWindow* document) const {
+forms::WindowHandle QtWindows::documentAround(const QWidget* widget) const {
     for (const auto& [handle, window] : windows_) {
-        if (document != nullptr && window.view != nullptr && window.view->documentWindow() == document) return handle;
+        const QMdiSubWindow* document = window.view != nullptr ? window.view->documentWindow() : nullptr;
+        if (document != nullptr && (document == widget || document->isAncestorOf(widget))) return handle;
     }
     return 0;
+}
+
+void QtWindows::documentChanged(forms::WindowHandle handle) {
+    if (std::exchange(document_, handle) != handle) activated(handle);
+}
+
+// Behind a dialog nothing changes: what it was opened for goes on with what was read before.
+bool QtWindows::ignoresUser() const { return quiet_ || QApplication::activeModalWidget() != nullptr; }
+
+// A dialog or a menu only borrows the keyboard: what it belongs to goes on afterwards where it was.
+void QtWindows::keyboardMoved(const QWidget* widget) {
+    if (widget == nullptr || ignoresUser()) return;
+    const Qt::WindowType type = widget->window()->windowType();
+    const bool borrowed = type == Qt::Dialog || type == Qt::Popup || qobject_cast<const QMenuBar*>(widget) != nullptr;
+    if (!borrowed) activated(documentAround(widget));
+}
+
+void QtWindows::studioChanged(Qt::ApplicationState state) {
+    if (ignoresUser()) return;
+    if (state != Qt::ApplicationActive) return activated(0);
+    // Once it is known where the keyboard comes back to.
+    QMetaObject::invokeMethod(this, &QtWindows::cameBack, Qt::QueuedConnection);
+}
+
+// The studio stands for its document, also where the keyboard is in another part of it.
+void QtWindows::cameBack() {
+    if (active_ != 0 || ignoresUser()) return;
+    activated(document_);
+    keyboardMoved(QApplication::focusWidget());
 }
 
 void QtWindows::activated(forms::WindowHandle handle) {

@@ -2,6 +2,7 @@
 
 #include <QMdiArea>
 #include <QObject>
+#include <QScopedValueRollback>
 #include <QWidget>
 #include <map>
 #include <string>
@@ -12,10 +13,23 @@
 namespace hx::qt {
 
 /// The windows of the studio by handle. A form's window can be placed into an area of documents; its activation there
-/// goes to its window procedure as message 6.
+/// goes to its window procedure as message 6: when it gets the keyboard from another part of the studio, and when the
+/// user comes back to the studio from another program.
 class QtWindows : public QObject, public host::WindowOperations {
   public:
     static constexpr std::int32_t errBadHandle = automation::hresult(0x80070578);
+
+    QtWindows();
+
+    /// While it lives, the user's going about in the studio and coming back to it are no activation: what works on a
+    /// document in his place must not find it read again half way.
+    class Quiet {
+      public:
+        explicit Quiet(QtWindows& windows) : quiet_(windows.quiet_, true) {}
+
+      private:
+        QScopedValueRollback<bool> quiet_;
+    };
 
     /// Makes a window known; both are lent until remove().
     [[nodiscard]] forms::WindowHandle add(FormView& view);
@@ -50,7 +64,12 @@ class QtWindows : public QObject, public host::WindowOperations {
     forms::WindowHandle insert(Window window);
     [[nodiscard]] const Window& at(forms::WindowHandle handle) const;
     [[nodiscard]] Window& at(forms::WindowHandle handle);
-    [[nodiscard]] forms::WindowHandle handleOf(const QMdiSubWindow* document) const;
+    [[nodiscard]] forms::WindowHandle documentAround(const QWidget* widget) const;
+    void documentChanged(forms::WindowHandle handle);
+    void keyboardMoved(const QWidget* widget);
+    void studioChanged(Qt::ApplicationState state);
+    void cameBack();
+    [[nodiscard]] bool ignoresUser() const;
     void activated(forms::WindowHandle handle);
     void send(forms::WindowHandle handle, std::uint32_t state);
 
@@ -59,7 +78,9 @@ class QtWindows : public QObject, public host::WindowOperations {
     std::map<std::string, std::uint32_t, std::less<>> messages_;
     forms::WindowHandle lastHandle_ = 0x10000;
     host::window::ProcedureAddress lastProcedure_ = defaultProcedure;
+    forms::WindowHandle document_ = 0;  ///< the area's current one
     forms::WindowHandle active_ = 0;
+    bool quiet_ = false;
 };
 
 }  // namespace hx::qt
