@@ -222,7 +222,7 @@ TEST_F(GridViewTest, TheFirstSplitIsASecondTableThatScrollsAlong) {
     grid().split(0).setSize(2250);
     ASSERT_TRUE(leftTable().isVisible());
     EXPECT_EQ(leftTable().width(), screen.units().pixels(2250));
-    EXPECT_EQ(table().x(), leftTable().width());
+    EXPECT_GT(table().x(), leftTable().width()) << "a bar stands between them";
     table().verticalScrollBar()->setValue(50);
     EXPECT_EQ(leftTable().verticalScrollBar()->value(), 50);
     EXPECT_EQ(leftTable().rowAt(5), table().rowAt(5));

@@ -17,6 +17,9 @@ namespace hx::qt {
 
 namespace {
 
+constexpr double splitGap = 105;   // twips between the tables, where a bar to drag stands
+constexpr double leastPane = 600;  // twips; in a narrower table nobody sees where the keyboard is
+
 /// The number of the visible column at the right end; -1 when none is visible.
 int lastShownColumn(const forms::Grid& grid) {
     for (const forms::Column* column : grid.columnsInDisplayOrder() | std::views::reverse) {
@@ -47,7 +50,7 @@ void GridView::addPane(std::unique_ptr<GridPane>& pane, int split) {
     pane->setObjectName(QStringLiteral("%1.Splits(%2)").arg(objectNameOf(*model())).arg(split));
     pane->setAccessibleName(accessibleName());
     pane->setSelectionModel(&selection_);
-    pane->setFocusPolicy(focusPolicy());
+    pane->setFocusPolicy(focusPolicy(*pane));
     pane->fitRows();
     watch(*pane);
     watch(*pane->horizontalHeader()->viewport());
@@ -152,17 +155,22 @@ void GridView::place() {
         left_->showSort();
         placeInTabOrder(*left_);
     }
-    const bool both = split > 0;
+    const int gap = units().pixels(splitGap);
+    const int rest = box_.width() - split - gap;
+    const bool both = split > 0 && rest >= units().pixels(leastPane);
     if (left_) {
         left_->setVisible(both);
         left_->setGeometry(0, 0, split, box_.height());
+        left_->setFocusPolicy(focusPolicy(*left_));
         left_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
         left_->verticalScrollBar()->setValue(right_->verticalScrollBar()->value());
     }
     right_->showSelector(!both);
     // Both scroll bars, or none: the rows of the two tables stand beside each other down to the last.
     right_->setHorizontalScrollBarPolicy(both ? Qt::ScrollBarAlwaysOn : Qt::ScrollBarAsNeeded);
-    right_->setGeometry(split, 0, box_.width() - split, box_.height());
+    // Where nothing of it would be seen it takes the place of the other one, up to the bar at the end.
+    if (both) right_->setGeometry(split + gap, 0, rest, box_.height());
+    else right_->setGeometry(0, 0, box_.width() - (split > 0 ? gap : 0), box_.height());
     layOutColumns();
 }
 
@@ -307,13 +315,16 @@ bool GridView::claims(const QKeyEvent& event) const {
     return grid()->claims({virtualKey(event), shiftState(event.modifiers())});
 }
 
-Qt::FocusPolicy GridView::focusPolicy() const { return model()->tabStop() ? Qt::StrongFocus : Qt::ClickFocus; }
+Qt::FocusPolicy GridView::focusPolicy(const GridPane& pane) const {
+    const bool tooNarrow = &pane == left_.get() && pane.width() < units().pixels(leastPane);
+    return model()->tabStop() && !tooNarrow ? Qt::StrongFocus : Qt::ClickFocus;
+}
 
 void GridView::show(std::string_view property) {
     if (property == "SortText") {
         for (GridPane* pane : panes()) pane->showSort();
     } else if (property == "TabStop") {
-        for (GridPane* pane : panes()) pane->setFocusPolicy(focusPolicy());
+        for (GridPane* pane : panes()) pane->setFocusPolicy(focusPolicy(*pane));
     } else if (property == "Settle") {
         return settle();
     } else {

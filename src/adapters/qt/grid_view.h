@@ -59,7 +59,7 @@ class GridView : public ControlView {
     void report(const automation::Error& error);
     void tell(const automation::Error& error);
     void goOn();
-    [[nodiscard]] Qt::FocusPolicy focusPolicy() const;
+    [[nodiscard]] Qt::FocusPolicy focusPolicy(const GridPane& pane) const;
     [[nodiscard]] bool claims(const QKeyEvent& event) const;
     [[nodiscard]] forms::GridHit hitTest(double x, double y) const;
 

@@ -26,6 +26,7 @@ void PictureBoxView::layOut() {
     ControlView::layOut();
     QRect rect = area_.geometry();
     rect.setWidth(std::max(rect.width(), leastWidth));
+    rect.moveRight(std::min(rect.right(), area_.parentWidget()->width() - 1));  // or nobody could catch it again
     rect.setBottom(std::min(rect.bottom(), form().freeBottom(*area_.parentWidget(), rect.bottom() + 1) - 1));
     area_.setGeometry(rect);
     area_.setCursor(rect.height() > rect.width() ? Qt::SplitHCursor : Qt::ArrowCursor);
