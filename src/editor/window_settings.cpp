@@ -16,17 +16,10 @@ namespace {
 constexpr std::string_view settingsName = "frmtabGridRCP", fileName = "HXEditors.ini", saveOnExit = "SaveOnExit";
 constexpr std::string_view windowEntry = "Me";
 
-template <class Use>
-void visitLeaves(const std::string& path, settings::CInitItem& item, const Use& use) {
-    const std::vector children(item.itms->begin(), item.itms->end());
-    if (children.empty()) use(path, item);
-    for (const auto& child : children) visitLeaves(path + "." + child->Name, *child, use);
-}
-
 // Properties are assigned as 16-bit numbers: a wider one could be stored, but never be applied again.
 void keepInReach(settings::CInitItem& item) {
     using Limits = std::numeric_limits<std::int16_t>;
-    visitLeaves(item.Name, item, [](const std::string&, settings::CInitItem& leaf) {
+    settings::visitLeaves(item.Name, item, [](const std::string&, settings::CInitItem& leaf) {
         if (!leaf.val.isNumber()) return;
         leaf.val = std::clamp<double>(automation::toDouble(leaf.val), Limits::min(), Limits::max());
     });
@@ -59,7 +52,7 @@ void frmtabgrid::applySettings(const std::string& name) {
     if (item == nullptr) return;
     std::string refused;
     std::int32_t number = 0;
-    visitLeaves(name, *item, [&](const std::string& entry, const settings::CInitItem& leaf) {
+    settings::visitLeaves(name, *item, [&](const std::string& entry, const settings::CInitItem& leaf) {
         try {
             inits().SetInitToControl(entry);
         } catch (const Error& error) {

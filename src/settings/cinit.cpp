@@ -19,18 +19,10 @@ namespace {
 constexpr std::int32_t errNoObject = 91;
 constexpr std::string_view lineEnd = "\r\n";
 
-// Calls `use(path, item)` for the item when it is a leaf, else for each leaf below it, depth first.
-template <class Use>
-void visit(const std::string& path, CInitItem& item, const Use& use) {
-    const std::vector children(item.itms->begin(), item.itms->end());
-    if (children.empty()) use(path, item);
-    for (const auto& child : children) visit(path + "." + child->Name, *child, use);
-}
-
 template <class Use>
 void visitAll(const CInitItems& items, const Use& use) {
     const std::vector top(items.begin(), items.end());
-    for (const auto& item : top) visit(item->Name, *item, use);
+    for (const auto& item : top) visitLeaves(item->Name, *item, use);
 }
 
 // The collection that the last name of `path` stands in, and that name. Empty names are left out on the way. Null when
@@ -118,11 +110,11 @@ void CInit::GetInitFromControl(const std::string& name) {
     CInitItem* const item = FindItem(name);
     if (item == nullptr) automation::throwBadIndex("CInit", Variant(name));
     const auto read = [&](const std::string& entry, CInitItem& leaf) {
-        Variant value = GetValueByPath(window(), entry);
+        const Variant value = GetValueByPath(window(), entry);
         // Nothing could be read of a column that the grid has not now: its entry stays as it was.
-        if (!value.isEmpty()) leaf.val = std::move(value);
+        if (!value.isEmpty()) leaf.val = plain(value);
     };
-    visit(name, *item, read);
+    visitLeaves(name, *item, read);
 }
 
 void CInit::SetInitToMotherObject() {
@@ -150,17 +142,18 @@ void CInit::applyTo(const std::string& name, const std::function<void()>& onErro
             onError();
         }
     };
-    visit(name, *item, apply);
+    visitLeaves(name, *item, apply);
 }
 
 void CInit::WriteAValueToCInits(const std::string& entry, const Variant& value) {
+    const Variant& kept = plain(value);
     CInitItems* items = root_.get();
     CInitItem* item = nullptr;
     for (const std::string& name : automation::split(entry, '.')) {
         item = &items->Add(name, Variant(""), 0);
         items = item->itms.get();
     }
-    item->val = value;
+    item->val = kept;
 }
 
 Variant CInit::ReadAValueFromCInits(const std::string& entry, const Variant& fallback) const {

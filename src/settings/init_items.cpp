@@ -1,6 +1,8 @@
 #include "settings/init_items.h"
 
 #include <algorithm>
+#include <iterator>
+#include <utility>
 
 #include "automation/member_rows.h"
 #include "automation/text.h"
@@ -15,12 +17,15 @@ CInitItem::CInitItem(std::string name, Variant value, std::int16_t index)
 
 CInitItem::~CInitItem() = default;
 
+// What others still hold stays whole.
+CInitItems::~CInitItems() { takeApart(Taken::ofNobodyElse); }
+
 CInitItem& CInitItems::Add(const std::string& name, const Variant& value, std::int16_t index) {
     if (CInitItem* existing = Item(std::string_view(name))) {
-        existing->val = value;
+        existing->val = plain(value);
         return *existing;
     }
-    items_.push_back(std::make_shared<CInitItem>(name, value, index));
+    items_.push_back(std::make_shared<CInitItem>(name, plain(value), index));
     return *items_.back();
 }
 
@@ -46,9 +51,49 @@ CInitItem* CInitItems::Item(std::string_view name) const {
     return nullptr;
 }
 
-void CInitItems::Clear() {
-    for (const auto& item : items_) item->itms->Clear();
+void CInitItems::Clear() { takeApart(Taken::all); }
+
+// Entry by entry: what lies below one is taken out of it before it goes. Nothing goes within another, however deep.
+void CInitItems::takeApart(Taken taken) {
+    std::vector<std::shared_ptr<CInitItem>> items = std::move(items_);
     items_.clear();
+    while (!items.empty()) {
+        const std::shared_ptr<CInitItem> item = std::move(items.back());
+        items.pop_back();
+        const bool held = item.use_count() > 1 || item->itms.use_count() > 1;
+        if (held && taken == Taken::ofNobodyElse) continue;
+        std::ranges::move(item->itms->items_, std::back_inserter(items));
+        item->itms->items_.clear();
+    }
+}
+
+const Variant& plain(const Variant& value) {
+    if (!value.isObject()) return value;
+    throw automation::Error(automation::errTypeMismatch, "Type mismatch: a settings entry holds no object");
+}
+
+void visitLeaves(std::string path, CInitItem& entry, const std::function<void(const std::string&, CInitItem&)>& use) {
+    struct Level {
+        std::vector<std::shared_ptr<CInitItem>> items;
+        std::size_t next, pathLength;
+    };
+    std::vector<Level> levels;
+    const auto enter = [&](CInitItem& item) {
+        std::vector below(item.itms->begin(), item.itms->end());
+        if (below.empty()) use(path, item);
+        else levels.push_back({std::move(below), 0, path.size()});
+    };
+    for (enter(entry); !levels.empty();) {
+        Level& level = levels.back();
+        path.resize(level.pathLength);
+        if (level.next == level.items.size()) {
+            levels.pop_back();
+            continue;
+        }
+        const std::shared_ptr<CInitItem> item = level.items[level.next++];
+        path.append(".").append(item->Name);
+        enter(*item);
+    }
 }
 
 namespace {
@@ -58,7 +103,7 @@ std::int16_t indexOf(CInitItem& item) { return item.Index; }
 void setIndex(CInitItem& item, std::int16_t index) { item.Index = index; }
 automation::ObjectRef itemsOf(CInitItem& item) { return item.itms; }
 Variant valueOf(CInitItem& item) { return item.val; }
-void setValue(CInitItem& item, const Variant& value) { item.val = value; }
+void setValue(CInitItem& item, const Variant& value) { item.val = plain(value); }
 
 automation::ObjectRef addItem(CInitItems& items, const std::string& name, const Variant& value, std::int16_t index) {
     return items.Add(name, value, index).share();

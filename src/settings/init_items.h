@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -19,7 +20,7 @@ class CInitItem : public automation::Dispatch {
     CInitItem(std::string name, automation::Variant value, std::int16_t index);
     ~CInitItem() override;
     std::string Name;
-    automation::Variant val;
+    automation::Variant val;  ///< no object
     std::int16_t Index;
     std::shared_ptr<CInitItems> itms;  ///< never null
     [[nodiscard]] const automation::MemberTable& members() const override;
@@ -28,6 +29,7 @@ class CInitItem : public automation::Dispatch {
 /// Entries in the order in which they were added, found by name ignoring case.
 class CInitItems : public automation::Dispatch {
   public:
+    ~CInitItems() override;
     /// An existing entry of that name gets the value and is returned.
     CInitItem& Add(const std::string& name, const automation::Variant& value, std::int16_t index);
     /// By name or 1-based position; a missing one throws errBadIndex.
@@ -43,7 +45,18 @@ class CInitItems : public automation::Dispatch {
     [[nodiscard]] const automation::MemberTable& members() const override;
 
   private:
+    enum class Taken { all, ofNobodyElse };
+    void takeApart(Taken taken);
+
     std::vector<std::shared_ptr<CInitItem>> items_;
 };
+
+/// Calls `use(path, entry)` for the entry of a path when it has none below, else for each such entry below it, depth
+/// first. Entries may lie as deep as a path is long.
+void visitLeaves(std::string path, CInitItem& entry,
+                 const std::function<void(const std::string& path, CInitItem& leaf)>& use);
+
+/// A value that an entry can hold: an object throws errTypeMismatch.
+[[nodiscard]] const automation::Variant& plain(const automation::Variant& value);
 
 }  // namespace hx::settings

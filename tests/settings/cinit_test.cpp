@@ -412,5 +412,24 @@ TEST_F(CInitTest, WorksByName) {
     EXPECT_EQ(errorOf([&] { shared->get("SaveInits"); }), automation::errBadParamCount);
 }
 
+TEST_F(CInitTest, TakesSavesAndReadsEntriesHoweverLongTheirPathIs) {
+    std::string entry;
+    for (int i = 0; i < 200'000; ++i) entry += "a.";
+    entry += "a";
+    inits.WriteAValueToCInits(entry, Variant("deep"));
+    inits.SaveInits(path);
+    EXPECT_EQ(stored(entry), "deep");
+    inits.WriteAValueToCInits(entry, Variant("other"));
+    inits.LoadInits(path);
+    EXPECT_EQ(read(entry), Variant("deep"));
+    EXPECT_NE(errorOf([&] { inits.SetInitToControl("a"); }), 0);
+}
+
+TEST_F(CInitTest, TakesNoObjectForAValue) {
+    EXPECT_EQ(errorOf([&] { inits.WriteAValueToCInits("a.b", Variant(window->share())); }),
+              automation::errTypeMismatch);
+    EXPECT_FALSE(inits.ParamExist("a"));
+}
+
 }  // namespace
 }  // namespace hx::settings

@@ -131,5 +131,71 @@ TEST(InitItems, EnumeratesByNameInOrder) {
     EXPECT_EQ(each->get("Next").asObject()->get("Name"), Variant("a"));
 }
 
+// A chain of entries that would not fit on the stack, one within the other.
+std::shared_ptr<CInitItem> chain(std::size_t length) {
+    auto top = std::make_shared<CInitItem>("0", Variant(""), 0);
+    for (CInitItem* last = top.get(); length-- > 0;) last = &last->itms->Add("a", Variant(""), 0);
+    return top;
+}
+constexpr std::size_t tooDeep = 300'000;
+
+TEST(InitItems, AreReleasedHoweverDeepTheyLie) {
+    std::weak_ptr<CInitItem> below;
+    {
+        const auto top = chain(tooDeep);
+        below = std::static_pointer_cast<CInitItem>(top->itms->Item("a")->share());
+    }
+    EXPECT_TRUE(below.expired());
+}
+
+TEST(InitItems, AreClearedAndDeletedHoweverDeepTheyLie) {
+    const auto cleared = chain(tooDeep);
+    cleared->itms->Clear();
+    EXPECT_EQ(cleared->itms->Count(), 0);
+    const auto top = chain(tooDeep);
+    top->itms->Delete(Variant("a"));
+    EXPECT_EQ(top->itms->Count(), 0);
+}
+
+TEST(InitItems, ThatOthersHoldStayWholeWhenThoseAboveGo) {
+    auto top = chain(3);
+    const auto held = std::static_pointer_cast<CInitItem>(top->itms->Item("a")->share());
+    const auto list = std::static_pointer_cast<CInitItems>(held->itms->Item("a")->itms->share());
+    top.reset();
+    EXPECT_EQ(held->itms->Count(), 1);
+    EXPECT_EQ(list->Count(), 1);
+}
+
+TEST(InitItems, AreClearedAlsoBelowEntriesThatOthersHold) {
+    const auto top = chain(3);
+    const auto held = std::static_pointer_cast<CInitItem>(top->itms->Item("a")->itms->Item("a")->share());
+    top->itms->Clear();
+    EXPECT_EQ(held->itms->Count(), 0);
+}
+
+TEST(InitItems, VisitsTheLeavesInOrderAndHoweverDeepTheyLie) {
+    CInitItem top("top", Variant(""), 0);
+    CInitItem& font = top.itms->Add("Font", Variant(""), 0);
+    font.itms->Add("Name", Variant("Arial"), 0);
+    font.itms->Add("Size", Variant(8.0), 0);
+    top.itms->Add("Width", Variant(1.0), 0);
+    std::string paths;
+    visitLeaves("me", top, [&](const std::string& path, CInitItem&) { paths += path + " "; });
+    EXPECT_EQ(paths, "me.Font.Name me.Font.Size me.Width ");
+    std::size_t length = 0;
+    visitLeaves("me", *chain(tooDeep), [&](const std::string& path, CInitItem&) { length += path.size(); });
+    EXPECT_EQ(length, 2 + 2 * tooDeep);
+}
+
+TEST(InitItems, HoldNoObjects) {
+    const ObjectRef object = std::make_shared<CInitItems>();
+    CInitItems items;
+    EXPECT_EQ(errorOf([&] { items.Add("a", Variant(object), 0); }), automation::errTypeMismatch);
+    EXPECT_EQ(items.Count(), 0);
+    CInitItem& item = items.Add("a", Variant(1), 0);
+    EXPECT_EQ(errorOf([&] { item.set("val", Variant(object)); }), automation::errTypeMismatch);
+    EXPECT_EQ(item.val, Variant(1));
+}
+
 }  // namespace
 }  // namespace hx::settings
