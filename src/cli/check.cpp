@@ -17,6 +17,8 @@ namespace {
 
 constexpr std::string_view triggerColumns[] = {"VarLoad", "VarSave", "VarRead", "VarWrite"};
 
+constexpr int mostDamages = 20;
+
 bool isBlank(std::string_view text) { return automation::trim(text).empty(); }
 
 /// Reads each table once: with a million members every further pass would count.
@@ -186,9 +188,19 @@ class Check {
 }  // namespace
 
 int check(const std::string& path, bool json, const Output& output) {
-    ProjectReader project(path);
+    ProjectReader project(path, ProjectReader::Damage::read);
     FindingWriter findings(json, output);
-    Check(project, findings).run();
+    const auto damages = sqlite::damagesOf(project.database(), mostDamages);
+    for (const std::string& damage : damages) {
+        findings.add({Severity::error,
+                      "damaged",
+                      nullptr,
+                      {},
+                      "The file is damaged: " + visible(damage) + ".",
+                      "Go back to a copy of it; \"hxrecipe export\" saves what can still be read."});
+    }
+    // What a damaged file seems to hold says nothing.
+    if (damages.empty()) Check(project, findings).run();
     findings.finish();
     return findings.isEmpty() ? succeeded : found;
 }

@@ -64,7 +64,7 @@ void addBuildSample(CLI::App& app, Command& chosen, const Output& output) {
 
 void explain(const std::exception& error, const Output& output) {
     const bool isMemory = dynamic_cast<const std::bad_alloc*>(&error) != nullptr;
-    output.problems << "hxrecipe: " << (isMemory ? "There is not enough memory." : error.what()) << "\n";
+    output.problems << "hxrecipe: " << (isMemory ? "There is not enough memory." : visibleLines(error.what())) << "\n";
 }
 
 int carryOut(const Command& command, const Output& output) {

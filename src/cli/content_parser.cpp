@@ -74,10 +74,7 @@ class Parser : public nlohmann::json_sax<Json> {
         return take(static_cast<std::int64_t>(value), lineOfLast());
     }
     bool number_float(number_float_t value, const string_t&) override { return take(value, lineOfLast()); }
-    bool string(string_t& value) override {
-        if (value.find('\0') != string_t::npos) fail(place_.line, inQuotes(key_) + ": a text cannot have U+0000");
-        return take(std::move(value), place_.line);
-    }
+    bool string(string_t& value) override { return take(std::move(value), place_.line); }
     bool binary(binary_t&) override { return false; }
 
     bool start_object(std::size_t) override {

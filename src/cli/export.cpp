@@ -28,6 +28,14 @@ bool isExport(const std::string& path) {
     return file.read(start.data(), static_cast<std::streamsize>(start.size())) && start == mark;
 }
 
+// What is written is all that could be read.
+void sayWhatIsDamaged(sqlite::Database& database, const std::string& target) {
+    const auto damages = sqlite::damagesOf(database, 1);
+    if (damages.empty()) return;
+    refuse("The file '" + database.path() + "' is damaged: " + damages.front() + ". Something may be missing in " +
+           target + ".");
+}
+
 }  // namespace
 
 void exportProject(const std::string& path, const std::string& target, const Output& output) {
@@ -35,7 +43,7 @@ void exportProject(const std::string& path, const std::string& target, const Out
     if (fs::exists(fs::symlink_status(target, ignored)) && !isExport(target)) {
         refuse("The file '" + target + "' exists already and is no export.");
     }
-    ProjectReader project(path);
+    ProjectReader project(path, ProjectReader::Damage::read);
     const Content content = readContent(project.database());
     std::ostringstream text;
     writeContent(content, text);
@@ -46,6 +54,7 @@ void exportProject(const std::string& path, const std::string& target, const Out
     std::size_t members = content.orphans.size();
     for (const ContentRecipe& recipe : content.recipes) members += recipe.members.size();
     output.results << "Wrote " << target << ": " << content.recipes.size() << " recipes, " << members << " members.\n";
+    sayWhatIsDamaged(project.database(), target);
 }
 
 }  // namespace hx::cli

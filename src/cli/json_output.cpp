@@ -2,7 +2,9 @@
 
 namespace hx::cli {
 
-std::string jsonLine(const Json& value) { return value.dump(-1, ' ', false, Json::error_handler_t::replace); }
+std::string jsonLine(const Json& value) {
+    return visibleJson(value.dump(-1, ' ', false, Json::error_handler_t::replace));
+}
 
 Json recipeObject(const RecipeEntry& recipe) { return {{"id", recipe.id}, {"name", recipe.name}}; }
 

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <charconv>
-#include <utility>
 
 #include "adapters/sqlite/provider.h"
 
@@ -14,8 +13,12 @@ using sqlite::Statement;
 
 namespace {
 
-const std::string& required(const std::string& path) {
-    requireProject(path);
+void connect(const std::string& path, const std::string& mode) {
+    (void)sqlite::Provider().connect("Data Source=\"" + path + "\";Mode=" + mode + ";");
+}
+
+const std::string& readable(const std::string& path) {
+    connect(path, "Read");
     return path;
 }
 
@@ -49,7 +52,8 @@ std::optional<std::size_t> numberOf(const std::vector<RecipeEntry>& recipes, std
     return static_cast<std::size_t>(found - recipes.begin());
 }
 
-ProjectReader::ProjectReader(const std::string& path) : database_(required(path)) {
+ProjectReader::ProjectReader(const std::string& path, Damage damage) : database_(readable(path)) {
+    if (damage == Damage::refuse) sqlite::requireUndamaged(database_);
     // What is read stays the same to the end, whatever other programs write meanwhile.
     database_.execute("PRAGMA query_only=ON; BEGIN;");
 }
@@ -82,24 +86,6 @@ std::optional<RecipeEntry> ProjectReader::findRecipe(const std::string& nameOrId
     return firstRecipe(byId);
 }
 
-void requireProject(const std::string& path) {
-    (void)sqlite::Provider().connect("Data Source=\"" + path + "\";Mode=Read;");
-}
-
-std::string visible(std::string_view text) {
-    constexpr std::string_view digits = "0123456789ABCDEF";
-    std::string result;
-    bool begun = false;  // a control character of two bytes, U+0080 to U+009F
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        const auto byte = static_cast<unsigned char>(text[i]);
-        const bool ends = std::exchange(begun, false);
-        begun = byte == 0xC2 && i + 1 < text.size() && (text[i + 1] & 0xE0) == 0x80;
-        if (byte >= 0x20 && byte != 0x7F && !begun && !ends) result += text[i];
-        else result.append("\\x").append(1, digits[byte >> 4]).append(1, digits[byte & 15]);
-    }
-    return result;
-}
-
-std::string inQuotes(std::string_view text) { return '"' + visible(text) + '"'; }
+void requireProject(const std::string& path) { connect(path, "ReadWrite"); }
 
 }  // namespace hx::cli

@@ -7,7 +7,8 @@
 #include <string_view>
 #include <vector>
 
-#include "adapters/sqlite/database.h"
+#include "adapters/sqlite/project_check.h"
+#include "cli/visible.h"
 
 namespace hx::cli {
 
@@ -31,7 +32,9 @@ struct Inclusion {
 /// file cannot be read or is no project.
 class ProjectReader {
   public:
-    explicit ProjectReader(const std::string& path);
+    /// What is done with a project that is damaged: what can still be read of it is not all.
+    enum class Damage { refuse, read };
+    explicit ProjectReader(const std::string& path, Damage damage = Damage::refuse);
 
     /// For further queries; writing through it fails.
     [[nodiscard]] sqlite::Database& database() { return database_; }
@@ -43,16 +46,11 @@ class ProjectReader {
     [[nodiscard]] std::optional<RecipeEntry> findRecipe(const std::string& nameOrId);
 
   private:
-    sqlite::Database database_;
+    sqlite::ProjectDatabase database_;
 };
 
-/// Throws an automation::Error that says why the file is no project.
+/// Throws an automation::Error that says why the file is no project, or that it is damaged.
 void requireProject(const std::string& path);
-
-/// Text of a row in one line: the bytes of control characters as \x0A.
-[[nodiscard]] std::string visible(std::string_view text);
-/// The same in quotation marks, as the command line prints names.
-[[nodiscard]] std::string inQuotes(std::string_view text);
 
 /// Columns of a recipe that name a variable.
 inline constexpr std::string_view variableColumns[] = {"VarRecipeName", "VarDescription", "VarLoad",    "VarSave",

@@ -115,7 +115,7 @@ void printObject(Shown& shown, const RecipeEntry& recipe, const Output& output) 
         user["through"] = shown.isDirect(use) ? Json(nullptr) : recipeObject(shown.recipe(use.through));
         object["usedBy"].push_back(std::move(user));
     }
-    output.results << object.dump(2, ' ', false, Json::error_handler_t::replace) << "\n";
+    output.results << visibleJson(object.dump(2, ' ', false, Json::error_handler_t::replace)) << "\n";
 }
 
 void printTitle(const std::string& title, std::size_t count, const Output& output) {

@@ -9,6 +9,7 @@
 #include <system_error>
 
 #include "automation/text.h"
+#include "cli/visible.h"
 
 namespace hx::cli {
 
@@ -27,30 +28,12 @@ std::string contents(const std::string& path) {
     return text;
 }
 
-// The bytes that follow a lead byte, or -1 when the byte cannot lead. Overlong forms and surrogates count as faults
-// too.
-int followers(std::string_view text, std::size_t at) {
-    const auto byte = [&](std::size_t i) { return i < text.size() ? static_cast<unsigned char>(text[i]) : 0U; };
-    const unsigned lead = byte(at);
-    const unsigned second = byte(at + 1);
-    if (lead < 0x80) return 0;
-    if (lead >= 0xC2 && lead <= 0xDF) return 1;
-    if (lead == 0xE0) return second >= 0xA0 ? 2 : -1;
-    if (lead == 0xED) return second <= 0x9F ? 2 : -1;
-    if (lead >= 0xE1 && lead <= 0xEF) return 2;
-    if (lead == 0xF0) return second >= 0x90 ? 3 : -1;
-    if (lead == 0xF4) return second <= 0x8F ? 3 : -1;
-    return lead >= 0xF1 && lead <= 0xF3 ? 3 : -1;
-}
-
 // Where the text is not UTF-8.
 std::optional<std::size_t> fault(std::string_view text) {
-    for (std::size_t at = 0; at < text.size(); ++at) {
-        const int count = followers(text, at);
-        if (count < 0) return at;
-        for (int i = 0; i < count; ++i) {
-            if (++at >= text.size() || (static_cast<unsigned char>(text[at]) & 0xC0) != 0x80) return at - 1;
-        }
+    for (std::size_t at = 0; at < text.size();) {
+        const std::size_t length = characterLength(text, at);
+        if (length == 0) return at;
+        at += length;
     }
     return std::nullopt;
 }

@@ -1,6 +1,6 @@
 #include "studio/project_variables.h"
 
-#include "adapters/sqlite/database.h"
+#include "adapters/sqlite/project_check.h"
 
 namespace hx::studio {
 
@@ -8,7 +8,7 @@ namespace hx::studio {
 std::vector<qt::Variable> ProjectVariables::variables() const {
     std::vector<qt::Variable> result;
     if (file_.empty()) return result;
-    sqlite::Database database(file_, options_());
+    sqlite::ProjectDatabase database(file_, options_());
     result.reserve(static_cast<std::size_t>(database.number("SELECT COUNT(*) FROM ThxVariable")));
     sqlite::Statement rows(database, "SELECT Name, Type, Comment FROM ThxVariable ORDER BY Name");
     while (rows.step()) result.push_back({rows.text(0), rows.text(1), rows.text(2)});

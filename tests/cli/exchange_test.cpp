@@ -72,6 +72,14 @@ TEST_F(Exchange, AnExportHoldsEveryColumnOneMemberALine) {
               std::string::npos);
 }
 
+TEST_F(Exchange, ATextWithAZeroByteComesBackWhole) {
+    sqlite::Database(file_).execute("UPDATE TrcpRecipe SET Comment = 'a' || char(0) || 'b' WHERE ID = 3");
+    const std::string text = exported(file_, "a.json"), other = makeOther("");
+    EXPECT_EQ(hxrecipe({"import", other.c_str(), folder_.file("a.json").c_str()}).status, 0);
+    EXPECT_EQ(exported(other, "b.json"), text);
+    EXPECT_EQ(sqlite::Database(other).number("SELECT length(CAST(Comment AS BLOB)) FROM TrcpRecipe WHERE ID = 3"), 3);
+}
+
 TEST_F(Exchange, ExportImportIntoAnEmptyProjectAndExportGivesTheSameBytes) {
     const std::string text = exported(file_, "a.json");
     const std::string other = makeOther("");

@@ -84,6 +84,70 @@ TEST_F(Opening, ADamagedFileSaysSo) {
     EXPECT_EQ(refusal(path_), "The file '" + path_ + "' is damaged.");
 }
 
+// Makes a page of a project unreadable.
+void damage(const std::string& path, const std::string& tableOrIndex) {
+    const std::string page =
+        RawFile(path).query("SELECT (rootpage - 1) * 4096 FROM sqlite_schema WHERE name = '" + tableOrIndex + "'");
+    std::fstream file(path, std::ios::binary | std::ios::in | std::ios::out);
+    file.seekp(std::stol(page));
+    file << std::string(16, '\xFF');
+}
+
+TEST_F(Opening, AFileThatIsDamagedInTheMiddleSaysSo) {
+    RawFile(path_).run("INSERT INTO TrcpRecipeMember (ParentID) VALUES (1)");
+    damage(path_, "IrcpRecipeMember_ChildID");
+    EXPECT_TRUE(refusal(path_).starts_with("The file '" + path_ + "' is damaged: ")) << refusal(path_);
+}
+
+TEST_F(Opening, ADamagedFileIsStillRead) {
+    RawFile(path_).run("INSERT INTO TrcpRecipe (Name) VALUES ('A')");
+    damage(path_, "IrcpRecipeMember_ChildID");
+    EXPECT_EQ(column(*open(connect("Read"), "TrcpRecipe"), "Name"), "A");
+}
+
+TEST_F(Opening, ALargeFileThatIsDamagedWhereItsRecipesAreSaysSo) {
+    RawFile(path_).run(
+        "WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 20000) INSERT INTO TrcpRecipeMember "
+        "(ParentID, VarRecipe) SELECT i, hex(randomblob(600)) FROM n");
+    ASSERT_GT(fs::file_size(path_), std::size_t{20} << 20U);
+    ado::Connection(provider_).open("Data Source=" + path_);
+    damage(path_, "TrcpRecipe");
+    EXPECT_TRUE(refusal(path_).find("is damaged") != std::string::npos) << refusal(path_);
+}
+
+TEST_F(Opening, AProjectThatBreaksARuleOfItsTablesIsNotDamaged) {
+    RawFile(path_).run(
+        "INSERT INTO TrcpRecipe (Name) VALUES ('A'); PRAGMA writable_schema=ON;"
+        "UPDATE sqlite_schema SET sql = replace(sql, 'Comment        VARCHAR(255)', 'Comment VARCHAR(255) NOT NULL') "
+        "WHERE name = 'TrcpRecipe'; UPDATE TrcpRecipe SET Comment = NULL;");
+    EXPECT_EQ(column(*open(connect(), "TrcpRecipe"), "Name"), "A");
+}
+
+TEST_F(Opening, WhatIsNoTableInThePlaceOfOneIsRefused) {
+    for (const std::string table : {"TrcpRecipe", "TrcpRecipeMember", "ThxVariable"}) {
+        const std::string path = folder_.file(table + ".hxs");
+        createProject(path);
+        RawFile(path).run(
+            "DROP TABLE " + table + "; CREATE VIEW " + table +
+            " AS WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i FROM n) SELECT i AS ID, i AS Name FROM n");
+        EXPECT_EQ(refusal(path), "The project '" + path + "' cannot be used: \"" + table + "\" in it is no table.");
+    }
+}
+
+TEST_F(Opening, ATableWithATriggerIsRefused) {
+    RawFile(path_).run("CREATE TRIGGER Mine AFTER INSERT ON trcprecipe BEGIN DELETE FROM TrcpRecipeMember; END");
+    EXPECT_EQ(refusal(path_), "The project '" + path_ +
+                                  "' cannot be used: its table \"TrcpRecipe\" has the trigger \"Mine\", which this "
+                                  "program does not run.");
+}
+
+TEST_F(Opening, ViewsAndTriggersElsewhereAreNoMatter) {
+    RawFile(path_).run(
+        "CREATE TABLE Other (A); CREATE VIEW Names AS SELECT Name FROM TrcpRecipe;"
+        "CREATE TRIGGER Mine AFTER INSERT ON Other BEGIN INSERT INTO Other VALUES (2); END");
+    EXPECT_EQ(column(*open(connect(), "TrcpRecipe"), "Name"), "");
+}
+
 TEST_F(Opening, WithoutPermissionItSaysSo) {
     if (geteuid() == 0) GTEST_SKIP() << "the administrator may read every file";
     chmod(path_.c_str(), 0);

@@ -12,7 +12,10 @@ namespace hx::sqlite {
 namespace {
 
 constexpr int interruptSteps = 10000;  // of SQLite's machine between two questions
+constexpr int mostTextLength = 64 << 20;
 constexpr std::size_t keptStatements = 48;
+// For one row, or all that a statement without rows does: a hundred times what the largest projects ask for.
+constexpr std::int64_t usualWork = 10'000'000'000;
 
 // A connection serves one thread, so it needs no mutex. SQLITE_OPEN_CREATE is left out on purpose.
 constexpr int openFlags = SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_EXRESCODE;
@@ -22,7 +25,8 @@ constexpr const char* settings =
     "PRAGMA synchronous=EXTRA;"
     "PRAGMA foreign_keys=OFF;"
     "PRAGMA temp_store=MEMORY;"
-    "PRAGMA mmap_size=0;";
+    "PRAGMA mmap_size=0;"
+    "PRAGMA cell_size_check=ON;";
 
 // Reading needs little. A transaction that changes many rows goes to all indexes at random: with few pages in memory it
 // reads and writes each of them many times.
@@ -36,6 +40,7 @@ void Database::Closer::operator()(sqlite3* handle) const noexcept { sqlite3_clos
 Database::Database(const std::string& path, const OpenOptions& options)
     : path_(path),
       language_(options.language),
+      work_(std::make_unique<Work>()),
       lockWait_(std::make_unique<LockWait>(options.lockWait, options.sleep)),
       collecting_(std::make_unique<ado::KeySet*>(nullptr)) {
     sqlite3* handle = nullptr;
@@ -47,7 +52,12 @@ Database::Database(const std::string& path, const OpenOptions& options)
     lockWait_->serve(handle);
     check(sqlite3_db_config(handle, SQLITE_DBCONFIG_DQS_DML, 0, nullptr));
     check(sqlite3_db_config(handle, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr));
+    check(sqlite3_db_config(handle, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr));
+    check(sqlite3_db_config(handle, SQLITE_DBCONFIG_ENABLE_TRIGGER, 0, nullptr));  // temporary ones, our own, still run
+    sqlite3_limit(handle, SQLITE_LIMIT_LENGTH, mostTextLength);
+    sqlite3_limit(handle, SQLITE_LIMIT_ATTACHED, 0);
     check(registerFunctions(handle, collecting_.get()));
+    limitWork(usualWork);
     execute(settings);
     useLargeCache(false);
 }
@@ -71,6 +81,7 @@ Statement& Database::prepared(const std::string& sql) {
 
 void Database::execute(const std::string& sql) {
     lockWait_->begin(false);
+    beginWork();
     check(sqlite3_exec(handle(), sql.c_str(), nullptr, nullptr, nullptr));
 }
 
@@ -80,10 +91,16 @@ std::int64_t Database::number(const std::string& sql) {
     return statement.step() ? statement.key(0) : 0;
 }
 
-void Database::interruptWhen(std::function<bool()> asked) {
-    interrupt_ = std::make_unique<const std::function<bool()>>(std::move(asked));
-    const auto ask = [](void* kept) { return (*static_cast<const std::function<bool()>*>(kept))() ? 1 : 0; };
-    sqlite3_progress_handler(handle(), interruptSteps, ask, const_cast<std::function<bool()>*>(interrupt_.get()));
+void Database::interruptWhen(std::function<bool()> asked) { work_->interrupted = std::move(asked); }
+
+void Database::limitWork(std::int64_t steps) {
+    work_->most = steps;
+    const auto ask = [](void* kept) {
+        Work& work = *static_cast<Work*>(kept);
+        work.done += interruptSteps;
+        return work.done > work.most || (work.interrupted && work.interrupted()) ? 1 : 0;
+    };
+    sqlite3_progress_handler(handle(), interruptSteps, ask, work_.get());
 }
 
 // A cache that keeps its size costs time or memory, nothing else.

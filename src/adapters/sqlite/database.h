@@ -48,6 +48,11 @@ class Database {
 
     /// Asked now and then while a statement runs; true ends the statement with an error.
     void interruptWhen(std::function<bool()> asked);
+    /// How many steps of SQLite's machine one row of a statement may take: beyond them the statement ends with an
+    /// error. By itself a connection allows so many that only work without end, which a file can ask for, reaches it.
+    void limitWork(std::int64_t steps);
+    /// The steps are counted from here.
+    void beginWork() const noexcept { work_->done = 0; }
     /// Lets the connection keep more pages of the file in memory, or as few as before, the rest being given back.
     void useLargeCache(bool large) noexcept;
 
@@ -76,12 +81,16 @@ class Database {
     struct Closer {
         void operator()(sqlite3* handle) const noexcept;
     };
+    struct Work {
+        std::int64_t most = 0, done = 0;
+        std::function<bool()> interrupted;
+    };
     using Statements = std::list<std::pair<std::string, Statement>>;
 
     std::string path_;
     automation::Language language_;
+    std::unique_ptr<Work> work_;  // SQLite holds its address
     std::unique_ptr<LockWait> lockWait_;
-    std::unique_ptr<const std::function<bool()>> interrupt_;  // SQLite holds its address
     std::unique_ptr<sqlite3, Closer> handle_;
     std::unique_ptr<ado::KeySet*> collecting_;  // where hx_keys appends to
     Statements statements_;                     // the last used one first

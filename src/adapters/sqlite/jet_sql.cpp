@@ -208,18 +208,15 @@ BoundSql translateCondition(std::span<const Token> tokens, const TableInfo& tabl
 
 std::string translateCommand(std::span<const Token> tokens, const TableInfo* target) {
     constexpr std::size_t behindTop = 3;
-    if (tokens.size() > behindTop && tokens[1].is("TOP") && tokens[2].kind == Kind::number) {
-        std::vector<Token> rest(tokens.begin() + 2, tokens.end());
-        rest.front() = tokens.front();
-        return translateCommand(rest, target) + " LIMIT " + tokens[2].text;
-    }
+    const bool limited = tokens.size() > behindTop && tokens[1].is("TOP") && tokens[2].kind == Kind::number;
     Writer writer(nullptr, nullptr);
-    for (const Token& token : tokens) {
+    writer.write(tokens.front());
+    for (const Token& token : tokens.subspan(limited ? behindTop : 1)) {
         writer.write(token);
         // Before WHERE a column stands for itself (SET Enabled = ...), behind it for its value.
         if (token.is("WHERE")) writer.useTable(target);
     }
-    return writer.take();
+    return limited ? writer.take() + " LIMIT " + tokens[2].text : writer.take();
 }
 
 }  // namespace hx::sqlite

@@ -21,6 +21,13 @@ inline constexpr Sentence full{"The disk with the file '%1' is full.", "Der Date
 inline constexpr Sentence broken{"The disk does not read or write the file '%1' (input/output error).",
                                  "Der Datenträger liest oder schreibt die Datei '%1' nicht (Ein-/Ausgabefehler)."};
 inline constexpr Sentence damaged{"The file '%1' is damaged.", "Die Datei '%1' ist beschädigt."};
+inline constexpr Sentence damagedSo{
+    "The file '%1' is damaged: %2. \"hxrecipe export\" saves what can still be read.",
+    "Die Datei '%1' ist beschädigt: %2. \"hxrecipe export\" sichert, was sich noch lesen lässt."};
+inline constexpr Sentence ended{
+    "The work in the file '%1' was ended: it takes too long, or was stopped.",
+    "Die Arbeit in der Datei '%1' wurde beendet: sie dauert zu lange oder wurde angehalten."};
+inline constexpr Sentence tooLong{"A value in the file '%1' is too long.", "Ein Wert in der Datei '%1' ist zu lang."};
 inline constexpr Sentence noProject{"The file '%1' is not a project file.", "Die Datei '%1' ist keine Projektdatei."};
 inline constexpr Sentence notOpened{"The file '%1' or its journal beside it cannot be opened.",
                                     "Die Datei '%1' oder ihr Journal daneben kann nicht geöffnet werden."};
@@ -39,6 +46,13 @@ inline constexpr Sentence noFile{"'%1' is not a file.", "'%1' ist keine Datei."}
 inline constexpr Sentence newer{
     "The project '%1' was made by a newer program (format %2; this program reads up to format %3).",
     "Das Projekt '%1' stammt von einem neueren Programm (Format %2; dieses Programm liest bis Format %3)."};
+inline constexpr Sentence tableIsNone{"The project '%1' cannot be used: \"%2\" in it is no table.",
+                                      "Das Projekt '%1' kann nicht benutzt werden: \"%2\" darin ist keine Tabelle."};
+inline constexpr Sentence tableHasTrigger{
+    "The project '%1' cannot be used: its table \"%2\" has the trigger \"%3\", which this program does not run.",
+    "Das Projekt '%1' kann nicht benutzt werden: seine Tabelle \"%2\" hat den Trigger \"%3\", den dieses Programm "
+    "nicht "
+    "ausführt."};
 inline constexpr Sentence takenBack{
     "%1 All changes to '%2' since then were taken back; nothing of them is stored.",
     "%1 Alle Änderungen an '%2' seitdem wurden zurückgenommen; nichts davon ist gespeichert."};

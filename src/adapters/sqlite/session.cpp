@@ -1,6 +1,6 @@
 #include "adapters/sqlite/session.h"
 
-#include "adapters/sqlite/project_schema.h"
+#include "adapters/sqlite/project_check.h"
 #include "adapters/sqlite/query_rowset.h"
 #include "adapters/sqlite/sentences.h"
 #include "adapters/sqlite/table_rowset.h"
@@ -26,20 +26,13 @@ std::string uniquenessTrigger(const TableInfo& table, const std::string& column,
 
 Session::Session(const std::string& path, bool readOnly, const OpenOptions& options)
     : writes_(std::make_shared<Writes>(path, options)) {
-    requireProject();
-    if (readOnly) writes_->database().execute("PRAGMA query_only=ON");
-    else compareNamesBeyondAscii();
-}
-
-void Session::requireProject() {
     Database& database = writes_->database();
-    if (database.number("PRAGMA application_id") != projectApplicationId) {
-        throw database.error(ado::dbErrUnspecified, sentence::noProject, {database.path()});
-    }
-    const std::int64_t version = database.number("PRAGMA user_version");
-    if (version > projectSchemaVersion) {
-        throw database.error(ado::dbErrUnspecified, sentence::newer,
-                             {database.path(), std::to_string(version), std::to_string(projectSchemaVersion)});
+    requireProject(database);
+    if (readOnly) {
+        database.execute("PRAGMA query_only=ON");
+    } else {
+        requireUndamaged(database);
+        compareNamesBeyondAscii();
     }
 }
 

@@ -21,7 +21,6 @@ class Session : public ado::Session {
     void rollback() override { writes_->rollback(); }
 
   private:
-    void requireProject();
     void compareNamesBeyondAscii();
     [[nodiscard]] const TableInfo* findTable(std::string_view name);
     /// Null when there is no such table, or one whose rows have no keys.

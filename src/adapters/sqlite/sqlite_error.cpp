@@ -32,6 +32,8 @@ constexpr auto causes = std::to_array<Cause>({
     {SQLITE_NOTADB, &sentence::noProject},
     {SQLITE_CANTOPEN, &sentence::notOpened},
     {SQLITE_PERM, &sentence::noPermission},
+    {SQLITE_INTERRUPT, &sentence::ended},
+    {SQLITE_TOOBIG, &sentence::tooLong},
     {SQLITE_NOMEM, &sentence::noMemory},
 });
 

@@ -49,6 +49,7 @@ void Statement::bind(int parameter, ado::Key key) {
 bool Statement::step() {
     LockWait& wait = database_->lockWait();
     wait.begin(isReadOnly());
+    database_->beginWork();
     const int code = sqlite3_step(statement_.get());
     if (code != SQLITE_ROW && code != SQLITE_DONE) database_->fail(code);
     wait.letIn();

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "adapters/sqlite/database.h"
+
+namespace hx::sqlite {
+
+/// Throws dbErrUnspecified, with the reason, unless the file is a project that this program can work in: not made by a
+/// newer one, and its tables are tables that hold what is written into them. A view in the place of one, or a trigger
+/// on it, would run whatever the file says, without end if it likes.
+void requireProject(Database& database);
+
+/// Throws dbErrUnspecified when the file is seen to be damaged. Takes some hundredths of a second at most: a large file
+/// is not read to its end.
+void requireUndamaged(Database& database);
+
+/// What SQLite finds damaged in the whole file, a sentence without its full stop each, and at most so many.
+[[nodiscard]] std::vector<std::string> damagesOf(Database& database, int most);
+
+/// A project that is open beside the session that works in it.
+class ProjectDatabase : public Database {
+  public:
+    explicit ProjectDatabase(const std::string& path, const OpenOptions& options = {}) : Database(path, options) {
+        requireProject(*this);
+    }
+};
+
+}  // namespace hx::sqlite
