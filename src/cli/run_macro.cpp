@@ -37,12 +37,13 @@ void makeFolder(const std::string& path) {
 class MacroSession {
   public:
     MacroSession(const MacroPlan& plan, const Output& output)
-        : studio_(plan.studio),
+        : files_(plan.studio.files),
+          studio_(plan.studio),
           engine_({.print = [&output](std::string_view text) { output.results << text << std::flush; },
-                   .folder = [this] { return std::filesystem::path(studio_.file()).parent_path(); },
-                   .trusted = plan.trusted,
+                   .files = files_,
+                   .trusted = plan.studio.trusted,
                    .stopRequested = [this] { return interruption_.requested(); }}) {
-        macros::defineGlobals(engine_, studio_);
+        macros::defineGlobals(engine_, studio_, files_);
     }
     ~MacroSession() {
         studio_.script() = {};
@@ -53,15 +54,25 @@ class MacroSession {
     MacroSession& operator=(const MacroSession&) = delete;
 
     void run(const MacroPlan& plan, const std::string& text) {
-        if (!plan.project.empty()) studio_.openProject(plan.project);
+        if (!plan.project.empty()) studio_.openProject(studio_.fileOf(plan.project));
         engine_.run(text, plan.macro, plan.arguments);
     }
 
   private:
     Interruption interruption_;
+    const lua::MacroFiles files_;
     MacroStudio studio_;
     lua::Engine engine_;
 };
+
+// What the command line names is the user's choice, whatever the macro is.
+lua::MacroFiles filesOf(const MacroPlan& plan) {
+    if (plan.studio.trusted) return lua::MacroFiles::all();
+    lua::MacroFiles files;
+    if (!plan.project.empty()) files.allow(std::filesystem::absolute(plan.project).parent_path());
+    if (!plan.folder.empty()) files.allow(std::filesystem::absolute(plan.folder));
+    return files;
+}
 
 /// The decimal points of languages, by the first part of a locale's name.
 struct DecimalPoint {
@@ -97,8 +108,8 @@ int runMacro(const MacroPlan& plan, const Output& output) {
         session.run(plan, text);
         return succeeded;
     } catch (const lua::MacroError& error) {
-        output.problems << "hxrecipe: " << error.what() << "\n";
-        if (!error.traceback().empty()) output.problems << error.traceback() << "\n";
+        output.problems << "hxrecipe: " << visibleLines(error.what()) << "\n";
+        if (!error.traceback().empty()) output.problems << visibleLines(error.traceback()) << "\n";
         return failed;
     }
 }
@@ -114,14 +125,20 @@ void addRunMacro(CLI::App& app, Command& chosen, const Output& output) {
         ->check(CLI::IsMember({german, english}));
     command->add_option("--locale", *locale, "How numbers are written, as de_DE.")->type_name("NAME");
     command
+        ->add_option("--folder", plan->folder,
+                     "A folder whose files and projects the macro may use, besides that of --project.")
+        ->type_name("DIR")
+        ->check(CLI::ExistingDirectory);
+    command
         ->add_option("--config", plan->studio.config,
                      "The folder of the registry, made when it is missing; without one nothing is kept.")
         ->type_name("DIR");
-    command->add_flag("--trust", plan->trusted, "Let the macro use all files and start programs.");
+    command->add_flag("--trust", plan->studio.trusted,
+                      "Let the macro use all files and the registry, and start programs.");
     command->footer("Exit status: 0 done, 1 the macro failed or was stopped by Ctrl+C, 2 wrong usage.");
     command->callback([plan, locale, &chosen, &output] {
         plan->studio.decimalPoint = decimalPointOf(*locale);
-        plan->studio.trusted = plan->trusted;
+        plan->studio.files = filesOf(*plan);
         chosen = Command{[plan, &output] { return runMacro(*plan, output); }, failed};
     });
 }

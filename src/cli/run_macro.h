@@ -14,7 +14,7 @@ struct MacroPlan {
     std::string macro;
     std::vector<std::string> arguments;
     std::string project;  ///< opened before; empty for none
-    bool trusted = false;
+    std::string folder;   ///< whose files the macro may use besides the project's; empty for none
     MacroStudioOptions studio;
 };
 

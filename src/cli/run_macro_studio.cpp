@@ -44,12 +44,15 @@ headless::HostOptions hostOptions(const MacroStudioOptions& options, host::Regis
 }  // namespace
 
 MacroStudio::MacroStudio(const MacroStudioOptions& options)
-    : provider_([this] { return sqlite::OpenOptions{.language = language()}; }),
-      folderIniFile_(iniFile_, [this] { return std::filesystem::path(file_).parent_path(); }),
+    : files_(options.files),
+      keepsRegistry_(!options.config.empty() && !options.trusted),
+      provider_([this] { return sqlite::OpenOptions{.language = language()}; }),
+      macroProvider_(
+          provider_, [this] { return file_; }, [this] { return &files_; }),
+      folderIniFile_(iniFile_, files_),
       registry_(makeRegistry(options.config)),
       projectRegistry_(*registry_) {
-    host::IniFile& settings = options.trusted ? static_cast<host::IniFile&>(iniFile_) : folderIniFile_;
-    host_ = std::make_unique<headless::Host>(provider_, hostOptions(options, projectRegistry_, settings));
+    host_ = std::make_unique<headless::Host>(macroProvider_, hostOptions(options, projectRegistry_, folderIniFile_));
     if (options.lcid) projectRegistry_.writeNumber(host::registry_keys::helvix, languageValue, *options.lcid);
 }
 
@@ -60,32 +63,36 @@ automation::Language MacroStudio::language() const {
 
 MacroStudio::~MacroStudio() { closeProject(); }
 
+std::string MacroStudio::pathOf(const std::string& path) const {
+    return std::filesystem::absolute(path).lexically_normal().string();
+}
+
 void MacroStudio::newProject(const std::string& path) {
     const std::string file = isProjectFile(path) ? path : path + std::string(extension);
-    requireNameable(std::filesystem::absolute(file).string());
+    requireNameable(file);
     sqlite::createProject(file);
     openProject(file);
 }
 
-void MacroStudio::openProject(const std::string& pathOrName) {
-    const std::string given = isProjectFile(pathOrName) ? pathOrName : fileOfName(pathOrName);
-    const auto file = std::filesystem::absolute(given).lexically_normal();
-    if (!std::filesystem::is_regular_file(file)) {
-        throw Error(automation::errFail, "There is no project file '" + file.string() + "'");
+void MacroStudio::openProject(const std::string& path) {
+    if (!std::filesystem::is_regular_file(path)) {
+        throw Error(automation::errFail, "There is no project file '" + path + "'");
     }
-    requireNameable(file.string());
+    requireNameable(path);
     closeProject();
+    const std::filesystem::path file(path);
     const std::string name = file.stem().string();
     projectRegistry_.open(name, file.parent_path().string());
-    file_ = file.string();
+    file_ = path;
     host_->explorer.setProject(name);
     startAddIn(name);
 }
 
-std::string MacroStudio::fileOfName(const std::string& name) const {
+std::string MacroStudio::fileOf(const std::string& name) const {
+    if (isProjectFile(name)) return pathOf(name);
     const std::string folder = projectRegistry_.folderOf(name);
     if (folder.empty()) throw Error(automation::errFail, "No project '" + name + "' is known");
-    return (std::filesystem::path(folder) / (name + std::string(extension))).string();
+    return pathOf((std::filesystem::path(folder) / (name + std::string(extension))).string());
 }
 
 // By its name the add-in finds a project in the registry, always with a small extension; else by its file. A name that

@@ -12,6 +12,7 @@
 #include "host/project_registry.h"
 #include "host/registry_file.h"
 #include "macros/folder_ini_file.h"
+#include "macros/macro_provider.h"
 #include "macros/studio.h"
 
 namespace hx::cli {
@@ -20,7 +21,8 @@ struct MacroStudioOptions {
     std::string config;                ///< folder of the registry; empty: one in memory
     std::optional<std::int32_t> lcid;  ///< goes into the registry
     std::string decimalPoint = ".";
-    bool trusted = false;  ///< lets the editor's settings be written to any file
+    lua::MacroFiles files;  ///< that the macro may have opened and the editor's settings written to
+    bool trusted = false;   ///< lets the macro set what stays in the registry
 };
 
 /// A studio without a screen that opens projects as the desktop does. What a macro still holds of a project that is
@@ -32,8 +34,10 @@ class MacroStudio : public macros::Studio {
     MacroStudio(const MacroStudio&) = delete;
     MacroStudio& operator=(const MacroStudio&) = delete;
 
+    [[nodiscard]] std::string pathOf(const std::string& path) const override;
+    [[nodiscard]] std::string fileOf(const std::string& pathOrName) const override;
     void newProject(const std::string& path) override;
-    void openProject(const std::string& pathOrName) override;
+    void openProject(const std::string& file) override;
     void closeProject() override;
     [[nodiscard]] std::string file() const override { return file_; }
     [[nodiscard]] std::shared_ptr<host::CHX4Extensibility> addIn() const override { return addIn_; }
@@ -46,16 +50,19 @@ class MacroStudio : public macros::Studio {
     void showExpanded(const std::string&) override {}
 
     [[nodiscard]] host::Registry& registry() override { return projectRegistry_; }
+    [[nodiscard]] bool keepsRegistry() const override { return keepsRegistry_; }
     [[nodiscard]] headless::Script& script() override { return host_->script; }
     [[nodiscard]] headless::Record& record() override { return host_->record; }
     [[nodiscard]] headless::Components& components() override { return host_->components; }
 
   private:
     [[nodiscard]] automation::Language language() const;
-    [[nodiscard]] std::string fileOfName(const std::string& name) const;
     void startAddIn(const std::string& name);
 
+    lua::MacroFiles files_;
+    bool keepsRegistry_;
     sqlite::Provider provider_;
+    macros::MacroProvider macroProvider_;
     host::IniTextFile iniFile_;
     macros::FolderIniFile folderIniFile_;
     std::unique_ptr<host::Registry> registry_;

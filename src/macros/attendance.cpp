@@ -2,9 +2,10 @@
 
 namespace hx::macros {
 
-void Attendance::begin(std::function<bool()> cancels) {
+void Attendance::begin(std::function<bool()> cancels, lua::MacroFiles files) {
     end();
     cancels_ = std::move(cancels);
+    files_ = std::move(files);
     running_ = true;
 }
 

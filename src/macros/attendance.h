@@ -6,6 +6,7 @@
 #include "adapters/headless/components.h"
 #include "adapters/headless/record.h"
 #include "adapters/headless/script.h"
+#include "adapters/lua/macro_files.h"
 
 namespace hx::macros {
 
@@ -14,7 +15,7 @@ namespace hx::macros {
 class Attendance {
   public:
     /// `cancels` says that nobody is to be asked any more: everything is then answered as by a user who cancels.
-    void begin(std::function<bool()> cancels);
+    void begin(std::function<bool()> cancels, lua::MacroFiles files);
     /// Forgets answers, record and the components that the macro has put in.
     void end();
 
@@ -22,6 +23,8 @@ class Attendance {
     /// Whether the macro may be asked: not while the studio handles the user's own events between two of its steps.
     [[nodiscard]] bool answers() const noexcept { return running_ && !aside_; }
     [[nodiscard]] bool cancels() const { return answers() && cancels_ && cancels_(); }
+    /// Those of the macro that runs.
+    [[nodiscard]] const lua::MacroFiles& files() const noexcept { return files_; }
     /// Whether a function of the macro may be running that the add-in waits for.
     [[nodiscard]] bool asking() const noexcept { return depth_ > 0; }
 
@@ -54,6 +57,7 @@ class Attendance {
 
   private:
     std::function<bool()> cancels_;
+    lua::MacroFiles files_;
     bool running_ = false, aside_ = false;
     int depth_ = 0;
 };

@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "host/file_bytes.h"
+
 namespace hx::macros {
 
 namespace {
@@ -68,14 +70,23 @@ std::string AttendedFolders::choose(forms::WindowHandle owner, const std::string
 
 std::string AttendedIniFile::read(std::string_view section, std::string_view key, std::string_view fallback,
                                   const std::string& path) const {
-    if (!attendance_.answers()) return user_.read(section, key, fallback, path);
-    return folderFiles_.read(section, key, fallback, path);
+    if (attendance_.answers()) return FolderIniFile(user_, attendance_.files()).read(section, key, fallback, path);
+    requireUsers(path);
+    return user_.read(section, key, fallback, path);
 }
 
 void AttendedIniFile::writeAll(std::string_view section, std::span<const host::IniText> texts,
                                const std::string& path) {
-    if (!attendance_.answers()) return user_.writeAll(section, texts, path);
-    folderFiles_.writeAll(section, texts, path);
+    if (attendance_.answers()) return FolderIniFile(user_, attendance_.files()).writeAll(section, texts, path);
+    requireUsers(path);
+    user_.writeAll(section, texts, path);
+}
+
+void AttendedIniFile::requireUsers(const std::string& path) const {
+    const std::filesystem::path folder = host::fileSystemPath(path).parent_path();
+    std::error_code differs;
+    if (std::filesystem::equivalent(folder, folder_(), differs) && !lua::isProject(path)) return;
+    throw automation::Error(automation::errFail, "The file '" + path + "' does not lie beside the project");
 }
 
 void AttendedHelp::showContext(forms::WindowHandle owner, const std::string& file, std::int32_t context) {

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <filesystem>
+#include <functional>
+
 #include "host/system_services.h"
 #include "macros/attendance.h"
 #include "macros/folder_ini_file.h"
@@ -27,18 +30,21 @@ class AttendedFolders : public host::PathSelection {
     Attendance& attendance_;
 };
 
-/// While a macro runs, the files of a folder alone, as FolderIniFile has them.
+/// While a macro runs, the files that it may use, as FolderIniFile has them; else those beside the user's project. What
+/// a macro has named to the editor's settings stays with them when it has ended.
 class AttendedIniFile : public host::IniFile {
   public:
     AttendedIniFile(host::IniFile& user, Attendance& attendance, std::function<std::filesystem::path()> folder)
-        : user_(user), folderFiles_(user, std::move(folder)), attendance_(attendance) {}
+        : user_(user), folder_(std::move(folder)), attendance_(attendance) {}
     [[nodiscard]] std::string read(std::string_view section, std::string_view key, std::string_view fallback,
                                    const std::string& path) const override;
     void writeAll(std::string_view section, std::span<const host::IniText> texts, const std::string& path) override;
 
   private:
+    void requireUsers(const std::string& path) const;
+
     host::IniFile& user_;
-    FolderIniFile folderFiles_;
+    std::function<std::filesystem::path()> folder_;
     Attendance& attendance_;
 };
 

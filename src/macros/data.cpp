@@ -2,7 +2,7 @@
 #include <memory>
 #include <string_view>
 
-#include "adapters/sqlite/database.h"
+#include "adapters/sqlite/project_check.h"
 #include "adapters/sqlite/transaction.h"
 #include "automation/text.h"
 #include "macros/arguments.h"
@@ -21,8 +21,6 @@ using lua::List;
 using lua::Value;
 using lua::Values;
 
-constexpr std::size_t largestResult = std::size_t{2} << 30U;  // bytes
-
 // A missing value gives whatever fallback is asked with.
 Value readRegistry(const host::Registry& registry, const std::string& key, const std::string& value) {
     const std::string text = registry.readString(key, value, "0");
@@ -31,7 +29,11 @@ Value readRegistry(const host::Registry& registry, const std::string& key, const
     return number == registry.readNumber(key, value, 1) ? Value(number) : Value();
 }
 
-void writeRegistry(host::Registry& registry, const Arguments& given) {
+void writeRegistry(Studio& studio, const Arguments& given) {
+    if (studio.keepsRegistry()) {
+        throw Error(automation::errFail, "The registry's values stay when the macro has ended: it cannot set them");
+    }
+    host::Registry& registry = studio.registry();
     const Variant data = given[2].toVariant();
     if (data.isNumber()) return registry.writeNumber(given.text(0), given.text(1), automation::toInt32(data));
     registry.writeString(given.text(0), given.text(1), given.text(2));
@@ -43,7 +45,7 @@ void defineRegistry(Engine& engine, Studio& studio) {
         return readRegistry(studio.registry(), arguments.text(0), arguments.text(1));
     });
     engine.define("studio", "SetRegistry", [&studio](Values given) {
-        writeRegistry(studio.registry(), Arguments(given));
+        writeRegistry(studio, Arguments(given));
         return Value();
     });
 }
@@ -86,26 +88,29 @@ std::size_t sizeOf(const Fields& row) {
 
 // A statement can run, and give rows, without end.
 Value query(Engine& engine, const std::string& file, const std::string& sql) {
-    sqlite::Database database(file);
-    database.interruptWhen([&engine] { return engine.stopRequested(); });
+    sqlite::ProjectDatabase database(file);
+    database.interruptWhen([&engine] { return engine.isFull() || engine.stopRequested(); });
     if (!asksOnly(sql)) throw Error(automation::errFail, "Query takes a SELECT statement");
     sqlite::Statement statement(database, sql);
     const auto others = fromFirstWord(std::string_view(sql).substr(statement.sql().size()));
     if (!others.empty()) throw Error(automation::errFail, "Query takes one statement; another follows");
     if (!statement.isReadOnly()) throw Error(automation::errFail, "Query takes a statement that changes nothing");
     List rows;
-    std::size_t size = 0;
-    while (statement.step()) {
-        Fields row = rowOf(statement);
-        size += sizeOf(row);
-        if (size > largestResult) throw Error(automation::errFail, "Query gives more rows than a macro can take");
-        rows.emplace_back(std::move(row));
+    try {
+        while (statement.step()) {
+            Fields row = rowOf(statement);
+            engine.charge(sizeOf(row));
+            rows.emplace_back(std::move(row));
+        }
+    } catch (const Error&) {
+        if (engine.isFull()) throw lua::OutOfMemory();
+        throw;
     }
     return rows;
 }
 
 Value variables(const std::string& file) {
-    const sqlite::Database database(file);
+    sqlite::ProjectDatabase database(file);
     sqlite::Statement rows(database, "SELECT Name FROM ThxVariable ORDER BY Name");
     List names;
     while (rows.step()) names.emplace_back(rows.text(0));
@@ -113,8 +118,8 @@ Value variables(const std::string& file) {
 }
 
 // A variable that stays keeps its type and comment.
-void setVariables(const std::string& file, const List& names) {
-    sqlite::Database database(file);
+void setVariables(Engine& engine, const std::string& file, const List& names) {
+    sqlite::ProjectDatabase database(file);
     sqlite::Transaction transaction(database);
     database.execute("CREATE TEMP TABLE given (Name TEXT UNIQUE COLLATE NOCASE)");
     sqlite::Statement insert(database, "INSERT INTO given VALUES (?1)");
@@ -124,6 +129,7 @@ void setVariables(const std::string& file, const List& names) {
         if (!text.isString() || text.asString().empty()) {
             throw Error(automation::errTypeMismatch, "Type mismatch: the name of a variable must be a text");
         }
+        engine.charge(text.asString().size());
         insert.bind(1, text);
         insert.step();
     }
@@ -135,8 +141,8 @@ void setVariables(const std::string& file, const List& names) {
 
 void defineProjectData(Engine& engine, Studio& studio) {
     engine.define("studio", "Variables", [&studio](Values) { return variables(studio.requireFile()); });
-    engine.define("studio", "SetVariables", [&studio](Values given) {
-        setVariables(studio.requireFile(), Arguments(given)[0].list());
+    engine.define("studio", "SetVariables", [&engine, &studio](Values given) {
+        setVariables(engine, studio.requireFile(), Arguments(given)[0].list());
         return Value();
     });
     engine.define("project", "Query", [&engine, &studio](Values given) {

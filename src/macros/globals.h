@@ -3,15 +3,15 @@
 #include "adapters/lua/engine.h"
 #include "macros/studio.h"
 
-/// The globals of a macro beyond Lua itself. Engine and studio are lent and must outlive the macro; the engine ends
-/// first.
+/// The globals of a macro beyond Lua itself. Engine, studio and the macro's files are lent and must outlive the macro;
+/// the engine ends first.
 namespace hx::macros {
 
 /// All of them.
-void defineGlobals(lua::Engine& engine, Studio& studio);
+void defineGlobals(lua::Engine& engine, Studio& studio, const lua::MacroFiles& files);
 
 /// studio.NewProject ... studio.KeyUp, `addin`, `editor`: projects, explorer and node events.
-void defineProjects(lua::Engine& engine, Studio& studio);
+void defineProjects(lua::Engine& engine, Studio& studio, const lua::MacroFiles& files);
 /// studio.OnMessage ... studio.OnPopup: how the user answers.
 void defineAnswers(lua::Engine& engine, Studio& studio);
 /// studio.Messages ... studio.Components: what happened since the last call.

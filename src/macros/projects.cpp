@@ -55,18 +55,22 @@ void requireName(const std::string& path) {
     throw automation::Error(automation::errFail, "The path '" + path + "' names no file");
 }
 
-void defineProject(Engine& engine, Studio& studio) {
+void defineProject(Engine& engine, Studio& studio, const lua::MacroFiles& files) {
     const auto busy = std::make_shared<bool>(false);
-    engine.define("studio", "NewProject", [&studio, busy](Values given) {
+    engine.define("studio", "NewProject", [&studio, &files, busy](Values given) {
         const Changing changing(*busy);
-        const std::string path = Arguments(given).text(0);
-        requireName(path);
+        const std::string name = Arguments(given).text(0);
+        requireName(name);
+        const std::string path = studio.pathOf(name);
+        (void)files.toRead(path);
         studio.newProject(path);
         return Value();
     });
-    engine.define("studio", "OpenProject", [&studio, busy](Values given) {
+    engine.define("studio", "OpenProject", [&studio, &files, busy](Values given) {
         const Changing changing(*busy);
-        studio.openProject(Arguments(given).text(0));
+        const std::string file = studio.fileOf(Arguments(given).text(0));
+        (void)files.toRead(file);
+        studio.openProject(file);
         return Value();
     });
     engine.define("studio", "CloseProject", [&studio, busy](Values) {
@@ -178,15 +182,15 @@ void defineOtherMembers(Engine& engine, Studio& studio) {
 
 }  // namespace
 
-void defineGlobals(Engine& engine, Studio& studio) {
-    defineProjects(engine, studio);
+void defineGlobals(Engine& engine, Studio& studio, const lua::MacroFiles& files) {
+    defineProjects(engine, studio, files);
     defineAnswers(engine, studio);
     defineRecords(engine, studio);
     defineData(engine, studio);
 }
 
-void defineProjects(Engine& engine, Studio& studio) {
-    defineProject(engine, studio);
+void defineProjects(Engine& engine, Studio& studio, const lua::MacroFiles& files) {
+    defineProject(engine, studio, files);
     defineExplorer(engine, studio);
     defineEvents(engine, studio);
     defineOtherMembers(engine, studio);

@@ -26,10 +26,15 @@ class Studio {
   public:
     virtual ~Studio() = default;
 
+    /// A path as an absolute one.
+    [[nodiscard]] virtual std::string pathOf(const std::string& path) const = 0;
+    /// The file of a project: the one that is named, when it ends in ".hxs", or that of the project which the registry
+    /// knows by this name.
+    [[nodiscard]] virtual std::string fileOf(const std::string& pathOrName) const = 0;
     /// Makes an empty project and opens it; ".hxs" is added when it is missing. The path must not be taken.
     virtual void newProject(const std::string& path) = 0;
-    /// A file that ends in ".hxs", or the name of a project that the registry knows. Closes the one that is open.
-    virtual void openProject(const std::string& pathOrName) = 0;
+    /// Closes the one that is open.
+    virtual void openProject(const std::string& file) = 0;
     virtual void closeProject() = 0;
     /// The open project's file; empty for none.
     [[nodiscard]] virtual std::string file() const = 0;
@@ -49,6 +54,8 @@ class Studio {
     virtual void showExpanded(const std::string& key) = 0;
 
     [[nodiscard]] virtual host::Registry& registry() = 0;
+    /// Whether what a macro sets in it would stay when it has ended, and it is not trusted to do that.
+    [[nodiscard]] virtual bool keepsRegistry() const = 0;
     /// The answers, what happened, and the components that the macro puts in.
     [[nodiscard]] virtual headless::Script& script() = 0;
     [[nodiscard]] virtual headless::Record& record() = 0;

@@ -63,16 +63,17 @@ void MacroRunner::runEngine(WindowStudio& studio, const QByteArray& text, const 
     const InputHold hold(dock_, stopKey_, [this] { stop(); });
     const qt::QtWindows::Quiet quiet(host_.windows());
     macros::Attendance& attendance = host_.attendance();
+    const lua::MacroFiles files(std::filesystem::path(studio.file()).parent_path());
     lua::Engine engine({.print = [this](std::string_view printed) { dock_.print(printed); },
-                        .folder = [&studio] { return std::filesystem::path(studio.file()).parent_path(); },
+                        .files = files,
                         .stopRequested = [this] { return stopRequested(); }});
-    attendance.begin([this, &engine] { return stop_ || engine.failing(); });
+    attendance.begin([this, &engine] { return stop_ || engine.failing(); }, files);
     // The answers are the engine's functions: they end first.
     struct End {
         macros::Attendance& attendance;
         ~End() { attendance.end(); }
     } const end{attendance};
-    macros::defineGlobals(engine, studio);
+    macros::defineGlobals(engine, studio, files);
     std::vector<std::string> given;
     for (const QString& argument : arguments) given.push_back(qt::fromQt(argument));
     engine.run(text.toStdString(), qt::fromQt(name), given);

@@ -30,7 +30,10 @@ StudioHost::StudioHost(const QString& configFolder, const QStringList& moduleFol
       variables_([this] { return openOptions(); }),
       items_(variables_, windows_, wording_),
       folders_(windows_, wording_),
-      attendedIniFile_(iniFile_, attendance_, [this] { return projectFolder_; }),
+      attendedProvider_(
+          provider_, [this] { return projectFile_.string(); },
+          [this] { return attendance_.answers() ? &attendance_.files() : nullptr; }),
+      attendedIniFile_(iniFile_, attendance_, [this] { return projectFile_.parent_path(); }),
       attendedScreen_(screen_, attendance_,
                       [this](forms::Form& form, forms::WindowHandle owner, const std::function<void()>& work) {
                           screen_.showFor(form, owner, work);
@@ -40,7 +43,7 @@ StudioHost::StudioHost(const QString& configFolder, const QStringList& moduleFol
       attendedItems_(items_, attendance_),
       attendedFolders_(folders_, attendance_),
       services_{.screen = attendedScreen_,
-                .database = provider_,
+                .database = attendedProvider_,
                 .registry = projectRegistry_,
                 .iniFile = attendedIniFile_,
                 .clipboard = clipboard_,
@@ -61,7 +64,7 @@ sqlite::OpenOptions StudioHost::openOptions() const {
 }
 
 void StudioHost::setProjectFile(const QString& path) {
-    projectFolder_ = std::filesystem::path(qt::fromQt(path)).parent_path();
+    projectFile_ = qt::fromQt(path);
     variables_.setFile(qt::fromQt(path));
     folders_.setProjectFolder(path.isEmpty() ? QString() : QFileInfo(path).absolutePath());
 }

@@ -19,6 +19,7 @@
 #include "host/services.h"
 #include "macros/attended_screen.h"
 #include "macros/attended_services.h"
+#include "macros/macro_provider.h"
 #include "studio/help_file.h"
 #include "studio/project_variables.h"
 
@@ -71,7 +72,8 @@ class StudioHost {
     qt::QtItemSelection items_;
     qt::QtPathSelection folders_;
     macros::Attendance attendance_;
-    std::filesystem::path projectFolder_;
+    std::filesystem::path projectFile_;
+    macros::MacroProvider attendedProvider_;
     macros::AttendedIniFile attendedIniFile_;
     macros::AttendedScreen attendedScreen_;
     macros::AttendedHelp attendedHelp_;

@@ -17,26 +17,25 @@ const QString extension = QStringLiteral(".hxs");
 }  // namespace
 
 // Relative paths begin where a choice of a file does.
-QString WindowStudio::absolute(const std::string& path) const {
-    return QDir::cleanPath(QDir(window_.projectFolder()).absoluteFilePath(qt::toQt(path)));
+std::string WindowStudio::pathOf(const std::string& path) const {
+    return qt::fromQt(QDir::cleanPath(QDir(window_.projectFolder()).absoluteFilePath(qt::toQt(path))));
 }
 
 void WindowStudio::newProject(const std::string& path) {
     keepOpened();
-    window_.create(absolute(path));
+    window_.create(qt::toQt(path));
 }
 
-void WindowStudio::openProject(const std::string& pathOrName) {
-    const bool isFile = qt::toQt(pathOrName).endsWith(extension, Qt::CaseInsensitive);
-    const QString file = isFile ? absolute(pathOrName) : fileOfName(pathOrName);
+void WindowStudio::openProject(const std::string& file) {
     keepOpened();
-    window_.open(file);
+    window_.open(qt::toQt(file));
 }
 
-QString WindowStudio::fileOfName(const std::string& name) const {
+std::string WindowStudio::fileOf(const std::string& name) const {
+    if (qt::toQt(name).endsWith(extension, Qt::CaseInsensitive)) return pathOf(name);
     const std::string folder = host_.registry().folderOf(name);
     if (folder.empty()) throw automation::Error(automation::errFail, "No project '" + name + "' is known");
-    return QDir(qt::toQt(folder)).absoluteFilePath(qt::toQt(name) + extension);
+    return qt::fromQt(QDir(qt::toQt(folder)).absoluteFilePath(qt::toQt(name) + extension));
 }
 
 void WindowStudio::closeProject() {

@@ -18,8 +18,10 @@ class WindowStudio : public macros::Studio {
     WindowStudio(ProjectWindow& window, StudioHost& host, qt::QtExplorer& explorer)
         : window_(window), host_(host), explorer_(explorer) {}
 
+    [[nodiscard]] std::string pathOf(const std::string& path) const override;
+    [[nodiscard]] std::string fileOf(const std::string& pathOrName) const override;
     void newProject(const std::string& path) override;
-    void openProject(const std::string& pathOrName) override;
+    void openProject(const std::string& file) override;
     void closeProject() override;
     [[nodiscard]] std::string file() const override;
     [[nodiscard]] std::shared_ptr<host::CHX4Extensibility> addIn() const override;
@@ -32,13 +34,12 @@ class WindowStudio : public macros::Studio {
     void showExpanded(const std::string& key) override { explorer_.showExpanded(key); }
 
     [[nodiscard]] host::Registry& registry() override { return host_.registry(); }
+    [[nodiscard]] bool keepsRegistry() const override { return true; }
     [[nodiscard]] headless::Script& script() override { return host_.attendance().script; }
     [[nodiscard]] headless::Record& record() override { return host_.attendance().record; }
     [[nodiscard]] headless::Components& components() override { return host_.attendance().components; }
 
   private:
-    [[nodiscard]] QString absolute(const std::string& path) const;
-    [[nodiscard]] QString fileOfName(const std::string& name) const;
     void keepOpened();
 
     ProjectWindow& window_;

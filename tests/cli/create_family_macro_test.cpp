@@ -73,7 +73,7 @@ TEST_F(CreateFamilyMacro, NamesWhatIsWrongInAListWithItsLineAndMakesNothing) {
 }
 
 TEST_F(CreateFamilyMacro, ReadsNoListOutsideTheProjectsFolder) {
-    EXPECT_THAT(refusal({"../list.csv"}), HasSubstr("is not in the project's folder"));
+    EXPECT_THAT(refusal({"../list.csv"}), HasSubstr("is not in the folder"));
 }
 
 }  // namespace

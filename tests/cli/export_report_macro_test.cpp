@@ -66,7 +66,7 @@ TEST_F(ExportReportMacro, RefusesOtherFilesAndFolders) {
     EXPECT_EQ(refusal({"report.txt"}), "The report \"report.txt\" is neither .md nor .html");
     EXPECT_EQ(refusal({"report"}), "The report \"report\" is neither .md nor .html");
     EXPECT_EQ(refusal({"a.md", "b.md"}), "Give one file name");
-    EXPECT_THAT(refusal({"../a.md"}), HasSubstr("is not in the project's folder"));
+    EXPECT_THAT(refusal({"../a.md"}), HasSubstr("is not in the folder"));
     EXPECT_THAT(refusal({"none/a.md"}), HasSubstr("The report cannot be written: "));
     EXPECT_EQ(filesInFolder(), std::vector<std::string>{"plant.hxs"});
 }

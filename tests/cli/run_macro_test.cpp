@@ -42,7 +42,7 @@ TEST_F(RunMacro, FailsForAProjectThatIsNone) {
 
 TEST_F(RunMacro, MakesTheFolderOfTheRegistry) {
     const std::string config = folder_.file("new/config");
-    EXPECT_EQ(printed("studio.SetRegistry('Key', 'Value', 1)", {"--config", config.c_str()}), "");
+    EXPECT_EQ(printed("studio.SetRegistry('Key', 'Value', 1)", {"--trust", "--config", config.c_str()}), "");
     EXPECT_THAT(contents(config + "/registry.ini"), HasSubstr("Value"));
 }
 
@@ -117,7 +117,8 @@ TEST_F(RunMacro, OpensAProjectByTheNameThatTheRegistryKnows) {
 }
 
 TEST_F(RunMacro, RefusesProjectsThatCannotBeOpenedOrMade) {
-    EXPECT_THAT(macro("studio.OpenProject('/nowhere/x.hxs')").problems, HasSubstr("There is no project file"));
+    EXPECT_THAT(macro("studio.OpenProject('" + folder_.file("x.hxs") + "')").problems,
+                HasSubstr("There is no project file"));
     write("plant.hxs", "mine");
     EXPECT_THAT(macro("studio.NewProject('$P')").problems, HasSubstr("exists already"));
     EXPECT_THAT(macro("studio.NewProject('" + folder_.file("a;b") + "')").problems, HasSubstr("semicolon"));
@@ -244,7 +245,7 @@ TEST_F(RunMacro, ReadsAndWritesTheRegistry) {
         studio.SetRegistry("SOFTWARE\\Tarnwell", "Common", "/common")
         studio.SetRegistry("SOFTWARE\\Tarnwell", "Number", 5)
         print(studio.Registry("SOFTWARE\\Tarnwell", "common"), studio.Registry("software\\tarnwell", "Number")))",
-                      {"--config", config.c_str()}),
+                      {"--trust", "--config", config.c_str()}),
               "nil\n/common\t5\n");
     EXPECT_EQ(printed(R"(print(studio.Registry("SOFTWARE\\Tarnwell", "Number")))", {"--config", config.c_str()}),
               "5\n");

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <gmock/gmock.h>
 
 #include "automation/text.h"
@@ -14,6 +15,7 @@ class MacroTextTest : public CliTest {
     Result macro(std::string text, std::vector<const char*> options = {}) {
         text = automation::replaceAll(text, "$P", file_);
         macro_ = write("m.lua", text);
+        if (!choosesFiles(options)) options.insert(options.begin(), {"--folder", folder_.path().c_str()});
         options.insert(options.begin(), "run");
         options.push_back(macro_.c_str());
         return hxrecipe(options);
@@ -36,6 +38,13 @@ class MacroTextTest : public CliTest {
     }
 
     std::string macro_;
+
+  private:
+    static bool choosesFiles(const std::vector<const char*>& options) {
+        return std::ranges::any_of(options, [](std::string_view option) {
+            return option == "--folder" || option == "--project" || option == "--trust";
+        });
+    }
 };
 
 /// Makes a project with the recipe 1 "Neues Rezept", which is shown, and the variables A, B and C.

@@ -94,7 +94,7 @@ TEST_F(MacroFunctions, StayUsableAfterTheMacroHasEnded) {
 TEST(MacroFunction, ThatOutlivesItsEngineFails) {
     std::optional<Function> kept;
     {
-        Engine engine({.print = [](std::string_view) {}, .folder = {}, .trusted = false});
+        Engine engine({.print = [](std::string_view) {}, .files = {}, .trusted = false});
         engine.define("host", "Keep", [&](Values given) {
             kept = given[0].function();
             return Value();
@@ -107,7 +107,7 @@ TEST(MacroFunction, ThatOutlivesItsEngineFails) {
 // The functions that this one returns would have to be kept.
 TEST(MacroFunction, WithoutMemoryForWhatItReturnsFailsAsAnyOther) {
     std::string caught;
-    Engine engine({.print = [](std::string_view) {}, .folder = {}, .memoryLimit = std::size_t{4} << 20U});
+    Engine engine({.print = [](std::string_view) {}, .files = {}, .memoryLimit = std::size_t{4} << 20U});
     engine.define("host", "Catch", [&](Values given) {
         try {
             (void)given[0].function()({});

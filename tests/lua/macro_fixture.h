@@ -62,9 +62,9 @@ class Tank : public automation::Dispatch {
 
 /// Runs macros with the globals `tank` and `host`.
 struct MacroTest : testing::Test {
-    explicit MacroTest(bool trusted = false)
+    explicit MacroTest(bool trusted = false, const std::filesystem::path& folder = {})
         : engine({.print = [this](std::string_view text) { printed += text; },
-                  .folder = [this] { return folder; },
+                  .files = MacroFiles(folder),
                   .trusted = trusted}) {
         engine.defineGlobal("tank", [this] { return automation::Variant(automation::ObjectRef(tank)); });
     }
@@ -87,7 +87,6 @@ struct MacroTest : testing::Test {
     }
 
     std::string printed, traceback;
-    std::filesystem::path folder;
     std::shared_ptr<Tank> tank = std::make_shared<Tank>("T1");
     Engine engine;
 };

@@ -1,3 +1,5 @@
+#include <array>
+
 #include "macro_fixture.h"
 
 namespace hx::lua {
@@ -110,6 +112,20 @@ TEST_F(MacroObjects, WorkInACoroutine) {
     EXPECT_EQ(run("local co = coroutine.wrap(function() coroutine.yield(tank.Name) return tank.Pressure end) "
                   "print(co()) print(select(2, pcall(co)).number)"),
               "T1\n-2147352570\n");
+}
+
+TEST_F(MacroObjects, ReleasesListsInListsHoweverMany) {
+    EXPECT_EQ(run("for i = 1, 300000 do tank.Content = {tank.Content, i} end print(tank.Content.Item(1))"), "300000\n");
+    const std::weak_ptr<automation::Dispatch> inner =
+        tank->content().asObject()->get("Item", std::array{Variant(0)}).asObject();
+    run("tank.Content = nil collectgarbage()");
+    EXPECT_TRUE(inner.expired());
+}
+
+TEST_F(MacroObjects, KeepsAListThatIsHeldWhenTheListAroundItGoes) {
+    EXPECT_EQ(run("tank.Content = {1, 2} tank.Content = {tank.Content, 3} local inner = tank.Content.Item(0)\n"
+                  "tank.Content = nil collectgarbage() print(inner.Count, inner.Item(1))"),
+              "2\t2\n");
 }
 
 }  // namespace

@@ -8,16 +8,21 @@ namespace {
 
 using testing::HasSubstr;
 
-struct Sandbox : MacroTest {
-    Sandbox() {
+struct ProjectFolder {
+    ProjectFolder() {
         std::filesystem::create_directories(files.file("project"));
-        folder = files.file("project");
         std::ofstream(files.file("secret.txt")) << "secret";
         std::ofstream(files.file("project/list.txt")) << "Cola\nTee\n";
         std::ofstream(files.file("project/Plant.hxs")) << "data";
     }
     support::TemporaryFolder files;
 };
+
+struct Sandbox : ProjectFolder, MacroTest {
+    Sandbox() : MacroTest(false, files.file("project")) {}
+};
+
+struct WithoutFolder : MacroTest {};
 
 struct Trusted : MacroTest {
     Trusted() : MacroTest(true) {}
@@ -50,13 +55,28 @@ TEST_F(Sandbox, ReadsAndWritesFilesOfTheProjectsFolder) {
 
 TEST_F(Sandbox, RefusesFilesElsewhere) {
     std::filesystem::create_symlink(files.file("secret.txt"), files.file("project/link.txt"));
+    const std::string outside = "is not in the folder '" + files.file("project") + "', whose files the macro may use";
     for (const std::string name : {"../secret.txt", "link.txt", "/etc/hostname", "../project", "."}) {
-        EXPECT_THAT(failure("io.open('" + name + "')"), HasSubstr("is not in the project's folder")) << name;
-        EXPECT_THAT(failure("io.lines('" + name + "')"), HasSubstr("is not in the project's folder")) << name;
+        EXPECT_THAT(failure("io.open('" + name + "')"), HasSubstr(outside)) << name;
+        EXPECT_THAT(failure("io.lines('" + name + "')"), HasSubstr(outside)) << name;
     }
     EXPECT_THAT(failure("io.lines()"), HasSubstr("text expected"));
-    folder.clear();
-    EXPECT_THAT(failure("io.open('list.txt')"), HasSubstr("No project is open"));
+}
+
+TEST_F(Sandbox, MakesNoFileElsewhereByALinkToNothing) {
+    std::filesystem::create_symlink(files.file("made.txt"), files.file("project/link.txt"));
+    EXPECT_THAT(failure("io.open('link.txt', 'w')"), HasSubstr("is not in the folder"));
+    EXPECT_FALSE(std::filesystem::exists(files.file("made.txt")));
+}
+
+TEST_F(Sandbox, RefusesWhatIsNoFile) {
+    std::filesystem::create_directory(files.file("project/folder"));
+    EXPECT_THAT(failure("io.open('folder')"), HasSubstr("The file 'folder' is no file"));
+    EXPECT_THAT(failure("io.open('Plant.hxs-journal\\0.txt', 'w')"), HasSubstr("zero byte"));
+}
+
+TEST_F(WithoutFolder, UsesNoFileAtAll) {
+    EXPECT_THAT(failure("io.open('list.txt')"), HasSubstr("The macro has no files"));
 }
 
 TEST_F(Sandbox, DoesNotWriteOverAProject) {
@@ -66,6 +86,21 @@ TEST_F(Sandbox, DoesNotWriteOverAProject) {
     EXPECT_FALSE(std::filesystem::exists(files.file("project/Plant.hxs-journal")));
     EXPECT_EQ(std::filesystem::file_size(files.file("project/Plant.hxs")), 4U);
     EXPECT_EQ(run("print(io.open('Plant.hxs', 'rb'):read('a'))"), "data\n");
+}
+
+TEST_F(Sandbox, DoesNotWriteOverAProjectByAnotherName) {
+    const std::string database("SQLite format 3\0 and what follows", 33),
+        journal("\xD9\xD5\x05\xF9\x20\xA1\x63\xD7 a journal");
+    std::ofstream(files.file("plant.hxs"), std::ios::binary) << database;
+    std::filesystem::create_hard_link(files.file("plant.hxs"), files.file("project/notes.txt"));
+    std::ofstream(files.file("project/more.txt"), std::ios::binary) << journal;
+    for (const std::string name : {"notes.txt", "more.txt"}) {
+        for (const std::string mode : {"w", "a", "r+"}) {
+            EXPECT_THAT(failure("io.open('" + name + "', '" + mode + "')"), HasSubstr("is a project")) << name << mode;
+        }
+    }
+    EXPECT_EQ(std::filesystem::file_size(files.file("plant.hxs")), database.size());
+    EXPECT_EQ(run("print(#io.open('notes.txt', 'rb'):read('a'))"), "33\n");
 }
 
 TEST_F(Sandbox, HidesTheMetatableOfFiles) {

@@ -31,7 +31,7 @@ struct Stop : testing::Test {
     int asked = 0, ran = 0;
     std::size_t printed = 0;
     Engine engine{{.print = [this](std::string_view text) { printed += text.size(); },
-                   .folder = {},
+                   .files = {},
                    .stopRequested = [this] { return requested(); },
                    .memoryLimit = std::size_t{64} << 20U}};
 };

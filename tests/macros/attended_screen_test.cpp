@@ -42,7 +42,7 @@ class Attended : public testing::Test {
 };
 
 TEST_F(Attended, LetsTheUserAnswerWhereTheMacroDoesNot) {
-    attendance_.begin([] { return false; });
+    attendance_.begin([] { return false; }, {});
     host_.script.onModal["FMultiSelectItems"] = [](forms::Form& form) {
         form.get("cmdCancel").asObject()->get("Click");
     };
@@ -53,7 +53,7 @@ TEST_F(Attended, LetsTheUserAnswerWhereTheMacroDoesNot) {
 }
 
 TEST_F(Attended, LetsTheMacroAnswerInPlaceOfTheUser) {
-    attendance_.begin([] { return false; });
+    attendance_.begin([] { return false; }, {});
     host_.script.onModal["FMultiSelectItems"] = [](forms::Form&) { ADD_FAILURE() << "the user is asked"; };
     attendance_.script.onModal["FMultiSelectItems"] = [](forms::Form& form) {
         form.get("cmdOk").asObject()->get("Click");
@@ -62,14 +62,14 @@ TEST_F(Attended, LetsTheMacroAnswerInPlaceOfTheUser) {
 }
 
 TEST_F(Attended, CancelsADialogThatIsDismissed) {
-    attendance_.begin([] { return false; });
+    attendance_.begin([] { return false; }, {});
     EXPECT_FALSE(screen_.dismissDialog());
     host_.script.onModal["FMultiSelectItems"] = [this](forms::Form&) { EXPECT_TRUE(screen_.dismissDialog()); };
     EXPECT_TRUE(isCancelled());
 }
 
 TEST_F(Attended, CancelsADialogOnceTheMacroHasFailed) {
-    attendance_.begin([] { return true; });
+    attendance_.begin([] { return true; }, {});
     host_.script.onModal["FMultiSelectItems"] = [](forms::Form&) { ADD_FAILURE() << "the user is asked"; };
     EXPECT_TRUE(isCancelled());
     attendance_.end();

@@ -1,6 +1,7 @@
 #include "macros/attended_services.h"
 
 #include <fstream>
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "host/ini_text_file.h"
@@ -28,34 +29,39 @@ class AttendedSettings : public testing::Test {
     AttendedIniFile files_{user_, attendance_, [this] { return std::filesystem::path(project_); }};
 };
 
-TEST_F(AttendedSettings, AreAnywhereForTheUser) {
-    EXPECT_EQ(written(folder_.file("outside.ini")), "value");
-    attendance_.begin({});
-    attendance_.end();
-    EXPECT_EQ(written(folder_.file("other.ini")), "value");
+TEST_F(AttendedSettings, AreBesideTheProjectForTheUserWhateverAMacroHasNamed) {
+    EXPECT_EQ(written(project_ + "/own.ini"), "value");
+    std::filesystem::create_symlink(folder_.file("shared.ini"), project_ + "/link.ini");
+    EXPECT_EQ(written(project_ + "/link.ini"), "value");
+    for (const std::string& path : {folder_.file("outside.ini"), std::string("relative.ini"), project_ + "/a/b.ini"}) {
+        EXPECT_EQ(written(path), "The file '" + path + "' does not lie beside the project");
+        EXPECT_FALSE(std::filesystem::exists(path));
+    }
+    const std::string plant = project_ + "/plant.hxs";
+    EXPECT_EQ(written(plant), "The file '" + plant + "' does not lie beside the project");
 }
 
-TEST_F(AttendedSettings, AreInTheProjectsFolderForAMacro) {
-    attendance_.begin({});
+TEST_F(AttendedSettings, AreAmongTheFilesOfAMacro) {
+    attendance_.begin({}, lua::MacroFiles(project_));
     EXPECT_EQ(written(project_ + "/own.ini"), "value");
     EXPECT_EQ(written("relative.ini"), "value");
     EXPECT_TRUE(std::filesystem::exists(project_ + "/relative.ini"));
     const std::string outside = folder_.file("outside.ini");
-    EXPECT_EQ(written(outside), "The file '" + outside + "' is not in the project's folder");
-    EXPECT_EQ(written(project_ + "/../outside.ini"),
-              "The file '" + project_ + "/../outside.ini' is not in the project's folder");
-    EXPECT_EQ(written("plant.hxs"), "The file 'plant.hxs' is a project and holds no settings");
-    EXPECT_EQ(written("plant.hxs-journal"), "The file 'plant.hxs-journal' is a project and holds no settings");
+    const std::string where = "' is not in the folder '" + project_ + "', whose files the macro may use";
+    EXPECT_EQ(written(outside), "The file '" + outside + where);
+    EXPECT_EQ(written(project_ + "/../outside.ini"), "The file '" + project_ + "/../outside.ini" + where);
+    EXPECT_EQ(written("plant.hxs"), "The file 'plant.hxs' is a project and cannot be written by a macro");
+    EXPECT_EQ(written("plant.hxs-journal"),
+              "The file 'plant.hxs-journal' is a project and cannot be written by a macro");
     EXPECT_FALSE(std::filesystem::exists(project_ + "/plant.hxs-journal"));
     EXPECT_FALSE(std::filesystem::exists(outside));
     const Attendance::Aside aside(attendance_);
-    EXPECT_EQ(written(outside), "value") << "what the user does between two steps of the macro";
+    EXPECT_THAT(written(project_ + "/users.ini"), "value") << "what the user does between two steps of the macro";
 }
 
 TEST_F(AttendedSettings, AreNowhereForAMacroWithoutAProject) {
-    project_.clear();
-    attendance_.begin({});
-    EXPECT_EQ(written("own.ini"), "No project is open whose folder could hold settings");
+    attendance_.begin({}, {});
+    EXPECT_THAT(written("own.ini"), testing::HasSubstr("The macro has no files"));
 }
 
 }  // namespace

@@ -129,6 +129,10 @@ void Engine::fail(const automation::Error& error) {
 
 bool Engine::stopRequested() noexcept { return isStopping(machine_->current); }
 
+void Engine::charge(std::size_t bytes) { machine_->memory.charge(bytes); }
+
+bool Engine::isFull() { return machine_->memory.isFull(machine_->current); }
+
 bool Engine::failing() const noexcept { return machine_->failing || machine_->stopping; }
 
 }  // namespace hx::lua

@@ -1,13 +1,14 @@
 #pragma once
 
 #include <exception>
-#include <filesystem>
 #include <functional>
 #include <memory>
+#include <new>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "adapters/lua/macro_files.h"
 #include "adapters/lua/value.h"
 #include "automation/error.h"
 
@@ -30,17 +31,23 @@ class MacroError : public std::exception {
     bool stopped_;
 };
 
+/// A macro has taken all the memory that it may take.
+class OutOfMemory : public std::bad_alloc {
+  public:
+    [[nodiscard]] const char* what() const noexcept override { return "not enough memory"; }
+};
+
 struct EngineOptions {
     /// Takes what the macro prints.
     std::function<void(std::string_view)> print;
-    /// The folder whose files the macro may use; an empty path for none.
-    std::function<std::filesystem::path()> folder;
+    /// The files that the macro may use when it is not trusted.
+    MacroFiles files{};
     /// Gives the macro all of Lua's libraries, other files and processes too.
     bool trusted = false;
     /// Asked every some thousand steps of a macro and at each call of an object or function of C++, so it must be
     /// quick; it may do other work now and then. True ends the macro, which cannot prevent that.
     std::function<bool()> stopRequested{};
-    /// How much memory a macro may take, in bytes; 0: no limit.
+    /// How much memory a macro may take, in bytes; 0: no limit. What the program holds for it counts too.
     std::size_t memoryLimit = std::size_t{1} << 30U;
 };
 
@@ -68,6 +75,12 @@ class Engine {
     /// Asks EngineOptions::stopRequested: for a function of C++ that takes long. When it says yes, the macro is stopped
     /// once that function returns.
     [[nodiscard]] bool stopRequested() noexcept;
+    /// For a function of C++ that takes so many bytes for the macro, until it returns: throws OutOfMemory beyond the
+    /// limit.
+    void charge(std::size_t bytes);
+    /// For a function of C++ that takes long: whether the program has come to hold more for the macro than the limit
+    /// lets it.
+    [[nodiscard]] bool isFull();
     /// Whether the macro is being stopped, or a function of it has failed inside a call that has not returned yet: the
     /// macro is then not to be asked any more.
     [[nodiscard]] bool failing() const noexcept;

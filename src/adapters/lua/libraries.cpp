@@ -1,12 +1,10 @@
 #include "adapters/lua/libraries.h"
 
 #include <array>
-#include <filesystem>
 #include <string>
 
 #include "adapters/lua/call_original.h"
 #include "adapters/lua/machine.h"
-#include "adapters/lua/macro_folder.h"
 #include "adapters/lua/protect.h"
 #include "adapters/lua/stack.h"
 #include "adapters/lua/stop.h"
@@ -53,32 +51,21 @@ int write(lua_State* state) {
     return 0;
 }
 
-std::string allowedFile(const Machine& machine, const std::string& name) {
-    const std::filesystem::path folder = machine.options.folder ? machine.options.folder() : std::filesystem::path();
-    if (folder.empty()) throw Error(automation::errFail, "No project is open whose folder a macro could use");
-    return fileBelow(folder, name);
-}
-
 void replaceText(lua_State* state, int index, const std::string& text) {
     give(state, text);
     lua_replace(state, index);
 }
 
-void refuseProject(const std::string& file) {
-    if (!isProject(file)) return;
-    throw Error(automation::errFail, "The file '" + file + "' is a project and cannot be written by a macro");
-}
-
 int openFile(lua_State* state) {
-    const std::string file = allowedFile(Machine::of(state), textAt(state, 1));
+    const MacroFiles& files = Machine::of(state).options.files;
+    const std::string name = textAt(state, 1);
     const bool reads = lua_type(state, 2) != LUA_TSTRING || textAt(state, 2) == "r" || textAt(state, 2) == "rb";
-    if (!reads) refuseProject(file);
-    replaceText(state, 1, file);
+    replaceText(state, 1, reads ? files.toRead(name) : files.toWrite(name));
     return callOriginal(state);
 }
 
 int readLines(lua_State* state) {
-    replaceText(state, 1, allowedFile(Machine::of(state), textAt(state, 1)));
+    replaceText(state, 1, Machine::of(state).options.files.toRead(textAt(state, 1)));
     return callOriginal(state);
 }
 

@@ -5,8 +5,8 @@
 namespace hx::lua {
 
 /// Opens Lua's libraries as far as the machine's options allow: without trust no processes, no code of other files, no
-/// precompiled code, and files only in the given folder. print and io.write go to the options' print. To be called in
-/// protect().
+/// precompiled code, and of the files those that the options name. print and io.write go to the options' print. To be
+/// called in protect().
 void openLibraries(lua_State* state, bool trusted);
 
 }  // namespace hx::lua

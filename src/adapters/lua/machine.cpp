@@ -81,7 +81,7 @@ Machine::Machine(EngineOptions given) : options(std::move(given)), main(luaL_new
     if (main == nullptr) throw std::bad_alloc();
     *static_cast<Machine**>(lua_getextraspace(main)) = this;
     memory.limit = options.memoryLimit;
-    limitMemory(main, memory);
+    memory.limitState(main);
     try {
         protect(main, 0, 0, [](lua_State* state) { return setUp(state); });
     } catch (...) {  // for want of memory: nothing else can fail in it

@@ -64,8 +64,10 @@ int detail::attempt(lua_State* state, int (*body)(lua_State*)) noexcept {
     Machine& machine = Machine::of(state);
     if (isStopping(state)) return failStopping(state);
     const Running running(machine, state);
+    const Memory::Charges charges(machine.memory);
     int results = -1;
     try {
+        machine.memory.requireRoom(state);
         results = body(state);
     } catch (const Raised&) {
         // Its value lies on the stack already.

@@ -36,6 +36,7 @@ Variant readNumber(lua_State* state, int index) {
 List readList(lua_State* state, int table, int depth) {
     List items;
     const auto count = static_cast<lua_Integer>(lua_rawlen(state, table));
+    Machine::of(state).memory.charge(static_cast<std::size_t>(count) * sizeof(Value));
     for (lua_Integer i = 1; i <= count; ++i) {
         lua_rawgeti(state, table, i);
         items.push_back(read(state, lua_gettop(state), depth + 1));
@@ -50,6 +51,7 @@ Fields readFields(lua_State* state, int table, int depth) {
     while (lua_next(state, table) != 0) {
         const int top = lua_gettop(state);
         std::string name = textAt(state, top - 1);
+        Machine::of(state).memory.charge(sizeof(Fields::value_type));
         fields.emplace_back(std::move(name), read(state, top, depth + 1));
         lua_pop(state, 1);
     }
@@ -143,6 +145,7 @@ std::string textAt(lua_State* state, int index) {
     }
     std::size_t size = 0;
     const char* const text = lua_tolstring(state, index, &size);
+    Machine::of(state).memory.charge(size);
     return {text, size};
 }
 

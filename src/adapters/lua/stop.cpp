@@ -72,6 +72,7 @@ void watch(lua_State* state) {
     machine.waiting.clear();
     // What the run before has left must not count against the memory of this one.
     lua_gc(state, LUA_GCCOLLECT);
+    machine.memory.begin();
     if (machine.options.stopRequested) lua_sethook(state, hook, LUA_MASKCOUNT, usualSteps);
 }
 

@@ -1,5 +1,8 @@
 #include "adapters/lua/value.h"
 
+#include <algorithm>
+#include <iterator>
+
 #include "automation/member_rows.h"
 
 namespace hx::lua {
@@ -15,6 +18,20 @@ class ListObject : public automation::Dispatch {
     explicit ListObject(const List& items) {
         for (const Value& item : items) items_.push_back(item.toVariant());
     }
+    // List by list: a list in a list in a list does not go within the one around it, however many there are.
+    ~ListObject() override {
+        std::vector<Variant> doomed = std::move(items_);
+        while (!doomed.empty()) {
+            const Variant item = std::move(doomed.back());
+            doomed.pop_back();
+            auto* const list = item.isObject() ? dynamic_cast<ListObject*>(item.asObject().get()) : nullptr;
+            if (list == nullptr || item.asObject().use_count() > 1) continue;
+            std::ranges::move(std::exchange(list->items_, {}), std::back_inserter(doomed));
+        }
+    }
+    ListObject(const ListObject&) = delete;
+    ListObject& operator=(const ListObject&) = delete;
+
     [[nodiscard]] std::int32_t count() const noexcept { return static_cast<std::int32_t>(items_.size()); }
     [[nodiscard]] Variant item(std::int32_t number) const {
         if (number < 0 || number >= count()) automation::throwBadIndex(className(), Variant(number));

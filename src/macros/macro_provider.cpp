@@ -1,0 +1,17 @@
+#include "macros/macro_provider.h"
+
+#include <filesystem>
+
+#include "ado/connection_string.h"
+
+namespace hx::macros {
+
+std::unique_ptr<ado::Session> MacroProvider::connect(std::string_view connectionString) {
+    const std::string file = ado::connectionStringValue(connectionString, "Data Source");
+    const lua::MacroFiles* const files = files_();
+    std::error_code differs;
+    if (files != nullptr && !std::filesystem::equivalent(file, openProject_(), differs)) (void)files->toRead(file);
+    return provider_.connect(connectionString);
+}
+
+}  // namespace hx::macros
