@@ -38,10 +38,39 @@ char32_t characterOf(const QString& name) {
     return 0;
 }
 
-QString without(QString html, const QString& element) {
-    const QRegularExpression pattern(QStringLiteral("<%1\\b.*?</%1\\s*>").arg(element),
-                                     ignoringCase | QRegularExpression::DotMatchesEverythingOption);
-    return html.replace(pattern, QStringLiteral(" "));
+// Whether the tag of an element begins there.
+bool isTagOf(QStringView html, qsizetype at, QLatin1StringView name) {
+    const QStringView rest = html.sliced(at + 1);
+    if (!rest.startsWith(name, Qt::CaseInsensitive)) return false;
+    return rest.size() == name.size() || !rest[name.size()].isLetterOrNumber();
+}
+
+// Behind the end of what begins there, or -1 without an end. A text of beginnings alone is searched once.
+qsizetype behind(QStringView html, const QString& end, qsizetype at) {
+    const qsizetype found = html.indexOf(end, at, Qt::CaseInsensitive);
+    return found < 0 ? -1 : found + end.size();
+}
+
+// Between letters these tags part no word.
+bool isInline(QStringView tag) {
+    static const QStringList names{QStringLiteral("a"),    QStringLiteral("b"),      QStringLiteral("i"),
+                                   QStringLiteral("em"),   QStringLiteral("strong"), QStringLiteral("kbd"),
+                                   QStringLiteral("code"), QStringLiteral("span")};
+    qsizetype begin = tag.startsWith('/') ? 1 : 0, end = begin;
+    while (end < tag.size() && tag[end].isLetterOrNumber()) ++end;
+    return names.contains(tag.sliced(begin, end - begin), Qt::CaseInsensitive);
+}
+
+// Behind a tag, a comment, or an element whose content nobody reads; -1 when it has no end.
+qsizetype behindMarkup(QStringView html, qsizetype at) {
+    if (html.sliced(at).startsWith(QStringLiteral("<!--"))) return behind(html, QStringLiteral("-->"), at);
+    for (const char* element : {"head", "script", "style"}) {
+        const QLatin1StringView name(element);
+        if (!isTagOf(html, at, name)) continue;
+        const qsizetype end = behind(html, QStringLiteral("</") + name, at);
+        return end < 0 ? -1 : behind(html, QStringLiteral(">"), end);
+    }
+    return behind(html, QStringLiteral(">"), at);
 }
 
 }  // namespace
@@ -62,22 +91,24 @@ QString decodeEntities(const QString& text) {
 }
 
 QString plainText(const QString& html) {
-    QString text = html;
-    for (const char* element : {"head", "script", "style"}) text = without(text, QLatin1StringView(element));
-    static const QRegularExpression comment(QStringLiteral("<!--.*?-->"),
-                                            QRegularExpression::DotMatchesEverythingOption);
-    // Between letters these tags part no word.
-    static const QRegularExpression inlineTag(QStringLiteral("</?(?:a|b|i|em|strong|kbd|code|span)\\b[^>]*>"),
-                                              ignoringCase);
-    static const QRegularExpression tag(QStringLiteral("<[^>]*>"));
-    text.remove(comment).remove(inlineTag).replace(tag, QStringLiteral(" "));
+    QString text;
+    for (qsizetype at = 0; at < html.size();) {
+        const qsizetype tag = html.indexOf('<', at);
+        text += QStringView(html).sliced(at, (tag < 0 ? html.size() : tag) - at);
+        if (tag < 0) break;
+        at = behindMarkup(html, tag);
+        if (at < 0) return decodeEntities(text + html.sliced(tag)).simplified();
+        const QStringView markup = QStringView(html).sliced(tag + 1, at - tag - 1);
+        if (!markup.startsWith(QStringLiteral("!--")) && !isInline(markup)) text += ' ';
+    }
     return decodeEntities(text).simplified();
 }
 
 QString titleOfHtml(const QString& html) {
-    static const QRegularExpression pattern(QStringLiteral("<title\\b[^>]*>(.*?)</title"),
-                                            ignoringCase | QRegularExpression::DotMatchesEverythingOption);
-    return decodeEntities(pattern.match(html).captured(1)).simplified();
+    const qsizetype tag = html.indexOf(QStringLiteral("<title"), 0, Qt::CaseInsensitive);
+    const qsizetype begin = tag < 0 ? -1 : behind(html, QStringLiteral(">"), tag);
+    const qsizetype end = begin < 0 ? -1 : html.indexOf(QStringLiteral("</title"), begin, Qt::CaseInsensitive);
+    return end < 0 ? QString() : decodeEntities(html.mid(begin, end - begin)).simplified();
 }
 
 QStringList linksOfHtml(const QString& html) {

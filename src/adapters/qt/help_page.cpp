@@ -2,6 +2,8 @@
 
 #include <QPalette>
 
+#include "adapters/qt/help_limits.h"
+
 namespace hx::qt {
 
 namespace {
@@ -41,6 +43,7 @@ HelpPage::HelpPage(QWidget* parent) : QTextBrowser(parent) {
 }
 
 void HelpPage::setBook(const HelpBook* book) {
+    showsTextAlone_ = false;
     book_ = nullptr;
     current_.clear();
     setSource(QUrl());
@@ -75,8 +78,19 @@ QVariant HelpPage::loadResource(int type, const QUrl& name) {
     // The page comes before what it names. source() is still the page before while this one is read.
     if (inside && type == QTextDocument::HtmlResource) current_ = url;
     const QByteArray bytes = inside ? book_->read(url.path()).value_or(QByteArray("")) : QByteArray("");
-    if (type == QTextDocument::ImageResource) return bytes;
-    return decodeHelpText(bytes);
+    if (type == QTextDocument::ImageResource) return canBeShown(bytes) ? bytes : QByteArray("");
+    const QString text = decodeHelpText(bytes);
+    if (type == QTextDocument::StyleSheetResource) return withinRules(text);
+    if (type != QTextDocument::HtmlResource) return text;
+    rules_ = ruleCount(text);
+    showsTextAlone_ = !canBeLaidOut(text);
+    return showsTextAlone_ ? textAlone(text) : text;
+}
+
+// Each rule is held against each element.
+QString HelpPage::withinRules(const QString& sheet) {
+    rules_ += ruleCount(sheet);
+    return rules_ <= mostRules ? sheet : QString();
 }
 
 }  // namespace hx::qt

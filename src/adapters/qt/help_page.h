@@ -19,6 +19,9 @@ class HelpPage : public QTextBrowser {
     /// The path of the topic that is shown; empty for none.
     [[nodiscard]] QString shownTopic() const;
 
+    /// Whether that is a topic of which only the text is shown: setting it would take too long.
+    [[nodiscard]] bool showsTextAlone() const noexcept { return showsTextAlone_; }
+
     /// Called with a link that leads out of the book, and with the path of one to a topic that is not there.
     std::function<void(const QString&target)> outsideLink, brokenLink;
 
@@ -26,8 +29,12 @@ class HelpPage : public QTextBrowser {
 
   private:
     void follow(const QUrl& link);
+    [[nodiscard]] QString withinRules(const QString& sheet);
+
     const HelpBook* book_ = nullptr;
     QUrl current_;
+    qsizetype rules_ = 0;  ///< of the style sheets of the topic
+    bool showsTextAlone_ = false;
 };
 
 }  // namespace hx::qt

@@ -9,6 +9,7 @@ namespace hx::qt {
 namespace {
 
 constexpr int titleWeight = 50, wordWeight = 3, partWeight = 1, mostCounted = 20;
+constexpr qsizetype mostRead = 64 << 20;  // of a file with more, the titles alone are searched
 constexpr qsizetype excerptBefore = 40, excerptLength = 140;
 
 // Small letters without accents; as long as the text, so that a place in one is a place in the other.
@@ -45,8 +46,11 @@ QString excerptAround(const QString& text, qsizetype place) {
 }  // namespace
 
 HelpSearch::HelpSearch(const HelpBook& book) {
+    qsizetype read = 0;
     for (const QString& path : book.topics()) {
-        const QString title = book.titleOf(path), text = plainText(book.topic(path));
+        const QString title = book.titleOf(path), html = read < mostRead ? book.topic(path) : QString();
+        read += html.size();
+        const QString text = plainText(html);
         pages_.push_back({path, title, text, folded(title), folded(text)});
     }
 }

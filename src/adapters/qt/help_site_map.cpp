@@ -1,6 +1,7 @@
 #include "adapters/qt/help_site_map.h"
 
 #include <QRegularExpression>
+#include <algorithm>
 
 #include "adapters/qt/help_html.h"
 
@@ -9,11 +10,15 @@ namespace hx::qt {
 namespace {
 
 constexpr std::size_t deepest = 32;
-constexpr int mostEntries = 20000;
+constexpr int mostEntries = 20000, mostTags = 8 * mostEntries;
 
-QString attribute(const QString& tag, const QString& name) {
-    const QRegularExpression pattern(QStringLiteral("\\b%1\\s*=\\s*(?:\"([^\"]*)\"|'([^']*)'|([^\\s>]+))").arg(name),
-                                     QRegularExpression::CaseInsensitiveOption);
+QRegularExpression patternOf(const char* name) {
+    return QRegularExpression(
+        QStringLiteral("\\b%1\\s*=\\s*(?:\"([^\"]*)\"|'([^']*)'|([^\\s>]+))").arg(QLatin1StringView(name)),
+        QRegularExpression::CaseInsensitiveOption);
+}
+
+QString attribute(const QString& tag, const QRegularExpression& pattern) {
     const auto match = pattern.match(tag);
     for (const int group : {1, 2, 3}) {
         if (match.capturedLength(group) > 0) return decodeEntities(match.captured(group)).simplified();
@@ -25,7 +30,8 @@ QString attribute(const QString& tag, const QString& name) {
 class SiteMapReader {
   public:
     void take(const QString& tag) {
-        const QString name = tag.section(QRegularExpression(QStringLiteral("[\\s>]")), 0, 0).toLower();
+        const auto end = std::ranges::find_if(tag, [](QChar c) { return c.isSpace() || c == '>'; });
+        const QString name = tag.left(end - tag.begin()).toLower();
         if (name == QStringLiteral("ul")) openLevel();
         else if (name == QStringLiteral("/ul")) closeLevel();
         else if (name == QStringLiteral("object")) entry_ = {};
@@ -47,12 +53,12 @@ class SiteMapReader {
         --depth_;
     }
     void takeParameter(const QString& tag) {
-        const QString name = attribute(tag, QStringLiteral("name")).toLower();
+        const QString name = attribute(tag, name_).toLower();
         QString* field = name == QStringLiteral("name")    ? &entry_.title
                          : name == QStringLiteral("local") ? &entry_.path
                                                            : nullptr;
         // An entry of an index may have several topics: the first is taken.
-        if (field != nullptr && field->isEmpty()) *field = attribute(tag, QStringLiteral("value"));
+        if (field != nullptr && field->isEmpty()) *field = attribute(tag, value_);
     }
     void closeEntry() {
         if (!entry_.title.isEmpty() && count_++ < mostEntries) levels_.back()->push_back(std::move(entry_));
@@ -64,13 +70,15 @@ class SiteMapReader {
     std::size_t depth_ = 0;
     int count_ = 0;
     HelpEntry entry_;
+    const QRegularExpression name_ = patternOf("name"), value_ = patternOf("value");
 };
 
 }  // namespace
 
 std::vector<HelpEntry> readSiteMap(const QString& html) {
     SiteMapReader reader;
-    for (qsizetype at = html.indexOf('<'); at >= 0; at = html.indexOf('<', at)) {
+    int tags = 0;
+    for (qsizetype at = html.indexOf('<'); at >= 0 && tags++ < mostTags; at = html.indexOf('<', at)) {
         const qsizetype end = html.indexOf('>', at);
         if (end < 0) break;
         reader.take(html.mid(at + 1, end - at - 1));

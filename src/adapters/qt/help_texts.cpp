@@ -30,6 +30,8 @@ constexpr auto entries = std::to_array<LanguageText<HelpText>>({
     {HelpText::broken, "Das Thema %1 gibt es in dieser Hilfe nicht.", "There is no topic %1 in this help."},
     {HelpText::noContext, "Zu dieser Stelle (%1) gibt es kein eigenes Thema.",
      "There is no topic of its own for this place (%1)."},
+    {HelpText::textAlone, "Dieses Thema ist zu verschachtelt oder zu lang: gezeigt wird nur sein Text.",
+     "This topic is nested too deeply or too long: only its text is shown."},
     {HelpText::damaged,
      "Die Hilfedatei \"%1\" ist beschädigt oder nicht lesbar.\n\n"
      "Wenn Sie die Datei löschen, legt das Studio sie beim nächsten Öffnen eines Projekts neu an.",

@@ -29,6 +29,7 @@ enum class HelpText {
     outside,
     broken,
     noContext,
+    textAlone,
     damaged
 };
 

@@ -179,6 +179,7 @@ void HelpWindow::topicShown() {
     contents_.select(page_.shownTopic());
     findBar_.pageChanged();
     statusBar()->clearMessage();
+    if (page_.showsTextAlone()) note(helpText(HelpText::textAlone, wording_));
 }
 
 void HelpWindow::showTitle() {
