@@ -90,7 +90,6 @@ void MacroDock::buildTools(QAction& runAgain, QAction& stop) {
 }
 
 void MacroDock::buildText() {
-    status_.setTextFormat(Qt::PlainText);
     status_.setContentsMargins(8, 0, 8, 4);
     status_.setWordWrap(true);
     status_.hide();

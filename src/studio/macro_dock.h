@@ -2,12 +2,12 @@
 
 #include <QAction>
 #include <QDockWidget>
-#include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QToolBar>
 #include <string_view>
 
+#include "adapters/qt/plain_label.h"
 #include "adapters/qt/wording.h"
 #include "studio/output_buffer.h"
 #include "studio/studio_texts.h"
@@ -56,9 +56,9 @@ class MacroDock : public QDockWidget {
     QWidget panel_;
     QToolBar tools_;
     QAction clear_, copy_;
-    QLabel argumentsLabel_;
+    qt::PlainLabel argumentsLabel_;
     QLineEdit arguments_;
-    QLabel status_;
+    qt::PlainLabel status_;
     QPlainTextEdit text_;
     OutputBuffer buffer_;
     State state_ = State::idle;

@@ -1,6 +1,7 @@
 #include "studio/macro_menu.h"
 
 #include "adapters/qt/svg_icon.h"
+#include "adapters/qt/text.h"
 #include "studio/icons.h"
 #include "studio/studio_texts.h"
 
@@ -70,7 +71,7 @@ void MacroMenu::addMacros(const MacroFolder& folder, QMenu& menu) {
     for (const MacroFile& macro : folder.macros) {
         QAction* action = menu.addAction(qt::svgIcon(icons::runMacro), asEntry(macro.name));
         const QString hint = macro.hint.isEmpty() ? studioText(Text::macroHint, wording_).arg(macro.name) : macro.hint;
-        action->setToolTip(hint);
+        action->setToolTip(qt::plainToolTip(hint));
         action->setStatusTip(hint);
         action->setEnabled(!running_);
         connect(action, &QAction::triggered, this, [this, path = macro.path] { commands_.runMacro(path); });

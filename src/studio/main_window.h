@@ -1,12 +1,12 @@
 #pragma once
 
 #include <QDockWidget>
-#include <QLabel>
 #include <QMainWindow>
 #include <QTranslator>
 #include <memory>
 
 #include "adapters/qt/explorer_tree.h"
+#include "adapters/qt/plain_label.h"
 #include "adapters/qt/qt_explorer.h"
 #include "studio/document_area.h"
 #include "studio/macro_commands.h"
@@ -70,7 +70,7 @@ class MainWindow : public QMainWindow, private StudioCommands, private ProjectWi
     DocumentArea documents_;
     QDockWidget explorerDock_;
     qt::ExplorerTree tree_;
-    QLabel fileLabel_;
+    qt::PlainLabel fileLabel_;
     QTranslator translator_;
     forms::WindowHandle documentsHandle_;
     qt::QtExplorer explorer_;

@@ -112,6 +112,20 @@ class ExplorerTest : public Desktop {
     }
 };
 
+TEST_F(ExplorerTest, TakesNoMoreNodesBelowEachOtherThanItCanDraw) {
+    std::string last = "RCPE0";
+    const auto add = [&](int number) {
+        const std::string key = "N" + std::to_string(number);
+        explorer.addNode({.parent = last, .caption = key, .key = key});
+        last = key;
+    };
+    for (int i = 0; i < 98; ++i) add(i);
+    EXPECT_THROW(add(98), automation::Error);
+    tree.expandAll();
+    handleEvents();
+    EXPECT_EQ(explorer.childKeys("RCPE0", 1000).size(), 98U);
+}
+
 TEST_F(ExplorerTest, ShowsTheProjectAndTheAddInsNodesBelowIt) {
     ASSERT_EQ(explorer.model().rowCount(), 1);
     const QModelIndex project = explorer.model().index(0, 0);

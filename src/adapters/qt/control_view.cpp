@@ -74,7 +74,7 @@ void ControlView::show(std::string_view property) {
     if (isBounds(property)) layOut();
     else if (property == "Visible") widget().setVisible(control_->visible());
     else if (property == "Enabled") widget().setEnabled(control_->enabled());
-    else if (property == "ToolTipText") widget().setToolTip(toQt(control_->toolTipText()));
+    else if (property == "ToolTipText") widget().setToolTip(plainToolTip(toQt(control_->toolTipText())));
     else if (property == "Font") widget().setFont(toQt(control_->font().values()));
     else if (property == "SetFocus") widget().setFocus(Qt::OtherFocusReason);
     else if (property == "TabStop" && widget().focusPolicy() != Qt::NoFocus) {

@@ -102,7 +102,7 @@ void FormLayout::addButton(Area& area, const forms::LayoutRow& row) {
     if (subject.isEmpty()) return;
     const QString what = form_.services().wording.text(Word::chooseSubject).arg(subject);
     view.widget().setAccessibleName(what);
-    if (view.widget().toolTip().isEmpty()) view.widget().setToolTip(what);
+    if (view.widget().toolTip().isEmpty()) view.widget().setToolTip(plainToolTip(what));
 }
 
 void FormLayout::addDialogButtons() {

@@ -5,6 +5,7 @@
 
 #include "adapters/qt/help_icons.h"
 #include "adapters/qt/svg_icon.h"
+#include "adapters/qt/text.h"
 
 namespace hx::qt {
 
@@ -36,7 +37,7 @@ void HelpContents::add(const std::vector<HelpEntry>& entries, QTreeWidgetItem* p
     for (const HelpEntry& entry : entries) {
         auto item = std::make_unique<QTreeWidgetItem>(QStringList(entry.title));
         item->setData(0, pathRole, entry.path);
-        item->setToolTip(0, entry.title);
+        item->setToolTip(0, plainToolTip(entry.title));
         item->setIcon(0, svgIcon(QByteArray(entry.children.empty() ? help_icons::topic : help_icons::book)));
         parent->addChild(item.get());
         add(entry.children, item.release());  // the tree owns it

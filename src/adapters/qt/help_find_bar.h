@@ -1,11 +1,11 @@
 #pragma once
 
 #include <QHBoxLayout>
-#include <QLabel>
 #include <QLineEdit>
 #include <QTextBrowser>
 #include <QToolButton>
 
+#include "adapters/qt/plain_label.h"
 #include "adapters/qt/wording.h"
 
 namespace hx::qt {
@@ -41,7 +41,7 @@ class HelpFindBar : public QWidget {
     QHBoxLayout row_{this};
     QLineEdit field_;
     QToolButton previous_, next_, close_;
-    QLabel state_;
+    PlainLabel state_;
     QList<QTextCursor> matches_;
     qsizetype current_ = -1;
 };

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QVBoxLayout>
@@ -8,6 +7,7 @@
 #include <memory>
 
 #include "adapters/qt/help_search.h"
+#include "adapters/qt/plain_label.h"
 #include "adapters/qt/wording.h"
 
 namespace hx::qt {
@@ -38,7 +38,7 @@ class HelpSearchPane : public QWidget {
     QVBoxLayout column_{this};
     QLineEdit field_;
     QListWidget list_;
-    QLabel state_;
+    PlainLabel state_;
 };
 
 }  // namespace hx::qt

@@ -11,9 +11,9 @@ ItemDialog::ItemDialog(const Wording& wording, std::vector<Variable> variables, 
     : QDialog(owner == nullptr ? QApplication::activeWindow() : owner->window()),
       wording_(wording),
       model_(std::make_unique<const VariableList>(std::move(variables)), wording),
-      searchLabel_(wording.text(Word::searchVariable)),
       table_(model_, searchField_) {
     setObjectName(QStringLiteral("itemDialog"));
+    searchLabel_.setText(wording.text(Word::searchVariable));
     setWindowTitle(wording.text(Word::chooseVariable));
     searchLabel_.setBuddy(&searchField_);
     searchField_.setObjectName(QStringLiteral("itemSearch"));

@@ -2,11 +2,11 @@
 
 #include <QDialog>
 #include <QDialogButtonBox>
-#include <QLabel>
 #include <QLineEdit>
 #include <QVBoxLayout>
 #include <optional>
 
+#include "adapters/qt/plain_label.h"
 #include "adapters/qt/variable_model.h"
 #include "adapters/qt/variable_table.h"
 
@@ -30,10 +30,10 @@ class ItemDialog : public QDialog {
     VariableModel model_;
     QVBoxLayout column_{this};
     QHBoxLayout searchRow_;
-    QLabel searchLabel_;
+    PlainLabel searchLabel_;
     QLineEdit searchField_;
     VariableTable table_;
-    QLabel count_;
+    PlainLabel count_;
     QDialogButtonBox buttons_;
     std::optional<std::size_t> chosen_;  // number in the list
 };

@@ -1,8 +1,8 @@
 #pragma once
 
-#include <QLabel>
 
 #include "adapters/qt/control_view.h"
+#include "adapters/qt/plain_label.h"
 #include "forms/simple_controls.h"
 
 namespace hx::qt {
@@ -23,7 +23,7 @@ class LabelView : public ControlView {
     [[nodiscard]] QString accessibleName() const override { return {}; }
 
   private:
-    QLabel label_;
+    PlainLabel label_;
 };
 
 }  // namespace hx::qt

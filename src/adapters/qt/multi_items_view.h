@@ -1,12 +1,12 @@
 #pragma once
 
 #include <QCheckBox>
-#include <QLabel>
 #include <QLineEdit>
 #include <QVBoxLayout>
 
 #include "adapters/qt/control_view.h"
 #include "adapters/qt/multi_items_model.h"
+#include "adapters/qt/plain_label.h"
 #include "adapters/qt/variable_table.h"
 
 namespace hx::qt {
@@ -35,12 +35,12 @@ class MultiItemsView : public ControlView {
     QWidget panel_;
     QVBoxLayout column_{&panel_};
     QHBoxLayout searchRow_;
-    QLabel searchLabel_;
+    PlainLabel searchLabel_;
     QLineEdit searchField_;
     QCheckBox onlyChecked_;
     MultiItemsModel model_;
     VariableTable table_;
-    QLabel count_;
+    PlainLabel count_;
 };
 
 }  // namespace hx::qt

@@ -55,6 +55,7 @@ class QtExplorer : public host::ProjectExplorer, private NodeListener {
     [[nodiscard]] bool isAddIns(const QModelIndex& node) const;
     [[nodiscard]] host::NodeEvent eventOf(const QModelIndex& node) const;
     [[nodiscard]] QModelIndex requireNode(std::string_view key) const;
+    void requireRoomBelow(std::string_view key) const;
 
     ExplorerTree& tree_;
     mutable ExplorerModel model_;  // a question publishes what waits

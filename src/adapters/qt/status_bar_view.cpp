@@ -10,11 +10,10 @@ StatusBarView::StatusBarView(forms::StatusBar& bar, FormView& form, QWidget& are
     row_.setSpacing(2);
     frame_.setAutoFillBackground(true);
     for (std::int32_t number = 1; number <= bar.panelCount(); ++number) {
-        QLabel& label = *panels_.emplace_back(std::make_unique<QLabel>());
+        PlainLabel& label = *panels_.emplace_back(std::make_unique<PlainLabel>());
         label.setObjectName(QStringLiteral("%1.Panels(%2)").arg(toQt(bar.name())).arg(number));
         label.setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
         label.setContentsMargins(4, 0, 4, 0);
-        label.setTextFormat(Qt::PlainText);
         row_.addWidget(&label, number == 1 ? 2 : 1);
         forms::Panel& panel = bar.panel(number);
         const auto follow = [&label, &panel] { label.setText(toQt(panel.text())); };

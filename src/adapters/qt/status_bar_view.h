@@ -2,11 +2,11 @@
 
 #include <QFrame>
 #include <QHBoxLayout>
-#include <QLabel>
 #include <memory>
 #include <vector>
 
 #include "adapters/qt/control_view.h"
+#include "adapters/qt/plain_label.h"
 #include "forms/status_bar.h"
 
 namespace hx::qt {
@@ -25,7 +25,7 @@ class StatusBarView : public ControlView {
     void fitHeight();
     QFrame frame_;
     QHBoxLayout row_;
-    std::vector<std::unique_ptr<QLabel>> panels_;
+    std::vector<std::unique_ptr<PlainLabel>> panels_;
     std::vector<forms::Subscription> changes_;
 };
 

@@ -1,8 +1,14 @@
 #include "adapters/qt/text.h"
 
+#include <QTextDocument>
 #include <algorithm>
 
 namespace hx::qt {
+
+QString plainToolTip(const QString& text) {
+    if (!Qt::mightBeRichText(text)) return text;
+    return QStringLiteral("<p style=\"white-space:pre-wrap\">%1</p>").arg(text.toHtmlEscaped());
+}
 
 std::int32_t toCharacters(const QString& text, int units) {
     const auto end = text.begin() + std::min<qsizetype>(units, text.size());

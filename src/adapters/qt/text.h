@@ -13,6 +13,9 @@ namespace hx::qt {
 
 [[nodiscard]] inline std::string fromQt(const QString& text) { return text.toStdString(); }
 
+/// A text for a tool tip that is shown as it is: a tool tip takes what looks like HTML for that.
+[[nodiscard]] QString plainToolTip(const QString& text);
+
 /// Positions in a model count characters, in Qt UTF-16 units; both are converted within `text`.
 [[nodiscard]] std::int32_t toCharacters(const QString& text, int units);
 [[nodiscard]] int toUnits(const QString& text, std::int32_t characters);

@@ -1,7 +1,6 @@
 #include "adapters/qt/tool_bar_view.h"
 
 #include <QAction>
-#include <QTextDocument>
 #include <QToolButton>
 
 #include "adapters/qt/form_view.h"
@@ -13,9 +12,6 @@ namespace hx::qt {
 namespace {
 
 constexpr int iconSize = 18;
-
-// A name in it is shown as it is, also one that looks like rich text.
-QString plainTip(const QString& text) { return Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text) : text; }
 
 }  // namespace
 
@@ -36,7 +32,7 @@ void ToolBarView::addButton(forms::ToolButton& button) {
     const auto follow = [action, widget, &button] {
         const QString tip = toQt(button.toolTipText());
         action->setText(tip);
-        action->setToolTip(plainTip(tip));
+        action->setToolTip(plainToolTip(tip));
         action->setEnabled(button.enabled());
         widget->setAccessibleName(tip.isEmpty() ? toQt(button.key()) : tip);
     };

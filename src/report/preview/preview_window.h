@@ -3,7 +3,6 @@
 #include <QAction>
 #include <QComboBox>
 #include <QDialog>
-#include <QLabel>
 #include <QListView>
 #include <QSpinBox>
 #include <QSplitter>
@@ -12,6 +11,7 @@
 #include <QToolBar>
 #include <functional>
 
+#include "adapters/qt/plain_label.h"
 #include "host/services.h"
 #include "report/preview/output.h"
 #include "report/preview/page_view.h"
@@ -68,7 +68,7 @@ class PreviewWindow : public QDialog {
     QToolBar bar_;
     QAction print_, pdf_, html_, first_, previous_, next_, last_, zoomIn_, zoomOut_, width_, whole_, close_, help_;
     QSpinBox page_;
-    QLabel pageLabel_, count_;
+    qt::PlainLabel pageLabel_, count_;
     QComboBox zoom_;
     QSplitter splitter_;
     QStringListModel names_;
