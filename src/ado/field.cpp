@@ -27,12 +27,17 @@ automation::Variant Field::value() const {
 
 void Field::setValue(const automation::Variant& value) {
     columnOf(recordset_, column_);
-    recordset_.setCurrentValue(column_, value, nullptr);
+    recordset_.setCurrentValue(column_, value);
 }
 
-void Field::replaceValue(const automation::Variant& read, const automation::Variant& value) {
+automation::Variant Field::originalValue() const {
     columnOf(recordset_, column_);
-    recordset_.setCurrentValue(column_, value, &read);
+    return recordset_.originalValue(column_);
+}
+
+automation::Variant Field::underlyingValue() const {
+    columnOf(recordset_, column_);
+    return recordset_.underlyingValue(column_);
 }
 
 const automation::MemberTable& Field::members() const {
@@ -42,6 +47,8 @@ const automation::MemberTable& Field::members() const {
         property<&Field::type>("Type", "The column's type, as ADO numbers it"),
         property<&Field::definedSize>("DefinedSize", "Characters for text, bytes otherwise"),
         property<&Field::value, &Field::setValue>("Value", "The value in the current row"),
+        property<&Field::originalValue>("OriginalValue", "The value before the edit of the row began"),
+        property<&Field::underlyingValue>("UnderlyingValue", "The value that is stored now"),
     };
     static constexpr automation::MemberTable table{"Field", rows};
     return table;

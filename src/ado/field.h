@@ -24,9 +24,10 @@ class Field : public automation::Dispatch {
     /// Starts or continues the edit of the current row. The value is converted to the column's type
     /// (dbErrCannotConvert when it cannot be); a key column throws adErrIllegalOperation.
     void setValue(const automation::Variant& value);
-    /// The same for a value that takes the place of what was read earlier: update() stores it only if that is still
-    /// there.
-    void replaceValue(const automation::Variant& read, const automation::Variant& value);
+    /// What update() compares with: the value before the edit of the row began, else the stored one.
+    [[nodiscard]] automation::Variant originalValue() const;
+    /// What is stored now, read afresh.
+    [[nodiscard]] automation::Variant underlyingValue() const;
 
     [[nodiscard]] const automation::MemberTable& members() const override;
 

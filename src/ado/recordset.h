@@ -89,6 +89,9 @@ class Recordset : public automation::Dispatch {
 
     // --- edits
     [[nodiscard]] EditMode editMode() const noexcept;
+    /// Reads the current row afresh and begins its edit: until the edit ends, the row shows what was read now, and
+    /// update() compares with that. An edit that is begun by an assignment compares with what the columns showed then.
+    void edit();
     void addNew();  ///< an empty row to be filled and stored by update()
     /// Stores one row at once; it becomes current.
     void addNew(std::span<const std::pair<std::string, automation::Variant>> values);
@@ -133,7 +136,11 @@ class Recordset : public automation::Dispatch {
     [[nodiscard]] std::size_t columnNumber(std::string_view name) const;
     [[nodiscard]] automation::Variant storedValue(std::size_t position, std::size_t column) const;
     [[nodiscard]] automation::Variant currentValue(std::size_t column) const;
-    void setCurrentValue(std::size_t column, const automation::Variant& value, const automation::Variant* read);
+    [[nodiscard]] automation::Variant originalValue(std::size_t column) const;
+    [[nodiscard]] automation::Variant valueBefore(std::size_t column) const;
+    [[nodiscard]] automation::Variant underlyingValue(std::size_t column) const;
+    [[nodiscard]] std::vector<automation::Variant> readRow() const;
+    void setCurrentValue(std::size_t column, const automation::Variant& value);
 
     std::string source_;
     std::string filter_;

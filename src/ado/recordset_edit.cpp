@@ -37,11 +37,52 @@ Variant Recordset::storedValue(std::size_t position, std::size_t column) const {
 
 Variant Recordset::currentValue(std::size_t column) const {
     requireRow();
-    if (edit_->pending()) {
-        if (const Variant* pending = edit_->value(column)) return *pending;
-        if (edit_->mode() == adEditAdd) return Null{};
+    const Variant* pending = edit_->value(column);
+    return pending != nullptr ? *pending : valueBefore(column);
+}
+
+Variant Recordset::originalValue(std::size_t column) const {
+    requireRow();
+    return valueBefore(column);
+}
+
+// What the row held before its edit, if there is one, began.
+Variant Recordset::valueBefore(std::size_t column) const {
+    if (edit_->mode() == adEditAdd) return Null{};
+    const Variant* read = edit_->read(column);
+    return read != nullptr ? *read : storedValue(cursor_->position, column);
+}
+
+Variant Recordset::underlyingValue(std::size_t column) const {
+    requireRow();
+    return edit_->mode() == adEditAdd ? Null{} : readRow()[column];
+}
+
+namespace {
+
+/// One row, whole.
+struct WholeRow : RowSink {
+    void row(std::size_t, std::span<Variant> values) override { read.assign(values.begin(), values.end()); }
+    std::vector<Variant> read;
+};
+
+}  // namespace
+
+std::vector<Variant> Recordset::readRow() const {
+    WholeRow sink;
+    list_->read(cursor_->position, 1, ~ColumnMask{0}, sink);
+    if (sink.read.empty()) throwDeletedRow();
+    for (std::size_t i = 0; i < sink.read.size(); ++i) {
+        if (keyset_->columns()[i].isKey) sink.read[i] = keyValue(cursor_->key);
     }
-    return storedValue(cursor_->position, column);
+    return std::move(sink.read);
+}
+
+void Recordset::edit() {
+    requireWritable();
+    leaveRow();
+    requireRow();
+    edit_->begin(readRow());
 }
 
 Variant Recordset::valueAt(std::size_t index, std::size_t column) const {
@@ -51,12 +92,13 @@ Variant Recordset::valueAt(std::size_t index, std::size_t column) const {
     return storedValue(index, column);
 }
 
-void Recordset::setCurrentValue(std::size_t column, const Variant& value, const Variant* read) {
+void Recordset::setCurrentValue(std::size_t column, const Variant& value) {
     requireWritable();
     requireRow();
     Variant converted = convertFor(keyset_->columns()[column], value);
     if (edit_->mode() == adEditAdd || edit_->value(column) != nullptr) return edit_->set(column, std::move(converted));
     if (!edit_->pending() && !list_->exists(cursor_->position)) throwDeletedRow();
+    const Variant* read = edit_->read(column);
     if (read == nullptr) read = list_->value(cursor_->position, column);  // null: the row is gone, as update() will say
     Variant before = read != nullptr ? *read : Variant();
     if (!edit_->pending()) edit_->begin(adEditInProgress, keyset_->columns().size());

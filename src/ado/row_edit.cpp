@@ -14,11 +14,18 @@ using automation::Variant;
 void RowEdit::begin(EditMode mode, std::size_t columns) {
     mode_ = mode;
     values_.assign(columns, std::nullopt);
+    row_.clear();
+}
+
+void RowEdit::begin(std::vector<Variant> row) {
+    begin(adEditInProgress, row.size());
+    row_ = std::move(row);
 }
 
 void RowEdit::end() noexcept {
     mode_ = adEditNone;
     values_.clear();
+    row_.clear();
 }
 
 const Variant* RowEdit::value(std::size_t column) const noexcept {
@@ -29,6 +36,11 @@ void RowEdit::set(std::size_t column, Variant value, Variant read) {
     std::optional<Value>& assigned = values_[column];
     if (assigned) assigned->value = std::move(value);
     else assigned = {std::move(value), std::move(read)};
+}
+
+const Variant* RowEdit::read(std::size_t column) const noexcept {
+    if (column < row_.size()) return &row_[column];
+    return column < values_.size() && values_[column] ? &values_[column]->read : nullptr;
 }
 
 std::vector<ColumnValue> RowEdit::assigned() const {

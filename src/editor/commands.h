@@ -1,12 +1,14 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <span>
 #include <string>
 #include <vector>
 
 #include "automation/dispatch.h"
 #include "editor/add_in.h"
+#include "editor/recipe_rows.h"
 
 namespace hx::recipe {
 class RecipeNodes;
@@ -63,12 +65,18 @@ class Commands {
     void newRecipe();
     void editRecipe();
     void deleteRecipe();
+    /// Runs the action. When it fails because another has changed or deleted the recipe, which had the name `before`
+    /// (empty when that does not matter), explorer and grid show it as it now is before the error goes on.
+    void showingConflicts(std::int32_t id, const std::string& before, const std::function<void()>& action);
+    void showChangedRecipe(std::int32_t id, const std::string& before);
     void recipeRenamed(std::int32_t id, const std::string& name);
     void recipeDeleted(std::int32_t id);
     [[nodiscard]] recipe::RecipeNodes nodes(host::ProjectExplorer& explorer) const;
 
     // --- members
     void chooseVariables();
+    void replaceVariables(std::int32_t recipe, Members known, const std::vector<std::string>& variables,
+                          const std::shared_ptr<ado::Connection>& connection);
     void newSubRecipe();
     void deleteMembers();
     void editSubRecipe();
@@ -78,6 +86,8 @@ class Commands {
 
     /// The user's answer to the question, which is not asked when the option "RequestOnDelete" is off.
     [[nodiscard]] bool mayDelete(std::int32_t question);
+    /// Yes or no, which is the default.
+    [[nodiscard]] bool saysYes(const std::string& question);
 
     // --- options
     void statistic();

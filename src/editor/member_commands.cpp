@@ -1,5 +1,7 @@
 #include <algorithm>
 #include <array>
+#include <iterator>
+#include <ranges>
 
 #include "automation/convert.h"
 #include "automation/text.h"
@@ -9,7 +11,7 @@
 #include "editor/database_work.h"
 #include "editor/frmtabgrid.h"
 #include "editor/guard.h"
-#include "editor/recipe_rows.h"
+#include "editor/recipe_names.h"
 #include "recipe/mrecipe_member.h"
 #include "recipe/node_key.h"
 #include "recipe/schema.h"
@@ -24,6 +26,12 @@ namespace {
 constexpr std::int32_t deleteMembersText = 411;
 constexpr std::string_view procedure = "mnuRecipeMember";
 constexpr std::int32_t itemFilter = 256;
+constexpr std::size_t mostNames = 5;
+constexpr automation::Sentence membersChanged{
+    "The members of the recipe were changed by another meanwhile.\r\nAdded: %1\r\nRemoved: %2\r\nReplace them all the "
+    "same?",
+    "Die Elemente des Rezepts wurden inzwischen von jemand anderem geändert.\r\nHinzugekommen: %1\r\nEntfernt: "
+    "%2\r\nTrotzdem durch die Auswahl ersetzen?"};
 
 }  // namespace
 
@@ -38,11 +46,13 @@ void Commands::mnuRecipeMember(std::int16_t index) {
 }
 
 bool Commands::mayDelete(std::int32_t question) {
-    if (!dialogs::asksBeforeDeleting(window_.inits())) return true;
+    return !dialogs::asksBeforeDeleting(window_.inits()) || saysYes(addIn_.texts().GetResource(question));
+}
+
+bool Commands::saysYes(const std::string& question) {
     const Busy busy(addIn_.busy());
     constexpr std::int32_t style = forms::message::yesNo + forms::message::defaultButton2;
-    return window_.screen().messageBox(addIn_.texts().GetResource(question), style, forms::message::defaultTitle) ==
-           forms::message::Answer::yes;
+    return window_.screen().messageBox(question, style, forms::message::defaultTitle) == forms::message::Answer::yes;
 }
 
 // On a clone: the current row stays.
@@ -52,16 +62,51 @@ std::vector<std::string> Commands::shownVariables() const {
     const auto shown = members.clone();
     if (shown->recordCount() == 0) return names;
     names.reserve(static_cast<std::size_t>(shown->recordCount()));
-    const ado::Field& name = shown->field(member::varRecipe);
-    for (shown->moveFirst(); !shown->eof(); shown->moveNext()) names.push_back(automation::toText(name.value()));
+    shown->getRows(ado::adGetRowsRest, std::array{member::varRecipe},
+                   [&](std::span<Variant> values) { names.push_back(automation::toText(values[0])); });
     return names;
+}
+
+namespace {
+
+// Those of `members` that `others` has not; both are in the order of their IDs.
+std::string namesMissing(const Members& members, const Members& others,
+                         const std::shared_ptr<ado::Connection>& connection) {
+    Members missing;
+    std::ranges::set_difference(members, others, std::back_inserter(missing));
+    std::string names;
+    for (const Member& member : missing | std::views::take(mostNames)) {
+        const bool variable = member.child == 0;
+        names += (names.empty() ? "" : ", ") +
+                 (variable ? member.variable : nameOfRecipe(connection, member.child).value_or(member.variable));
+    }
+    return missing.empty() ? "-" : missing.size() > mostNames ? names + ", ..." : names;
+}
+
+}  // namespace
+
+void Commands::replaceVariables(std::int32_t recipe, Members known, const std::vector<std::string>& variables,
+                                const std::shared_ptr<ado::Connection>& connection) {
+    for (;;) {
+        std::optional<Members> now;
+        {
+            const recipe::WaitCursor wait(window_.screen());
+            now = replaceMembers(recipe, known, variables, connection, addIn_.texts());
+        }
+        if (!now) return;
+        const std::string came = namesMissing(*now, known, connection), went = namesMissing(known, *now, connection);
+        if (!saysYes(automation::say(addIn_.texts().wording(), membersChanged, {came, went}))) return;
+        known = std::move(*now);
+    }
 }
 
 void Commands::chooseVariables() {
     const DatabaseWork work(window_.dataEnvironment());
     if (!window_.finishEdit()) return;
-    window_.refreshMembers();  // what the recipe has now is what the user starts from
     const std::int32_t recipe = recipe::KeyId(window_.nodeKey());
+    // What the recipe has now is what the user starts from. Read in this order: nobody adds a member in between unseen.
+    Members known = membersOf(recipe, work.connection());
+    window_.refreshMembers();
     const auto dialog = std::make_shared<dialogs::FMultiSelectItems>(addIn_.services(), addIn_.help());
     dialog->hxMI->setItemFilter(itemFilter);
     {
@@ -74,8 +119,10 @@ void Commands::chooseVariables() {
         dialog->showModal(window_.handle());
     }
     if (!dialog->cancelled()) {
-        const recipe::WaitCursor wait(window_.screen());
-        replaceMembers(recipe, dialog->hxMI->selectedItems().value_or(std::vector<std::string>()), work.connection());
+        showingConflicts(recipe, {}, [&] {
+            replaceVariables(recipe, std::move(known),
+                             dialog->hxMI->selectedItems().value_or(std::vector<std::string>()), work.connection());
+        });
     }
     window_.refreshMembers();
 }
@@ -86,8 +133,10 @@ void Commands::newSubRecipe() {
     const ado::Bookmark row = window_.tdbRM->bookmark();
     bool added = false;
     const bool done = guard(addIn_, procedure, [&] {
-        const Dialog dialog(dialogOpen_);
-        added = recipe::AddSubRecipeMember(window_);
+        showingConflicts(recipe::KeyId(window_.nodeKey()), {}, [&] {
+            const Dialog dialog(dialogOpen_);
+            added = recipe::AddSubRecipeMember(window_);
+        });
     });
     // After an error too: the recordset then stands on its last row.
     if (added || !done) window_.refreshMembersAt(row);
@@ -97,11 +146,12 @@ void Commands::editSubRecipe() {
     window_.finishOrDropEdit();
     const DatabaseWork work(window_.dataEnvironment());
     bool edited = false;
-    {
+    const bool done = guard(addIn_, procedure, [&] {
         const Dialog dialog(dialogOpen_);
         edited = recipe::EditSubRecipeMember(window_.memberRecordset(), window_);
-    }
-    if (edited) window_.refreshMembers();
+    });
+    // After an error too: another may have changed the row.
+    if (edited || !done) window_.refreshMembers();
 }
 
 // A bookmark of a row whose ID is its key says it already; else the row is asked.

@@ -69,6 +69,8 @@ class MSurfingGrid {
     void refuseDuplicate();
     void showRefusals(std::int32_t code);
     void showRefusal(const ado::ProviderError& error);
+    [[nodiscard]] std::optional<automation::Error> conflict() const;
+    void showConflict(const automation::Error& conflict);
     void dropEdit() noexcept;
     void clearErrors();
     [[nodiscard]] std::shared_ptr<ado::Recordset> members() const;

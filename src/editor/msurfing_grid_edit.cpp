@@ -2,6 +2,7 @@
 #include "editor/frmtabgrid.h"
 #include "editor/guard.h"
 #include "editor/msurfing_grid.h"
+#include "recipe/conflict.h"
 #include "recipe/node_key.h"
 #include "recipe/schema.h"
 
@@ -115,9 +116,11 @@ bool MSurfingGrid::finishRow() {
 void MSurfingGrid::reportedError(forms::GridError& error) {
     if (gridShowsError_) return;
     guard(addIn_, "tdbRM_Error", [&] {
+        const std::optional<Error> told = conflict();
         if (error.code == forms::gridErrStaleRow) resetStaleRows(error.code);
         window_.screen().beep();
         showRefusals(error.code);
+        if (told) showConflict(*told);
     });
     error.response = 0;
     grid_.setFocus();
@@ -140,6 +143,7 @@ void MSurfingGrid::resetStaleRows(std::int32_t code) {
     const auto recordset = members();
     if (recordset == nullptr || recordset->state() != ado::adStateOpen) return;
     recordset->resync(ado::adAffectAll);
+    recordset->requery();  // a row that is gone would stay in the list
     if (recordset->recordCount() != 0) recordset->moveFirst();
     grid_.reload();
 }
@@ -151,8 +155,34 @@ void MSurfingGrid::showRefusals(std::int32_t code) {
     data->CnnRecipes->clearErrors();
     for (const ado::ProviderError& error : errors) {
         if (error.number == ado::dbErrDuplicate) refuseDuplicate();
-        else if (code == forms::gridErrRowRefused) showRefusal(error);
+        else if (code == forms::gridErrRowRefused && error.number != ado::dbErrRowChanged) showRefusal(error);
     }
+}
+
+// What the database has just refused because another has changed or deleted the row; says what was entered.
+std::optional<Error> MSurfingGrid::conflict() const {
+    const auto recordset = members();
+    if (recordset == nullptr || recordset->editMode() != ado::adEditInProgress) return {};
+    const recipe::ColumnNames names{[this](const ado::Field& field) {
+                                        const forms::Column* column = grid_.findColumn(field.name());
+                                        return column == nullptr ? field.name() : column->caption();
+                                    },
+                                    [this](const ado::Field&, const Variant& value) {
+                                        return recipe::valueInWords(value, addIn_.texts().wording());
+                                    }};
+    for (const ado::ProviderError& error : window_.dataEnvironment()->CnnRecipes->errors()) {
+        const Error refused(error.number, error.description);
+        if (recipe::isConflict(refused)) return recipe::conflictOf(refused, *recordset, addIn_.texts(), names);
+    }
+    return {};
+}
+
+// The row then shows what is stored now.
+void MSurfingGrid::showConflict(const Error& conflict) {
+    dropEdit();
+    const Busy busy(addIn_.busy());
+    showError(window_.screen(), conflict, "tdbRM_Error");
+    if (conflict.number() == ado::dbErrRowChanged) grid_.refetchRow();
 }
 
 // The row stays as the user typed it, to be corrected.

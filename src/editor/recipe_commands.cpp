@@ -6,7 +6,9 @@
 #include "editor/database_work.h"
 #include "editor/frmtabgrid.h"
 #include "editor/guard.h"
+#include "editor/recipe_names.h"
 #include "editor/recipe_rows.h"
+#include "recipe/conflict.h"
 #include "recipe/mrecipe.h"
 #include "recipe/node_key.h"
 #include "recipe/recipe_nodes.h"
@@ -63,15 +65,31 @@ void Commands::editRecipe() {
     const std::int32_t id = recipe::KeyId(window_.nodeKey());
     if (!findRecipe(work.recipes(), "ID=" + std::to_string(id))) return;
     const std::string before = nameIn(work.recipes());
-    {
+    showingConflicts(id, before, [&] {
         const Dialog dialog(dialogOpen_);
         recipe::EditRecipe(work.recipes(), window_, [this](const automation::Error& error) {
             const Busy busy(addIn_.busy());
             showError(window_.screen(), error, procedure);
         });
-    }
+    });
     const std::string after = nameIn(work.recipes());
     if (after != before) recipeRenamed(id, after);
+}
+
+void Commands::showingConflicts(std::int32_t id, const std::string& before, const std::function<void()>& action) {
+    try {
+        action();
+    } catch (const automation::Error& error) {
+        if (recipe::isConflict(error)) guard(addIn_, procedure, [&] { showChangedRecipe(id, before); });
+        throw;
+    }
+}
+
+void Commands::showChangedRecipe(std::int32_t id, const std::string& before) {
+    if (window_.dataEnvironment() == nullptr) return;
+    const auto name = readNameOfRecipe(window_.dataEnvironment()->CnnRecipes, id);
+    if (!name) recipeDeleted(id);
+    else if (!before.empty() && *name != before) recipeRenamed(id, *name);
 }
 
 void Commands::recipeRenamed(std::int32_t id, const std::string& name) {

@@ -4,6 +4,8 @@
 #include <array>
 
 #include "ado/transaction.h"
+#include "automation/convert.h"
+#include "recipe/existing_recipe.h"
 #include "recipe/mhxrcp_hirarch_func.h"
 #include "recipe/schema.h"
 
@@ -134,9 +136,29 @@ void deleteMembersOf(const std::string& nodeKey, std::vector<std::int32_t> ids,
     });
 }
 
-void replaceMembers(std::int32_t recipe, const std::vector<std::string>& variables,
-                    const std::shared_ptr<ado::Connection>& connection) {
+Members membersOf(std::int32_t recipe, const std::shared_ptr<ado::Connection>& connection) {
+    Members members;
+    ado::Recordset rows;
+    rows.open("SELECT * FROM " + std::string(schema::memberTable) + " WHERE ParentID = " + std::to_string(recipe) +
+                  " ORDER BY ID",
+              connection);
+    if (rows.eof()) return members;
+    members.reserve(static_cast<std::size_t>(rows.recordCount()));
+    const auto fields = {schema::member::id, schema::member::childId, schema::member::varRecipe};
+    rows.getRows(ado::adGetRowsRest, fields, [&](std::span<Variant> values) {
+        members.push_back(
+            {automation::toInt32(values[0]), automation::toInt32(values[1]), automation::toText(values[2])});
+    });
+    return members;
+}
+
+std::optional<Members> replaceMembers(std::int32_t recipe, const Members& known,
+                                      const std::vector<std::string>& variables,
+                                      const std::shared_ptr<ado::Connection>& connection,
+                                      const resources::ResourceTable& texts) {
     ado::Transaction transaction(*connection);
+    recipe::requireRecipe(connection, recipe, texts);
+    if (Members now = membersOf(recipe, connection); now != known) return now;
     deleteAllMembers(recipe, connection);
     if (!variables.empty()) {
         ado::Recordset members;
@@ -146,6 +168,7 @@ void replaceMembers(std::int32_t recipe, const std::vector<std::string>& variabl
         members.addNew(NewVariables::fields(), rows);
     }
     transaction.commit();
+    return std::nullopt;
 }
 
 }  // namespace hx::editor

@@ -2,10 +2,12 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "ado/recordset.h"
+#include "resources/resource_table.h"
 
 /// What the commands do to the rows of recipes and members. The database's errors reach the caller.
 namespace hx::editor {
@@ -26,8 +28,22 @@ void deleteRecipeWithMembers(ado::Recordset& recipes, std::int32_t id, bool& del
 void deleteMembersOf(const std::string& nodeKey, std::vector<std::int32_t> members,
                      const std::shared_ptr<ado::Connection>& connection);
 
+/// A variable or sub-recipe of a recipe.
+struct Member {
+    std::int32_t id = 0, child = 0;
+    std::string variable;
+    friend auto operator<=>(const Member&, const Member&) = default;
+};
+/// In the order of their IDs.
+using Members = std::vector<Member>;
+[[nodiscard]] Members membersOf(std::int32_t recipe, const std::shared_ptr<ado::Connection>& connection);
+
 /// Deletes every member of the recipe, its sub-recipes too, and stores the variables in their order: all or nothing.
-void replaceMembers(std::int32_t recipe, const std::vector<std::string>& variables,
-                    const std::shared_ptr<ado::Connection>& connection);
+/// Only when its members still are the known ones; else nothing is changed, and it gives what they are now.
+/// dbErrDeletedRow, in words for the user, when the recipe is gone.
+[[nodiscard]] std::optional<Members> replaceMembers(std::int32_t recipe, const Members& known,
+                                                    const std::vector<std::string>& variables,
+                                                    const std::shared_ptr<ado::Connection>& connection,
+                                                    const resources::ResourceTable& texts);
 
 }  // namespace hx::editor

@@ -130,8 +130,8 @@ class Grid : public Control {
     [[nodiscard]] bool dataChanged() const noexcept { return dataChanged_; }
     void setDataChanged(bool dataChanged);  ///< the mark alone: a pending edit stays
     /// Writes the pending edit or the new row. Throws gridErrRowRefused when the database refused its values
-    /// (dbErrDuplicate, dbErrCannotConvert, dbErrIntegrity), gridErrStaleRow when the row is gone, any other failure as
-    /// the provider reports it. The edit then stays pending.
+    /// (dbErrDuplicate, dbErrCannotConvert, dbErrIntegrity) or another has changed the row (dbErrRowChanged),
+    /// gridErrStaleRow when the row is gone, any other failure as the provider reports it. The edit then stays pending.
     void update();
     void cancelUpdate();  ///< drops the pending row; the stored values show again
     /// Raises errorEvent; when its response stays 1, shows "code: description" in a message box of the form's screen.

@@ -18,7 +18,8 @@ struct Translation {
     std::int32_t provider;
     std::int32_t grid;
 };
-constexpr std::array<Translation, 5> updateErrors{{{ado::dbErrDuplicate, gridErrRowRefused},
+constexpr std::array<Translation, 6> updateErrors{{{ado::dbErrDuplicate, gridErrRowRefused},
+                                                   {ado::dbErrRowChanged, gridErrRowRefused},
                                                    {ado::dbErrCannotConvert, gridErrRowRefused},
                                                    {ado::dbErrIntegrity, gridErrRowRefused},
                                                    {ado::dbErrDeletedRow, gridErrStaleRow},

@@ -24,9 +24,10 @@ namespace column = schema::recipe;
 constexpr std::string_view notRead = "Initialisierung Rezept-Dialog fehlgegangen";
 constexpr std::string_view notWritten = "Zurückschreiben von Rezept-Dialog fehlgegangen";
 
-/// How one column passes into the dialog and back.
+/// How one column passes into the dialog and back, and the text that names it there.
 struct Transfer {
     std::string_view column;
+    std::int32_t caption;
     void (*read)(const ado::Field&, FRecipe&, const NumberFormat&);
     void (*write)(ado::Field&, const FRecipe&);
 };
@@ -37,14 +38,14 @@ void readText(const ado::Field& field, FRecipe& dialog, const NumberFormat& form
 }
 
 template <auto Box>
-constexpr Transfer text(std::string_view name) {
-    return {name, readText<Box>,
+constexpr Transfer text(std::string_view name, std::int32_t caption) {
+    return {name, caption, readText<Box>,
             [](ado::Field& field, const FRecipe& dialog) { TextToField(field, (dialog.*Box)->text()); }};
 }
 
 template <auto Box>
-constexpr Transfer check(std::string_view name) {
-    return {name,
+constexpr Transfer check(std::string_view name, std::int32_t caption) {
+    return {name, caption,
             [](const ado::Field& field, FRecipe& dialog, const NumberFormat&) {
                 (dialog.*Box)->setValue(FieldToCheck(field));
             },
@@ -71,25 +72,25 @@ void writeOptions(ado::Field& field, const FRecipe& dialog) {
 }
 
 constexpr auto transfers = std::to_array<Transfer>({
-    text<&FRecipe::txtName>(column::name),
-    text<&FRecipe::txtRecipeName>(column::varRecipeName),
+    text<&FRecipe::txtName>(column::name, 603),
+    text<&FRecipe::txtRecipeName>(column::varRecipeName, 604),
     // Its type takes more than a text of variable length: it is stored as it is.
-    {column::filePath, readText<&FRecipe::cboFilePath>,
+    {column::filePath, 622, readText<&FRecipe::cboFilePath>,
      [](ado::Field& field, const FRecipe& dialog) { field.setValue(dialog.cboFilePath->text()); }},
-    text<&FRecipe::txtDescription>(column::varDescription),
-    text<&FRecipe::txtFileExtension>(column::fileExtension),
-    check<&FRecipe::chkEnabled>(column::enabled),
-    text<&FRecipe::txtComment>(column::comment),
-    text<&FRecipe::txtVarSave>(column::varSave),
-    text<&FRecipe::txtVarLoad>(column::varLoad),
-    text<&FRecipe::txtVarRead>(column::varRead),
-    text<&FRecipe::txtVarWrite>(column::varWrite),
-    {column::standardValue, readStandardValue, text<&FRecipe::txtStandardValue>(column::standardValue).write},
-    text<&FRecipe::txtVarSetValue>(column::varSetValue),
-    check<&FRecipe::chkSaveSubRecipes>(column::saveSubRecipes),
-    check<&FRecipe::chkSaveChanges>(column::saveChanges),
-    check<&FRecipe::chkCryptEngine>(column::cryptEngine),
-    {column::options, readOptions, writeOptions},
+    text<&FRecipe::txtDescription>(column::varDescription, 608),
+    text<&FRecipe::txtFileExtension>(column::fileExtension, 605),
+    check<&FRecipe::chkEnabled>(column::enabled, 615),
+    text<&FRecipe::txtComment>(column::comment, 606),
+    text<&FRecipe::txtVarSave>(column::varSave, 611),
+    text<&FRecipe::txtVarLoad>(column::varLoad, 609),
+    text<&FRecipe::txtVarRead>(column::varRead, 612),
+    text<&FRecipe::txtVarWrite>(column::varWrite, 613),
+    {column::standardValue, 633, readStandardValue, text<&FRecipe::txtStandardValue>(column::standardValue, 633).write},
+    text<&FRecipe::txtVarSetValue>(column::varSetValue, 634),
+    check<&FRecipe::chkSaveSubRecipes>(column::saveSubRecipes, 635),
+    check<&FRecipe::chkSaveChanges>(column::saveChanges, 623),
+    check<&FRecipe::chkCryptEngine>(column::cryptEngine, 624),
+    {column::options, 641, readOptions, writeOptions},
 });
 
 const Transfer* transferOf(std::string_view name) {
@@ -98,22 +99,28 @@ const Transfer* transferOf(std::string_view name) {
     return found != transfers.end() ? &*found : nullptr;
 }
 
-// Another has changed or deleted the row: it would be refused for ever.
-bool isLost(const Error& error) {
-    return error.number() == ado::dbErrRowChanged || error.number() == ado::dbErrDeletedRow;
+ColumnNames namesIn(const resources::ResourceTable& texts) {
+    const auto caption = [&texts](const ado::Field& field) {
+        const Transfer* transfer = transferOf(field.name());
+        const std::string text = transfer == nullptr ? field.name() : texts.GetResource(transfer->caption);
+        return automation::replaceAll(text, "&", "");
+    };
+    const auto value = [&texts](const ado::Field&, const Variant& of) { return valueInWords(of, texts.wording()); };
+    return {caption, value};
 }
 
 /// How OK ends an edit while the dialog is open.
 enum class Ending { stored, refused, failed };
 
-// What is refused stays pending: the next try is compared with what was read for the dialog.
+// What is refused stays pending: the next try is compared with what was read for the dialog. When another has changed
+// or deleted the row, it would be refused for ever.
 Ending tryToStore(ado::Recordset& recipes, const FRecipe& dialog, const Refusal& refused) {
     if (!refused || !WriteDialogToRecipe(recipes, dialog)) return Ending::failed;
     try {
         recipes.update();
         return Ending::stored;
     } catch (const Error& error) {
-        if (isLost(error)) return Ending::failed;
+        if (isConflict(error)) return Ending::failed;
         refused(error);
         return Ending::refused;
     }
@@ -123,21 +130,24 @@ Ending tryToStore(ado::Recordset& recipes, const FRecipe& dialog, const Refusal&
 
 bool EditRecipe(ado::Recordset& recipes, RecipeWindow& window, const Refusal& refused) {
     const auto dialog = std::make_shared<FRecipe>(window.services(), window.texts(), window.help());
-    if (!readAgain(recipes) || !ReadRecipeToDialog(recipes, *dialog, window.services().numberFormat)) {
+    RowInDialog row(recipes, window.texts(), namesIn(window.texts()));
+    if (!row.begin() || !ReadRecipeToDialog(row.fields(), *dialog, window.services().numberFormat)) {
         window.tell(notRead);
         return false;
     }
     Ending ending = Ending::failed;
     showOver(window, *dialog, [&] {
-        ending = tryToStore(recipes, *dialog, refused);
+        ending = tryToStore(row.fields(), *dialog, refused);
         return ending != Ending::refused;
     });
     if (ending == Ending::stored) return true;
-    if (dialog->cancelled()) {
-        if (recipes.editMode() == ado::adEditInProgress) recipes.cancelUpdate();
-        return false;
+    if (dialog->cancelled()) return false;
+    if (WriteDialogToRecipe(row.fields(), *dialog)) {
+        row.store();
+    } else {
+        window.tell(notWritten);
+        row.restore();
     }
-    storeOrRestore(recipes, WriteDialogToRecipe(recipes, *dialog), [&] { window.tell(notWritten); });
     return true;
 }
 

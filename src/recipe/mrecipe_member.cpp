@@ -2,7 +2,9 @@
 
 #include <array>
 
+#include "ado/transaction.h"
 #include "automation/text.h"
+#include "recipe/existing_recipe.h"
 #include "recipe/field_text.h"
 #include "recipe/node_key.h"
 #include "recipe/schema.h"
@@ -20,13 +22,27 @@ namespace {
 namespace column = schema::member;
 
 namespace text {
-constexpr std::int32_t notRead = 550, notWritten = 551;
+constexpr std::int32_t subRecipe = 302, fileName = 303, notRead = 550, notWritten = 551;
 }
 
 bool is(const ado::Field& field, std::string_view name) { return automation::equalIgnoreCase(field.name(), name); }
 
 std::int32_t chosenRecipe(const FSubRecipe& dialog) {
     return dialog.cmbChooseRecipe->itemData(dialog.cmbChooseRecipe->listIndex());
+}
+
+ColumnNames namesIn(const resources::ResourceTable& texts, const FSubRecipe& dialog) {
+    const auto caption = [&texts](const ado::Field& field) {
+        return texts.GetResource(is(field, column::childId) ? text::subRecipe : text::fileName);
+    };
+    const auto value = [&](const ado::Field& field, const Variant& of) {
+        const forms::ComboBox& recipes = *dialog.cmbChooseRecipe;
+        for (std::int32_t i = 0; is(field, column::childId) && i < recipes.listCount(); ++i) {
+            if (recipes.itemData(i) == automation::toInt32(of)) return recipes.list(i);
+        }
+        return valueInWords(of, texts.wording());
+    };
+    return {caption, value};
 }
 
 void fillWithRecipes(ado::Recordset& recipes, forms::ComboBox& list) {
@@ -51,6 +67,16 @@ bool savesSubRecipes(ado::Recordset& recipes, std::int32_t recipe) {
            FieldToCheck(recipes.field(schema::recipe::saveSubRecipes)) != forms::CheckState::unchecked;
 }
 
+// In one transaction: nobody deletes the chosen recipe in between.
+void storeMember(RowInDialog& row, const resources::ResourceTable& texts) {
+    const auto& connection = row.fields().activeConnection();
+    ado::Transaction transaction(*connection);
+    const ado::Field& child = row.fields().field(column::childId);
+    if (child.value() != child.originalValue()) requireRecipe(connection, automation::toInt32(child.value()), texts);
+    row.store();
+    transaction.commit();
+}
+
 }  // namespace
 
 void FillSubRecipeList(RecipeWindow& window, FSubRecipe& dialog) {
@@ -65,29 +91,37 @@ bool AddSubRecipeMember(RecipeWindow& window) {
     const std::int32_t parent = KeyId(window.nodeKey());  // the window may show another node when the dialog is closed
     showOver(window, *dialog);
     if (dialog->cancelled()) return false;
+    // In one transaction: nobody deletes one of the two recipes in between.
     ado::Recordset& members = window.memberRecordset();
+    ado::Transaction transaction(*members.activeConnection());
+    requireRecipe(members.activeConnection(), parent, window.texts());
+    requireRecipe(members.activeConnection(), chosenRecipe(*dialog), window.texts());
     OpenAndMoveLast(members);
     members.addNew(std::to_array<std::pair<std::string, Variant>>({
         {std::string(column::parentId), parent},
         {std::string(column::varRecipe), dialog->txtVarRecipe->text()},
         {std::string(column::childId), chosenRecipe(*dialog)},
     }));
+    transaction.commit();
     CloseRecordset(members, false);
     return true;
 }
 
 bool EditSubRecipeMember(ado::Recordset& members, RecipeWindow& window) {
     const auto dialog = std::make_shared<FSubRecipe>(window.services(), window.texts(), window.help());
-    if (!readAgain(members) || !ReadMemberToDialog(members, *dialog, window)) {
+    RowInDialog row(members, window.texts(), namesIn(window.texts(), *dialog));
+    if (!row.begin() || !ReadMemberToDialog(row.fields(), *dialog, window)) {
         window.tell(window.texts().GetResource(text::notRead));
         return false;
     }
-    const ado::Bookmark row = members.bookmark();
     showOver(window, *dialog);
     if (dialog->cancelled()) return false;
-    members.setBookmark(row);  // the window may have read its members anew meanwhile
-    storeOrRestore(members, WriteDialogToMember(members, *dialog),
-                   [&] { window.tell(window.texts().GetResource(text::notWritten)); });
+    if (WriteDialogToMember(row.fields(), *dialog)) {
+        storeMember(row, window.texts());
+    } else {
+        window.tell(window.texts().GetResource(text::notWritten));
+        row.restore();
+    }
     return true;
 }
 

@@ -17,8 +17,20 @@ bool succeeds(const auto& action) noexcept {
 
 }  // namespace
 
-bool readAgain(ado::Recordset& recordset) noexcept {
-    return succeeds([&] { recordset.resync(ado::adAffectCurrent); });
+bool RowInDialog::begin() noexcept {
+    return succeeds([this] {
+        row_ = recordset_.clone();
+        row_->setBookmark(recordset_.bookmark());
+        row_->edit();
+    });
+}
+
+void RowInDialog::store() {
+    try {
+        row_->update();
+    } catch (const Error& error) {
+        throw conflictOf(error, *row_, texts_, names_);
+    }
 }
 
 bool forEachField(ado::Recordset& recordset, const std::function<void(ado::Field&)>& use) noexcept {
@@ -37,19 +49,6 @@ void showOver(RecipeWindow& window, dialogs::Dialog& dialog, std::function<bool(
     forms::Form& owner = window.editorWindow();
     dialog.setOwner(owner.share());
     dialog.showModal(owner.handle());
-}
-
-void storeOrRestore(ado::Recordset& recordset, bool written, const std::function<void()>& tell) {
-    if (!written) {
-        tell();
-        return recordset.resync(ado::adAffectCurrent);
-    }
-    try {
-        recordset.update();
-    } catch (const Error&) {
-        recordset.cancelUpdate();
-        throw;
-    }
 }
 
 }  // namespace hx::recipe

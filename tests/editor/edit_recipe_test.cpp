@@ -245,5 +245,33 @@ TEST_F(EditRecipe, SurvivesTheEndOfItsWindow) {
     EXPECT_FALSE(messages().empty()) << "the change was not stored";
 }
 
+TEST_F(EditRecipe, ShowsTheNameThatAnotherHasGivenIt) {
+    edit([this](FRecipe& dialog) {
+        const std::vector<ado::ColumnValue> values = {{1, Variant("Theirs")}};
+        database.table("TrcpRecipe").update(mix, values);
+        dialog.txtName->setText("Mine");
+    });
+    ASSERT_EQ(messages().size(), 1U);
+    EXPECT_EQ(messages()[0],
+              "-2147217864: Die Zeile wurde von jemand anderem geändert. Nichts davon wurde gespeichert:"
+              "\r\nName: \"Mine\"; gespeichert ist jetzt \"Theirs\"");
+    EXPECT_EQ(host.record.messages[0].title, "mnuRecipeFunc");
+    EXPECT_EQ(shownNodes()[0], "RCPR1 Theirs");
+    EXPECT_EQ(storedRecipes()[0], "1 Theirs");
+    expectAtRest();
+}
+
+TEST_F(EditRecipe, RemovesTheNodeOfARecipeThatAnotherHasDeleted) {
+    edit([this](FRecipe& dialog) {
+        database.table("TrcpRecipe").remove(mix);
+        dialog.txtComment->setText("Mine");
+    });
+    ASSERT_EQ(messages().size(), 1U);
+    EXPECT_EQ(messages()[0].substr(0, 13), "-2147217885: ");
+    EXPECT_EQ(shownNodes(), nodesOfStoredRecipes());
+    EXPECT_EQ(window->nodeKey(), "RCPE0");
+    expectAtRest();
+}
+
 }  // namespace
 }  // namespace hx::editor

@@ -14,6 +14,11 @@ struct GridError : EditorWindow {
             return message.defaultButton;
         };
     }
+    /// As another does.
+    void storeVariable(std::int32_t member, const std::string& variable) {
+        const std::vector<ado::ColumnValue> values = {{2, Variant(variable)}};
+        database.table("TrcpRecipeMember").update(member, values);
+    }
     void typeDuplicate() {
         type(1, "Tank.Level");
         refuseNextUpdate(ado::dbErrDuplicate, "Duplicate value");
@@ -79,12 +84,53 @@ TEST_F(GridError, AStaleRowShowsTheNotFoundTextAndResetsTheGrid) {
     type(1, "Tank.Pressure");
     database.table("TrcpRecipeMember").remove(2);
     EXPECT_FALSE(grid().setRow(2));
-    EXPECT_EQ(messages(), (Texts{"Resource 407 not found"}));
+    EXPECT_EQ(messages(), (Texts{"Resource 407 not found",
+                                 "-2147217885: Die Zeile wurde von jemand anderem gelöscht. Nichts davon wurde "
+                                 "gespeichert:\r\nVariable: \"Tank.Pressure\""}));
     EXPECT_EQ(host.record.beeps, 1);
     EXPECT_EQ(members().editMode(), ado::adEditNone);
     EXPECT_EQ(members().absolutePosition(), 1);
     EXPECT_EQ(grid().row(), 0);
+    EXPECT_EQ(shown("VarRecipe"), (Texts{"Tank.Level", "Pump.Speed"}));
+    EXPECT_EQ(busy, (std::vector<bool>{true, true}));
+}
+
+TEST_F(GridError, ACellThatAnotherHasChangedShowsWhatIsStoredNow) {
+    type(1, "Tank.Pressure");
+    storeVariable(2, "Tank.Theirs");
+    EXPECT_FALSE(grid().setRow(0));
+    EXPECT_EQ(messages(), (Texts{"-2147217864: Die Zeile wurde von jemand anderem geändert. Nichts davon wurde "
+                                 "gespeichert:\r\nVariable: \"Tank.Pressure\"; gespeichert ist jetzt "
+                                 "\"Tank.Theirs\""}));
+    EXPECT_EQ(host.record.messages[0].title, "tdbRM_Error");
+    EXPECT_EQ(host.record.beeps, 1);
     EXPECT_EQ(busy, (std::vector<bool>{true}));
+    EXPECT_EQ(shown("VarRecipe"), (Texts{"Tank.Level", "Tank.Theirs", "Pump.Speed"}));
+    EXPECT_EQ(storedVariable(2), "Tank.Theirs");
+    EXPECT_EQ(grid().row(), 1);
+    EXPECT_FALSE(grid().dataChanged());
+    EXPECT_EQ(members().editMode(), ado::adEditNone);
+    EXPECT_TRUE(grid().setRow(0)) << "the row can be left";
+    EXPECT_EQ(messages().size(), 1U);
+}
+
+TEST_F(GridError, AConflictIsToldInEnglishToo) {
+    useLanguage(english);
+    show(mixKey);
+    type(1, "Tank.Pressure");
+    storeVariable(2, "Tank.Theirs");
+    grid().setRow(0);
+    EXPECT_EQ(messages(),
+              (Texts{"-2147217864: The row was changed by another. Nothing of this was stored:\r\nVariable: "
+                     "\"Tank.Pressure\"; stored is now \"Tank.Theirs\""}));
+}
+
+TEST_F(GridError, ARowIsStoredWhenAnotherHasChangedAnotherRow) {
+    type(1, "Tank.Pressure");
+    storeVariable(3, "Pump.Theirs");
+    EXPECT_TRUE(grid().setRow(0));
+    EXPECT_EQ(messages(), Texts{});
+    EXPECT_EQ(storedVariable(2), "Tank.Pressure");
 }
 
 TEST_F(GridError, AnErrorEventOfCodeThirtyTwoResetsTheRecordsetToItsFirstRow) {

@@ -429,5 +429,21 @@ TEST_F(SubRecipes, CommandsByNumberDoNothingForOtherNodes) {
     EXPECT_EQ(messages(), Texts{});
 }
 
+TEST_F(SubRecipes, ANewOneIsNotGivenToARecipeThatIsGone) {
+    inDialog<FSubRecipe>("FSubRecipe", [this](FSubRecipe& dialog) {
+        dialog.cmbChooseRecipe->setListIndex(1);
+        dialog.txtVarRecipe->setText("File");
+        database.table("TrcpRecipe").remove(mix);
+        dialog.cmdOk->click();
+    });
+    click("mnuRecipeMemberNewRecipe");
+    EXPECT_EQ(messages(), (Texts{"-2147217885: Das Rezept mit der ID 1 wurde von jemand anderem gelöscht. Nichts wurde "
+                                 "gespeichert."}));
+    EXPECT_EQ(storedMembers(), allMembers);
+    EXPECT_EQ(shownNodes(), nodesOfStoredRecipes());
+    EXPECT_EQ(window->nodeKey(), "RCPE0");
+    expectAtRest();
+}
+
 }  // namespace
 }  // namespace hx::editor

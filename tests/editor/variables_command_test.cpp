@@ -196,5 +196,104 @@ TEST_F(ChooseVariables, AreAllOldOrAllNewWhateverFails) {
     EXPECT_EQ(storedMembers(), after);
 }
 
+struct ChooseBesideAnother : ChooseVariables {
+    /// The user chooses two variables; another changes the members meanwhile.
+    void chooseWhile(const std::function<void()>& another) {
+        inDialog<FMultiSelectItems>("FMultiSelectItems", [another](FMultiSelectItems& dialog) {
+            dialog.hxMI->setSelectedItems(Texts{"A", "B"});
+            another();
+            dialog.cmdOk->click();
+        });
+        click("mnuRecipeMemberNewVariable");
+    }
+    support::MemoryTable& stored() { return database.table("TrcpRecipeMember"); }
+    const Texts replaced = {"2 Sugar.Mass 0", "1 A 0", "1 B 0"};
+};
+
+TEST_F(ChooseBesideAnother, AsksBeforeMembersAreReplacedThatCameOrWentMeanwhile) {
+    chooseWhile([this] {
+        stored().remove(1);
+        addMember(mix, "Late");
+    });
+    EXPECT_EQ(messages(),
+              (Texts{"Die Elemente des Rezepts wurden inzwischen von jemand anderem geändert.\r\nHinzugekommen: "
+                     "Late\r\nEntfernt: Tank.Level\r\nTrotzdem durch die Auswahl ersetzen?"}));
+    EXPECT_EQ(host.record.messages[0].style, 260);
+    EXPECT_EQ(shown("VarRecipe"), (Texts{"Tank.Temp", "Pump.Speed", "Late"}));
+    EXPECT_EQ(storedMembers().size(), 6U);
+    expectAtRest();
+}
+
+TEST_F(ChooseBesideAnother, AsksInEnglish) {
+    useLanguage(english);
+    show(mixKey);
+    chooseWhile([this] { addMember(mix, "Late"); });
+    EXPECT_EQ(messages(),
+              (Texts{"The members of the recipe were changed by another meanwhile.\r\nAdded: Late\r\nRemoved: "
+                     "-\r\nReplace them all the same?"}));
+}
+
+TEST_F(ChooseBesideAnother, ReplacesThemWhenTheUserSaysSo) {
+    answer(forms::message::Answer::yes);
+    chooseWhile([this] { addMember(mix, "Late"); });
+    EXPECT_EQ(messages().size(), 1U);
+    EXPECT_EQ(storedMembers(), replaced);
+}
+
+TEST_F(ChooseBesideAnother, AsksAgainWhenTheyChangeWhileTheUserIsAsked) {
+    int asked = 0;
+    host.script.onMessage = [&](const headless::Message&) {
+        if (++asked == 1) addMember(mix, "Later");
+        return forms::message::Answer::yes;
+    };
+    chooseWhile([this] { addMember(mix, "Late"); });
+    ASSERT_EQ(messages().size(), 2U);
+    EXPECT_NE(messages()[1].find("Hinzugekommen: Later\r\n"), std::string::npos) << messages()[1];
+    EXPECT_EQ(storedMembers(), replaced);
+}
+
+TEST_F(ChooseBesideAnother, TellsOfSubRecipesByTheirNames) {
+    chooseWhile([this] {
+        addMember(mix, "File", syrup);
+        addMember(mix, "Gone", 99);
+        stored().remove(5);
+    });
+    ASSERT_EQ(messages().size(), 1U);
+    EXPECT_NE(messages()[0].find("Hinzugekommen: Sirup, Gone\r\nEntfernt: Wasser\r\n"), std::string::npos)
+        << messages()[0];
+}
+
+TEST_F(ChooseBesideAnother, TellsOfARenamedOneAndOfNoMoreThanAFew) {
+    chooseWhile([this] {
+        for (int i = 1; i <= 6; ++i) addMember(mix, "Late" + std::to_string(i));
+        const std::vector<ado::ColumnValue> values = {{2, Variant("Tank.Theirs")}};
+        stored().update(1, values);
+    });
+    ASSERT_EQ(messages().size(), 1U);
+    EXPECT_NE(
+        messages()[0].find("Hinzugekommen: Tank.Theirs, Late1, Late2, Late3, Late4, ...\r\nEntfernt: Tank.Level\r\n"),
+        std::string::npos)
+        << messages()[0];
+}
+
+TEST_F(ChooseBesideAnother, MembersOfOtherRecipesDoNotMatter) {
+    chooseWhile([this] { addMember(syrup, "Late"); });
+    EXPECT_EQ(messages(), Texts{});
+    EXPECT_EQ(storedMembers(), (Texts{"2 Sugar.Mass 0", "2 Late 0", "1 A 0", "1 B 0"}));
+}
+
+TEST_F(ChooseBesideAnother, GivesNothingToARecipeThatIsGone) {
+    chooseWhile([this] {
+        database.table("TrcpRecipe").remove(mix);
+        for (const int member : {1, 2, 3, 4, 5}) stored().remove(member);
+    });
+    EXPECT_EQ(messages(), (Texts{"-2147217885: Das Rezept mit der ID 1 wurde von jemand anderem gelöscht. Nichts wurde "
+                                 "gespeichert."}));
+    EXPECT_EQ(storedMembers(), others);
+    EXPECT_EQ(shownNodes(), nodesOfStoredRecipes());
+    EXPECT_EQ(window->nodeKey(), "RCPE0");
+    expectAtRest();
+}
+
 }  // namespace
 }  // namespace hx::editor

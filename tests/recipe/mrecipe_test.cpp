@@ -375,5 +375,104 @@ TEST_F(MRecipe, ARowThatCannotBeStoredReachesTheCaller) {
     EXPECT_EQ(recipes.editMode(), ado::adEditNone);
 }
 
+struct MRecipeBesideAnother : MRecipe {
+    /// Edits while another stores these values; the user then makes his change and confirms.
+    void editWhileTheyStore(const std::vector<std::pair<Column, Variant>>& theirs,
+                            const std::function<void(FRecipe&)>& change) {
+        editAndConfirm([&](FRecipe& dialog) {
+            for (const auto& [column, value] : theirs) store(column, value);
+            change(dialog);
+        });
+    }
+    [[nodiscard]] Error conflictWith(const std::vector<std::pair<Column, Variant>>& theirs,
+                                     const std::function<void(FRecipe&)>& change) {
+        try {
+            editWhileTheyStore(theirs, change);
+        } catch (const Error& error) {
+            return error;
+        }
+        return {0, "no error"};
+    }
+    [[nodiscard]] static std::string changed(const std::string& entries) {
+        return "Die Zeile wurde von jemand anderem geändert. Nichts davon wurde gespeichert:" + entries;
+    }
+};
+
+TEST_F(MRecipeBesideAnother, WhatTheUserDoesNotTouchIsNotReverted) {
+    store(VarLoad, "before");
+    store(StandardValue, 0.5);
+    const std::vector<std::pair<Column, Variant>> theirs = {
+        {Name, "Kaffee"},       {VarRecipeName, "a"}, {VarDescription, "b"}, {FilePath, "c"},
+        {FileExtension, "de"},  {Enabled, true},      {VarLoad, "f"},        {VarSave, "g"},
+        {VarRead, "h"},         {VarWrite, "i"},      {StandardValue, 2.5},  {VarSetValue, "j"},
+        {SaveSubRecipes, true}, {SaveChanges, true},  {CryptEngine, true},   {Options, 3}};
+    editWhileTheyStore(theirs, [](FRecipe& dialog) { dialog.txtComment->setText("mine"); });
+    EXPECT_EQ(stored(Comment), Variant("mine"));
+    for (const auto& [column, value] : theirs) EXPECT_EQ(stored(column), value) << column;
+}
+
+TEST_F(MRecipeBesideAnother, ConfirmedWithoutAChangeNothingIsWritten) {
+    editWhileTheyStore({{Comment, "theirs"}}, [](FRecipe&) {});
+    EXPECT_EQ(stored(Comment), Variant("theirs"));
+}
+
+TEST_F(MRecipeBesideAnother, EveryPropertyThatBothChangeIsAConflict) {
+    for (const TextRow& row : textRows) {
+        SCOPED_TRACE(row.column);
+        const Error error = conflictWith({{row.column, "xy"}}, [&](FRecipe& dialog) {
+            dialog.optRecipeAbsrel[FRecipe::relative]->setValue(true);
+            (dialog.*row.box)->setText("zz");
+        });
+        EXPECT_EQ(error.number(), ado::dbErrRowChanged);
+        EXPECT_EQ(stored(row.column), Variant("xy"));
+        EXPECT_EQ(recipes.editMode(), ado::adEditNone);
+    }
+}
+
+TEST_F(MRecipeBesideAnother, AConflictTellsWhatWasEnteredAndWhatIsStoredNow) {
+    const Error error = conflictWith({{Comment, "theirs"}, {VarRead, "untouched"}}, [](FRecipe& dialog) {
+        dialog.txtComment->setText("mine");
+        dialog.chkEnabled->click();
+        dialog.cboFilePath->setText(std::string(100, 'p'));
+    });
+    EXPECT_EQ(error.description(), changed("\r\nRezeptdateipfad: \"" + std::string(80, 'p') +
+                                           "...\"\r\nDefinition aktiv: \"ja\"\r\nKommentar: \"mine\"; gespeichert ist "
+                                           "jetzt \"theirs\""));
+}
+
+TEST_F(MRecipeBesideAnother, AConflictIsToldInEnglishToo) {
+    host.registry.writeNumber(host::registry_keys::helvix, "LCID", 1033);
+    window->resourceTexts.InitResources(host.registry);
+    const Error error = conflictWith({{Comment, "theirs"}}, [](FRecipe& dialog) { dialog.txtComment->setText("x"); });
+    EXPECT_EQ(error.description(),
+              "The row was changed by another. Nothing of this was stored:\r\nComment: \"x\"; stored "
+              "is now \"theirs\"");
+}
+
+TEST_F(MRecipeBesideAnother, ARecipeThatIsGoneIsToldWithWhatWasEntered) {
+    try {
+        editAndConfirm([this](FRecipe& dialog) {
+            plant.database.table("TrcpRecipe").remove(id);
+            dialog.txtComment->setText("mine");
+        });
+        FAIL() << "the recipe is gone";
+    } catch (const Error& error) {
+        EXPECT_EQ(error.number(), ado::dbErrDeletedRow);
+        EXPECT_EQ(error.description(),
+                  "Die Zeile wurde von jemand anderem gelöscht. Nichts davon wurde gespeichert:"
+                  "\r\nKommentar: \"mine\"");
+    }
+}
+
+TEST_F(MRecipeBesideAnother, TheDialogShowsWhatIsStoredWhenItOpens) {
+    OpenAndMoveFirst(recipes);
+    recipes.find("ID=" + std::to_string(id));
+    EXPECT_EQ(recipes.field("Comment").value(), Variant(""));
+    store(Comment, "theirs");
+    inDialog<FRecipe>("FRecipe", [](FRecipe& dialog) { EXPECT_EQ(dialog.txtComment->text(), "theirs"); });
+    EXPECT_FALSE(EditRecipe(recipes, *window));
+    EXPECT_EQ(host.record.modals.size(), 1U);
+}
+
 }  // namespace
 }  // namespace hx::recipe
