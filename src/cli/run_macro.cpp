@@ -45,17 +45,25 @@ class MacroSession {
                    .stopRequested = [this] { return interruption_.requested(); }}) {
         macros::defineGlobals(engine_, studio_, files_);
     }
-    ~MacroSession() {
-        studio_.script() = {};
-        studio_.components().clear();
-        studio_.closeProject();
-    }
+    ~MacroSession() { close(); }
     MacroSession(const MacroSession&) = delete;
     MacroSession& operator=(const MacroSession&) = delete;
 
     void run(const MacroPlan& plan, const std::string& text) {
         if (!plan.project.empty()) studio_.openProject(studio_.fileOf(plan.project));
         engine_.run(text, plan.macro, plan.arguments);
+    }
+    /// Closes the project, as by leaving the studio.
+    void close() {
+        studio_.script() = {};
+        studio_.components().clear();
+        studio_.closeProject();
+    }
+    /// The messages that only tell something, which nobody has read: the macro goes on as if all were well.
+    [[nodiscard]] std::vector<headless::Message> unread() {
+        std::vector<headless::Message> left = studio_.record().messages;
+        std::erase_if(left, [](const headless::Message& box) { return box.scripted || box.buttons.size() > 1; });
+        return left;
     }
 
   private:
@@ -96,6 +104,17 @@ std::string decimalPointOf(const std::string& locale) {
     throw CLI::ValidationError("--locale", "\"" + locale + "\" is not a known locale");
 }
 
+bool runToItsEnd(MacroSession& session, const MacroPlan& plan, const std::string& text, const Output& output) {
+    try {
+        session.run(plan, text);
+        return true;
+    } catch (const lua::MacroError& error) {
+        output.problems << "hxrecipe: " << visibleLines(error.what()) << "\n";
+        if (!error.traceback().empty()) output.problems << visibleLines(error.traceback()) << "\n";
+        return false;
+    }
+}
+
 }  // namespace
 
 int runMacro(const MacroPlan& plan, const Output& output) {
@@ -104,14 +123,12 @@ int runMacro(const MacroPlan& plan, const Output& output) {
     if (!plan.project.empty()) requireProject(plan.project);
     if (!plan.studio.config.empty()) makeFolder(plan.studio.config);
     MacroSession session(plan, output);
-    try {
-        session.run(plan, text);
-        return succeeded;
-    } catch (const lua::MacroError& error) {
-        output.problems << "hxrecipe: " << visibleLines(error.what()) << "\n";
-        if (!error.traceback().empty()) output.problems << visibleLines(error.traceback()) << "\n";
-        return failed;
-    }
+    const bool ended = runToItsEnd(session, plan, text, output);
+    session.close();
+    const auto unread = session.unread();
+    for (const headless::Message& box : unread)
+        output.problems << "hxrecipe: " << visibleLines(box.title + ": " + box.text) << "\n";
+    return ended && unread.empty() ? succeeded : failed;
 }
 
 void addRunMacro(CLI::App& app, Command& chosen, const Output& output) {
@@ -135,7 +152,9 @@ void addRunMacro(CLI::App& app, Command& chosen, const Output& output) {
         ->type_name("DIR");
     command->add_flag("--trust", plan->studio.trusted,
                       "Let the macro use all files and the registry, and start programs.");
-    command->footer("Exit status: 0 done, 1 the macro failed or was stopped by Ctrl+C, 2 wrong usage.");
+    command->footer(
+        "Exit status: 0 done, 1 the macro failed, was stopped by Ctrl+C or left an error message unread, 2 wrong "
+        "usage.");
     command->callback([plan, locale, &chosen, &output] {
         plan->studio.decimalPoint = decimalPointOf(*locale);
         plan->studio.files = filesOf(*plan);

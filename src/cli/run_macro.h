@@ -18,7 +18,8 @@ struct MacroPlan {
     MacroStudioOptions studio;
 };
 
-/// Runs a macro on a studio without a screen. The exit status: 0 done, 1 the macro failed.
+/// Runs a macro on a studio without a screen. The exit status: 0 done, 1 the macro failed, or the editor told of a
+/// failure that nobody has read.
 int runMacro(const MacroPlan& plan, const Output& output);
 
 /// Adds the command `run`.

@@ -17,6 +17,7 @@ struct Message {
     std::vector<forms::message::Answer> buttons;  ///< in the order in which they stand in the box
     forms::message::Answer defaultButton = forms::message::Answer::ok;
     forms::message::Answer answer = forms::message::Answer::ok;
+    bool scripted = false;  ///< a function of the script was asked
 };
 
 /// A form that was shown modally.

@@ -76,7 +76,10 @@ forms::message::Answer Screen::messageBox(std::string_view text, std::int32_t st
                 .buttons = buttonsOf(style),
                 .defaultButton = defaultButtonOf(style),
                 .answer = defaultButtonOf(style)};
-    if (const auto ask = script_.onMessage) box.answer = ask(box);
+    if (const auto ask = script_.onMessage) {
+        box.scripted = true;
+        box.answer = ask(box);
+    }
     record_.messages.push_back(box);
     if (std::ranges::find(box.buttons, box.answer) == box.buttons.end()) {
         throw automation::Error(automation::errBadIndex, "The message box \"" + box.text + "\" has no button \"" +
