@@ -1,0 +1,77 @@
+/// The blocks of memory that a program asks for while its main function runs, one of which the plan may refuse.
+#include <cerrno>
+#include <cstddef>
+#include <dirent.h>
+#include <dlfcn.h>
+
+#include "torture/faults/plan.h"
+
+extern "C" {
+void* __libc_malloc(size_t bytes);
+void* __libc_calloc(size_t count, size_t bytes);
+void* __libc_realloc(void* block, size_t bytes);
+}
+
+namespace {
+
+using Main = int (*)(int, char**, char**);
+using Ending = void (*)();
+
+Main programMain = nullptr;
+bool counting = false;
+// The C++ library itself ends a program that gets no memory between opening a folder and reading its first name.
+thread_local bool openingFolder = false;
+
+template <class Function>
+Function* next(const char* name) {
+    return reinterpret_cast<Function*>(dlsym(RTLD_NEXT, name));
+}
+
+// Only after the program has begun: what comes before, nothing could answer for.
+int countedMain(int argc, char** argv, char** environment) {
+    (void)hx::faults::plan();
+    counting = hx::faults::plan().mode() == hx::faults::Plan::Mode::memory;
+    const int result = programMain(argc, argv, environment);
+    if (counting) hx::faults::plan().logBlocks();
+    counting = false;
+    return result;
+}
+
+bool grants() {
+    if (!counting || openingFolder || hx::faults::plan().grants()) return true;
+    errno = ENOMEM;
+    return false;
+}
+
+}  // namespace
+
+extern "C" {
+
+void* malloc(size_t bytes) noexcept { return grants() ? __libc_malloc(bytes) : nullptr; }
+void* calloc(size_t count, size_t bytes) noexcept { return grants() ? __libc_calloc(count, bytes) : nullptr; }
+void* realloc(void* block, size_t bytes) noexcept { return grants() ? __libc_realloc(block, bytes) : nullptr; }
+
+DIR* opendir(const char* path) {
+    openingFolder = true;
+    return next<DIR*(const char*)>("opendir")(path);
+}
+DIR* fdopendir(int folder) {
+    openingFolder = true;
+    return next<DIR*(int)>("fdopendir")(folder);
+}
+dirent* readdir(DIR* folder) {
+    openingFolder = false;
+    return next<dirent*(DIR*)>("readdir")(folder);
+}
+dirent64* readdir64(DIR* folder) {
+    openingFolder = false;
+    return next<dirent64*(DIR*)>("readdir64")(folder);
+}
+
+int __libc_start_main(Main main, int argc, char** argv, Ending init, Ending fini, Ending loaderFini, void* stackEnd) {
+    programMain = main;
+    using Start = int(Main, int, char**, Ending, Ending, Ending, void*);
+    return next<Start>("__libc_start_main")(countedMain, argc, argv, init, fini, loaderFini, stackEnd);
+}
+
+}  // extern "C"

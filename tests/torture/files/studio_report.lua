@@ -1,0 +1,3 @@
+-- Shows the report.
+studio.Click("RCPE0")
+editor.abr.Click("mnuOptionReport")
