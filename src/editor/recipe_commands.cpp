@@ -87,7 +87,7 @@ void Commands::showingConflicts(std::int32_t id, const std::string& before, cons
 
 void Commands::showChangedRecipe(std::int32_t id, const std::string& before) {
     if (window_.dataEnvironment() == nullptr) return;
-    const auto name = readNameOfRecipe(window_.dataEnvironment()->CnnRecipes, id);
+    const auto name = nameOfRecipe(window_.dataEnvironment()->CnnRecipes, id);
     if (!name) recipeDeleted(id);
     else if (!before.empty() && *name != before) recipeRenamed(id, *name);
 }

@@ -15,7 +15,7 @@ QString seen(const QString& toolTip) {
 }
 
 TEST(PlainToolTip, ShowsWhatLooksLikeMarkup) {
-    for (const QString text : {QString(markup), QStringLiteral("a < b"), QStringLiteral("<p>"), QString()}) {
+    for (const QString& text : {QString(markup), QStringLiteral("a < b"), QStringLiteral("<p>"), QString()}) {
         EXPECT_EQ(seen(qt::plainToolTip(text)), text);
     }
     EXPECT_EQ(qt::plainToolTip(QStringLiteral("Makro & Co")), "Makro & Co");

@@ -192,7 +192,7 @@ TEST(Memory, ThatEndsWhileTheEngineIsMadeIsAnErrorOfTheStandardLibrary) {
     int refused = 0;
     for (std::size_t limit = 1; !ran; limit += 100) {
         try {
-            Engine engine({.print = [](std::string_view) {}, .folder = {}, .memoryLimit = limit});
+            Engine engine({.print = [](std::string_view) {}, .files = {}, .memoryLimit = limit});
             engine.define("host", "Run", [&](Values) { return Value(ran = true); });
             engine.run("host.Run()", "test.lua", {"argument"});
         } catch (const std::bad_alloc&) {

@@ -143,7 +143,7 @@ TEST(InitItems, AreReleasedHoweverDeepTheyLie) {
     std::weak_ptr<CInitItem> below;
     {
         const auto top = chain(tooDeep);
-        below = std::static_pointer_cast<CInitItem>(top->itms->Item("a")->share());
+        below = std::static_pointer_cast<CInitItem>(top->itms->Item(std::string_view("a"))->share());
     }
     EXPECT_TRUE(below.expired());
 }
@@ -159,8 +159,8 @@ TEST(InitItems, AreClearedAndDeletedHoweverDeepTheyLie) {
 
 TEST(InitItems, ThatOthersHoldStayWholeWhenThoseAboveGo) {
     auto top = chain(3);
-    const auto held = std::static_pointer_cast<CInitItem>(top->itms->Item("a")->share());
-    const auto list = std::static_pointer_cast<CInitItems>(held->itms->Item("a")->itms->share());
+    const auto held = std::static_pointer_cast<CInitItem>(top->itms->Item(std::string_view("a"))->share());
+    const auto list = std::static_pointer_cast<CInitItems>(held->itms->Item(std::string_view("a"))->itms->share());
     top.reset();
     EXPECT_EQ(held->itms->Count(), 1);
     EXPECT_EQ(list->Count(), 1);
@@ -168,7 +168,8 @@ TEST(InitItems, ThatOthersHoldStayWholeWhenThoseAboveGo) {
 
 TEST(InitItems, AreClearedAlsoBelowEntriesThatOthersHold) {
     const auto top = chain(3);
-    const auto held = std::static_pointer_cast<CInitItem>(top->itms->Item("a")->itms->Item("a")->share());
+    const auto held = std::static_pointer_cast<CInitItem>(
+        top->itms->Item(std::string_view("a"))->itms->Item(std::string_view("a"))->share());
     top->itms->Clear();
     EXPECT_EQ(held->itms->Count(), 0);
 }
