@@ -275,7 +275,7 @@ class File:
                 self._instead(value, self._plus_one(value), change)
         elif kind in (TypeKind.VOID, TypeKind.POINTER, TypeKind.RECORD):
             other = {TypeKind.VOID: '', TypeKind.POINTER: 'nullptr', TypeKind.RECORD: '{}'}[kind]
-            if self._code(value) in ('{}', 'nullptr', 'nullopt'):
+            if self._code(value) in ('{ }', 'nullptr', 'std :: nullopt'):
                 return
             number = self._mutant(cursor, change, True)
             self._wrap(cursor, f'if(hxMutant({number}))return {other};else ', '', number)

@@ -19,7 +19,7 @@ constexpr const char* path = "/plant/HXEditors.ini";
 
 /// Default texts of the tests, by name.
 std::string_view testText(std::string_view name) {
-    if (name == "odd") return "a=1=2\r\n=x\r\nb=\r\n\r\nnothing\r\n key =  True\r\nc=x\n\nd\r\ne=L\xF6we";
+    if (name == "odd") return "a=1=2\r\n=x\r\nb=\r\n\r\nnothing\r\n key =  True\r\nc=x\n\nd\r\nee=L\xF6we";
     if (name == "merge") return "Me.Width=1\r\nnew.Entry=2\r\n";
     return defaultText(name);
 }
@@ -125,8 +125,58 @@ TEST_F(CInitTest, IgnoresMalformedDefaultLines) {
     EXPECT_EQ(read(" key "), Variant(true)) << "keys are taken without trimming";
     EXPECT_FALSE(inits.ParamExist("key"));
     EXPECT_EQ(read("c"), Variant("x\n\nd")) << "only CR LF ends a line";
-    EXPECT_EQ(read("e"), Variant("Löwe"));
+    EXPECT_EQ(read("ee"), Variant("Löwe"));
     EXPECT_EQ(inits.root().Count(), 4);
+}
+
+TEST_F(CInitTest, NamesTheDefaultTextThatIsMissing) {
+    try {
+        (void)defaultText("other");
+        FAIL() << "a text was given";
+    } catch (const automation::Error& error) {
+        EXPECT_EQ(error.description(), "There is no resource \"other\" of type INITS");
+    }
+}
+
+TEST_F(CInitTest, FindsNothingBehindAMissingName) {
+    loadDefaults();
+    EXPECT_EQ(read("missing.SaveOnExit"), Variant("missing"));
+    EXPECT_FALSE(inits.ParamExist("missing.SaveOnExit"));
+}
+
+TEST_F(CInitTest, TakesAPathWithoutANameAsThere) {
+    for (const char* none : {"", ".", ".."}) EXPECT_TRUE(inits.ParamExist(none)) << none;
+}
+
+TEST_F(CInitTest, GivesEveryEntryTheIndexZero) {
+    inits.WriteAValueToCInits("a.b", Variant(5));
+    const CInitItem& outer = *inits.root().Item(std::string_view("a"));
+    EXPECT_EQ(outer.Index, 0);
+    EXPECT_EQ(outer.itms->Item(std::string_view("b"))->Index, 0);
+}
+
+TEST_F(CInitTest, AppliesTheEntriesOfEachControlOfAnArray) {
+    inits.Motherobject = window.get();
+    inits.WriteAValueToCInits("optA(0).Caption", Variant("first"));
+    inits.WriteAValueToCInits("optA(1).Caption", Variant("second"));
+    inits.SetInitToMotherObject();
+    EXPECT_EQ(window->opt[0]->caption(), "first");
+    EXPECT_EQ(window->opt[1]->caption(), "second");
+}
+
+TEST_F(CInitTest, SaysWhatIsMissing) {
+    const auto description = [](const auto& call) -> std::string {
+        try {
+            call();
+        } catch (const automation::Error& error) {
+            return error.description();
+        }
+        return {};
+    };
+    EXPECT_EQ(description([&] { inits.GetInitFromControl("None"); }), "CInit has no item \"None\"");
+    EXPECT_EQ(description([&] { inits.root().Delete(Variant("None")); }), "CInitItems has no item \"None\"");
+    loadDefaults();
+    EXPECT_EQ(description([&] { inits.SetInitToControl("sb"); }), "Motherobject is not set");
 }
 
 TEST_F(CInitTest, MergesASecondDefaultText) {

@@ -59,6 +59,7 @@ TEST(InitItems, FindsByNameIgnoringCaseAndByPositionFromOne) {
     EXPECT_EQ(items.Item(Variant(3)), nullptr);
     EXPECT_EQ(items.Item(Variant("sb")), nullptr);
     EXPECT_EQ(items.Item(Variant()), nullptr);
+    EXPECT_EQ(items.Item(Variant(automation::Null{})), nullptr);
 }
 
 TEST(InitItems, KeepsTheOrderOfAdding) {

@@ -32,6 +32,7 @@ TEST(TextToValue, ReadsTheNumberAtTheStartWithPointOrComma) {
     EXPECT_EQ(TextToValue("12abc"), Variant(12.0));
     EXPECT_EQ(TextToValue("1 000\t000 , 5"), Variant(1000000.5));
     EXPECT_EQ(TextToValue(" 0"), Variant(0.0));
+    EXPECT_EQ(TextToValue("9,5"), Variant(9.5));
     EXPECT_EQ(TextToValue("2").type(), automation::VarType::real8);
 }
 
