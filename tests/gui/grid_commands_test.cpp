@@ -1,4 +1,5 @@
 #include <QApplication>
+#include <QContextMenuEvent>
 #include <QDialog>
 #include <QHeaderView>
 #include <QLineEdit>
@@ -195,6 +196,36 @@ TEST_F(GridCommands, TheRightButtonOpensTheMenuOfTheMembers) {
     EXPECT_EQ(entries,
               (Texts{"-Rezeptelement", "&Variablen hinzufügen/löschen        ", "-&Löschen", "", "Editor anzeigen"}));
     EXPECT_EQ(grid().currentIndex().row(), 1);
+}
+
+TEST_F(GridCommands, TheRightButtonOpensTheMenuOfTheMembersOverAnOpenEditorToo) {
+    showMembers("Rezepte/Limonade");
+    clickCell(1, "Variable");
+    QLineEdit& line = typeInto("Mischer.Ein");
+    Texts menus;
+    const NextWindow next([&](QWidget& menu) {
+        for (const QAction* action : menu.actions()) menus.push_back(action->objectName().toStdString());
+    });
+    const QPoint point = line.rect().center();
+    QTest::mousePress(&line, Qt::RightButton, {}, point);
+    QContextMenuEvent request(QContextMenuEvent::Mouse, point, line.mapToGlobal(point));
+    QApplication::sendEvent(&line, &request);
+    QTest::mouseRelease(&line, Qt::RightButton, {}, point);
+    handleEvents();
+    ASSERT_TRUE(next.came());
+    EXPECT_THAT(menus, testing::Contains("mnuRecipeMemberNewVariable"));
+    EXPECT_EQ(texts("Variable")[1], "Mischer.Ein") << "what was typed is kept";
+}
+
+TEST_F(GridCommands, ShiftLeftAndRightLeaveAnOpenEditorForTheNeighbouringColumn) {
+    showMembers("Rezepte/Meyer's Bräu/Unterrezepte");
+    clickCell(0, "Dateiname");
+    QLineEdit& line = typeInto("Mischer.Ein");
+    const int column = grid().currentIndex().column();
+    QTest::keyClick(&line, Qt::Key_Right, Qt::ShiftModifier);
+    handleEvents();
+    EXPECT_NE(grid().currentIndex().column(), column);
+    EXPECT_EQ(texts("Dateiname")[0], "Mischer.Ein");
 }
 
 TEST_F(GridCommands, AnEntryOfTheMenuOfTheMembersIsRun) {
