@@ -1,6 +1,5 @@
 #pragma once
 
-
 #include "adapters/qt/control_view.h"
 #include "adapters/qt/plain_label.h"
 #include "forms/simple_controls.h"
