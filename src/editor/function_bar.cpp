@@ -81,7 +81,8 @@ void FunctionBar::refresh() {
         forms::ToolButton& button = window_.tbrfunc->button(automation::Variant(row.key));
         const std::string_view runs = toolOf(row.key);
         std::string tip = plainCaption(menus_.tool(runs.empty() ? row.tools.front() : runs).caption());
-        if (row.key == binKey && !runs.empty()) tip += addIn_.texts().GetResource(separatorText) + bin_.target();
+        if (row.key == binKey && !runs.empty() && window_.loaded())
+            tip += addIn_.texts().GetResource(separatorText) + bin_.target();
         button.setEnabled(!runs.empty());
         button.setToolTipText(tip);
     }

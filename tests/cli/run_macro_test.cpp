@@ -285,8 +285,8 @@ TEST_F(RunMacro, KeepsObjectsOfAClosedProjectSafe) {
         print((pcall(kept.MenuSwitcher, "RCPE0", false)), (pcall(bar.Click, "mnuRecipeNew")) ~= nil)
         pcall(dialog.cmdOk.Click) pcall(dialog.cmdHelp.Click) pcall(kept.SwitchGrids, "RCPR1")
         kept, column, bar, dialog, add = nil
-        collectgarbage() print("alive"))"),
-              "nil\tplant\ttrue\tmnuRecipe\ntrue\ttrue\nalive\n");
+        collectgarbage() print("alive", #studio.Messages()))"),
+              "nil\tplant\ttrue\tmnuRecipe\ntrue\ttrue\nalive\t1\n");
 }
 
 TEST_F(RunMacro, ReadsAndWritesSettings) {

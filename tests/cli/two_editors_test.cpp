@@ -165,8 +165,8 @@ TEST_F(TwoEditors, ReplaceMembersThatCameMeanwhileWhenTheUserSaysSo) {
 TEST_F(TwoEditors, GiveNoVariablesToARecipeThatIsGone) {
     const std::string printed = run("choose('A', 'B', 'C') print(editor.NodeKey)", deleteTheRecipe);
     EXPECT_THAT(printed, testing::StartsWith("RCPE0\n"));
-    EXPECT_THAT(printed, testing::HasSubstr("[mnuRecipeMember] -2147217885: Das Rezept mit der ID 1 wurde von anderer "
-                                            "Seite gelöscht. Nichts wurde gespeichert.\n"));
+    EXPECT_THAT(printed, testing::HasSubstr("[mnuRecipeMember] -2147217885: Das Rezept mit der ID 1 wurde von jemand "
+                                            "anderem gelöscht. Nichts wurde gespeichert.\n"));
     EXPECT_EQ(members(), "");
 }
 
@@ -188,9 +188,10 @@ TEST_F(TwoEditors, GiveNoSubRecipeToARecipeThatIsGone) {
     EXPECT_EQ(members(), "");
 }
 
-TEST_F(TwoEditors, IncludeNoRecipeThatIsGone) {
-    for (const char* tool : {"mnuRecipeMemberNewRecipe", "mnuRecipeMemberEditSubRecipe"}) {
-        const std::string printed = run(std::string(R"(
+class TwoEditorsAndASubRecipe : public TwoEditors, public testing::WithParamInterface<const char*> {};
+
+TEST_P(TwoEditorsAndASubRecipe, IncludeNoRecipeThatIsGone) {
+    const std::string printed = run(std::string(R"(
             studio.Click("RCPU1")
             studio.OnDialog("FSubRecipe", function(d)
                 d.cmbChooseRecipe.ListIndex = d.cmbChooseRecipe.ListCount - 1
@@ -198,19 +199,22 @@ TEST_F(TwoEditors, IncludeNoRecipeThatIsGone) {
                 other()
                 d.cmdOk.Click()
             end)
-            editor.abr.Click(")") + tool + "\")",
-                                        R"(
+            editor.abr.Click(")") + GetParam() +
+                                        "\")",
+                                    R"(
             studio.OnMessage(function() return "yes" end)
             local nodes = studio.Nodes()
             local last
             for _, node in ipairs(nodes) do if node.key:find("^RCPR") then last = node.key end end
             studio.Click(last)
             editor.abr.Click("mnuRecipeDelete")
-        )");
-        EXPECT_THAT(printed, testing::HasSubstr("wurde von jemand anderem gelöscht. Nichts wurde gespeichert."));
-        EXPECT_EQ(members(), "1|A|0,1|B|0,1|F|2") << tool;
-    }
+    )");
+    EXPECT_THAT(printed, testing::HasSubstr("wurde von jemand anderem gelöscht. Nichts wurde gespeichert."));
+    EXPECT_EQ(members(), "1|A|0,1|B|0,1|F|2");
 }
+
+INSTANTIATE_TEST_SUITE_P(Added, TwoEditorsAndASubRecipe, testing::Values("mnuRecipeMemberNewRecipe"));
+INSTANTIATE_TEST_SUITE_P(Edited, TwoEditorsAndASubRecipe, testing::Values("mnuRecipeMemberEditSubRecipe"));
 
 TEST_F(TwoEditors, AreToldOfTheSameSubRecipe) {
     EXPECT_EQ(run(R"(

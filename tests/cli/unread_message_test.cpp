@@ -10,7 +10,8 @@ class UnreadMessage : public MacroTextTest {
     /// Gives the second recipe the name of the first, after `before`; then does `after`.
     Result rename(const std::string& before, const std::string& after, const std::vector<const char*>& options = {}) {
         return macro(oneRecipe + before + R"(
-            editor.abr.Click("mnuRecipeNew") studio.Click("RCPR2")
+            studio.Click("RCPE0") editor.abr.Click("mnuRecipeNew")
+            studio.Click("RCPR" .. project.Query("SELECT MAX(ID) AS id FROM TrcpRecipe")[1].id)
             studio.OnDialog("FRecipe", function(d) d.txtName.Text = "Neues Rezept" d.cmdOk.Click() end)
             editor.abr.Click("mnuRecipeEdit")
         )" + after,

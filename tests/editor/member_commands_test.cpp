@@ -345,16 +345,17 @@ TEST_F(SubRecipes, AnEditedOneIsTheOneThatWasAskedForAlsoWhenTheRowsAreReadAnewM
     EXPECT_EQ(messages(), Texts{});
 }
 
-TEST_F(SubRecipes, AnEditedOneThatIsNotShownAnyMoreIsReportedAndNoOtherIsWritten) {
+TEST_F(SubRecipes, AnEditedOneIsWrittenAlsoWhenAnotherNodeIsShownMeanwhile) {
     inDialog<FSubRecipe>("FSubRecipe", [this](FSubRecipe& dialog) {
         show(mixKey);
         dialog.txtVarRecipe->setText("File.Mix");
         dialog.cmdOk->click();
     });
-    const Texts before = storedMembers();
+    Texts expected = storedMembers();
+    std::ranges::replace(expected, "1 File.Syrup 2", "1 File.Mix 2");
     click("mnuRecipeMemberEditSubRecipe");
-    EXPECT_EQ(storedMembers(), before);
-    EXPECT_EQ(messages().size(), 1U);
+    EXPECT_EQ(storedMembers(), expected);
+    EXPECT_TRUE(messages().empty());
 }
 
 TEST_F(SubRecipes, AnEditedOneFollowsTheOrderOfTheGrid) {

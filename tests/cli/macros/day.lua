@@ -154,7 +154,7 @@ end)
 
 define("open the editor", function()
     studio.DblClick("RCPE0")
-    equal(editor, nil, "a double click opens nothing")
+    equal(editor.NodeKey, "RCPE", "its first click opens the editor")
     studio.Expand("RCPE0")
     equal(editor.Caption, texts.title)
     studio.Click("RCPE0")
@@ -431,10 +431,10 @@ define("edits of sub-recipes", function()
     with("FSubRecipe", function(dialog)
         equal(dialog.cmbChooseRecipe.Text, "Fill")
         choose(dialog, "Rinse")
-        dialog.txtVarRecipe.Text = "Name.Rinse"
+        dialog.txtVarRecipe.Text = "Start"
         dialog.cmdOk.Click()
     end, function() click("mnuRecipeMemberEditSubRecipe") end)
-    members[7] = "1|Name.Rinse|2"
+    members[7] = "1|Start|2"
     checkDatabase()
     with("FSubRecipe", function(dialog)
         choose(dialog, "Fill")
