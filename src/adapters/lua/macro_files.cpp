@@ -30,8 +30,10 @@ bool isNamedAsProject(const fs::path& file) {
     return automation::equalIgnoreCase(extension.substr(0, extension.find('-')), projectExtension);
 }
 
-// A hard link gives a project another name.
+// A hard link gives a project another name. What is no file may keep who opens it waiting.
 bool beginsAsProject(const std::string& file) {
+    std::error_code ignored;
+    if (!fs::is_regular_file(file, ignored)) return false;
     std::string start(databaseMark.size(), '\0');
     std::ifstream stream(file, std::ios::binary);
     stream.read(start.data(), static_cast<std::streamsize>(start.size()));
@@ -53,6 +55,13 @@ MacroFiles MacroFiles::all() {
 }
 
 std::string MacroFiles::toRead(const std::string& name) const {
+    std::string file = within(name);
+    const fs::file_type type = fs::symlink_status(file).type();
+    if (!all_ && type != fs::file_type::not_found && type != fs::file_type::regular) refuse(name, "is no file");
+    return file;
+}
+
+std::string MacroFiles::within(const std::string& name) const {
     if (all_) return name;
     if (folders_.empty()) {
         throw automation::Error(automation::errFail,
@@ -62,17 +71,21 @@ std::string MacroFiles::toRead(const std::string& name) const {
     if (name.find('\0') != std::string::npos) refuse(name, "cannot be named with a zero byte");
     const fs::path file = fs::weakly_canonical(folders_.front() / name);
     // A link to nothing is what is left of one here: writing to it would make the file that it leads to.
-    const fs::file_type type = fs::symlink_status(file).type();
+    const bool dangling = fs::is_symlink(fs::symlink_status(file));
     const bool below = std::ranges::any_of(folders_, [&](const fs::path& folder) { return isBelow(file, folder); });
-    if (!below || type == fs::file_type::symlink) {
+    if (!below || dangling) {
         refuse(name, "is not in the folder " + folders() + ", whose files the macro may use");
     }
-    if (type != fs::file_type::not_found && type != fs::file_type::regular) refuse(name, "is no file");
     return file.string();
 }
 
 std::string MacroFiles::toWrite(const std::string& name) const {
-    std::string file = toRead(name);
+    (void)toRead(name);
+    return toReplace(name);
+}
+
+std::string MacroFiles::toReplace(const std::string& name) const {
+    std::string file = within(name);
     if (!all_ && isProject(file)) refuse(name, "is a project and cannot be written by a macro");
     return file;
 }

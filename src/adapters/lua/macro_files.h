@@ -27,8 +27,11 @@ class MacroFiles {
     /// Throws errFail for a project too: an open one is changed by the editor alone, and a file written over it would
     /// be its end.
     [[nodiscard]] std::string toWrite(const std::string& name) const;
+    /// The same for what reads and replaces whole files and says itself when there is something else than a file.
+    [[nodiscard]] std::string toReplace(const std::string& name) const;
 
   private:
+    [[nodiscard]] std::string within(const std::string& name) const;
     [[nodiscard]] std::string folders() const;
 
     std::vector<std::filesystem::path> folders_;

@@ -1,7 +1,8 @@
 #include "adapters/lua/process_memory.h"
 
 #ifdef __SANITIZE_ADDRESS__
-#include <sanitizer/allocator_interface.h>
+// The compiler ships the function without its header.
+extern "C" std::size_t __sanitizer_get_current_allocated_bytes();
 #else
 #include <cstdio>
 #include <malloc.h>
