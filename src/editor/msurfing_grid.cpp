@@ -59,6 +59,7 @@ void MSurfingGrid::sorted() {
 void MSurfingGrid::build(const std::shared_ptr<ado::Recordset>& members) {
     if (members->state() == ado::adStateClosed) members->open();
     grid_.font().setValues(window_.font().values());
+    arranged_ = false;
     grid_.clearColumns();
     shownKey_.clear();
     for (const ado::Column& field : members->columns()) addColumn(field.name);
@@ -69,6 +70,7 @@ void MSurfingGrid::build(const std::shared_ptr<ado::Recordset>& members) {
     }
     grid_.setDataSource(members);
     applyLayout();
+    arranged_ = true;
 }
 
 void MSurfingGrid::addColumn(const std::string& field) {

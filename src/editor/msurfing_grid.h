@@ -24,6 +24,8 @@ class MSurfingGrid {
     void build(const std::shared_ptr<ado::Recordset>& members);
     /// The stored properties of the grid, then the stored order of its columns.
     void applyLayout();
+    /// Whether the grid has its stored layout: until it has been built to the end, what it shows is not the user's.
+    [[nodiscard]] bool arranged() const noexcept { return arranged_; }
     void applyColumnOrder();
     /// Into the settings; a grid that has no columns yet leaves them as they are.
     void saveColumnOrder();
@@ -81,7 +83,7 @@ class MSurfingGrid {
     forms::Grid& grid_;
     std::string shownKey_;         // the node whose members the grid shows
     bool gridShowsError_ = false;  // in its own message box
-    bool reading_ = false;
+    bool reading_ = false, arranged_ = false;
     std::vector<forms::Subscription> subscriptions_;
 };
 

@@ -68,11 +68,15 @@ void frmtabgrid::saveSettings() {
     if (inits().ReadAValueFromCInits(std::string(saveOnExit), Variant(true)) != Variant(true)) {
         return inits().WriteToIni(std::string(saveOnExit), "False");
     }
-    for (const std::string& name : {tdbRM->name(), std::string(windowEntry)}) {
+    const auto capture = [this](const std::string& name) {
         inits().GetInitFromControl(name);
         keepInReach(*inits().root().Item(std::string_view(name)));
+    };
+    if (memberGrid_->arranged()) {
+        capture(tdbRM->name());
+        memberGrid_->saveColumnOrder();
     }
-    memberGrid_->saveColumnOrder();
+    capture(std::string(windowEntry));
     inits().SaveInits(settingsFile());
 }
 

@@ -1,6 +1,7 @@
 #include <algorithm>
 
 #include "editor_window.h"
+#include "recipe/node_key.h"
 
 namespace hx::editor {
 namespace {
@@ -37,6 +38,22 @@ TEST_F(Closing, BySystemEndsTheWindowAndSavesToo) {
     EXPECT_TRUE(window->unload(forms::UnloadMode::bySystem));
     EXPECT_FALSE(window->loaded());
     EXPECT_EQ(stored("SaveOnExit"), "True");
+}
+
+// As when the database is locked just then.
+TEST_F(Closing, KeepsTheStoredLayoutOfAGridThatCouldNotBeBuilt) {
+    window->unload(forms::UnloadMode::byCode);
+    host.iniFile.write("frmtabGridRCP", "tdbRM.Columns(\"VarRecipe\").Width", "1200", iniPath);
+    host.iniFile.write("frmtabGridRCP", "tdbRMColOrders", ",3,2,1,0", iniPath);
+    make();
+    window->load();
+    data->rstabRecipeMembers->setSource(recipe::memberQuery(recipe::rootKey));
+    const auto failing = grid().rowsChanged.subscribe([] { throw Error(automation::errFail, "locked"); });
+    EXPECT_THROW(window->bindGrid(), Error);
+    ASSERT_FALSE(grid().columns().empty());
+    window->unload(forms::UnloadMode::byCode);
+    EXPECT_EQ(stored("tdbRM.Columns(\"VarRecipe\").Width"), "1200");
+    EXPECT_EQ(stored("tdbRMColOrders"), ",3,2,1,0");
 }
 
 TEST_F(Closing, SavesTheWholeLayout) {
