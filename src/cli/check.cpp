@@ -4,6 +4,7 @@
 #include <iterator>
 #include <optional>
 
+#include "adapters/sqlite/sqlite_error.h"
 #include "automation/text.h"
 #include "cli/findings.h"
 #include "cli/name_set.h"
@@ -185,22 +186,34 @@ class Check {
     std::vector<std::vector<TriggerUse>> triggerUses_;  // by the trigger's number
 };
 
+void addDamage(FindingWriter& findings, std::string_view damage) {
+    findings.add({Severity::error,
+                  "damaged",
+                  nullptr,
+                  {},
+                  "The file is damaged: " + visible(damage) + ".",
+                  "Go back to a copy of it; \"hxrecipe export\" saves what can still be read."});
+}
+
+void addFindings(ProjectReader& project, FindingWriter& findings) {
+    const auto damages = sqlite::damagesOf(project.database(), mostDamages);
+    for (const std::string& damage : damages) addDamage(findings, damage);
+    // What a damaged file seems to hold says nothing.
+    if (damages.empty()) Check(project, findings).run();
+}
+
 }  // namespace
 
 int check(const std::string& path, bool json, const Output& output) {
-    ProjectReader project(path, ProjectReader::Damage::read);
-    FindingWriter findings(json, output);
-    const auto damages = sqlite::damagesOf(project.database(), mostDamages);
-    for (const std::string& damage : damages) {
-        findings.add({Severity::error,
-                      "damaged",
-                      nullptr,
-                      {},
-                      "The file is damaged: " + visible(damage) + ".",
-                      "Go back to a copy of it; \"hxrecipe export\" saves what can still be read."});
+    std::optional<ProjectReader> project;
+    try {
+        project.emplace(path, ProjectReader::Damage::read);
+    } catch (const sqlite::DamagedFile&) {
+        // It cannot even be opened.
     }
-    // What a damaged file seems to hold says nothing.
-    if (damages.empty()) Check(project, findings).run();
+    FindingWriter findings(json, output);
+    if (project) addFindings(*project, findings);
+    else addDamage(findings, sqlite::unreadable);
     findings.finish();
     return findings.isEmpty() ? succeeded : found;
 }

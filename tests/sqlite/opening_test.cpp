@@ -4,6 +4,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "adapters/sqlite/project_check.h"
 #include "project_fixture.h"
 
 namespace hx::sqlite {
@@ -106,13 +107,20 @@ TEST_F(Opening, ADamagedFileIsStillRead) {
 }
 
 TEST_F(Opening, ALargeFileThatIsDamagedWhereItsRecipesAreSaysSo) {
-    RawFile(path_).run(
-        "WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 20000) INSERT INTO TrcpRecipeMember "
-        "(ParentID, VarRecipe) SELECT i, hex(randomblob(600)) FROM n");
-    ASSERT_GT(fs::file_size(path_), std::size_t{20} << 20U);
-    ado::Connection(provider_).open("Data Source=" + path_);
+    const auto refusalOfLarge = [this] {
+        Database database(path_);
+        try {
+            requireUndamaged(database, 4096);
+        } catch (const automation::Error& error) {
+            return error.description();
+        }
+        return std::string();
+    };
+    ASSERT_GT(fs::file_size(path_), 4096U);
+    damage(path_, "ThxVariable");
+    EXPECT_EQ(refusalOfLarge(), "") << "the rest of it is not read";
     damage(path_, "TrcpRecipe");
-    EXPECT_TRUE(refusal(path_).find("is damaged") != std::string::npos) << refusal(path_);
+    EXPECT_TRUE(refusalOfLarge().starts_with("The file '" + path_ + "' is damaged: ")) << refusalOfLarge();
 }
 
 TEST_F(Opening, AProjectThatBreaksARuleOfItsTablesIsNotDamaged) {

@@ -143,6 +143,7 @@ void Database::fail(int code) const {
     const auto error =
         errorOf(code, handle() == nullptr ? std::string_view() : sqlite3_errmsg(handle()), path_, language_);
     if (expectsTransaction_ && !inTransaction() && !lostBy_) lostBy_ = error.description();
+    if (isDamage(code)) throw DamagedFile(error);
     throw error;
 }
 

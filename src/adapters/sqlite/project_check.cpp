@@ -4,6 +4,7 @@
 
 #include "adapters/sqlite/project_schema.h"
 #include "adapters/sqlite/sentences.h"
+#include "adapters/sqlite/sqlite_error.h"
 #include "adapters/sqlite/table_info.h"
 #include "ado/types.h"
 #include "automation/text.h"
@@ -11,9 +12,6 @@
 namespace hx::sqlite {
 
 namespace {
-
-// A file up to this size is checked as a whole when it is opened, of a larger one the recipes.
-constexpr std::int64_t checkedWhole = 16 << 20;
 
 [[noreturn]] void refuse(const Database& database, const automation::Sentence& sentence,
                          std::initializer_list<std::string_view> parts) {
@@ -23,8 +21,11 @@ constexpr std::int64_t checkedWhole = 16 << 20;
 void requireTables(Database& database) {
     // What has no page of its own is a view, a virtual table or a trigger.
     Statement& odd = database.prepared(
-        "SELECT type, name, tbl_name FROM sqlite_schema WHERE type <> 'index' AND ifnull(rootpage, 0) = 0 AND "
-        "lower(tbl_name) IN ('trcprecipe', 'trcprecipemember', 'thxvariable')");
+        "SELECT type, name, ifnull((SELECT named.name FROM sqlite_schema AS named WHERE named.type IN ('table', "
+        "'view') "
+        "AND lower(named.name) = lower(odd.tbl_name)), tbl_name) FROM sqlite_schema AS odd "
+        "WHERE type <> 'index' AND ifnull(rootpage, 0) = 0 AND lower(tbl_name) IN ('trcprecipe', 'trcprecipemember', "
+        "'thxvariable')");
     const ResetGuard guard(odd);
     if (!odd.step()) return;
     const std::string table = odd.text(2), trigger = odd.text(1);
@@ -33,18 +34,23 @@ void requireTables(Database& database) {
 }
 
 // What breaks a rule of its table is wrong, but no damage.
-bool isDamage(std::string_view line) {
+bool tellsDamage(std::string_view line) {
     return !line.empty() && line != "ok" && !line.starts_with("*** in database") &&
            !line.starts_with("NULL value in") && !line.starts_with("CHECK constraint failed");
 }
 
 std::vector<std::string> linesOf(Database& database, const std::string& pragma) {
-    Statement check(database, pragma);
     std::vector<std::string> lines;
-    while (check.step()) {
-        for (std::string& line : automation::split(check.textView(0), '\n')) {
-            if (isDamage(line)) lines.push_back(std::move(line));
+    try {
+        Statement check(database, pragma);
+        while (check.step()) {
+            for (std::string& line : automation::split(check.textView(0), '\n')) {
+                if (tellsDamage(line)) lines.push_back(std::move(line));
+            }
         }
+    } catch (const DamagedFile&) {
+        // The check goes no further than it can read.
+        if (lines.empty()) lines.emplace_back(unreadable);
     }
     return lines;
 }
@@ -63,7 +69,7 @@ void requireProject(Database& database) {
     requireTables(database);
 }
 
-void requireUndamaged(Database& database) {
+void requireUndamaged(Database& database, std::int64_t checkedWhole) {
     const std::int64_t size = database.number("PRAGMA page_count") * database.number("PRAGMA page_size");
     if (size > checkedWhole && !TableInfo::read(database, "TrcpRecipe")) return;
     const auto damages =

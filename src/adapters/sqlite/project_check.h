@@ -1,6 +1,8 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "adapters/sqlite/database.h"
@@ -12,9 +14,12 @@ namespace hx::sqlite {
 /// on it, would run whatever the file says, without end if it likes.
 void requireProject(Database& database);
 
-/// Throws dbErrUnspecified when the file is seen to be damaged. Takes some hundredths of a second at most: a large file
-/// is not read to its end.
-void requireUndamaged(Database& database);
+/// Throws dbErrUnspecified when the file is seen to be damaged. Takes some hundredths of a second at most: of a file
+/// with more bytes than `checkedWhole` the recipes alone are read.
+void requireUndamaged(Database& database, std::int64_t checkedWhole = 16 << 20);
+
+/// What is said of a file that the check itself cannot read.
+inline constexpr std::string_view unreadable = "it cannot be read any further";
 
 /// What SQLite finds damaged in the whole file, a sentence without its full stop each, and at most so many.
 [[nodiscard]] std::vector<std::string> damagesOf(Database& database, int most);

@@ -70,6 +70,8 @@ Error commandError(std::string_view message, Language language) {
 
 }  // namespace
 
+bool isDamage(int code) noexcept { return primary(code) == SQLITE_CORRUPT; }
+
 Error errorOf(int code, std::string_view message, const std::string& path, Language language) {
     for (const Cause& cause : causes) {
         if (cause.code == code || cause.code == primary(code)) {
