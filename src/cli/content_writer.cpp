@@ -64,7 +64,8 @@ class Writer {
 
   private:
     void writeRecipe(const ContentRecipe& recipe) {
-        stream_ << "    {\n      \"ID\": " << recipe.id.value_or(0) << ",\n";
+        stream_ << "    {\n";
+        if (recipe.id) stream_ << "      \"ID\": " << *recipe.id << ",\n";  // one that was read without has none yet
         const std::string place = "recipe " + inQuotes(recipe.name());
         for (const Cell& cell : recipe.cells) stream_ << "      " << fieldOf(cell, membersKey, place) << ",\n";
         stream_ << "      \"members\": [";
