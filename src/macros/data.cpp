@@ -89,7 +89,8 @@ std::size_t sizeOf(const Fields& row) {
 // A statement can run, and give rows, without end.
 Value query(Engine& engine, const std::string& file, const std::string& sql) {
     sqlite::ProjectDatabase database(file);
-    database.interruptWhen([&engine] { return engine.isFull() || engine.stopRequested(); });
+    bool full = false;  // what a statement holds is given back when it ends
+    database.interruptWhen([&] { return (full = engine.isFull()) || engine.stopRequested(); });
     if (!asksOnly(sql)) throw Error(automation::errFail, "Query takes a SELECT statement");
     sqlite::Statement statement(database, sql);
     const auto others = fromFirstWord(std::string_view(sql).substr(statement.sql().size()));
@@ -103,7 +104,7 @@ Value query(Engine& engine, const std::string& file, const std::string& sql) {
             rows.emplace_back(std::move(row));
         }
     } catch (const Error&) {
-        if (engine.isFull()) throw lua::OutOfMemory();
+        if (full || engine.isFull()) throw lua::OutOfMemory();
         throw;
     }
     return rows;
