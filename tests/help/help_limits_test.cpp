@@ -78,7 +78,8 @@ TEST(HelpLimits, PicturesAreOfPixelsAndNotTooLarge) {
 TEST(HelpLimits, BeginningsWithoutAnEndAreReadOnce) {
     for (const char* beginning : {"<", "<!--", "<head>", "<title>", "<style x='", "<b "}) {
         const QString html = QString::fromLatin1(beginning).repeated(1 << 20);
-        EXPECT_FALSE(qt::plainText(html).isEmpty()) << beginning;
+        // The tags of a title are whole, and no letter stands between them: nothing is left.
+        EXPECT_EQ(qt::plainText(html).isEmpty(), beginning == std::string_view("<title>")) << beginning;
         EXPECT_EQ(qt::titleOfHtml(html), "") << beginning;
     }
 }
