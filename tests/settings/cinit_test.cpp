@@ -466,6 +466,7 @@ TEST_F(CInitTest, TakesSavesAndReadsEntriesHoweverLongTheirPathIs) {
     std::string entry;
     for (int i = 0; i < 200'000; ++i) entry += "a.";
     entry += "a";
+    loadDefaults();
     inits.WriteAValueToCInits(entry, Variant("deep"));
     inits.SaveInits(path);
     EXPECT_EQ(stored(entry), "deep");
