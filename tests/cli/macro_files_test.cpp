@@ -123,7 +123,7 @@ TEST_F(MacroFiles, HoldTheProjectsThatTheAddInIsHanded) {
     const std::string other = folder_.file("other.hxs");
     makeProject(other, "INSERT INTO TrcpRecipe (Name) VALUES ('Secret')");
     const Result result = macro("studio.NewProject('$P') addin.Initialize('" + other +
-                                    "', '', addin.Explorer) addin.OpenEditor()\n"
+                                    "', '', addin.Explorer, nil) addin.OpenEditor()\n"
                                     "for _, node in ipairs(studio.Nodes()) do print(node.caption) end\n"
                                     "for _, message in ipairs(studio.Messages()) do print(message.text) end",
                                 inProject());
