@@ -4,7 +4,6 @@
 #include <iterator>
 #include <optional>
 
-#include "adapters/sqlite/sqlite_error.h"
 #include "automation/text.h"
 #include "cli/findings.h"
 #include "cli/name_set.h"
@@ -205,15 +204,9 @@ void addFindings(ProjectReader& project, FindingWriter& findings) {
 }  // namespace
 
 int check(const std::string& path, bool json, const Output& output) {
-    std::optional<ProjectReader> project;
-    try {
-        project.emplace(path, ProjectReader::Damage::read);
-    } catch (const sqlite::DamagedFile&) {
-        // It cannot even be opened.
-    }
+    ProjectReader project(path, ProjectReader::Damage::read);
     FindingWriter findings(json, output);
-    if (project) addFindings(*project, findings);
-    else addDamage(findings, sqlite::unreadable);
+    addFindings(project, findings);
     findings.finish();
     return findings.isEmpty() ? succeeded : found;
 }
