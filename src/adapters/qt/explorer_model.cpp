@@ -73,6 +73,14 @@ const host::NodeTree& ExplorerModel::nodes() {
     return tree_;
 }
 
+int ExplorerModel::depth(std::string_view key) const {
+    int depth = 0;
+    for (Id id = tree_.find(key); id != host::NodeTree::none && id != host::NodeTree::root; id = tree_.parent(id)) {
+        ++depth;
+    }
+    return depth;
+}
+
 void ExplorerModel::clear() {
     beginResetModel();
     tree_.clear();

@@ -26,6 +26,8 @@ class ExplorerModel : public QAbstractItemModel {
     /// Publishes what has come and gone.
     void publish();
 
+    /// How many nodes lead to the one of a key, itself the last, published or not; 0 when unknown.
+    [[nodiscard]] int depth(std::string_view key) const;
     [[nodiscard]] std::vector<std::string> childKeys(std::string_view key, std::int32_t levels);
     /// The published node of a key; invalid when unknown.
     [[nodiscard]] QModelIndex find(std::string_view key);

@@ -52,11 +52,7 @@ void QtExplorer::addNode(const host::NewNode& node) {
 // The tree goes from a node into those below it when it lays them out.
 void QtExplorer::requireRoomBelow(std::string_view key) const {
     constexpr int deepest = 100;
-    const host::NodeTree& tree = model_.nodes();
-    int depth = 0;
-    for (auto id = tree.find(key); id != host::NodeTree::none && id != host::NodeTree::root; id = tree.parent(id))
-        ++depth;
-    if (depth < deepest) return;
+    if (model_.depth(key) < deepest) return;
     throw automation::Error(automation::errFail, "The explorer takes no more than 100 nodes one below the other");
 }
 
