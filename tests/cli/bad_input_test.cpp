@@ -119,7 +119,11 @@ TEST_F(BadInput, AnEmptyOrDamagedFileIsNamed) {
     expectRefused(write("header", header), "The file '" + folder_.file("header") + "' is not a project file.");
     std::string pages = whole;
     for (std::size_t i = 4096; i < pages.size(); i += 4096) pages[i] = '\x7F';
-    expectNamed(write("pages", pages), {});
+    const std::string spoilt = write("pages", pages);
+    expectNamed(spoilt, {"check"});
+    const Result checked = hxrecipe({"check", spoilt.c_str()});
+    EXPECT_EQ(checked.status, 1);
+    EXPECT_THAT(checked.results, testing::StartsWith("error: project: The file is damaged"));
 }
 
 TEST_F(BadInput, ADatabaseThatIsNoProjectIsNamed) {

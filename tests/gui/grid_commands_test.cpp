@@ -214,6 +214,8 @@ TEST_F(GridCommands, TheRightButtonOpensTheMenuOfTheMembersOverAnOpenEditorToo) 
     handleEvents();
     ASSERT_TRUE(next.came());
     EXPECT_THAT(menus, testing::Contains("mnuRecipeMemberNewVariable"));
+    clickCell(0, "Variable");
+    handleEvents();
     EXPECT_EQ(texts("Variable")[1], "Mischer.Ein") << "what was typed is kept";
 }
 
