@@ -57,10 +57,8 @@ void Commands::run(std::span<const Row> rows, std::int16_t index, std::string_vi
     const auto row = std::ranges::find(rows, index, &Row::index);
     if (row == rows.end() || !showsOneOf(row->nodes)) return;
     if (dialogOpen_) return window_.screen().beep();
-    guard(addIn_, procedure, [this, command = row->command] {
-        const auto keep = window_.share();  // the window may end while a dialog is open
-        (this->*command)();
-    });
+    const auto keep = window_.share();  // it may end while a dialog is open, and an error is told under its name
+    guard(addIn_, procedure, [this, command = row->command] { (this->*command)(); });
 }
 
 void Commands::mnuShowEditor(std::int16_t) {
