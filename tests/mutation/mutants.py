@@ -14,7 +14,7 @@ INTEGERS = {TypeKind.SHORT, TypeKind.USHORT, TypeKind.INT, TypeKind.UINT, TypeKi
             TypeKind.ULONGLONG, TypeKind.CHAR_S, TypeKind.UCHAR}
 NUMBERS = INTEGERS | {TypeKind.FLOAT, TypeKind.DOUBLE}
 LITERALS = {Kind.INTEGER_LITERAL, Kind.FLOATING_LITERAL, Kind.STRING_LITERAL, Kind.CHARACTER_LITERAL, Kind.CXX_BOOL_LITERAL_EXPR}
-SYMMETRIC = {'equalIgnoreCase', 'min', 'max'}  # functions whose arguments may change places
+SYMMETRIC = {'equalIgnoreCase', 'isSameNode', 'sameValue', 'min', 'max'}  # functions whose arguments may change places
 CLASSES = {Kind.CLASS_DECL, Kind.STRUCT_DECL, Kind.CLASS_TEMPLATE}
 FUNCTIONS = {Kind.FUNCTION_DECL, Kind.CXX_METHOD, Kind.CONSTRUCTOR, Kind.DESTRUCTOR, Kind.FUNCTION_TEMPLATE,
              Kind.CONVERSION_FUNCTION}
@@ -63,9 +63,8 @@ class File:
 
     def text(self, left_out=frozenset()):
         use = [w for w in self.wraps if not left_out.intersection(w.numbers)]
-        for start, end, word, inside in self.constants:
-            if any(m.number not in left_out for m in self.mutants if m.number in inside):
-                use.append(Wrap(start, end, word, '', (), True))
+        use += {(start, end): Wrap(start, end, word, '', (), True) for start, end, word, inside in self.constants
+                if not inside <= left_out}.values()
         opening, closing, skipped = {}, {}, {}
         for order, wrap in enumerate(use):
             opening.setdefault(wrap.start, []).append((-wrap.end, -1 if wrap.first else order, wrap.before))
@@ -214,13 +213,19 @@ class File:
 
     def _swap(self, first, second):
         code = self._code(second)
-        if '\n' in code or Kind.CXX_THROW_EXPR in (first.kind, second.kind) or not second.kind.is_expression():
+        if '\n' in code or Kind.CXX_THROW_EXPR in (first.kind, second.kind) or not second.kind.is_expression() or \
+                self._independent(first, second) and self._independent(second, first):
             return
         number = self._mutant(first, f'"{self._short(second)}" before "{self._short(first)}"')
         self.wraps.append(Wrap(first.extent.start.offset, self._end_of_statement(first), f'if(hxMutant({number})){{{code};}}', '',
                                (number,), first=True))
         self.wraps.append(Wrap(second.extent.start.offset, self._end_of_statement(second), f'if(hxMutant({number})){{}}else ', '',
                                (number,)))
+
+    def _independent(self, assignment, other):
+        """An assignment that calls nothing, to what the other statement does not name."""
+        target, sign, value = self._code(assignment).partition(' = ')
+        return bool(sign) and '(' not in value and '=' not in value and target.split()[-1] not in self._code(other).split()
 
     def _unused(self, statement):
         """An object that only lives, such as a wait cursor: without it."""

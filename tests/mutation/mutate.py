@@ -24,6 +24,7 @@ HERE, SOURCES, BUILD, WORK = ROOT / 'tests/mutation', ROOT / 'src', ROOT / 'buil
 FOLDERS = ['resources', 'settings', 'dialogs', 'recipe', 'editor', 'addin']  # in the order of the layers
 JOBS = os.cpu_count() or 1
 GENERATOR = Path(mutants.__file__).read_bytes()
+LOADED = 'addin/module.cpp'  # the tests load the module as it is shipped
 
 
 def parallel(function, items):
@@ -48,7 +49,8 @@ class Copy:
     """The wanted sources, changed, and their objects."""
 
     def __init__(self, wanted):
-        paths = [p for p in mutants.files_of(SOURCES, FOLDERS) if not wanted or any(w in str(p) for w in wanted)]
+        names = {p: str(p.relative_to(SOURCES)) for p in mutants.files_of(SOURCES, FOLDERS)}
+        paths = [p for p, name in names.items() if name != LOADED and (not wanted or any(w in 'src/' + name for w in wanted))]
         with concurrent.futures.ProcessPoolExecutor(JOBS) as pool:
             self.files = {f.name: f for f in pool.map(parse, paths)}
         self.left_out = {name: set() for name in self.files}
@@ -64,17 +66,17 @@ class Copy:
                 path = WORK / 'src' / name
                 path.parent.mkdir(parents=True, exist_ok=True)
                 path.write_bytes(self.files[name].text(self.left_out[name]))
-            units = self._units()
+            units = self._units() if any(n.endswith('.h') for n in todo) else sorted(todo)
             failures = ''.join(parallel(self._compile, units))
             todo = self._leave_out(failures)
-        return [self._object(n) for n in units]
+        return [self._object(n) for n in self._units()]
 
     def _units(self):
         """What has to be compiled: the sources, and all that use a constant of a header."""
         headers = [f'"{n}"' for n, f in self.files.items() if n.endswith('.h') and f.mutants]
         uses = [n for n in self.commands if n.split('/')[0] in FOLDERS and
                 any(f'#include {h}' in (SOURCES / n).read_text() for h in headers)]
-        return sorted(({n for n in self.files if n in self.commands} | set(uses)) - {'addin/module.cpp'})
+        return sorted(({n for n in self.files if n in self.commands} | set(uses)) - {LOADED})
 
     def _object(self, name):
         return str(WORK / 'objects' / name) + '.o'
@@ -83,7 +85,7 @@ class Copy:
         output = Path(self._object(name))
         output.parent.mkdir(parents=True, exist_ok=True)
         command = shlex.split(self.commands[name])
-        command = [a for a in command if not re.fullmatch(r'-O\d|-W.*', a)]
+        command = ['ccache'] + [a for a in command if not re.fullmatch(r'-O\d|-W.*', a)]
         command[command.index('-o') + 1] = str(output)
         command[command.index('-c') + 1] = str((WORK / 'src' if name in self.files else SOURCES) / name)
         first = next(i for i, a in enumerate(command) if a.startswith('-I'))
@@ -116,16 +118,17 @@ class Program:
         link = subprocess.run(['ninja', '-t', 'commands', f'tests/{folder}/{self.name}'], cwd=BUILD, capture_output=True, text=True,
                               check=True).stdout.splitlines()[-1]
         self.link = next(part for part in link.split('&&') if f'-o tests/{folder}/{self.name} ' in part)
-        self.link = self.link.replace(f'-o tests/{folder}/{self.name} ', f'-o {self.file} {" ".join(objects)} ')
         self.uses = {f for f in FOLDERS if f'libhx_{f}.a' in self.link}
+        changed = ' '.join(o for o in objects if Path(o).parent.name in self.uses)
+        # Before the tests' own objects, which would bring constants of headers that cannot be written.
+        self.link = self.link.replace(f'-o tests/{folder}/{self.name} ', f'-o {self.file} ').replace(' tests/', f' {changed} tests/', 1)
         self.reached, self.cpu = {}, 0.0
 
     def build(self, runtime):
         link = self.link.replace(' -o ', f' {runtime} -o ', 1)
         done = subprocess.run(link, shell=True, cwd=BUILD, capture_output=True, text=True)
         if done.returncode:
-            print(f'{self.name} is left out: {done.stderr[:300]}', file=sys.stderr)
-        return done.returncode == 0
+            sys.exit(f'{self.name} does not link:\n{done.stderr[:4000]}')
 
     def record(self):
         """Which tests reach which changes, and what all tests take."""
@@ -168,16 +171,20 @@ def programs_of(folder, programs):
 # --- the result
 
 def equal_changes():
-    """{(file, change)}: file, change and reason stand on lines of their own, each further to the right."""
-    known, file, change = set(), '', ''
+    """How often {(file, source line, change)} is known: file, line, change and reason stand on lines of their own, each further to
+    the right."""
+    known, place = Counter(), ['', '', '']
     for line in (HERE / 'equal.txt').read_text().splitlines():
-        if line.startswith('        '):
-            known.add((file, change))
-        elif line.startswith('    '):
-            change = line.strip()
-        elif line and not line.startswith('#'):
-            file = line
+        depth = (len(line) - len(line.lstrip())) // 4
+        if line and not line.startswith('#') and depth < len(place):
+            place[depth] = line.strip()
+            if depth == 2:
+                known[tuple(place)] += 1
     return known
+
+
+def place_of(file, mutant):
+    return ('src/' + file.name, file.source.decode().splitlines()[mutant.line - 1].strip(), mutant.change)
 
 
 class Results:
@@ -220,16 +227,20 @@ def main(wanted):
     subprocess.run(['ccache', 'c++', '-std=c++20', '-O1', '-c', str(HERE / 'mutation.cpp'), '-o', runtime], check=True)
     first = min(FOLDERS.index(f.name.split('/')[0]) for f in copy.files.values())
     programs = [Program(folder, objects) for folder in FOLDERS[first:]]
-    programs = [p for p, built in zip(programs, parallel(lambda p: p.build(runtime), programs)) if built]
+    parallel(lambda p: p.build(runtime), programs)
     for program in programs:
         program.record()
     equal, results, total = equal_changes(), Results(), Counter()
     for file in copy.files.values():
         tried, alive = try_all(file, copy, programs, results)
-        known = [m for m in alive if ('src/' + file.name, m.change) in equal]
-        total.update(tried=tried, equal=len(known), alive=len(alive) - len(known), left=len(copy.left_out[file.name]))
+        total.update(tried=tried, left=len(copy.left_out[file.name]))
         for mutant in sorted(alive, key=lambda m: (m.line, m.number)):
-            if mutant not in known:
+            place = place_of(file, mutant)
+            if equal[place] > 0:
+                equal[place] -= 1
+                total['equal'] += 1
+            else:
+                total['alive'] += 1
                 print(f'src/{file.name}:{mutant.line}: {mutant.change}', flush=True)
     print(f'{total["tried"]} changes tried, {total["alive"]} not noticed, {total["equal"]} without effect, '
           f'{total["left"]} that do not compile')
