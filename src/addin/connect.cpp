@@ -1,5 +1,7 @@
 #include "addin/connect.h"
 
+#include <utility>
+
 #include "addin/call.h"
 #include "addin/database_connection.h"
 #include "addin/msurfing_tree.h"
@@ -24,7 +26,6 @@ Connect::Connect(const host::Services& services) : services_(services), help_(se
 Connect::~Connect() {
     // The studio should have called Terminate; a window that is left would keep calling this object.
     if (editor_) CloseEditor();
-    retired_.clear();
     if (explorerObject_) explorerObject_->detach();
 }
 
@@ -35,10 +36,11 @@ void Connect::Initialize(const std::string& projectName, const std::string&, hos
 }
 
 void Connect::start(const std::string& projectName, host::ProjectExplorer* explorer) {
-    projectPath_ = projectName_ = projectName;
+    projectName_ = projectName;
+    projectPath_ = projectName;
     explorer_ = explorer;
     if (explorer != nullptr) explorerObject_ = std::make_shared<ExplorerObject>(*explorer);
-    ReadLanguageChanged(languageChanged_);
+    ReadLanguageChanged();
     if (!ReadCurrentProject(services_, projectPath_)) return;
     if (explorer == nullptr) {
         throw automation::Error(automation::errFail, "The studio gave no project explorer.");
@@ -51,16 +53,12 @@ void Connect::start(const std::string& projectName, host::ProjectExplorer* explo
     help_.SetHelpFile();
 }
 
-bool Connect::ReadLanguageChanged(bool& flag) noexcept {
-    flag = true;
-    return true;
-}
+void Connect::ReadLanguageChanged() noexcept { languageChanged_ = true; }
 
 void Connect::Terminate() {
     const Call call(*this, Call::From::studio);
-    if (explorer_ != nullptr && rootAdded_) {
+    if (explorer_ != nullptr && std::exchange(rootAdded_, false)) {
         trap(services_.screen, "Connect: Terminate", [&] { explorer_->removeNode(recipe::rootKey); });
-        rootAdded_ = false;
     }
     CloseEditor();
     if (explorerObject_) explorerObject_->detach();
@@ -71,9 +69,7 @@ automation::Variant Connect::GetMessage(const std::string&, const std::string&, 
     return {};
 }
 
-automation::ObjectRef Connect::Explorer() const {
-    return explorer_ != nullptr ? automation::ObjectRef(explorerObject_) : nullptr;
-}
+automation::ObjectRef Connect::Explorer() const { return explorerObject_; }
 
 void Connect::OpenEditor() noexcept {
     if (editorOpened_ || explorer_ == nullptr) return;
@@ -92,14 +88,13 @@ void Connect::OpenEditor() noexcept {
 
 void Connect::createEditor() {
     editor_ = std::make_shared<editor::frmtabgrid>(*this);
-    editor_->setDataEnvironment(std::make_shared<recipe::DataEnvironment>(services_.database));
     editor_->setNodeKey(std::string(recipe::rootKey));
 }
 
 void Connect::embedEditor() {
     editor_->load();
-    previousParent_ = asNumber(embedding_.SetParentFromMe(*editor_, *explorer_));
     editorOpened_ = true;
+    previousParent_ = asNumber(embedding_.SetParentFromMe(*editor_, *explorer_));
 }
 
 void Connect::fillEditor() {
@@ -107,10 +102,12 @@ void Connect::fillEditor() {
     const recipe::DataEnvironment& data = *editor_->dataEnvironment();
     // Recipes that cannot be read leave the editor open: its command to refresh the view tries again.
     trap(services_.screen, "Connect: AddRecipeNodes", [&] { addRecipeNodes(*data.rsRecipes, *explorer_, resources_); });
-    // The preset query gives the members of all recipes; the root shows none.
-    data.rstabRecipeMembers->setSource(recipe::memberQuery(root));
     // A grid that cannot be bound is bound with the next node.
-    trap(services_.screen, "Connect: BindGrid", [&] { editor_->bindGrid(); });
+    trap(services_.screen, "Connect: BindGrid", [&] {
+        // The preset query gives the members of all recipes; the root shows none.
+        data.rstabRecipeMembers->setSource(recipe::memberQuery(root));
+        editor_->bindGrid();
+    });
     editor_->MenuSwitcher(root, false);
     editor_->MakeMyCaption(root, {});
     editor_->show();
@@ -130,7 +127,7 @@ void Connect::closeWindow() noexcept {
     step([&] { window->finishOrDropEdit(); });
     step([&] { disconnectFromDataBase(*window); });
     if (window->loaded()) {
-        if (services_.runsAsLibrary()) step([&] { embedding_.UnhookEditorWindow(*window); });
+        step([&] { embedding_.UnhookEditorWindow(*window); });
         step([&] { window->unload(forms::UnloadMode::byCode); });
     }
     window->releaseAddIn();

@@ -92,7 +92,7 @@ class Connect : public host::CHX4Extensibility, public editor::AddIn {
     void event(std::string_view procedure, Action&& action) noexcept;
 
     // Lifecycle.
-    bool ReadLanguageChanged(bool& flag) noexcept;
+    void ReadLanguageChanged() noexcept;
     void start(const std::string& projectName, host::ProjectExplorer* explorer);
     void createEditor();
     void embedEditor();

@@ -32,7 +32,7 @@ std::int32_t childCount(ExplorerObject& object, const std::string& key, std::int
 
 std::string childKey(ExplorerObject& object, const std::string& key, std::int32_t levels, std::int32_t index) {
     const std::vector<std::string> keys = object.explorer().childKeys(key, levels);
-    if (index < 0 || static_cast<std::size_t>(index) >= keys.size()) {
+    if (static_cast<std::size_t>(index) >= keys.size()) {  // a negative one is beyond all
         automation::throwBadIndex("ChildKey", automation::Variant(index));
     }
     return keys[static_cast<std::size_t>(index)];

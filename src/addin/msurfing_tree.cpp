@@ -26,13 +26,11 @@ void publishImages(host::Clipboard& clipboard, host::ProjectExplorer& explorer, 
 }
 
 void addRoot(host::ProjectExplorer& explorer, const std::string& caption) {
-    host::NewNode root;
-    root.caption = caption;
-    root.key = recipe::rootKey;
-    root.tag = "0";
-    root.image = recipe::KeyImage(recipe::rootKey);
-    root.options = {true, true, true};
-    explorer.addNode(root);
+    explorer.addNode({.caption = caption,
+                      .key = recipe::rootKey,
+                      .tag = "0",
+                      .image = recipe::KeyImage(recipe::rootKey),
+                      .options = {true, true, true}});
 }
 
 /// Closes the recordset of the walk, also when the walk ends with an error.

@@ -40,16 +40,16 @@ struct NodeKey {
     std::int16_t code;
     std::optional<std::int16_t> shift;  ///< none: with any shift state
     KeyAction action;
-    std::string_view command;  ///< the end of the tool's name
+    std::string_view command = {};  ///< the end of the tool's name
 };
 
 constexpr std::array<NodeKey, 6> nodeKeys = {{
-    {key::c, shift::ctrl, KeyAction::beep, ""},
-    {key::f6, {}, KeyAction::showSelected, ""},
+    {key::c, shift::ctrl, KeyAction::beep},
+    {key::f6, {}, KeyAction::showSelected},
     {key::del, shift::ctrl, KeyAction::command, "Delete"},
     {key::f9, {}, KeyAction::command, "Edit"},
     {key::f8, {}, KeyAction::command, "New"},
-    {key::f1, {}, KeyAction::help, ""},
+    {key::f1, {}, KeyAction::help},
 }};
 
 const NodeKey* actionOf(std::int16_t code, std::int16_t shiftState) {
@@ -153,17 +153,15 @@ void Connect::NodeMouseUp(const host::NodeEvent& node, const host::NodeMouse& mo
     if (mouse.button != forms::button::right) return;
     event("Connect: NodeMouseUp", [&] {
         const auto window = openWindow();
+        if (!window) return;
         const NodeMenu* menu = menuOf(node.key);
-        if (!window || (menu != nullptr && !reach(*window, node.key))) return;
+        if (menu == nullptr) return window->MenuSwitcher(node.key, false);
+        if (!reach(*window, node.key)) return;
         window->MenuSwitcher(node.key, true);
         // Whatever becomes of the menu, the bar must not keep the entries made for it.
-        trap(services_.screen, "Connect: NodeMouseUp", [&] {
-            if (menu != nullptr) popUp(*window, menu->popUp);
-        });
+        trap(services_.screen, "Connect: NodeMouseUp", [&] { popUp(*window, menu->popUp); });
         // A command of the menu may have closed the window and opened another, or deleted the node and shown the next.
-        if (const auto current = openWindow()) {
-            current->MenuSwitcher(menu != nullptr ? current->nodeKey() : node.key, false);
-        }
+        if (const auto current = openWindow()) current->MenuSwitcher(current->nodeKey(), false);
     });
 }
 

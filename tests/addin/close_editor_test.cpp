@@ -183,6 +183,7 @@ TEST_F(ClosingTheEditor, RefreshViewWithoutItsConnectionLeavesTheRootAndTriesAga
 TEST_F(ClosingTheEditor, TheWindowsOwnCommandRefreshesTheViewAndOutlivesItself) {
     const std::weak_ptr<editor::frmtabgrid> before = studio.connect->editorWindow();
     studio.window().abr->click("mnuOptionActualize");
+    studio.window().abr->click("mnuOptionActualize");
     ASSERT_FALSE(before.expired()) << "the window is kept while its command may still be on the stack";
     EXPECT_NE(studio.connect->editorWindow(), before.lock());
     EXPECT_EQ(studio.nodes(), (Texts{"RCPE0", "RCPR1", "RCPU1", "RCPR2", "RCPU2"}));
@@ -203,13 +204,61 @@ TEST_F(ClosingTheEditor, AnEventInsideTheRefreshDoesNotReleaseTheWindowWhoseComm
     };
     studio.window().abr->click("mnuOptionActualize");
     EXPECT_TRUE(checked);
+    EXPECT_FALSE(before.expired());
+}
+
+TEST_F(ClosingTheEditor, EveryCallOfTheStudioReleasesTheWindowsThatWereClosedBefore) {
+    const std::function<void()> calls[] = {
+        [this] { studio.click("RCPR1"); },
+        [this] { studio.connect->Initialize("Plant", "", &studio.host.explorer, nullptr); },
+        [this] { studio.connect->Terminate(); },
+    };
+    for (const auto& call : calls) {
+        const std::weak_ptr<editor::frmtabgrid> before = studio.connect->editorWindow();
+        studio.window().abr->click("mnuOptionActualize");
+        EXPECT_FALSE(before.expired());
+        call();
+        EXPECT_TRUE(before.expired());
+        (void)studio.boxes();
+    }
 }
 
 TEST_F(ClosingTheEditor, AnAddInReleasedWithoutTerminateEndsItsWindow) {
     const std::weak_ptr<editor::frmtabgrid> window = studio.connect->editorWindow();
+    const automation::ObjectRef explorer = studio.connect->Explorer();
     studio.connect.reset();
     EXPECT_TRUE(window.expired());
     EXPECT_TRUE(studio.host.iniFile.exists("D:\\Prj\\HXEditors.ini"));
+    EXPECT_THROW(explorer->get("HostWindow"), automation::Error) << "the studio may be gone";
+}
+
+TEST_F(ClosingTheEditor, AnAddInReleasedAfterTerminateHasNothingLeftToClose) {
+    studio.connect->Terminate();
+    studio.connect.reset();
+    EXPECT_EQ(record.helpCloses, 1);
+}
+
+TEST_F(ClosingTheEditor, TellsWhatCannotBeClosedAndGoesOn) {
+    const auto watched = studio.window().tdbRM->changed.subscribe([](std::string_view property) {
+        if (property == "Settle") throw automation::Error(automation::errFail, "No view.");
+    });
+    studio.host.help.failWith(automation::Error(automation::errFail, "No help."));
+    studio.connect->Terminate();
+    EXPECT_EQ(studio.boxes(),
+              (Texts{"Connect: CloseEditor|-2147467259: No view.", "Connect: CloseEditor|-2147467259: No help."}));
+    EXPECT_EQ(studio.connect->editorWindow(), nullptr);
+    studio.connect.reset();
+}
+
+TEST(ClosingTheLibrarysEditor, LeavesAWindowThatWasNeverLoadedAlone) {
+    Studio studio(Studio::libraryOptions());
+    studio.start();
+    studio.click("RCPE0");
+    studio.faults.arm(1, support::FaultPlan::Kind::connect);
+    studio.connect->RefreshView();
+    EXPECT_EQ(studio.boxes().size(), 1u);
+    studio.connect->Terminate();
+    EXPECT_EQ(studio.boxes(), Texts{});
 }
 
 // Half way through: the window is asked whether it may end.
@@ -248,6 +297,32 @@ TEST_F(ClosingTheEditor, RefreshViewEmptiesAndClosesTheBranchBeforeItClosesTheWi
     studio.connect->RefreshView();
     EXPECT_TRUE(asked);
     EXPECT_EQ(record.helpCloses, 1);
+}
+
+TEST(RefreshingTheView, EmptiesTheBranchBeforeItClosesItAndTellsWhatFails) {
+    struct Noting : headless::ProjectExplorer {
+        using headless::ProjectExplorer::ProjectExplorer;
+        void removeNode(std::string_view key) override {
+            notes.push_back("remove " + std::string(key));
+            headless::ProjectExplorer::removeNode(key);
+        }
+        void setNodeProperty(std::string_view key, std::int32_t, const automation::Variant&) override {
+            notes.push_back("close " + std::string(key));
+            throw automation::Error(automation::errFail, "No such node.");
+        }
+        Texts notes;
+    };
+    Studio studio;
+    studio.addRecipe("Cola");
+    Noting explorer(studio.host.explorer.hostWindow(), studio.host.clipboard, "Plant");
+    studio.create();
+    studio.connect->Initialize("Plant", "", &explorer, nullptr);
+    studio.click("RCPE0");
+    studio.connect->RefreshView();
+    EXPECT_EQ(explorer.notes, (Texts{"remove RCPR1", "close RCPE0"}));
+    EXPECT_EQ(studio.boxes(), (Texts{"Connect: RefreshView|-2147467259: No such node."}));
+    EXPECT_TRUE(studio.window().loaded());
+    studio.connect.reset();
 }
 
 TEST_F(ClosingTheEditor, TerminateKeepsTheOpenedFlagSoThatLaterClicksDoNothing) {

@@ -62,6 +62,17 @@ TEST_F(DatabaseConnection, IsClosedWithItsRecordsetsAndTakenFromTheWindow) {
     for (const auto& recordset : data->recordsets()) EXPECT_EQ(recordset->state(), ado::adStateClosed);
 }
 
+TEST_F(DatabaseConnection, StoresAnEditThatIsPendingWhenItIsClosed) {
+    const std::int32_t id = studio.addRecipe("Cola");
+    connect("D:\\Prj\\Plant.hxs");
+    const auto data = window->dataEnvironment();
+    data->rsRecipes->open();
+    data->rsRecipes->field("Name").setValue("Tee");
+    disconnectFromDataBase(*window);
+    EXPECT_EQ((*studio.database.table("TrcpRecipe").row(id))[1], automation::Variant("Tee"));
+    EXPECT_EQ(data->rsRecipes->state(), ado::adStateClosed);
+}
+
 TEST_F(DatabaseConnection, ThatWasNeverOpenedIsTakenFromTheWindow) {
     window->setDataEnvironment(std::make_shared<recipe::DataEnvironment>(studio.provider));
     disconnectFromDataBase(*window);

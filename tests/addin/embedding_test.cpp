@@ -69,6 +69,8 @@ TEST_F(Activation, OtherMessagesArePassedOnAndDoNothing) {
 TEST_F(Activation, AFailingRefreshShowsOneBoxThoughTheBoxActivatesTheWindowAgain) {
     studio.faults.arm(1, support::FaultPlan::Kind::open, automation::Error(ado::dbErrUnspecified, "Locked."));
     studio.host.script.onMessage = [this](const headless::Message&) {
+        EXPECT_TRUE(studio.connect->busy().isSet());
+        studio.connect->busy().set(false);
         studio.faults.arm(1, support::FaultPlan::Kind::open);
         send(window::activateMessage, window::active);
         return forms::message::Answer::ok;
@@ -92,6 +94,26 @@ TEST_F(Activation, AFailureThatLastsIsShownOnceUntilARefreshWorks) {
     send(window::activateMessage, window::active);
     fail();
     EXPECT_EQ(studio.boxes(), box);
+}
+
+TEST_F(Activation, TellsTheGridToRefreshAlsoWithoutANode) {
+    studio.window().setNodeKey({});
+    int reloads = 0;
+    const auto watched = studio.window().tdbRM->rowsChanged.subscribe([&] { ++reloads; });
+    send(window::activateMessage, window::active);
+    EXPECT_EQ(reloads, 1);
+}
+
+TEST_F(Activation, AFailureThatLastsIsShownOnceWhereverItIsMet) {
+    int reloads = 0;
+    const auto watched = studio.window().tdbRM->rowsChanged.subscribe([&] {
+        if (++reloads % 2 == 0) throw automation::Error(automation::errFail, "No display.");
+    });
+    send(window::activateMessage, window::active);
+    EXPECT_EQ(studio.boxes().size(), 1u);
+    send(window::activateMessage, window::active);
+    EXPECT_EQ(studio.boxes(), Texts{});
+    EXPECT_EQ(reloads, 4);
 }
 
 TEST_F(Activation, AfterTheRootWasOpenedByAnExpansionRefreshesTheEmptyRoot) {
@@ -147,9 +169,9 @@ struct Embedding : testing::Test {
 };
 
 TEST_F(Embedding, AddsTheStyleBitsToThoseThatAreThere) {
-    windows.setStyle(window->handle(), 0x10000001);
+    windows.setStyle(window->handle(), 0x10000002);
     EXPECT_TRUE(embedding.SetParentFromMe(*window, studio.host.explorer));
-    EXPECT_EQ(windows.style(window->handle()), 0x90880001u);
+    EXPECT_EQ(windows.style(window->handle()), 0x90880002u);
     EXPECT_EQ(windows.parent(window->handle()), studio.host.explorer.hostWindow());
 }
 
@@ -167,6 +189,7 @@ TEST_F(Embedding, ShowsAFailureUnderItsName) {
 }
 
 TEST_F(Embedding, UnhookingWithoutAHookDoesNotTouchTheWindow) {
+    (void)windows.install(window->handle(), [](auto, auto, auto, auto) { return 0; });
     const auto procedure = windows.procedure(window->handle());
     embedding.UnhookEditorWindow(*window);
     EXPECT_EQ(windows.procedure(window->handle()), procedure);
@@ -196,6 +219,19 @@ TEST_F(Embedding, PassesEveryMessageOnAndReturnsWhatThePreviousProcedureGave) {
             EXPECT_EQ(seen, (std::vector<std::int64_t>{handle, message, 3, 4}));
         }
     }
+}
+
+TEST_F(Embedding, ActivationOfAWindowWithoutItsDatabaseOrWithoutAHookDoesNothing) {
+    embedding.HookEditorWindow(*window);
+    window->setNodeKey("RCPE0");
+    window->tdbRM->setVisible(false);
+    windows.sendMessage(window->handle(), window::activateMessage, window::inactive);
+    const auto hooked = windows.procedure(window->handle());
+    embedding.UnhookEditorWindow(*window);
+    windows.call(hooked, window->handle(), window::activateMessage, window::inactive, 0);
+    window->setDataEnvironment(std::make_shared<recipe::DataEnvironment>(studio.provider));
+    windows.call(hooked, window->handle(), window::activateMessage, window::inactive, 0);
+    EXPECT_FALSE(window->tdbRM->visible());
 }
 
 TEST_F(Embedding, TheSavedProcedureIsKeptAfterUnhooking) {

@@ -23,6 +23,15 @@ std::int32_t failure(const auto& action) {
     return 0;
 }
 
+std::string told(const auto& action) {
+    try {
+        action();
+    } catch (const automation::Error& error) {
+        return error.message();
+    }
+    return {};
+}
+
 TEST_F(Members, ThePropertiesAreReadByName) {
     studio.start();
     EXPECT_EQ(call("LanguageChanged"), Variant(true));
@@ -126,6 +135,7 @@ TEST_F(Members, TheExplorerIsAnObjectThatActsOnTheExplorer) {
     studio.host.explorer.select("RCPE0");
     EXPECT_EQ(explorer->get("SelectedKey"), Variant("RCPE0"));
     EXPECT_EQ(explorer->get("SelectedCaption"), Variant("Rezepte"));
+    EXPECT_EQ(explorer->get("SelectedOwner"), Variant("Plant"));
     const std::vector<Variant> node = {"RCPE0", "Extra", "X1", "tag", "icoRcpRecipe", true, false, true, 7};
     explorer->get("AddNode", node);
     EXPECT_EQ(studio.nodes(), (Texts{"RCPE0", "X1"}));
@@ -134,10 +144,15 @@ TEST_F(Members, TheExplorerIsAnObjectThatActsOnTheExplorer) {
     EXPECT_EQ(tree.number(tree.find("X1")), 7);
     EXPECT_EQ(explorer->get("ChildCount", std::vector<Variant>{"RCPE0", 1}), Variant(1));
     EXPECT_EQ(explorer->get("ChildKey", std::vector<Variant>{"RCPE0", 1, 0}), Variant("X1"));
-    EXPECT_EQ(failure([&] {
-                  explorer->get("ChildKey", std::vector<Variant>{"RCPE0", 1, 1});
-              }),
-              automation::errBadIndex);
+    studio.host.explorer.addNode({.parent = "X1", .key = "X2"});
+    EXPECT_EQ(explorer->get("ChildCount", std::vector<Variant>{"RCPE0", 1}), Variant(1)) << "one level";
+    EXPECT_EQ(explorer->get("ChildCount", std::vector<Variant>{"RCPE0", 2}), Variant(2));
+    for (const std::int32_t index : {-1, 1, 2}) {
+        EXPECT_EQ(told([&] {
+                      explorer->get("ChildKey", std::vector<Variant>{"RCPE0", 1, index});
+                  }),
+                  "-2147352565: ChildKey has no item \"" + std::to_string(index) + "\"");
+    }
     studio.host.clipboard.clear();
     EXPECT_EQ(failure([&] { explorer->get("TakeClipboardImage", std::vector<Variant>{"x"}); }), automation::errFail);
     explorer->get("SetNodeProperty", std::vector<Variant>{"X1", 1, "Other"});
@@ -152,7 +167,7 @@ TEST_F(Members, TheExplorerObjectFailsOnceTheAddInHasEnded) {
     studio.start();
     const automation::ObjectRef explorer = call("Explorer").asObject();
     studio.connect->Terminate();
-    EXPECT_EQ(failure([&] { explorer->get("HostWindow"); }), automation::errFail);
+    EXPECT_EQ(told([&] { explorer->get("HostWindow"); }), "-2147467259: The project explorer has been released.");
     EXPECT_EQ(call("Explorer"), Variant(automation::ObjectRef()));
 }
 
@@ -162,12 +177,28 @@ TEST_F(Members, InitializeTakesAnExplorerByName) {
     studio.create();
     call("Initialize", {"Plant", "", other.connect->Explorer(), automation::ObjectRef()});
     EXPECT_EQ(studio.connect->explorer(), &other.host.explorer);
-    EXPECT_EQ(failure([&] {
+    EXPECT_EQ(told([&] {
                   call("Initialize", {"Plant", "", automation::ObjectRef(other.connect), {}});
               }),
-              automation::errTypeMismatch);
+              "-2147352571: Type mismatch: a project explorer expected");
     studio.connect.reset();
     (void)studio.boxes();
+}
+
+TEST_F(Members, InitializeTakesAnExplorerThatIsAnObjectItself) {
+    struct NamedExplorer : automation::Dispatch, headless::ProjectExplorer {
+        explicit NamedExplorer(const host::Clipboard& clipboard) : headless::ProjectExplorer(0, clipboard) {}
+        [[nodiscard]] const automation::MemberTable& members() const override {
+            static constexpr automation::MemberTable table{"NamedExplorer", {}};
+            return table;
+        }
+    };
+    const auto explorer = std::make_shared<NamedExplorer>(studio.host.clipboard);
+    studio.create();
+    call("Initialize", {"Plant", "", automation::ObjectRef(explorer), {}});
+    EXPECT_EQ(studio.connect->explorer(), explorer.get());
+    EXPECT_EQ(studio.boxes(), Texts{});
+    studio.connect.reset();
 }
 
 TEST_F(Members, InitializeTakesAnythingForTheObjectThatItIgnores) {

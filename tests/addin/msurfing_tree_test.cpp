@@ -83,6 +83,20 @@ TEST_F(RecipeBranch, AnErrorReachesTheCallerAndClosesTheRecordset) {
     EXPECT_EQ(data.rsRecipes->state(), ado::adStateClosed);
 }
 
+TEST_F(RecipeBranch, ARecipeWithoutANameHasAnEmptyCaption) {
+    const auto id = studio.database.table("TrcpRecipe").insert(std::vector<ado::ColumnValue>{{1, automation::Null{}}});
+    addRecipeNodes(*data.rsRecipes, studio.host.explorer, studio.connect->texts());
+    EXPECT_EQ(studio.host.explorer.eventOf("RCPR" + std::to_string(id)).caption, "");
+}
+
+TEST_F(RecipeBranch, AnEditThatIsPendingInTheRecordsetIsStored) {
+    data.rsRecipes->open();
+    data.rsRecipes->field("Name").setValue("Saft");
+    studio.faults.arm(1, support::FaultPlan::Kind::update);
+    EXPECT_THROW(addRecipeNodes(*data.rsRecipes, studio.host.explorer, studio.connect->texts()), automation::Error);
+    EXPECT_EQ((*studio.database.table("TrcpRecipe").row(1))[1], automation::Variant("Saft"));
+}
+
 TEST_F(RecipeBranch, IsRemovedBelowTheRoot) {
     addRecipeNodes(*data.rsRecipes, studio.host.explorer, studio.connect->texts());
     removeRecipeNodes(studio.host.explorer);

@@ -67,6 +67,48 @@ TEST_F(OpeningTheEditor, ShowsTheBareTitleAndTheMenusOfTheRoot) {
     EXPECT_EQ(studio.window().caption(), "HelvixStudio Rezepteditor");
     EXPECT_TRUE(studio.window().abr->mainBand().find("mnuRecipeNew")->enabled());
     EXPECT_FALSE(studio.window().abr->mainBand().find("mnuRecipeMembers")->enabled());
+    EXPECT_EQ(studio.window().abr->mainBand().find("mnuShowEditor"), nullptr) << "an entry of the context menu";
+}
+
+TEST_F(OpeningTheEditor, ShowsTheWindowWhenItIsComplete) {
+    studio.start();
+    studio.faults.arm(1, Kind::connect);
+    studio.click("RCPE0");
+    EXPECT_EQ(studio.boxes().size(), 1u);
+    std::string seen;
+    const auto watched = studio.window().changed.subscribe([&](std::string_view property) {
+        if (property != "Caption" && property != "Visible") return;
+        const bool switched = !studio.window().abr->mainBand().find("mnuRecipeMembers")->enabled();
+        seen += std::string(property) + "(" + studio.window().caption() + (switched ? ", menus) " : ") ");
+    });
+    studio.connect->NodeExpand(Studio::node("RCPE0"));
+    EXPECT_TRUE(seen.ends_with("Caption(HelvixStudio Rezepteditor, menus) Visible(HelvixStudio Rezepteditor, menus) "))
+        << seen;
+}
+
+TEST_F(OpeningTheEditor, TriesAgainWhenTheWindowCannotBeLoaded) {
+    studio.start();
+    studio.faults.arm(1, Kind::connect);
+    studio.click("RCPE0");
+    EXPECT_EQ(studio.boxes().size(), 1u);
+    {
+        const auto watched =
+            studio.window().loadEvent.subscribe([] { throw Error(automation::errFail, "No display."); });
+        studio.connect->NodeExpand(Studio::node("RCPE0"));
+    }
+    EXPECT_EQ(studio.boxes(), (Texts{"Connect: OpenEditor|-2147467259: No display."}));
+    studio.connect->NodeExpand(Studio::node("RCPE0"));
+    EXPECT_TRUE(studio.window().loaded());
+}
+
+TEST_F(OpeningTheEditor, TellsOneAfterTheOtherThatNodesAndGridCannotBeRead) {
+    studio.addRecipe("Cola");
+    studio.start();
+    studio.faults.armFrom(1, Kind::open, Error(ado::dbErrUnspecified, "Locked."));
+    studio.connect->NodeExpand(Studio::node("RCPE0"));
+    EXPECT_EQ(studio.boxes(),
+              (Texts{"Connect: AddRecipeNodes|-2147467259: Locked.", "Connect: BindGrid|-2147467259: Locked."}));
+    EXPECT_TRUE(studio.window().loaded());
 }
 
 TEST_F(OpeningTheEditor, ByAnExpansionShowsNoMembersOfAnyRecipe) {
@@ -190,13 +232,18 @@ TEST_F(OpeningTheEditor, ShowsTheErrorOfAWindowThatCannotBePlaced) {
     } explorer(0, studio.host.clipboard, "Plant");
     studio.create();
     studio.connect->Initialize("Plant", "", &explorer, nullptr);
+    studio.host.script.onMessage = [&](const headless::Message&) {
+        if (record.messages.size() < 3) studio.connect->NodeExpand(Studio::node("RCPE0"));
+        return forms::message::Answer::ok;
+    };
     studio.click("RCPE0");
     const Texts boxes = studio.boxes();
     ASSERT_EQ(boxes.size(), 1u);
     EXPECT_EQ(boxes[0].substr(0, boxes[0].find('|')), "SetParentFromMe");
     EXPECT_TRUE(studio.window().loaded());
+    EXPECT_EQ(studio.connect->embedding().hostParent(), 0);
     studio.connect->Terminate();
-    (void)studio.boxes();
+    EXPECT_EQ(studio.host.windows.lastParentAsked(), 0) << "what the failed placing gave";
 }
 
 TEST_F(OpeningTheEditor, AfterTerminateIsNotPossible) {

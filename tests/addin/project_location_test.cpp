@@ -40,6 +40,8 @@ TEST_F(ProjectLocation, KeepsAFileNameInCapitalsAndItsBlankUnchanged) {
     EXPECT_EQ(studio.host.registry.reads(), 0);
 }
 
+TEST_F(ProjectLocation, OfTheBareExtensionIsAFileToo) { EXPECT_EQ(located(".hxs"), ".hxs"); }
+
 TEST_F(ProjectLocation, OfAnEmptyNameIsNoneAndTheRegistryIsNotRead) {
     EXPECT_EQ(located("", false), "");
     EXPECT_EQ(studio.host.registry.reads(), 0);

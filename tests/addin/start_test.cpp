@@ -88,6 +88,24 @@ TEST_F(StartUp, WithARegistryThatCannotBeReadAddsNoNode) {
     EXPECT_EQ(studio.boxes(), (Texts{"MHXSGlobalEditors: ReadCurrentProject|-2147467259: No registry."}));
 }
 
+TEST_F(StartUp, WithARegistryThatCannotBeReadSaysSoAndSpeaksGerman) {
+    studio.host.registry.failWith(automation::Error(automation::errFail, "No registry."));
+    studio.create();
+    EXPECT_EQ(studio.boxes(), (Texts{"Connect|-2147467259: No registry."}));
+    EXPECT_EQ(studio.connect->texts().GetResource(102), "Rezepte");
+    EXPECT_FALSE(studio.connect->LanguageChanged()) << "that is for Initialize";
+}
+
+TEST_F(StartUp, TerminateRemovesABranchWhoseHelpCouldNotBeFound) {
+    studio.create();
+    studio.host.registry.failWith(automation::Error(automation::errFail, "No registry."));
+    studio.connect->Initialize("D:\\Prj\\Plant.hxs", "", &studio.host.explorer, nullptr);
+    EXPECT_EQ(studio.boxes(), (Texts{"Connect: Initialize|-2147467259: No registry."}));
+    EXPECT_EQ(studio.nodes(), (Texts{"RCPE0"}));
+    studio.connect->Terminate();
+    EXPECT_EQ(studio.nodes(), Texts{});
+}
+
 TEST_F(StartUp, ShowsWhyTheRootCannotBeAddedAndSetsNoHelpFile) {
     host::NewNode taken;
     taken.key = "RCPE0";
@@ -129,6 +147,41 @@ TEST_F(StartUp, TerminateRemovesTheBranchAlsoAfterASecondInitialize) {
     EXPECT_EQ(studio.nodes(), (Texts{"RCPE0"}));
     studio.connect->Terminate();
     EXPECT_EQ(studio.nodes(), Texts{});
+    EXPECT_EQ(studio.boxes(), Texts{});
+}
+
+TEST_F(StartUp, TerminateTellsThatTheBranchIsGone) {
+    studio.start();
+    studio.host.explorer.removeNode("RCPE0");
+    studio.connect->Terminate();
+    const Texts boxes = studio.boxes();
+    ASSERT_EQ(boxes.size(), 1u);
+    EXPECT_TRUE(boxes[0].starts_with("Connect: Terminate|-2147352565: ")) << boxes[0];
+}
+
+TEST_F(StartUp, TerminateLeavesTheBranchOfAnother) {
+    studio.start();
+    studio.connect->Terminate();
+    studio.host.explorer.addNode({.key = "RCPE0"});
+    studio.connect->Initialize("Plant", "", &studio.host.explorer, nullptr);
+    EXPECT_EQ(studio.boxes().size(), 1u);
+    studio.connect->Terminate();
+    EXPECT_EQ(studio.nodes(), (Texts{"RCPE0"}));
+}
+
+TEST_F(StartUp, TerminateAfterTheExplorerWasTakenAwayDoesNothing) {
+    studio.start();
+    studio.connect->Initialize("Plant", "", nullptr, nullptr);
+    EXPECT_EQ(studio.boxes().size(), 1u);
+    studio.connect->Terminate();
+    EXPECT_EQ(studio.boxes(), Texts{});
+}
+
+TEST_F(StartUp, NothingCanBeShownBeforeInitialize) {
+    studio.create();
+    studio.press("RCPE0", forms::key::f6, forms::shift::alt);
+    studio.connect->ShowSelectedNode();
+    EXPECT_EQ(studio.connect->editorWindow(), nullptr);
     EXPECT_EQ(studio.boxes(), Texts{});
 }
 

@@ -70,9 +70,9 @@ TEST_F(WholeNode, NoneIsShownWhenAMacroSelectsANodeThatCannotBeRead) {
 }
 
 TEST_F(WholeNode, WithoutANodeNothingIsReadAgain) {
-    studio.faults.arm(1);
-    studio.click("RCPR2");
-    EXPECT_EQ(studio.boxes().size(), 1u);
+    studio.faults.arm(1, support::FaultPlan::Kind::any, automation::Error(ado::dbErrUnspecified, "Locked."));
+    studio.connect->SelectNode("RCPR2");
+    EXPECT_EQ(studio.boxes(), (Texts{"Connect: SelectNode|-2147467259: Locked."}));
     studio.window().refreshMembers();
     expectNone();
 }

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <optional>
+#include <utility>
+
 #include "adapters/headless/record.h"
 #include "host/system_services.h"
 
@@ -12,9 +15,15 @@ class HelpViewer : public host::HelpViewer {
     void showContext(forms::WindowHandle owner, const std::string& file, std::int32_t context) override {
         record_.help.push_back({owner, file, context});
     }
-    void closeAll() override { ++record_.helpCloses; }
+    void closeAll() override {
+        if (error_) throw automation::Error(*error_);
+        ++record_.helpCloses;
+    }
+    /// From now on it cannot be closed.
+    void failWith(automation::Error error) { error_ = std::move(error); }
 
   private:
+    std::optional<automation::Error> error_;
     Record& record_;
 };
 
