@@ -26,7 +26,7 @@ class TreeWriter {
     void expand(std::size_t recipe) {
         way_.push_back(recipe);
         const auto inclusions = below_.of(recipe);
-        for (std::size_t i = 0; i < inclusions.size() && !tree_.cut; ++i) {
+        for (std::size_t i = 0; i < inclusions.size(); ++i) {
             tree_.cut = tree_.branches.size() == limits_.branches;
             if (!tree_.cut) addBranch(inclusions[i], i + 1 == inclusions.size());
         }
@@ -93,16 +93,15 @@ Tree InclusionGraph::tree(std::size_t recipe, TreeLimits limits) const {
 
 Uses InclusionGraph::uses(const std::vector<std::size_t>& wanted, std::size_t mostIndirect) const {
     Uses uses;
-    const std::unordered_set<std::size_t> starts(wanted.begin(), wanted.end());
     std::unordered_set<std::size_t> found;
     std::vector<std::size_t> front = wanted;
-    for (std::size_t at = 0; at < front.size() && !uses.cut; ++at) {
+    for (std::size_t at = 0; at < front.size(); ++at) {
         for (const std::size_t parent : parents_.of(front[at])) {
             if (!found.insert(parent).second) continue;
             uses.cut = at >= wanted.size() && uses.list.size() - uses.directCount == mostIndirect;
             if (uses.cut) break;
             uses.list.push_back({parent, front[at]});
-            if (!starts.contains(parent)) front.push_back(parent);
+            front.push_back(parent);
         }
         if (at < wanted.size()) uses.directCount = uses.list.size();
     }

@@ -38,9 +38,13 @@ void readText(const ado::Field& field, FRecipe& dialog, const NumberFormat& form
 }
 
 template <auto Box>
+void writeText(ado::Field& field, const FRecipe& dialog) {
+    TextToField(field, (dialog.*Box)->text());
+}
+
+template <auto Box>
 constexpr Transfer text(std::string_view name, std::int32_t caption) {
-    return {name, caption, readText<Box>,
-            [](ado::Field& field, const FRecipe& dialog) { TextToField(field, (dialog.*Box)->text()); }};
+    return {name, caption, readText<Box>, writeText<Box>};
 }
 
 template <auto Box>
@@ -85,7 +89,7 @@ constexpr auto transfers = std::to_array<Transfer>({
     text<&FRecipe::txtVarLoad>(column::varLoad, 609),
     text<&FRecipe::txtVarRead>(column::varRead, 612),
     text<&FRecipe::txtVarWrite>(column::varWrite, 613),
-    {column::standardValue, 633, readStandardValue, text<&FRecipe::txtStandardValue>(column::standardValue, 633).write},
+    {column::standardValue, 633, readStandardValue, writeText<&FRecipe::txtStandardValue>},
     text<&FRecipe::txtVarSetValue>(column::varSetValue, 634),
     check<&FRecipe::chkSaveSubRecipes>(column::saveSubRecipes, 635),
     check<&FRecipe::chkSaveChanges>(column::saveChanges, 623),

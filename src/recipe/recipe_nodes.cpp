@@ -33,17 +33,9 @@ class KeyText {
 void RecipeNodes::add(std::int32_t id, std::string_view name) {
     const KeyText recipe(prefixRecipe, id);
     const KeyText subRecipes(prefixSubRecipes, id);
-    host::NewNode node;
-    node.parent = rootKey;
-    node.caption = name;
-    node.key = recipe.view();
-    node.image = recipeImage_;
-    explorer_.addNode(node);
-    node.parent = recipe.view();
-    node.caption = subRecipesCaption_;
-    node.key = subRecipes.view();
-    node.image = subRecipesImage_;
-    explorer_.addNode(node);
+    explorer_.addNode({.parent = rootKey, .caption = name, .key = recipe.view(), .image = recipeImage_});
+    explorer_.addNode(
+        {.parent = recipe.view(), .caption = subRecipesCaption_, .key = subRecipes.view(), .image = subRecipesImage_});
 }
 
 void RecipeNodes::rename(std::string_view key, std::string_view name) {

@@ -12,22 +12,13 @@ bool openAndCount(ado::Recordset& recordset) {
     return recordset.recordCount() != 0;
 }
 
-/// Runs statements one by one; a failing one is skipped and the next one runs. A failure stays noted.
-class SkippingErrors {
-  public:
-    template <class Statement>
-    void run(Statement&& statement) noexcept {
-        try {
-            statement();
-        } catch (...) {
-            failed_ = true;
-        }
+void skippingErrors(const auto& statement) noexcept {
+    try {
+        statement();
+    } catch (...) {
+        // The statement has had no effect; the next one runs.
     }
-    [[nodiscard]] bool failed() const noexcept { return failed_; }
-
-  private:
-    bool failed_ = false;
-};
+}
 
 }  // namespace
 
@@ -44,17 +35,10 @@ bool OpenAndMoveLast(ado::Recordset& recordset) {
 }
 
 bool CloseRecordset(ado::Recordset& recordset, bool saveFirst) noexcept {
-    SkippingErrors steps;
-    if (recordset.state() == ado::adStateOpen) steps.run([&] { recordset.close(); });
-    if (!steps.failed()) return true;
-    if (saveFirst) {
-        steps.run([&] { recordset.update(); });
-        steps.run([&] { recordset.close(); });
-    }
-    // The failure of the first close is still noted, so this runs also after the row was saved and closed: it then
-    // finds a closed recordset, and both statements are skipped.
-    steps.run([&] { recordset.cancelUpdate(); });
-    steps.run([&] { recordset.close(); });
+    // A recordset with a pending edit cannot be closed.
+    if (saveFirst) skippingErrors([&] { recordset.update(); });
+    skippingErrors([&] { recordset.cancelUpdate(); });
+    skippingErrors([&] { recordset.close(); });
     return recordset.state() == ado::adStateClosed;
 }
 

@@ -39,14 +39,9 @@ void StatusCounters::UpdateStatusCounters(forms::StatusBar& bar, const resources
             members = members_;
             break;
     }
-    // A panel whose text stays is not touched, so that the line does not flicker.
-    const auto show = [&](std::int32_t number, const std::string& content) {
-        forms::Panel& panel = bar.panel(number);
-        if (panel.text() != content) panel.setText(content);
-    };
-    show(1, texts.GetResource(text::function) + function);
-    show(2, texts.GetResource(text::recipes) + std::to_string(recipes_));
-    show(3, texts.GetResource(text::members) + std::to_string(members_));
+    bar.panel(1).setText(texts.GetResource(text::function) + function);
+    bar.panel(2).setText(texts.GetResource(text::recipes) + std::to_string(recipes_));
+    bar.panel(3).setText(texts.GetResource(text::members) + std::to_string(members_));
 }
 
 }  // namespace hx::recipe

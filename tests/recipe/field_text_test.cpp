@@ -73,6 +73,13 @@ TEST_F(FieldText, AnUnchangedNumberStartsNoEdit) {
     EXPECT_EQ(recipes.editMode(), ado::adEditNone);
 }
 
+TEST_F(FieldText, AnEmptyTextIsStoredInPlaceOfNullAndAMissingYesOrNoIsUnchecked) {
+    for (const char* name : {"Comment", "Enabled"}) field(name).setValue(Null{});
+    TextToField(field("Comment"), "");
+    EXPECT_EQ(field("Comment").value(), Variant(""));
+    EXPECT_EQ(FieldToCheck(field("Enabled")), CheckState::unchecked);
+}
+
 TEST_F(FieldText, AStandardValueOfZeroIsShownAsTheDigitZero) {
     EXPECT_EQ(FieldToText(field("StandardValue"), comma), "0");
 }

@@ -136,6 +136,9 @@ TEST(RecipeUses, EndWhenThereAreTooMany) {
     EXPECT_EQ(uses.indirect().size(), 1000U);
     EXPECT_TRUE(uses.cut);
     EXPECT_FALSE(chain(1002).uses({1001}, 1000).cut);
+    const Uses direct = chain(3).uses({2}, 0);
+    EXPECT_EQ(direct.list.size(), 1U);
+    EXPECT_TRUE(direct.cut);
 }
 
 TEST(RecipeUses, AllThatUseItDirectlyAreFound) {

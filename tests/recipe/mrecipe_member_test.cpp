@@ -113,6 +113,7 @@ TEST_F(MRecipeMember, WithoutRecipesThereIsNothingToChoose) {
     inDialog<FSubRecipe>("FSubRecipe", [](FSubRecipe& dialog) {
         EXPECT_EQ(dialog.cmbChooseRecipe->listCount(), 0);
         EXPECT_EQ(dialog.cmbChooseRecipe->listIndex(), -1);
+        EXPECT_FALSE(dialog.parentSavesSubRecipes());
         dialog.txtVarRecipe->setText("File");
         dialog.cmdOk->click();
     });
@@ -255,6 +256,17 @@ TEST_F(MRecipeMember, ValuesThatDoNotFitLeaveTheRowAsItIsStored) {
     EXPECT_EQ(members.field("VarRecipe").value(), Variant("File.Syrup"));
 }
 
+TEST_F(MRecipeMember, ARowThatCouldNotBeWrittenBackIsReadAnewAsAnotherHasLeftItMeanwhile) {
+    inDialog<FSubRecipe>("FSubRecipe", [this](FSubRecipe& dialog) {
+        storeMember(VarRecipe, "File.Theirs");
+        dialog.txtVarRecipe->setText(std::string(300, 'x'));
+        dialog.cmdOk->click();
+    });
+    EXPECT_TRUE(edit());
+    expectMessage("Zurückschreiben Unterrezeptdialog fehlgeschlagen");
+    EXPECT_EQ(members.field("VarRecipe").value(), Variant("File.Theirs"));
+}
+
 TEST_F(MRecipeMember, ValuesThatDoNotFitAreReportedInEnglishToo) {
     host.registry.writeNumber(host::registry_keys::helvix, "LCID", 1033);
     window->resourceTexts.InitResources(host.registry);
@@ -296,6 +308,18 @@ TEST_F(MRecipeMember, NothingIsAddedToARecipeThatIsGone) {
     EXPECT_EQ(error.description(), "Das Rezept mit der ID " + std::to_string(cola) + recipeGone);
     EXPECT_EQ(memberCount(), 2U);
     EXPECT_FALSE(plant.data.CnnRecipes->inTransaction());
+}
+
+TEST_F(MRecipeMember, ThatARecipeIsGoneIsToldInEnglishToo) {
+    host.registry.writeNumber(host::registry_keys::helvix, "LCID", 1033);
+    window->resourceTexts.InitResources(host.registry);
+    inDialog<FSubRecipe>("FSubRecipe", [this](FSubRecipe& dialog) {
+        dialog.txtVarRecipe->setText("File");
+        plant.database.table("TrcpRecipe").remove(cola);
+        dialog.cmdOk->click();
+    });
+    EXPECT_EQ(errorOf([this] { AddSubRecipeMember(*window); }).description(),
+              "The recipe with the ID " + std::to_string(cola) + " was deleted by another. Nothing was stored.");
 }
 
 TEST_F(MRecipeMember, ARecipeThatIsGoneIsNotIncluded) {
@@ -362,6 +386,43 @@ TEST_F(MRecipeMember, AConflictNamesTheRecipes) {
     EXPECT_EQ(error.description(),
               "Die Zeile wurde von jemand anderem geändert. Nichts davon wurde gespeichert:"
               "\r\nUnterrezept: \"Wasser\"; gespeichert ist jetzt \"Cola\"");
+}
+
+TEST_F(MRecipeMember, AConflictGivesTheNumberOfARecipeThatIsNotInTheList) {
+    inDialog<FSubRecipe>("FSubRecipe", [this](FSubRecipe& dialog) {
+        storeMember(ChildID, 999);
+        dialog.cmbChooseRecipe->setListIndex(0);
+        dialog.cmdOk->click();
+    });
+    EXPECT_TRUE(errorOf([this] { edit(); }).description().ends_with("\"Cola\"; gespeichert ist jetzt \"999\""));
+}
+
+TEST_F(MRecipeMember, IsStoredInTheTransactionThatHasSeenItsRecipes) {
+    using Kind = support::FaultPlan::Kind;
+    int stored = 0;
+    plant.faults.instead = [&] {
+        ++stored;
+        EXPECT_TRUE(plant.data.CnnRecipes->inTransaction());
+    };
+    choose(0, "File");
+    plant.faults.armFrom(1, Kind::update);
+    EXPECT_TRUE(edit());
+    choose(1, "Other");
+    plant.faults.armFrom(1, Kind::insert);
+    EXPECT_TRUE(AddSubRecipeMember(*window));
+    EXPECT_EQ(stored, 2);
+    plant.faults.disarm();
+}
+
+TEST_F(MRecipeMember, ThatBothRecipesAreGoneIsToldOfTheOneThatReceives) {
+    inDialog<FSubRecipe>("FSubRecipe", [this](FSubRecipe& dialog) {
+        dialog.cmbChooseRecipe->setListIndex(1);
+        dialog.txtVarRecipe->setText("File");
+        for (const std::int32_t recipe : {cola, syrup}) plant.database.table("TrcpRecipe").remove(recipe);
+        dialog.cmdOk->click();
+    });
+    EXPECT_EQ(errorOf([this] { AddSubRecipeMember(*window); }).description(),
+              "Das Rezept mit der ID " + std::to_string(cola) + recipeGone);
 }
 
 }  // namespace

@@ -1,9 +1,6 @@
-#include "recipe/mrecipe.h"
-
 #include <limits>
 
-#include "automation/convert.h"
-#include "dialog_window.h"
+#include "mrecipe_dialog.h"
 
 namespace hx::recipe {
 namespace {
@@ -13,70 +10,6 @@ using automation::Null;
 using automation::Variant;
 using dialogs::FRecipe;
 using forms::CheckState;
-
-/// The columns of the table, by number.
-enum Column : std::size_t {
-    ID,
-    Name,
-    VarRecipeName,
-    VarDescription,
-    FilePath,
-    FileExtension,
-    Enabled,
-    Comment,
-    VarLoad,
-    VarSave,
-    VarRead,
-    VarWrite,
-    StandardValue,
-    VarSetValue,
-    SaveSubRecipes,
-    SaveChanges,
-    CryptEngine,
-    Options
-};
-
-struct MRecipe : DialogTest {
-    explicit MRecipe(const headless::HostOptions& options = {}) : DialogTest(options) {
-        plant.addRecipe("Cola");
-        id = plant.addRecipe("Tee");
-        plant.addRecipe("Wasser");
-    }
-
-    void store(Column column, const Variant& value) {
-        const std::vector<ado::ColumnValue> values = {{column, value}};
-        plant.database.table("TrcpRecipe").update(id, values);
-    }
-    [[nodiscard]] Variant stored(Column column) { return DialogTest::stored("TrcpRecipe", id, column); }
-    [[nodiscard]] std::vector<Variant> storedRow() { return *plant.database.table("TrcpRecipe").row(id); }
-
-    /// Positions the recipes and edits; the script works on the dialog.
-    bool edit() {
-        OpenAndMoveFirst(recipes);
-        recipes.find("ID=" + std::to_string(id));
-        return EditRecipe(recipes, *window);
-    }
-    /// The user changes something and presses OK.
-    bool editAndConfirm(const std::function<void(FRecipe&)>& change = [](FRecipe&) {}) {
-        inDialog<FRecipe>("FRecipe", [change](FRecipe& dialog) {
-            change(dialog);
-            dialog.cmdOk->click();
-        });
-        return edit();
-    }
-    /// Looks at the filled dialog, which is then cancelled.
-    void lookAt(const std::function<void(FRecipe&)>& look) {
-        inDialog<FRecipe>("FRecipe", [look](FRecipe& dialog) {
-            look(dialog);
-            dialog.cmdCancel->click();
-        });
-        EXPECT_FALSE(edit());
-        EXPECT_EQ(host.record.modals.size(), 1U);
-    }
-
-    ado::Recordset& recipes = *plant.data.rsRecipes;
-    std::int32_t id = 0;
-};
 
 TEST_F(MRecipe, ANormFactorOfZeroOpensWithAbsoluteSelected) {
     lookAt([](FRecipe& dialog) {
@@ -210,71 +143,6 @@ TEST_F(MRecipe, NullTextsOpenEmpty) {
     });
 }
 
-/// A column and the text box that shows it.
-struct TextRow {
-    Column column;
-    std::shared_ptr<forms::TextBox> FRecipe::*box;
-};
-constexpr TextRow textRows[] = {
-    {Name, &FRecipe::txtName},
-    {VarRecipeName, &FRecipe::txtRecipeName},
-    {VarDescription, &FRecipe::txtDescription},
-    {FileExtension, &FRecipe::txtFileExtension},
-    {Comment, &FRecipe::txtComment},
-    {VarLoad, &FRecipe::txtVarLoad},
-    {VarSave, &FRecipe::txtVarSave},
-    {VarRead, &FRecipe::txtVarRead},
-    {VarWrite, &FRecipe::txtVarWrite},
-    {VarSetValue, &FRecipe::txtVarSetValue},
-};
-
-TEST_F(MRecipe, EveryTextPassesIntoItsFieldAndBack) {
-    store(StandardValue, 2.0);
-    for (const TextRow& row : textRows) store(row.column, "a" + std::to_string(row.column % 10));
-    store(FilePath, "<ProjectDir>\\Rezepte");
-    editAndConfirm([](FRecipe& dialog) {
-        for (const TextRow& row : textRows) {
-            EXPECT_EQ((dialog.*row.box)->text(), "a" + std::to_string(row.column % 10)) << row.column;
-            (dialog.*row.box)->setText("b" + std::to_string(row.column % 10));
-        }
-        EXPECT_EQ(dialog.cboFilePath->text(), "<ProjectDir>\\Rezepte");
-        dialog.cboFilePath->setText("D:\\Rezepte");
-    });
-    for (const TextRow& row : textRows) {
-        EXPECT_EQ(stored(row.column), Variant("b" + std::to_string(row.column % 10))) << row.column;
-    }
-    EXPECT_EQ(stored(FilePath), Variant("D:\\Rezepte"));
-    EXPECT_EQ(stored(StandardValue), Variant(2.0));
-}
-
-/// A column and the check box that shows it.
-struct CheckRow {
-    Column column;
-    std::shared_ptr<forms::CheckBox> FRecipe::*box;
-};
-constexpr CheckRow checkRows[] = {
-    {Enabled, &FRecipe::chkEnabled},
-    {SaveSubRecipes, &FRecipe::chkSaveSubRecipes},
-    {SaveChanges, &FRecipe::chkSaveChanges},
-    {CryptEngine, &FRecipe::chkCryptEngine},
-};
-
-TEST_F(MRecipe, EveryYesAndNoPassesIntoItsBoxAndBack) {
-    for (const CheckRow& set : checkRows) {
-        for (const CheckRow& row : checkRows) store(row.column, row.column == set.column);
-        editAndConfirm([&](FRecipe& dialog) {
-            for (const CheckRow& row : checkRows) {
-                const bool checked = (dialog.*row.box)->value() == CheckState::checked;
-                EXPECT_EQ(checked, row.column == set.column) << row.column;
-                (dialog.*row.box)->click();
-            }
-        });
-        for (const CheckRow& row : checkRows) {
-            EXPECT_EQ(stored(row.column), Variant(row.column != set.column)) << row.column;
-        }
-    }
-}
-
 TEST_F(MRecipe, ARelativeRecipeKeepsItsFactorVariableAndAnAbsoluteOneItsOwn) {
     for (const double factor : {0.0, 2.0}) {
         store(StandardValue, factor);
@@ -344,11 +212,29 @@ TEST_F(MRecipe, ValuesThatDoNotFitLeaveTheRowAsItIsStored) {
 
 TEST_F(MRecipe, ARowThatCouldNotBeWrittenBackIsReadAnewAsAnotherHasLeftItMeanwhile) {
     editAndConfirm([this](FRecipe& dialog) {
+        EXPECT_EQ(recipes.field("Comment").value(), Variant(""));
         store(Comment, "Changed by another");
         dialog.txtVarLoad->setText(std::string(300, 'x'));
     });
     expectMessage("Zurückschreiben von Rezept-Dialog fehlgegangen");
     EXPECT_EQ(recipes.field("Comment").value(), Variant("Changed by another"));
+}
+
+TEST_F(MRecipe, WhatTheDialogHasStoredIsReportedAsEditedAndADialogThatIsKeptStoresNoMore) {
+    std::shared_ptr<FRecipe> kept;
+    inDialog<FRecipe>("FRecipe", [&](FRecipe& dialog) {
+        kept = std::dynamic_pointer_cast<FRecipe>(dialog.share());
+        dialog.txtComment->setText("mine");
+        dialog.cmdOk->click();
+    });
+    OpenAndMoveFirst(recipes);
+    recipes.find("ID=" + std::to_string(id));
+    EXPECT_TRUE(EditRecipe(recipes, *window, [](const Error&) { FAIL() << "nothing is refused"; }));
+    EXPECT_EQ(stored(Comment), Variant("mine"));
+    ASSERT_NE(kept, nullptr);
+    kept->txtComment->setText("later");
+    kept->cmdOk->click();
+    EXPECT_EQ(stored(Comment), Variant("mine"));
 }
 
 TEST_F(MRecipe, ADuplicateNameReachesTheCallerAndLeavesTheRowAsItIsStored) {
@@ -373,105 +259,6 @@ TEST_F(MRecipe, ARowThatCannotBeStoredReachesTheCaller) {
     EXPECT_THROW(editAndConfirm([](FRecipe& dialog) { dialog.txtComment->setText("Neu"); }), Error);
     EXPECT_EQ(storedRow(), before);
     EXPECT_EQ(recipes.editMode(), ado::adEditNone);
-}
-
-struct MRecipeBesideAnother : MRecipe {
-    /// Edits while another stores these values; the user then makes his change and confirms.
-    void editWhileTheyStore(const std::vector<std::pair<Column, Variant>>& theirs,
-                            const std::function<void(FRecipe&)>& change) {
-        editAndConfirm([&](FRecipe& dialog) {
-            for (const auto& [column, value] : theirs) store(column, value);
-            change(dialog);
-        });
-    }
-    [[nodiscard]] Error conflictWith(const std::vector<std::pair<Column, Variant>>& theirs,
-                                     const std::function<void(FRecipe&)>& change) {
-        try {
-            editWhileTheyStore(theirs, change);
-        } catch (const Error& error) {
-            return error;
-        }
-        return {0, "no error"};
-    }
-    [[nodiscard]] static std::string changed(const std::string& entries) {
-        return "Die Zeile wurde von jemand anderem geändert. Nichts davon wurde gespeichert:" + entries;
-    }
-};
-
-TEST_F(MRecipeBesideAnother, WhatTheUserDoesNotTouchIsNotReverted) {
-    store(VarLoad, "before");
-    store(StandardValue, 0.5);
-    const std::vector<std::pair<Column, Variant>> theirs = {
-        {Name, "Kaffee"},       {VarRecipeName, "a"}, {VarDescription, "b"}, {FilePath, "c"},
-        {FileExtension, "de"},  {Enabled, true},      {VarLoad, "f"},        {VarSave, "g"},
-        {VarRead, "h"},         {VarWrite, "i"},      {StandardValue, 2.5},  {VarSetValue, "j"},
-        {SaveSubRecipes, true}, {SaveChanges, true},  {CryptEngine, true},   {Options, 3}};
-    editWhileTheyStore(theirs, [](FRecipe& dialog) { dialog.txtComment->setText("mine"); });
-    EXPECT_EQ(stored(Comment), Variant("mine"));
-    for (const auto& [column, value] : theirs) EXPECT_EQ(stored(column), value) << column;
-}
-
-TEST_F(MRecipeBesideAnother, ConfirmedWithoutAChangeNothingIsWritten) {
-    editWhileTheyStore({{Comment, "theirs"}}, [](FRecipe&) {});
-    EXPECT_EQ(stored(Comment), Variant("theirs"));
-}
-
-TEST_F(MRecipeBesideAnother, EveryPropertyThatBothChangeIsAConflict) {
-    for (const TextRow& row : textRows) {
-        SCOPED_TRACE(row.column);
-        const Error error = conflictWith({{row.column, "xy"}}, [&](FRecipe& dialog) {
-            dialog.optRecipeAbsrel[FRecipe::relative]->setValue(true);
-            (dialog.*row.box)->setText("zz");
-        });
-        EXPECT_EQ(error.number(), ado::dbErrRowChanged);
-        EXPECT_EQ(stored(row.column), Variant("xy"));
-        EXPECT_EQ(recipes.editMode(), ado::adEditNone);
-    }
-}
-
-TEST_F(MRecipeBesideAnother, AConflictTellsWhatWasEnteredAndWhatIsStoredNow) {
-    const Error error = conflictWith({{Comment, "theirs"}, {VarRead, "untouched"}}, [](FRecipe& dialog) {
-        dialog.txtComment->setText("mine");
-        dialog.chkEnabled->click();
-        dialog.cboFilePath->setText(std::string(100, 'p'));
-    });
-    EXPECT_EQ(error.description(), changed("\r\nRezeptdateipfad: \"" + std::string(80, 'p') +
-                                           "...\"\r\nDefinition aktiv: \"ja\"\r\nKommentar: \"mine\"; gespeichert ist "
-                                           "jetzt \"theirs\""));
-}
-
-TEST_F(MRecipeBesideAnother, AConflictIsToldInEnglishToo) {
-    host.registry.writeNumber(host::registry_keys::helvix, "LCID", 1033);
-    window->resourceTexts.InitResources(host.registry);
-    const Error error = conflictWith({{Comment, "theirs"}}, [](FRecipe& dialog) { dialog.txtComment->setText("x"); });
-    EXPECT_EQ(error.description(),
-              "The row was changed by another. Nothing of this was stored:\r\nComment: \"x\"; stored "
-              "is now \"theirs\"");
-}
-
-TEST_F(MRecipeBesideAnother, ARecipeThatIsGoneIsToldWithWhatWasEntered) {
-    try {
-        editAndConfirm([this](FRecipe& dialog) {
-            plant.database.table("TrcpRecipe").remove(id);
-            dialog.txtComment->setText("mine");
-        });
-        FAIL() << "the recipe is gone";
-    } catch (const Error& error) {
-        EXPECT_EQ(error.number(), ado::dbErrDeletedRow);
-        EXPECT_EQ(error.description(),
-                  "Die Zeile wurde von jemand anderem gelöscht. Nichts davon wurde gespeichert:"
-                  "\r\nKommentar: \"mine\"");
-    }
-}
-
-TEST_F(MRecipeBesideAnother, TheDialogShowsWhatIsStoredWhenItOpens) {
-    OpenAndMoveFirst(recipes);
-    recipes.find("ID=" + std::to_string(id));
-    EXPECT_EQ(recipes.field("Comment").value(), Variant(""));
-    store(Comment, "theirs");
-    inDialog<FRecipe>("FRecipe", [](FRecipe& dialog) { EXPECT_EQ(dialog.txtComment->text(), "theirs"); });
-    EXPECT_FALSE(EditRecipe(recipes, *window));
-    EXPECT_EQ(host.record.modals.size(), 1U);
 }
 
 }  // namespace

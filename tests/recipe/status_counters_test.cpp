@@ -30,6 +30,21 @@ struct Counters : testing::Test {
     StatusCounters counters;
 };
 
+TEST_F(Counters, ASumThatCannotBeCountedLeavesBothAsTheyWere) {
+    update("", Mode::set, smallest + 1, largest);
+    update("", Mode::add, -1, 0);
+    EXPECT_EQ(counts(), std::pair(smallest, largest));
+    try {
+        update("", Mode::add, 1, 1);
+        FAIL() << "an overflow";
+    } catch (const automation::Error& error) {
+        EXPECT_EQ(error.description(), "Overflow");
+    }
+    EXPECT_EQ(counts(), std::pair(smallest, largest));
+}
+
+TEST_F(Counters, StartAtNothing) { EXPECT_EQ(counts(), std::pair(0, 0)); }
+
 TEST_F(Counters, SetTakesBothCountsAndShowsThem) {
     update("Statistik", Mode::set, 41, 612);
     EXPECT_EQ(bar.panel(1).text(), "Func:Statistik");
