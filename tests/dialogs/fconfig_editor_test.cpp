@@ -134,6 +134,14 @@ TEST_F(FConfigEditorTest, TakesTheChosenFontAndShowsItsName) {
 }
 
 TEST_F(FConfigEditorTest, TakesABoldFontBackToNormal) {
+    font.setWeight(300);
+    std::int16_t offered = 0;
+    host.script.onFont = [&](Font::Values& values) {
+        offered = values.weight;
+        return false;
+    };
+    dialog->cmdEditorFont->click();
+    EXPECT_EQ(offered, 400) << "normal or bold, no other weight";
     font.setBold(true);
     host.script.onFont = [](Font::Values& values) {
         values.weight = 400;

@@ -1,6 +1,8 @@
 // The places that the controls have where no layout manager gives them others.
 #include "dialogs/place_rows.h"
 
+#include <sstream>
+
 #include "dialogs/fconfig_editor.h"
 #include "dialogs/fmulti_select_items.h"
 #include "dialogs/frecipe.h"
@@ -9,6 +11,83 @@
 
 namespace hx::dialogs {
 namespace {
+
+/// A dialog with its width and height; its controls with left, top, width and height. Twips.
+constexpr const char* allPlaces = R"(FRecipe 7200 4560
+tab 120 120 6960 3765
+lblName 120 120 2310 315
+txtName 2520 120 4320 315
+lblRecipeName 120 525 2310 315
+txtRecipeName 2520 525 3855 315
+cmdChooseItem 6465 525 375 315
+lblDescription 120 930 2310 315
+txtDescription 2520 930 3855 315
+cmdChooseItem 6465 930 375 315
+lblFilePath 120 1335 2310 315
+cboFilePath 2520 1335 3855 315
+cmdChoosePath 6465 1335 375 315
+lblFileExtension 120 1740 2310 315
+txtFileExtension 2520 1740 4320 315
+lblComment 120 2145 2310 315
+txtComment 2520 2145 4320 315
+chkEnabled 120 2550 6720 315
+lblVarLoad 120 120 2310 315
+txtVarLoad 2520 120 3855 315
+cmdChooseItem 6465 120 375 315
+lblVarSave 120 525 2310 315
+txtVarSave 2520 525 3855 315
+cmdChooseItem 6465 525 375 315
+lblVarRead 120 930 2310 315
+txtVarRead 2520 930 3855 315
+cmdChooseItem 6465 930 375 315
+lblVarWrite 120 1335 2310 315
+txtVarWrite 2520 1335 3855 315
+cmdChooseItem 6465 1335 375 315
+lblRecipeAbsRel 120 1740 2310 315
+fraRecipeRelative 2520 1740 4320 720
+optRecipeAbsrel 120 0 4080 315
+optRecipeAbsrel 120 405 4080 315
+lblStandardValue 120 2550 2310 315
+txtStandardValue 2520 2550 4320 315
+lblVarSetValue 120 2955 2310 315
+txtVarSetValue 2520 2955 3855 315
+cmdChooseItem 6465 2955 375 315
+fraTransferBehaviour 120 120 6720 1110
+chkWriteThru 120 270 6480 315
+chkSaveThru 120 675 6480 315
+fraFileOptions 120 1320 6720 1515
+chkSaveSubRecipes 120 270 6480 315
+chkSaveChanges 120 675 6480 315
+chkCryptEngine 120 1080 6480 315
+cmdOk 4560 4065 1215 375
+cmdCancel 5865 4065 1215 375
+cmdHelp 120 4065 1215 375
+FSubRecipe 7200 1515
+fraChooseRecipe 120 120 6960 720
+lblChooseRecipe 120 0 2310 315
+cmbChooseRecipe 2520 0 4320 315
+Label1 120 405 2310 315
+txtVarRecipe 2520 405 3855 315
+cmdChooseItem 6465 405 375 315
+cmdOk 4560 1020 1215 375
+cmdCancel 5865 1020 1215 375
+cmdHelp 120 1020 1215 375
+FMultiSelectItems 7200 4995
+hxMI 120 120 6960 4200
+cmdOk 4560 4500 1215 375
+cmdCancel 5865 4500 1215 375
+cmdHelp 120 4500 1215 375
+FConfigEditor 7200 2325
+lblEditorFont 120 120 2310 315
+txtEditorFont 2520 120 4095 315
+cmdEditorFont 6705 120 375 315
+chkDelQuestion 120 525 6960 315
+chkShowStatusBar 120 930 6960 315
+chkSaveOnExit 120 1335 6960 315
+cmdOk 4560 1830 1215 375
+cmdCancel 5865 1830 1215 375
+cmdHelp 120 1830 1215 375
+)";
 
 class PlaceRowsTest : public DialogsTest {
   protected:
@@ -23,11 +102,33 @@ class PlaceRowsTest : public DialogsTest {
     static const forms::Control& areaOf(const forms::Control& control) {
         return control.container() != nullptr ? *control.container() : *control.form();
     }
+    /// "name left top width height" of each control, in the order of the tabulator key.
+    static std::string placesOf(const Dialog& dialog) {
+        std::ostringstream out;
+        out << dialog.name() << ' ' << dialog.width() << ' ' << dialog.height() << '\n';
+        for (const auto& control : dialog.controls()) {
+            out << control->name() << ' ' << control->left() << ' ' << control->top() << ' ' << control->width() << ' '
+                << control->height() << '\n';
+        }
+        return out.str();
+    }
     static bool overlap(const forms::Control& a, const forms::Control& b) {
         return a.left() < b.left() + b.width() && b.left() < a.left() + a.width() && a.top() < b.top() + b.height() &&
                b.top() < a.top() + a.height();
     }
 };
+
+TEST_F(PlaceRowsTest, GivesEachControlItsPlace) {
+    std::string places;
+    for (const auto& dialog : dialogs()) {
+        dialog->move(30, 45, 0, 0);
+        placeRows(*dialog);
+        EXPECT_EQ(dialog->left(), 30);
+        EXPECT_EQ(dialog->top(), 45);
+        places += placesOf(*dialog);
+    }
+    EXPECT_EQ(places, allPlaces);
+}
 
 TEST_F(PlaceRowsTest, GivesEveryControlASizeInsideItsContainer) {
     for (const auto& dialog : dialogs()) {
