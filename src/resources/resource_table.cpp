@@ -23,9 +23,6 @@ constexpr TextRow commonTexts[] = {
 
 // The editor's own. Wording, blanks and punctuation differ between the languages on purpose.
 constexpr TextRow editorTexts[] = {
-    {10, {"OK", "OK"}},
-    {11, {"Abbrechen", "Cancel"}},
-    {12, {"&Hilfe", "&Help"}},
     {102, {"Rezepte", "Recipes"}},
     {103, {"Unterrezepte", "Sub Recipes"}},
     {202, {"&Rezepte", "&Recipes"}},

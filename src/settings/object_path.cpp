@@ -19,7 +19,7 @@ namespace {
 
 // The text behind "(" without the last character, which closes it: a number, or a key between quotes.
 Variant argumentOf(std::string_view text) {
-    text = text.substr(0, text.empty() ? 0 : text.size() - 1);
+    text = text.substr(0, text.size() - 1);  // of nothing, nothing
     const Variant value = TextToValue(text);
     if (value.isNumber()) return Variant(automation::toInt16(value));
     const std::string quoted = automation::toText(value);
