@@ -10,6 +10,10 @@
 
 namespace hx::editor {
 
+/// "ParentID VarRecipe ChildID" of the members that every window starts with.
+inline const Texts allMembers = {"1 Tank.Level 0", "1 Tank.Temp 0",  "1 Pump.Speed 0",
+                                 "1 File.Syrup 2", "1 File.Water 3", "2 Sugar.Mass 0"};
+
 /// An open editor window with the explorer's nodes of its three recipes.
 class CommandWindow : public EditorWindow {
   protected:

@@ -48,6 +48,13 @@ TEST_F(GridError, ADuplicateIsRefusedAndTheRowShowsItsStoredValuesAgain) {
     EXPECT_TRUE(grid().hasFocus());
 }
 
+TEST_F(GridError, ARowWhoseDuplicateIsRefusedIsReadAnewAsAnotherHasLeftItMeanwhile) {
+    typeDuplicate();
+    storeVariable(2, "Tank.Theirs");
+    grid().setRow(0);
+    EXPECT_EQ(shown("VarRecipe")[1], "Tank.Theirs");
+}
+
 TEST_F(GridError, TheBusyFlagIsSetOnlyWhileTheMessageIsShown) {
     typeDuplicate();
     grid().setRow(0);
@@ -135,9 +142,11 @@ TEST_F(GridError, ARowIsStoredWhenAnotherHasChangedAnotherRow) {
 
 TEST_F(GridError, AnErrorEventOfCodeThirtyTwoResetsTheRecordsetToItsFirstRow) {
     grid().setRow(2);
+    storeVariable(2, "Tank.Theirs");
     grid().reportError(forms::gridErrStaleRow, "The row is gone");
     EXPECT_EQ(messages(), (Texts{"Resource 407 not found"}));
     EXPECT_EQ(grid().row(), 0);
+    EXPECT_EQ(shown("VarRecipe"), (Texts{"Tank.Level", "Tank.Theirs", "Pump.Speed"}));
 }
 
 TEST_F(GridError, AnErrorEventOnAnEmptyGridStandsNowhere) {
