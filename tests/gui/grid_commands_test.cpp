@@ -4,7 +4,9 @@
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QMenu>
+#include <QPointer>
 #include <QTest>
+#include <QTimer>
 #include <array>
 
 #include "adapters/qt/item_dialog.h"
@@ -122,7 +124,10 @@ TEST_F(GridCommands, F9InAnOpenEditorStartsFromWhatIsBeingTypedAndKeepsIt) {
     clickCell(1, "Variable");
     typeInto("Mischer.Ein");
     std::string preset;
-    EXPECT_TRUE(pressFor(Qt::Key_F9, {}, [&](QWidget& dialog) { preset = selectedIn(dialog); }));
+    EXPECT_TRUE(pressFor(Qt::Key_F9, {}, [&](QWidget& dialog) {
+        preset = selectedIn(dialog);
+        handleEvents();
+    }));
     EXPECT_EQ(preset, "Mischer.Ein");
     EXPECT_EQ(texts("Variable"), (Texts{"Mischer.Zucker", "Mischer.Ein"}));
     QTest::keyClick(&grid(), Qt::Key_Up);
@@ -151,7 +156,7 @@ TEST_F(GridCommands, F8InAnOpenEditorStoresWhatIsBeingTypedFirst) {
     showMembers("Rezepte/Limonade");
     clickCell(0, "Variable");
     typeInto("Mischer.Ein");
-    EXPECT_TRUE(pressFor(Qt::Key_F8, {}, [](QWidget&) {}));
+    EXPECT_TRUE(pressFor(Qt::Key_F8, {}, [](QWidget&) { handleEvents(); }));
     EXPECT_EQ(stored(file, 1), (Texts{"Mischer.Ein", "Mischer.Wasser"}));
     EXPECT_EQ(texts("Variable")[0], "Mischer.Ein");
 }
@@ -217,6 +222,28 @@ TEST_F(GridCommands, TheRightButtonOpensTheMenuOfTheMembersOverAnOpenEditorToo) 
     clickCell(0, "Variable");
     handleEvents();
     EXPECT_EQ(texts("Variable")[1], "Mischer.Ein") << "what was typed is kept";
+}
+
+TEST_F(GridCommands, AnEditorThatEndsUnderItsMenuOpensNoSecondMenu) {
+    showMembers("Rezepte/Limonade");
+    clickCell(1, "Variable");
+    const QPointer<QLineEdit> line = &typeInto("Mischer.Ein");
+    int menus = 0;
+    QTimer closer;
+    QObject::connect(&closer, &QTimer::timeout, &closer, [&] {
+        QWidget* menu = QApplication::activePopupWidget();
+        if (menu == nullptr) return;
+        ++menus;
+        clickCell(0, "Variable");
+        handleEvents();
+        EXPECT_TRUE(line.isNull());
+        menu->close();
+    });
+    closer.start(5);
+    QTest::mouseClick(line, Qt::RightButton, {}, line->rect().center());
+    handleEvents();
+    EXPECT_EQ(menus, 1);
+    EXPECT_EQ(texts("Variable")[1], "Mischer.Ein");
 }
 
 TEST_F(GridCommands, ShiftLeftAndRightLeaveAnOpenEditorForTheNeighbouringColumn) {

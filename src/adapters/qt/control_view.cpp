@@ -98,7 +98,10 @@ bool ControlView::eventFilter(QObject* watched, QEvent* event) {
         case QEvent::MouseButtonPress:
         case QEvent::MouseMove:
         case QEvent::MouseButtonRelease:
-        case QEvent::MouseButtonDblClick: return mouse(part, *event);
+        case QEvent::MouseButtonDblClick: {
+            tellMouse(event->type(), mouseReport(static_cast<QMouseEvent&>(*event), part));
+            return control_ == nullptr;  // the handler has ended the window
+        }
         case QEvent::FocusIn:
             if (!control_->hasFocus()) control_->focusChanged(true);
             return false;
@@ -113,17 +116,20 @@ bool ControlView::eventFilter(QObject* watched, QEvent* event) {
     }
 }
 
-bool ControlView::mouse(QWidget& part, QEvent& event) {
-    const auto& mouse = static_cast<QMouseEvent&>(event);
-    const auto report = mouseEvent(mouse, part.mapTo(&widget(), mouse.position()), units());
+forms::MouseEvent ControlView::mouseReport(const QMouseEvent& event, const QWidget& part) {
+    return mouseEvent(event, part.mapTo(&widget(), event.position()), units());
+}
+
+void ControlView::tellMouse(QEvent::Type type, const forms::MouseEvent& mouse) {
+    if (control_ == nullptr) return;
     const auto keep = control_->share();
-    switch (event.type()) {
-        case QEvent::MouseButtonPress: control_->mouseDown(report); break;
-        case QEvent::MouseMove: control_->mouseMove(report); break;
-        case QEvent::MouseButtonRelease: control_->mouseUp(report); break;
+    const auto keepForm = form_.model()->share();
+    switch (type) {
+        case QEvent::MouseButtonPress: control_->mouseDown(mouse); break;
+        case QEvent::MouseMove: control_->mouseMove(mouse); break;
+        case QEvent::MouseButtonRelease: control_->mouseUp(mouse); break;
         default: control_->doubleClick(); break;
     }
-    return control_ == nullptr;  // the handler has ended the window
 }
 
 }  // namespace hx::qt

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QEvent>
 #include <QObject>
 #include <QWidget>
 #include <string_view>
@@ -42,6 +43,10 @@ class ControlView : public QObject {
     [[nodiscard]] const Units& units() const noexcept;
     /// Reports keys, mouse and focus of `part`, the mouse relative to the control's widget.
     void watch(QWidget& part);
+    /// Tells the model what the mouse did, if there still is one: a button or the mouse's way, by the event's type.
+    void tellMouse(QEvent::Type type, const forms::MouseEvent& mouse);
+    /// The event of a part, as the model knows it.
+    [[nodiscard]] forms::MouseEvent mouseReport(const QMouseEvent& event, const QWidget& part);
     /// Brings one property of the model into the widget.
     virtual void show(std::string_view property);
     /// The properties that the control has beyond those of all controls.
@@ -52,7 +57,6 @@ class ControlView : public QObject {
 
   private:
     [[nodiscard]] static bool hasKeyboard(const QWidget& part);
-    bool mouse(QWidget& part, QEvent& event);
 
     forms::Control* control_;
     FormView& form_;

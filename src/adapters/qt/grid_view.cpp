@@ -28,6 +28,11 @@ int lastShownColumn(const forms::Grid& grid) {
     return -1;
 }
 
+bool isOfTheMouse(const QEvent& event) {
+    return event.type() == QEvent::MouseButtonPress || event.type() == QEvent::MouseMove ||
+           event.type() == QEvent::MouseButtonRelease || event.type() == QEvent::MouseButtonDblClick;
+}
+
 }  // namespace
 
 GridView::GridView(forms::Grid& grid, FormView& form, QWidget& area)
@@ -259,16 +264,7 @@ void GridView::editorClosed() {
 }
 
 void GridView::reportMouse(const QMouseEvent& event, QWidget& part) {
-    if (model() == nullptr) return;
-    const auto keep = model()->share();
-    const auto keepForm = form().model()->share();
-    const auto report = mouseEvent(event, part.mapTo(&box_, event.position()), units());
-    switch (event.type()) {
-        case QEvent::MouseButtonPress: model()->mouseDown(report); break;
-        case QEvent::MouseMove: model()->mouseMove(report); break;
-        case QEvent::MouseButtonRelease: model()->mouseUp(report); break;
-        default: model()->doubleClick(); break;
-    }
+    if (model() != nullptr) tellMouse(event.type(), mouseReport(event, part));
 }
 
 void GridView::reportMenuKey(GridPane& pane) {
@@ -276,10 +272,8 @@ void GridView::reportMenuKey(GridPane& pane) {
     const PopUpPlace::AtKeyboard here(form().popUps(), pane.mapToGlobal(point));
     const QPoint inBox = pane.mapTo(&box_, point);
     const forms::MouseEvent mouse{forms::button::right, 0, units().twips(inBox.x()), units().twips(inBox.y())};
-    const auto keep = model()->share();
-    const auto keepForm = form().model()->share();
-    model()->mouseDown(mouse);
-    if (model() != nullptr) model()->mouseUp(mouse);
+    tellMouse(QEvent::MouseButtonPress, mouse);
+    tellMouse(QEvent::MouseButtonRelease, mouse);
 }
 
 forms::GridHit GridView::hitTest(double x, double y) const {
@@ -308,7 +302,18 @@ bool GridView::eventFilter(QObject* watched, QEvent* event) {
         event->accept();
         return true;
     }
+    if (isOfTheMouse(*event) && qobject_cast<QLineEdit*>(watched) != nullptr) {
+        reportLater(static_cast<QMouseEvent&>(*event), static_cast<QWidget&>(*watched));
+        return false;
+    }
     return ControlView::eventFilter(watched, event);
+}
+
+// A cell's editor can end, and be deleted, under a menu or dialog that the report opens: it must have the event behind
+// it.
+void GridView::reportLater(const QMouseEvent& event, const QWidget& editor) {
+    const auto tell = [this, type = event.type(), mouse = mouseReport(event, editor)] { tellMouse(type, mouse); };
+    QMetaObject::invokeMethod(this, tell, Qt::QueuedConnection);
 }
 
 bool GridView::claims(const QKeyEvent& event) const {

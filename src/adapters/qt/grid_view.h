@@ -61,6 +61,7 @@ class GridView : public ControlView {
     void goOn();
     [[nodiscard]] Qt::FocusPolicy focusPolicy(const GridPane& pane) const;
     [[nodiscard]] bool claims(const QKeyEvent& event) const;
+    void reportLater(const QMouseEvent& event, const QWidget& editor);
     [[nodiscard]] forms::GridHit hitTest(double x, double y) const;
 
     QWidget box_;
