@@ -177,7 +177,6 @@ void frmtabgrid::readNode(const std::string& key) {
     tdbRM->setAllowUpdate(!root);
     setNodeKey(key);
     refreshMembers();
-    tdbRM->refetch();
     MakeMyCaption(root ? std::string(recipe::rootKey) : key, recipeName(key));
 }
 

@@ -27,10 +27,6 @@ std::shared_ptr<ado::Recordset> MSurfingGrid::members() const {
 
 void MSurfingGrid::dropEdit() noexcept {
     try {
-        const auto recordset = members();
-        const bool edited = recordset && recordset->state() == ado::adStateOpen &&
-                            (recordset->editMode() == ado::adEditInProgress || recordset->editMode() == ado::adEditAdd);
-        if (edited) recordset->cancelUpdate();
         grid_.cancelUpdate();
     } catch (const Error&) {
         // Nothing is pending any more, or the connection is gone with it.

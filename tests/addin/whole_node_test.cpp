@@ -28,6 +28,7 @@ struct WholeNode : testing::Test {
         EXPECT_EQ(studio.window().caption(), "HelvixStudio Rezepteditor: -");
         EXPECT_EQ(studio.window().tdbRM->rowCount(), 0);
         EXPECT_FALSE(studio.window().tdbRM->visible());
+        EXPECT_EQ(studio.window().abr->mainBand().find("mnuShowEditor"), nullptr) << "an entry of the context menu";
         for (const char* tool : {"mnuRecipes", "mnuRecipeMembers", "mnuRecipeNew", "mnuRecipeEdit", "mnuRecipeDelete"})
             EXPECT_FALSE(enabled(tool)) << tool;
     }

@@ -19,6 +19,25 @@ struct Closing : EditorWindow {
     }
 };
 
+TEST_F(Closing, ByTheCloseBoxStoresWhatIsBeingTyped) {
+    show(mixKey);
+    const auto view = grid().changed.subscribe([this](std::string_view property) {
+        if (property == "Settle") type(0, "Tank.Pressure");
+    });
+    window->closeByFrame();
+    EXPECT_EQ(storedVariable(1), "Tank.Pressure");
+}
+
+TEST_F(Closing, ByTheCloseBoxTellsWhatItCannotSettleAndHidesTheWindow) {
+    const auto view = grid().changed.subscribe([](std::string_view property) {
+        if (property == "Settle") throw Error(automation::errFail, "No view.");
+    });
+    window->closeByFrame();
+    EXPECT_EQ(messages(), (Texts{"-2147467259: No view."}));
+    EXPECT_EQ(host.record.messages[0].title, "frmtabgrid: QueryUnload");
+    EXPECT_FALSE(window->visible());
+}
+
 TEST_F(Closing, ByTheCloseBoxHidesTheWindowAndKeepsItAlive) {
     EXPECT_FALSE(window->closeByFrame());
     EXPECT_TRUE(window->loaded());

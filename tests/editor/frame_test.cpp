@@ -12,6 +12,55 @@ TEST_F(Frame, LoadsWithTheNotFoundTextAndThePathAsCaption) {
     EXPECT_EQ(window->caption(), "Resource 310 not found/plant/line.hxs");
 }
 
+TEST_F(Frame, HasItsBarsInTheirHeightsAndTheirTipsWhenItIsLoaded) {
+    EXPECT_EQ(window->tbrfunc->height(), 420);
+    EXPECT_EQ(window->sb->height(), 330);
+    window->load();
+    EXPECT_EQ(window->tbrfunc->button(Variant("Edit")).toolTipText(), "Bearbeiten");
+}
+
+TEST_F(Frame, F1OpensTheHelpAndIsLeftToNobodyElse) {
+    open();
+    forms::KeyEvent key{forms::key::f1, forms::shift::shift};
+    window->keyDownEvent.raise(key);
+    EXPECT_FALSE(key.swallowed());
+    EXPECT_TRUE(host.record.help.empty());
+    host.help.failWith(automation::Error(automation::errFail, "No help."));
+    key = {forms::key::f1, forms::shift::none};
+    window->keyDownEvent.raise(key);
+    EXPECT_TRUE(key.swallowed());
+    EXPECT_EQ(messages(), (Texts{"-2147467259: No help."}));
+    EXPECT_EQ(host.record.messages[0].title, "frmtabgrid: KeyDown");
+}
+
+TEST_F(Frame, TellsInABoxWithOneButton) {
+    window->tell("Das ist alles.");
+    ASSERT_EQ(messages(), (Texts{"Das ist alles."}));
+    EXPECT_EQ(host.record.messages[0].style, forms::message::ok);
+    EXPECT_EQ(host.record.messages[0].title, forms::message::defaultTitle);
+}
+
+TEST_F(Frame, ANodeBindsAGridThatCouldNotBeBoundAndNoOther) {
+    window->load();
+    ASSERT_TRUE(grid().columns().empty());
+    window->showNode(mixKey);
+    ASSERT_EQ(grid().columns().size(), 4U);
+    EXPECT_EQ(shown("VarRecipe"), (Texts{"Tank.Level", "Tank.Temp", "Pump.Speed"}));
+    const auto column = grid().columns().front();
+    window->showNode(mixSubRecipes);
+    EXPECT_EQ(grid().columns().front(), column);
+    EXPECT_EQ(window->abr->mainBand().find("mnuShowEditor"), nullptr) << "an entry of the context menu";
+}
+
+TEST_F(Frame, SavesAPendingEditWhenItsRowsAreReadAnew) {
+    open();
+    show(mixKey);
+    type(0, "Tank.Pressure");
+    EXPECT_TRUE(window->saveFirst());
+    recipe::RefreshMemberView(*window, addIn.texts());
+    EXPECT_EQ(storedVariable(1), "Tank.Pressure");
+}
+
 TEST_F(Frame, LoadsTheThreePanelsOfTheStatusLineInGerman) {
     window->load();
     EXPECT_EQ(window->sb->panelCount(), 3);

@@ -30,6 +30,33 @@ TEST_F(ToolBarButtons, StandInTheirOrderWithPictures) {
     EXPECT_FALSE(button("Delete").separatorBefore);
 }
 
+TEST_F(ToolBarButtons, BeepWhenThereIsNothingForThem) {
+    window->MenuSwitcher("RCPE0", false);
+    window->tbrfunc->buttonClickEvent.raise(button("Edit"));
+    EXPECT_EQ(host.record.beeps, 1);
+    EXPECT_EQ(messages(), Texts{});
+}
+
+TEST_F(ToolBarButtons, TheBinKeepsMeaningTheRecipeWhileNobodyTurnsToItsRows) {
+    window->showNode(mixKey);
+    window->explorerUsed();
+    grid().setRow(1);
+    grid().focusEvent.raise(false);
+    selectRows({});
+    EXPECT_EQ(button("Delete").toolTipText(), "Löschen: Rezept Mix");
+    click("Delete");
+    EXPECT_EQ(grid().selectedRows().count(), 0);
+    EXPECT_EQ(messages().size(), 1U) << "the question";
+}
+
+TEST_F(ToolBarButtons, OnlyTheBinSelectsTheRowThatItMeans) {
+    show(mixSubRecipes);
+    grid().setRow(0);
+    grid().focusEvent.raise(true);
+    click("New");
+    EXPECT_EQ(grid().selectedRows().count(), 0);
+}
+
 TEST_F(ToolBarButtons, FollowTheNode) {
     window->MenuSwitcher("RCPE0", false);
     expectButtons(true, false, false);

@@ -30,6 +30,16 @@ TEST_F(Position, IsMeasuredFromTheStudiosWindow) {
     EXPECT_EQ(window->PosTop(), 150);
 }
 
+TEST_F(Position, IsThatOfTheWindowWhereverTheStudioHasPutIt) {
+    openNormal(450, 150);
+    const auto area = host.windows.rect(host.explorer.hostWindow());
+    const auto frame =
+        host.windows.add(host::window::Rect{area.left + 40, area.top + 20, area.left + 900, area.top + 700});
+    host.windows.setParent(window->handle(), frame);
+    EXPECT_EQ(window->PosLeft(), 450 + 40 * 15.0);
+    EXPECT_EQ(window->PosTop(), 150 + 20 * 15.0);
+}
+
 TEST_F(Position, MovesTheWindowToWhereItIsSet) {
     openNormal(450, 150);
     window->setPosLeft(900);

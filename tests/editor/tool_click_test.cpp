@@ -87,9 +87,25 @@ TEST_F(ToolClick, OnReportRunsOptionSeven) {
 TEST_F(ToolClick, OnShowEditorBringsTheWindowToTheFront) {
     window->hide();
     window->MenuSwitcher("RCPE0", true);
+    const auto watched = window->changed.subscribe([this](std::string_view property) {
+        if (property != "Visible") return;
+        EXPECT_EQ(host.record.broughtToFront, Texts{}) << "only what is shown can be raised";
+        throw automation::Error(automation::errFail, "No display.");
+    });
+    window->abr->click("mnuShowEditor");
+    EXPECT_EQ(messages(), (Texts{"-2147467259: No display."}));
+    EXPECT_EQ(host.record.messages[0].title, "mnuShowEditor");
     window->abr->click("mnuShowEditor");
     EXPECT_TRUE(window->visible());
     EXPECT_EQ(host.record.broughtToFront, (Texts{"frmtabgrid"}));
+}
+
+TEST_F(ToolClick, OnACommandThatDoesNotExistDoesNothing) {
+    make();
+    open();
+    for (const std::int16_t number : {std::int16_t{-1}, std::int16_t{1}, std::int16_t{99}})
+        window->commands().mnuOption(number);
+    expectNothingHappened();
 }
 
 TEST_F(ToolClick, OnAToolOfAnotherNameDoesNothing) {

@@ -13,13 +13,14 @@ class HelpViewer : public host::HelpViewer {
   public:
     explicit HelpViewer(Record& record) : record_(record) {}
     void showContext(forms::WindowHandle owner, const std::string& file, std::int32_t context) override {
+        if (error_) throw automation::Error(*error_);
         record_.help.push_back({owner, file, context});
     }
     void closeAll() override {
         if (error_) throw automation::Error(*error_);
         ++record_.helpCloses;
     }
-    /// From now on it cannot be closed.
+    /// From now on it can be neither opened nor closed.
     void failWith(automation::Error error) { error_ = std::move(error); }
 
   private:
