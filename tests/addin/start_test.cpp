@@ -114,6 +114,7 @@ TEST_F(StartUp, ShowsWhyTheRootCannotBeAddedAndSetsNoHelpFile) {
     const Texts boxes = studio.boxes();
     ASSERT_EQ(boxes.size(), 1u);
     EXPECT_EQ(boxes[0].substr(0, 34), "Connect: InitTreeView|-2147352565:");
+    EXPECT_FALSE(studio.host.explorer.images().images().empty()) << "the pictures come first";
     EXPECT_EQ(studio.connect->help().file(), "");
     studio.connect->Terminate();
     EXPECT_EQ(studio.nodes(), (Texts{"RCPE0"})) << "a node that is not the add-in's is left alone";

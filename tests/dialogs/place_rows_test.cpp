@@ -157,6 +157,8 @@ TEST_F(PlaceRowsTest, LaysNoControlOverAnother) {
 
 TEST_F(PlaceRowsTest, LeavesPagesThatAreNotShownOutOfSight) {
     const auto dialog = std::make_shared<FRecipe>(host.services(), texts, help);
+    ASSERT_EQ(dialog->tab->tabs(), 3);
+    EXPECT_TRUE(dialog->layout().rows.front().grows) << "the pages take what a larger dialog has";
     EXPECT_EQ(dialog->tab->page(0).left(), 0);
     for (const std::int16_t hidden : {std::int16_t{1}, std::int16_t{2}}) {
         const forms::Frame& page = dialog->tab->page(hidden);

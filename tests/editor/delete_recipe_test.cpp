@@ -16,6 +16,19 @@ struct DeleteRecipe : CommandWindow {
         "Wollen Sie wirklich das selektierte Rezept und alle darin enthaltenen Elemente löschen ?";
 };
 
+TEST_F(DeleteRecipe, ShowsTheHourglassMeanwhile) {
+    int removed = 0;
+    faults.instead = [&] {
+        ++removed;
+        EXPECT_EQ(host.screen.pointer(), forms::Pointer::hourglass);
+    };
+    faults.armFrom(1, support::FaultPlan::Kind::remove);
+    click("mnuRecipeDelete");
+    faults.disarm();
+    EXPECT_GT(removed, 0);
+    expectAtRest();
+}
+
 TEST_F(DeleteRecipe, AsksWithNoAsTheDefault) {
     bool busy = false;
     host.script.onMessage = [&](const headless::Message& message) {

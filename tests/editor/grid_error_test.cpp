@@ -147,6 +147,8 @@ TEST_F(GridError, AnErrorEventOfCodeThirtyTwoResetsTheRecordsetToItsFirstRow) {
     EXPECT_EQ(messages(), (Texts{"Resource 407 not found"}));
     EXPECT_EQ(grid().row(), 0);
     EXPECT_EQ(shown("VarRecipe"), (Texts{"Tank.Level", "Tank.Theirs", "Pump.Speed"}));
+    EXPECT_EQ(busy, (std::vector<bool>{true}));
+    EXPECT_EQ(host.record.messages[0].style, forms::message::ok);
 }
 
 TEST_F(GridError, AnErrorEventOnAnEmptyGridStandsNowhere) {

@@ -17,6 +17,8 @@ struct SplitBar : EditorWindow {
     void release(std::int16_t which = button::left) { bar().mouseUp({which, 0, 0, 0}); }
 };
 
+TEST_F(SplitBar, IsPassedOverByTheTabulatorKey) { EXPECT_FALSE(bar().tabStop()); }
+
 TEST_F(SplitBar, FollowsTheMouseWithoutTouchingTheGrid) {
     press();
     move(500);

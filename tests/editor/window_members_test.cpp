@@ -105,5 +105,13 @@ TEST_F(ByName, AClickByNameOnAToolThatIsNotThereFails) {
     EXPECT_EQ(numberOf([&] { call("abr_ToolClick", {Variant("mnuNothing")}); }), automation::errBadIndex);
 }
 
+TEST_F(ByName, ACommandIsRunByItsNumber) {
+    noteCommands();
+    for (const char* procedure : {"mnuRecipeFunc", "mnuRecipeMember", "mnuOption"}) {
+        call(procedure, {Variant(std::int16_t{7})});
+    }
+    EXPECT_EQ(commands, (Texts{"mnuRecipeFunc(7)", "mnuRecipeMember(7)", "mnuOption(7)"}));
+}
+
 }  // namespace
 }  // namespace hx::editor
