@@ -43,7 +43,9 @@ void Connect::start(const std::string& projectName, host::ProjectExplorer* explo
     ReadLanguageChanged();
     if (!ReadCurrentProject(services_, projectPath_)) return;
     if (explorer == nullptr) {
-        throw automation::Error(automation::errFail, "The studio gave no project explorer.");
+        throw automation::Error(automation::errFail,
+                                automation::Sentence{"The studio gave no project explorer.",
+                                                     "Das Studio hat keinen Projektexplorer übergeben."});
     }
     hostValue_ = explorer->hostWindow();
     bool added = false;

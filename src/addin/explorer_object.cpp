@@ -50,7 +50,9 @@ void activate(ExplorerObject& object) { object.explorer().activate(); }
 }  // namespace
 
 host::ProjectExplorer& ExplorerObject::explorer() const {
-    if (explorer_ == nullptr) throw automation::Error(automation::errFail, "The project explorer has been released.");
+    constexpr automation::Sentence released{"The project explorer has been released.",
+                                            "Der Projektexplorer ist freigegeben."};
+    if (explorer_ == nullptr) throw automation::Error(automation::errFail, released);
     return *explorer_;
 }
 

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <exception>
 #include <string_view>
 #include <utility>
 
@@ -17,12 +16,8 @@ bool trap(forms::Screen& screen, std::string_view procedure, Action&& action) no
         try {
             std::forward<Action>(action)();
             return true;
-        } catch (const automation::Error& error) {
-            editor::showError(screen, error, procedure);
-        } catch (const std::exception& error) {
-            editor::showError(screen, {automation::errFail, error.what()}, procedure);
         } catch (...) {
-            editor::showError(screen, {automation::errFail, "Unknown error"}, procedure);
+            editor::showError(screen, automation::caughtError(), procedure);
         }
     } catch (...) {
         // The message box itself failed: there is no way left to tell the user.

@@ -48,7 +48,10 @@ void Connection::close() {
 }
 
 void Connection::beginTrans() {
-    if (inTransaction_) throw Error(adErrInTransaction, "Only one transaction can be active on this connection.");
+    if (inTransaction_) {
+        throwError(adErrInTransaction, {"Only one transaction can be active on this connection.",
+                                        "Auf dieser Verbindung kann nur eine Transaktion laufen."});
+    }
     withSession([](Session& open) { open.beginTransaction(); });
     inTransaction_ = true;
 }
@@ -76,7 +79,7 @@ Session& Connection::session() {
 
 void Connection::record(const Error& error) {
     errors_.clear();
-    errors_.push_back({error.number(), error.description()});
+    errors_.push_back(error);
 }
 
 namespace {
@@ -84,9 +87,9 @@ namespace {
 /// One entry of the error list, for late-bound use.
 class ErrorItem : public automation::Dispatch {
   public:
-    explicit ErrorItem(ProviderError error) : error_(std::move(error)) {}
-    [[nodiscard]] std::int32_t number() const { return error_.number; }
-    [[nodiscard]] const std::string& description() const { return error_.description; }
+    explicit ErrorItem(Error error) : error_(std::move(error)) {}
+    [[nodiscard]] std::int32_t number() const { return error_.number(); }
+    [[nodiscard]] const std::string& description() const { return error_.description(); }
 
     [[nodiscard]] const automation::MemberTable& members() const override {
         static constexpr automation::Member rows[] = {
@@ -98,7 +101,7 @@ class ErrorItem : public automation::Dispatch {
     }
 
   private:
-    ProviderError error_;
+    Error error_;
 };
 
 automation::ObjectRef errorAt(Connection& connection, std::int32_t index) {

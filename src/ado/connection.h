@@ -11,12 +11,6 @@
 
 namespace hx::ado {
 
-/// One error of the provider, kept in Connection::errors.
-struct ProviderError {
-    std::int32_t number = 0;
-    std::string description;
-};
-
 /// Something that lives on an open connection and ends with it.
 class ConnectionClient {
   public:
@@ -48,7 +42,7 @@ class Connection : public automation::Dispatch {
     [[nodiscard]] bool inTransaction() const noexcept { return inTransaction_; }
 
     /// The errors of the last operation on the provider that failed, newest last; cleared by the next failing one.
-    [[nodiscard]] const std::vector<ProviderError>& errors() const noexcept { return errors_; }
+    [[nodiscard]] const std::vector<automation::Error>& errors() const noexcept { return errors_; }
     void clearErrors() { errors_.clear(); }
 
     /// Runs `action` on the open session and records the provider's error before passing it on. Throws
@@ -74,7 +68,7 @@ class Connection : public automation::Dispatch {
     Provider& provider_;
     std::unique_ptr<Session> session_;
     std::string connectionString_;
-    std::vector<ProviderError> errors_;
+    std::vector<automation::Error> errors_;
     std::vector<ConnectionClient*> clients_;
     std::uint64_t writes_ = 0;
     std::uint64_t rollbacks_ = 0;

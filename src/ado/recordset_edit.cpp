@@ -24,7 +24,8 @@ void Recordset::requireRow() const {
 void Recordset::requireWritable() const {
     requireOpen();
     if (readOnly_) {
-        throw automation::Error(adErrIllegalOperation, "The recordset was opened for reading only.");
+        throwError(adErrIllegalOperation,
+                   {"The recordset was opened for reading only.", "Die Datensätze wurden nur zum Lesen geöffnet."});
     }
 }
 

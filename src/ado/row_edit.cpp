@@ -9,6 +9,7 @@
 namespace hx::ado {
 
 using automation::Error;
+using automation::Language;
 using automation::Variant;
 
 void RowEdit::begin(EditMode mode, std::size_t columns) {
@@ -63,13 +64,17 @@ RowEdit::Changes RowEdit::changes() const {
 
 namespace {
 
+constexpr automation::Sentence doesNotFit{"The value does not fit the column \"%1\": %2.",
+                                          "Der Wert passt nicht in die Spalte \"%1\": %2."};
+
 std::string fittingText(const Column& column, const Variant& value) {
-    if (value.isObject()) throw Error(automation::errTypeMismatch, "text expected");
+    if (value.isObject()) throwError(automation::errTypeMismatch, {"text expected", "es muss ein Text sein"});
     std::string text = automation::toText(value);
     const bool limited = column.type == adVarWChar && column.definedSize > 0;
     if (limited && automation::characterCount(text) > static_cast<std::size_t>(column.definedSize)) {
-        throw Error(automation::errOverflow,
-                    "the text is longer than " + std::to_string(column.definedSize) + " characters");
+        throwError(automation::errOverflow,
+                   {"the text is longer than %1 characters", "der Text ist länger als %1 Zeichen"},
+                   {std::to_string(column.definedSize)});
     }
     return text;
 }
@@ -89,13 +94,17 @@ Variant convert(const Column& column, const Variant& value) {
 
 Variant convertFor(const Column& column, const Variant& value) {
     if (column.isKey || !column.updatable) {
-        throw Error(adErrIllegalOperation, "Column \"" + column.name + "\" cannot be assigned.");
+        throwError(adErrIllegalOperation,
+                   {"Column \"%1\" cannot be assigned.", "Der Spalte \"%1\" kann nichts zugewiesen werden."},
+                   {column.name});
     }
     try {
         return convert(column, value);
     } catch (const Error& error) {
-        throw Error(dbErrCannotConvert,
-                    "The value does not fit the column \"" + column.name + "\": " + error.description() + ".");
+        const auto told = [&](Language language) {
+            return say(language, doesNotFit, {column.name, error.description(language)});
+        };
+        throw Error(dbErrCannotConvert, told(Language::english), told(Language::german));
     }
 }
 

@@ -111,12 +111,14 @@ double leadingNumber(std::string_view text) {
     return parse(scanner.longestNumber());
 }
 
+constexpr Sentence notANumber{"Type mismatch: \"%1\" is not a number", "Typen unverträglich: \"%1\" ist keine Zahl"};
+
 double wholeNumber(std::string_view text) {
     const std::string_view trimmed = trim(text);
     NumberScanner scanner(trimmed);
     const std::string_view number = scanner.longestNumber();
     if (number.empty() || number.size() != trimmed.size()) {
-        throw Error(errTypeMismatch, "Type mismatch: \"" + std::string(text) + "\" is not a number");
+        throw Error(errTypeMismatch, notANumber, {text});
     }
     return parse(number);
 }

@@ -2,8 +2,12 @@
 
 #include <cstdint>
 #include <exception>
+#include <initializer_list>
 #include <string>
+#include <string_view>
 #include <utility>
+
+#include "automation/sentence.h"
 
 namespace hx::automation {
 
@@ -11,19 +15,34 @@ namespace hx::automation {
 /// an HRESULT of the source (0x8002xxxx automation, 0x800Axxxx ADO, 0x8004xxxx provider).
 class Error : public std::exception {
   public:
+    /// Described in one language alone, whichever the user's is.
     Error(std::int32_t number, std::string description) : number_(number), description_(std::move(description)) {}
+    Error(std::int32_t number, std::string english, std::string german)
+        : number_(number), description_(std::move(english)), german_(std::move(german)) {}
+    Error(std::int32_t number, const Sentence& sentence, std::initializer_list<std::string_view> names = {})
+        : Error(number, say(Language::english, sentence, names), say(Language::german, sentence, names)) {}
+    /// The same failure under the number that another gives it.
+    [[nodiscard]] Error withNumber(std::int32_t number) const { return {number, description_, german_}; }
 
     [[nodiscard]] std::int32_t number() const noexcept { return number_; }
-    [[nodiscard]] const std::string& description() const noexcept { return description_; }
+    [[nodiscard]] const std::string& description(Language language = Language::english) const noexcept {
+        return language == Language::german && !german_.empty() ? german_ : description_;
+    }
     [[nodiscard]] const char* what() const noexcept override { return description_.c_str(); }
 
     /// "number: description" with the number in decimal: the text of every error message box.
-    [[nodiscard]] std::string message() const { return std::to_string(number_) + ": " + description_; }
+    [[nodiscard]] std::string message(Language language) const {
+        return std::to_string(number_) + ": " + description(language);
+    }
 
   private:
     std::int32_t number_;
     std::string description_;
+    std::string german_;  // empty: the description is all there is
 };
+
+/// For a catch handler: the exception that is being handled, whatever it is, as an error that the user can be told.
+[[nodiscard]] Error caughtError();
 
 /// An HRESULT as the signed number that Err.Number carries.
 constexpr std::int32_t hresult(std::uint32_t code) noexcept { return static_cast<std::int32_t>(code); }
@@ -36,5 +55,6 @@ inline constexpr std::int32_t errOverflow = hresult(0x8002000A);
 inline constexpr std::int32_t errBadIndex = hresult(0x8002000B);
 inline constexpr std::int32_t errBadParamCount = hresult(0x8002000E);
 inline constexpr std::int32_t errFail = hresult(0x80004005);
+inline constexpr std::int32_t errOutOfMemory = hresult(0x8007000E);
 
 }  // namespace hx::automation

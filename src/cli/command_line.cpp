@@ -62,9 +62,9 @@ void addBuildSample(CLI::App& app, Command& chosen, const Output& output) {
     });
 }
 
-void explain(const std::exception& error, const Output& output) {
-    const bool isMemory = dynamic_cast<const std::bad_alloc*>(&error) != nullptr;
-    output.problems << "hxrecipe: " << (isMemory ? "There is not enough memory." : visibleLines(error.what())) << "\n";
+// For a catch handler.
+void explain(const Output& output) {
+    output.problems << "hxrecipe: " << visibleLines(automation::caughtError().description()) << "\n";
 }
 
 int carryOut(const Command& command, const Output& output) {
@@ -73,8 +73,8 @@ int carryOut(const Command& command, const Output& output) {
         output.results.flush();
         if (output.results.fail()) throw automation::Error(automation::errFail, "The results cannot be written.");
         return status;
-    } catch (const std::exception& error) {
-        explain(error, output);
+    } catch (const std::exception&) {
+        explain(output);
         return command.onFailure;
     }
 }
@@ -127,8 +127,8 @@ int run(int argc, const char* const* argv, const Output& output) {
             return explainUsage(*app, error, output);
         }
         return carryOut(chosen, output);
-    } catch (const std::exception& error) {  // before it is known what to do
-        explain(error, output);
+    } catch (const std::exception&) {  // before it is known what to do
+        explain(output);
         return wrongUsage;
     }
 }

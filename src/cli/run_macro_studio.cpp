@@ -82,6 +82,7 @@ void MacroStudio::openProject(const std::string& path) {
     closeProject();
     const std::filesystem::path file(path);
     const std::string name = file.stem().string();
+    host_->screen.setLanguage(language());
     projectRegistry_.open(name, file.parent_path().string());
     file_ = path;
     host_->explorer.setProject(name);

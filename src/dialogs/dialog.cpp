@@ -6,8 +6,6 @@
 
 namespace hx::dialogs {
 
-using automation::Error;
-
 Dialog::Dialog(std::string name, const host::Services& services, resources::Help& help, std::int32_t helpContext)
     : Form(std::move(name), services.screen), services_(services), help_(help) {
     setHelpContextId(helpContext);
@@ -69,10 +67,8 @@ void Dialog::guard(const std::function<void()>& action) {
     const auto keep = share();
     try {
         action();
-    } catch (const Error& error) {
-        screen().messageBox(error.message(), forms::message::ok, name());
-    } catch (const std::exception& error) {
-        screen().messageBox(Error(automation::errFail, error.what()).message(), forms::message::ok, name());
+    } catch (const std::exception&) {
+        screen().messageBox(automation::caughtError().message(screen().language()), forms::message::ok, name());
     }
 }
 

@@ -66,8 +66,10 @@ class AddInReference : public AddIn {
     [[nodiscard]] BusyFlag& busy() override { return addIn_ ? addIn_->busy() : busy_; }
 
   private:
+    static constexpr automation::Sentence closed{"The editor has been closed.", "Der Editor ist geschlossen."};
+
     [[nodiscard]] AddIn& required() const {
-        if (addIn_ == nullptr) throw automation::Error(automation::errFail, "The editor has been closed.");
+        if (addIn_ == nullptr) throw automation::Error(automation::errFail, closed);
         return *addIn_;
     }
 

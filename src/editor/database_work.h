@@ -7,6 +7,11 @@
 
 namespace hx::editor {
 
+[[noreturn]] inline void throwNoDatabase() {
+    constexpr automation::Sentence noDatabase{"The editor has no database now", "Der Editor hat jetzt keine Datenbank"};
+    throw automation::Error(automation::errFail, noDatabase);
+}
+
 /// The database during one command. When the command ends, also by an error, the table of recipes is closed, and what
 /// waits in it is dropped; and what the database refused is forgotten, so that the grid does not take it for the reason
 /// of an error of its own.
@@ -14,7 +19,7 @@ class DatabaseWork {
   public:
     /// Throws errFail without a database.
     explicit DatabaseWork(std::shared_ptr<recipe::DataEnvironment> data) : data_(std::move(data)) {
-        if (!data_) throw automation::Error(automation::errFail, "The editor has no database now");
+        if (!data_) throwNoDatabase();
     }
     ~DatabaseWork() {
         recipe::CloseRecordset(*data_->rsRecipes, false);

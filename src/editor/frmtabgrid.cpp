@@ -1,6 +1,7 @@
 #include "editor/frmtabgrid.h"
 
 #include "editor/commands.h"
+#include "editor/database_work.h"
 #include "editor/function_bar.h"
 #include "editor/guard.h"
 #include "editor/member_grid_keys.h"
@@ -201,7 +202,7 @@ void frmtabgrid::tell(std::string_view text) {
 }
 
 recipe::DataEnvironment& frmtabgrid::requireData() const {
-    if (data_ == nullptr) throw automation::Error(automation::errFail, "The editor has no database now");
+    if (data_ == nullptr) throwNoDatabase();
     return *data_;
 }
 

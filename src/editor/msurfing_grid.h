@@ -70,7 +70,7 @@ class MSurfingGrid {
     void resetStaleRows(std::int32_t code);
     void refuseDuplicate();
     void showRefusals(std::int32_t code);
-    void showRefusal(const ado::ProviderError& error);
+    void showRefusal(const automation::Error& error);
     [[nodiscard]] std::optional<automation::Error> conflict() const;
     void showConflict(const automation::Error& conflict);
     void dropEdit() noexcept;

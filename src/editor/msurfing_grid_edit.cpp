@@ -50,8 +50,9 @@ std::string MSurfingGrid::entry() const noexcept {
 // The grid has numbers of its own for what the database said.
 Error MSurfingGrid::lossOf(const std::string& entry, const Error& reason) const {
     const auto& errors = window_.dataEnvironment()->CnnRecipes->errors();
-    const Error told = errors.empty() ? reason : Error(errors.back().number, errors.back().description);
-    return {told.number(), automation::say(addIn_.texts().wording(), dropped, {entry, told.description()})};
+    const Error told = errors.empty() ? reason : errors.back();
+    const automation::Language language = addIn_.texts().wording();
+    return {told.number(), automation::say(language, dropped, {entry, told.description(language)})};
 }
 
 std::optional<Error> MSurfingGrid::writeOrDrop() {
@@ -60,7 +61,7 @@ std::optional<Error> MSurfingGrid::writeOrDrop() {
     if (type != recipe::prefixRecipe && type != recipe::prefixSubRecipes) return {};
     std::optional<Error> lost;
     // The view could not even hand the text over.
-    if (grid_.editorOpen()) lost = lossOf(grid_.editorText(), Error(automation::errFail, {}));
+    if (grid_.editorOpen()) lost = lossOf(grid_.editorText(), Error(automation::errFail, std::string()));
     const auto write = [&] {
         const std::string typed = entry();
         try {
@@ -103,7 +104,7 @@ bool MSurfingGrid::finishRow() {
     } catch (const Error& error) {
         const Busy busy(addIn_.busy());
         gridShowsError_ = error.number() != forms::gridErrRowRefused && error.number() != forms::gridErrStaleRow;
-        grid_.reportError(error.number(), error.description());
+        grid_.reportError(error);
         gridShowsError_ = false;
         return false;
     }
@@ -147,11 +148,11 @@ void MSurfingGrid::resetStaleRows(std::int32_t code) {
 void MSurfingGrid::showRefusals(std::int32_t code) {
     const auto& data = window_.dataEnvironment();
     if (data == nullptr) return;
-    const std::vector<ado::ProviderError> errors = data->CnnRecipes->errors();
+    const std::vector<Error> errors = data->CnnRecipes->errors();
     data->CnnRecipes->clearErrors();
-    for (const ado::ProviderError& error : errors) {
-        if (error.number == ado::dbErrDuplicate) refuseDuplicate();
-        else if (code == forms::gridErrRowRefused && error.number != ado::dbErrRowChanged) showRefusal(error);
+    for (const Error& error : errors) {
+        if (error.number() == ado::dbErrDuplicate) refuseDuplicate();
+        else if (code == forms::gridErrRowRefused && error.number() != ado::dbErrRowChanged) showRefusal(error);
     }
 }
 
@@ -166,8 +167,7 @@ std::optional<Error> MSurfingGrid::conflict() const {
                                     [this](const ado::Field&, const Variant& value) {
                                         return recipe::valueInWords(value, addIn_.texts().wording());
                                     }};
-    for (const ado::ProviderError& error : window_.dataEnvironment()->CnnRecipes->errors()) {
-        const Error refused(error.number, error.description);
+    for (const Error& refused : window_.dataEnvironment()->CnnRecipes->errors()) {
         if (recipe::isConflict(refused)) return recipe::conflictOf(refused, *recordset, addIn_.texts(), names);
     }
     return {};
@@ -182,9 +182,9 @@ void MSurfingGrid::showConflict(const Error& conflict) {
 }
 
 // The row stays as the user typed it, to be corrected.
-void MSurfingGrid::showRefusal(const ado::ProviderError& error) {
+void MSurfingGrid::showRefusal(const Error& error) {
     const Busy busy(addIn_.busy());
-    showError(window_.screen(), Error(error.number, error.description), "tdbRM_Error");
+    showError(window_.screen(), error, "tdbRM_Error");
 }
 
 void MSurfingGrid::refuseDuplicate() {

@@ -80,8 +80,9 @@ automation::ObjectRef Commands::sibling(std::string_view programId) {
         return addIn_.services().components.create(programId);
     } catch (const automation::Error& error) {
         const Busy busy(addIn_.busy());
-        window_.screen().messageBox(std::to_string(error.number()) + "\r\n" + error.description(), forms::message::ok,
-                                    forms::message::defaultTitle);
+        window_.screen().messageBox(
+            std::to_string(error.number()) + "\r\n" + error.description(window_.screen().language()),
+            forms::message::ok, forms::message::defaultTitle);
         return nullptr;
     }
 }

@@ -57,7 +57,8 @@ void frmtabgrid::applySettings(const std::string& name) {
             inits().SetInitToControl(entry);
         } catch (const Error& error) {
             number = error.number();
-            refused += "\r\n" + entry + "=" + automation::toText(leaf.val) + " (" + error.description() + ")";
+            refused += "\r\n" + entry + "=" + automation::toText(leaf.val) + " (" +
+                       error.description(screen().language()) + ")";
         }
     });
     if (refused.empty()) return;

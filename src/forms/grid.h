@@ -135,7 +135,7 @@ class Grid : public Control {
     void update();
     void cancelUpdate();  ///< drops the pending row; the stored values show again
     /// Raises errorEvent; when its response stays 1, shows "code: description" in a message box of the form's screen.
-    void reportError(std::int32_t code, const std::string& description);
+    void reportError(const automation::Error& error);
     /// Asks the view for the text of an open cell editor, which goes into its cell; the editor closes. One whose text
     /// cannot be taken stays open.
     void settle() { changed.raise("Settle"); }
@@ -192,6 +192,7 @@ class Grid : public Control {
     void leaveHiddenColumn();
     bool leaveRow();
     bool tryUpdate();
+    [[nodiscard]] GridError inWords(const automation::Error& error) const;
     void showError(const GridError& error) const;
     void moveTo(std::int32_t row);
     void changeCell(std::int32_t column, const std::string& text);

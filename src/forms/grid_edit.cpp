@@ -1,5 +1,6 @@
 #include <array>
 
+#include "ado/errors.h"
 #include "automation/convert.h"
 #include "forms/form.h"
 #include "forms/grid.h"
@@ -60,7 +61,7 @@ bool Grid::tryUpdate() {
         update();
         return true;
     } catch (const Error& error) {
-        reportError(error.number(), error.description());
+        reportError(error);
         return false;
     }
 }
@@ -88,7 +89,7 @@ void Grid::moveTo(std::int32_t row) {
 void Grid::setAddNewMode(bool on) {
     if (addNewMode_ == on) return;
     if (!on) return cancelUpdate();
-    if (!open()) throw Error(ado::adErrObjectClosed, "Operation is not allowed when the object is closed.");
+    if (!open()) ado::throwObjectClosed();
     const auto keep = share();
     if (!leaveRow()) return;
     const std::int32_t before = row();
@@ -118,7 +119,7 @@ void Grid::setText(std::int32_t row, std::int32_t column, const std::string& tex
     try {
         changeCell(column, text);
     } catch (const Error& error) {
-        return reportError(translated(error.number(), typingErrors), error.description());
+        return reportError(error.withNumber(translated(error.number(), typingErrors)));
     }
     setDataChanged(true);
     rowChanged.raise(row);
@@ -138,7 +139,7 @@ void Grid::update() {
         try {
             recordset_->update();
         } catch (const Error& error) {
-            throw Error(translated(error.number(), updateErrors), error.description());
+            throw error.withNumber(translated(error.number(), updateErrors));
         }
     }
     const bool added = std::exchange(addNewMode_, false);
@@ -171,16 +172,21 @@ void Grid::cancelUpdate() {
     }
 }
 
-void Grid::reportError(std::int32_t code, const std::string& description) {
+GridError Grid::inWords(const Error& error) const {
+    const auto language = form() == nullptr ? automation::Language::english : form()->screen().language();
+    return {error.number(), error.description(language)};
+}
+
+void Grid::reportError(const Error& error) {
     const auto keep = share();
-    GridError error{code, description};
-    errorEvent.raise(error);
-    showError(error);
+    GridError reported = inWords(error);
+    errorEvent.raise(reported);
+    showError(reported);
 }
 
 void Grid::viewFailed(const Error& error) {
     const auto keep = share();
-    GridError reported{error.number(), error.description()};
+    GridError reported = inWords(error);
     viewErrorEvent.raise(reported);
     showError(reported);
 }

@@ -4,6 +4,7 @@
 #include <string>
 #include <string_view>
 
+#include "automation/sentence.h"
 #include "forms/font.h"
 
 namespace hx::forms {
@@ -53,6 +54,8 @@ class Screen {
     virtual void setPointer(Pointer pointer) = 0;
     /// Sends keys ("{F1}") to a form as if they were typed.
     virtual void sendKeys(Form& form, std::string_view keys) = 0;
+    /// The language in which the user is told what failed.
+    [[nodiscard]] virtual automation::Language language() const = 0;
     /// Twips in one pixel of the display, 15 at 96 dots an inch.
     [[nodiscard]] virtual double twipsPerPixel() const = 0;
 };

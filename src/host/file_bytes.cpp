@@ -16,14 +16,15 @@ std::optional<std::string> readFile(const fs::path& path) {
     std::error_code error;
     const fs::file_status status = fs::status(path, error);
     if (status.type() == fs::file_type::not_found) return std::nullopt;
-    if (!fs::is_regular_file(status)) failWith("cannot be read", path, error ? error.message() : "it is no file");
+    if (error) failWith(sentence::notRead, path, error);
+    if (!fs::is_regular_file(status)) failWith(sentence::notRead, path, sentence::noFile);
     std::ifstream stream(path, std::ios::binary);
     std::string bytes;
     char block[16384];
     while (stream.read(block, sizeof block) || stream.gcount() > 0) {
         bytes.append(block, static_cast<std::size_t>(stream.gcount()));
     }
-    if (!stream.eof()) failWith("cannot be read", path);
+    if (!stream.eof()) failWith(sentence::notRead, path);
     return bytes;
 }
 

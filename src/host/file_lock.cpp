@@ -30,8 +30,7 @@ FileLock::FileLock(const fs::path& file, const Disk& disk, std::chrono::millisec
             change = now;
             since = Clock::now();
         }
-        if (Clock::now() - since >= patience)
-            failWith("cannot be written", file, "another program does not let go of it");
+        if (Clock::now() - since >= patience) failWith(sentence::notWritten, file, sentence::heldByAnother);
         std::this_thread::sleep_for(pause);
     }
     lock_ = *lock;

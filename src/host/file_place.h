@@ -1,9 +1,9 @@
 #pragma once
 
 #include <filesystem>
-#include <string>
-#include <string_view>
 #include <system_error>
+
+#include "host/sentences.h"
 
 namespace hx::host {
 
@@ -13,8 +13,10 @@ namespace hx::host {
 /// The folder that a file lies in.
 [[nodiscard]] std::filesystem::path folderOf(const std::filesystem::path& file);
 
-/// Throws errFail: what has happened to the file ("cannot be read"), and why.
-[[noreturn]] void failWith(std::string_view what, const std::filesystem::path& file, const std::string& why = {});
-[[noreturn]] void failWith(std::string_view what, const std::filesystem::path& file, const std::error_code& why);
+/// Throws errFail: what has happened to the file, the sentence's %1, and why.
+[[noreturn]] void failWith(const automation::Sentence& what, const std::filesystem::path& file,
+                           const automation::Sentence& why = sentence::notSaid);
+[[noreturn]] void failWith(const automation::Sentence& what, const std::filesystem::path& file,
+                           const std::error_code& why);
 
 }  // namespace hx::host

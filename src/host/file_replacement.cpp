@@ -51,11 +51,11 @@ void requireWritable(const fs::path& path) {
     std::error_code error;
     const fs::file_status status = fs::status(path, error);
     if (status.type() == fs::file_type::not_found) return;
-    if (!fs::status_known(status)) failWith("cannot be written", path, error);
-    if (!fs::is_regular_file(status)) failWith("cannot be written", path, "it is no file");
+    if (!fs::status_known(status)) failWith(sentence::notWritten, path, error);
+    if (!fs::is_regular_file(status)) failWith(sentence::notWritten, path, sentence::noFile);
     // Replacing a name asks for the folder's permission only, which would overrule a file that is set to read-only.
     if ((status.permissions() & fs::perms::owner_write) == fs::perms::none) {
-        failWith("cannot be written", path, "it is set to read-only");
+        failWith(sentence::notWritten, path, sentence::readOnly);
     }
 }
 
@@ -79,29 +79,29 @@ void FileReplacement::create() {
         temporary_ = temporaryName(target_);
         code = disk_.create(temporary_, target_, file_);
     }
-    if (code) failWith("cannot be written", target_, code);
+    if (code) failWith(sentence::notWritten, target_, code);
 }
 
 void FileReplacement::write(std::string_view bytes) {
-    if (const auto code = disk_.write(file_, bytes)) failWith("cannot be written", target_, code);
+    if (const auto code = disk_.write(file_, bytes)) failWith(sentence::notWritten, target_, code);
 }
 
 void FileReplacement::publish() {
-    if (const auto code = take(&Disk::rename)) failWith("cannot be written", target_, code);
+    if (const auto code = take(&Disk::rename)) failWith(sentence::notWritten, target_, code);
 }
 
 bool FileReplacement::publishNew() {
     const auto code = take(&Disk::renameNew);
-    if (code && code != std::errc::file_exists) failWith("cannot be written", target_, code);
+    if (code && code != std::errc::file_exists) failWith(sentence::notWritten, target_, code);
     return !code;
 }
 
 std::error_code FileReplacement::take(Rename rename) {
-    if (const auto code = disk_.sync(file_)) failWith("cannot be written", target_, code);
+    if (const auto code = disk_.sync(file_)) failWith(sentence::notWritten, target_, code);
     if (const auto code = (disk_.*rename)(temporary_, target_)) return code;
     published_ = true;
     if (const auto code = disk_.syncFolder(folderOf(target_))) {
-        failWith("is written, but the disk does not confirm it", target_, code);
+        failWith(sentence::notConfirmed, target_, code);
     }
     return {};
 }

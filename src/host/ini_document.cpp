@@ -2,6 +2,7 @@
 
 #include "automation/error.h"
 #include "automation/text.h"
+#include "host/sentences.h"
 
 namespace hx::host {
 
@@ -49,10 +50,8 @@ bool isUtf8(std::string_view text) {
 
 bool inOneLine(std::string_view text) { return text.find_first_of(std::string_view("\r\n\0", 3)) == text.npos; }
 
-void require(bool holds, std::string_view what, std::string_view name) {
-    if (holds) return;
-    throw automation::Error(automation::errFail,
-                            std::string(what) + " cannot stand in an INI file: " + std::string(name));
+void require(bool holds, const automation::Sentence& otherwise, std::string_view name = {}) {
+    if (!holds) throw automation::Error(automation::errFail, otherwise, {name});
 }
 
 // Whether a line that begins so is read again as this key.
@@ -90,10 +89,10 @@ std::optional<std::string> IniDocument::text(std::string_view section, std::stri
 }
 
 void IniDocument::setText(std::string_view section, std::string_view key, std::string_view text) {
-    require(!utf16_, "A new text", "the file is UTF-16, not UTF-8 or a Windows code page");
-    require(inOneLine(section), "A section with a line break or a NUL", section);
-    require(isKey(key), "This key", key);
-    require(inOneLine(text), "A text with a line break or a NUL", key);
+    require(!utf16_, sentence::otherEncoding);
+    require(inOneLine(section), sentence::badSection, section);
+    require(isKey(key), sentence::badKey, key);
+    require(inOneLine(text), sentence::badText, key);
 
     std::string line = std::string(key) + "=" + std::string(text);
     const Place place = find(section, key);

@@ -40,7 +40,7 @@ void IniTextFile::writeAll(std::string_view section, std::span<const IniText> te
 void IniTextFile::requireRead(const std::string& path) const {
     const auto unread = unread_.lower_bound({path});
     if (unread == unread_.end() || unread->front() != path) return;
-    failWith("cannot be written", fileSystemPath(path), "it could not be read before, so what it holds stays");
+    failWith(sentence::notWritten, fileSystemPath(path), sentence::unreadBefore);
 }
 
 }  // namespace hx::host

@@ -34,10 +34,8 @@ void Connect::Show(const std::string& subject, const std::string& path, forms::W
             return say(texts, texts.text(Text::noRecipes, {report.projectName()}), forms::message::information);
         }
         viewer_->show(report, window);
-    } catch (const automation::Error& error) {
-        cannot(error.message());
-    } catch (const std::exception& error) {
-        cannot(error.what());
+    } catch (const std::exception&) {
+        cannot(automation::caughtError().message(texts.wording()));
     }
 }
 
@@ -46,7 +44,7 @@ Texts Connect::readTexts() {
     try {
         texts.init(services_.registry);
     } catch (const automation::Error& error) {
-        say(texts, error.message(), forms::message::critical);
+        say(texts, error.message(texts.wording()), forms::message::critical);
     }
     return texts;
 }

@@ -62,6 +62,7 @@ class Texts {
     void init(const host::Registry& registry) { captions_.InitResources(registry); }
 
     [[nodiscard]] bool isEnglish() const noexcept;
+    [[nodiscard]] automation::Language wording() const noexcept { return captions_.wording(); }
     /// "de" or "en".
     [[nodiscard]] std::string_view languageTag() const noexcept { return isEnglish() ? "en" : "de"; }
     [[nodiscard]] std::string text(Text text) const;

@@ -51,8 +51,8 @@ void MacroRunner::runText(const QByteArray& text, const QString& name, const QSt
         dock_.done(seconds());
     } catch (const lua::MacroError& error) {
         showEnd(error);
-    } catch (const std::exception& error) {
-        dock_.failed(QString::fromUtf8(error.what()), {});
+    } catch (const std::exception&) {
+        dock_.failed(qt::toQt(automation::caughtError().description(host_.screen().language())), {});
     }
     dismissals_.stop();
     setRunning(false);

@@ -84,7 +84,7 @@ void MainWindow::readLanguage() {
     try {
         lcid = host_.registry().readNumber(host::registry_keys::helvix, languageValue, lcid);
     } catch (const automation::Error& error) {
-        const QString reason = qt::toQt(error.message());
+        const QString reason = told(error);
         QMetaObject::invokeMethod(
             this, [this, reason] { warn(Text::registryNotRead, reason); }, Qt::QueuedConnection);
     }
@@ -111,7 +111,7 @@ void MainWindow::chooseLanguage(std::int32_t lcid) {
         host_.registry().writeNumber(host::registry_keys::helvix, languageValue, lcid);
     } catch (const automation::Error& error) {
         menus_.retranslate();
-        return warn(Text::registryNotWritten, qt::toQt(error.message()));
+        return warn(Text::registryNotWritten, told(error));
     }
     useLanguage(lcid);
     statusBar()->showMessage(say(project_ ? Text::languageLater : Text::ready), messageTime);
@@ -124,7 +124,7 @@ bool MainWindow::reported(void (MainWindow::*action)(const QString&), const QStr
         (this->*action)(path);
         return true;
     } catch (const automation::Error& error) {
-        warn(qt::toQt(error.description()));
+        warn(qt::toQt(error.description(host_.screen().language())));
         return false;
     }
 }
@@ -143,7 +143,7 @@ void MainWindow::open(const QString& path) {
     try {
         project_ = std::make_unique<Project>(path, host_, explorer_);
     } catch (const automation::Error& error) {
-        fail(Text::registryNotWritten, qt::toQt(error.message()));
+        fail(Text::registryNotWritten, told(error));
     }
     preferences_.addRecent(project_->file());
     showProject();
@@ -156,7 +156,7 @@ void MainWindow::startAddIn() {
         installHelp();
         project_->startAddIn();
     } catch (const automation::Error& error) {
-        warn(Text::addInNotLoaded, qt::toQt(error.message()));
+        warn(Text::addInNotLoaded, told(error));
     }
     tree_.setCurrentIndex(explorer_.model().find(qt::QtExplorer::projectKey));
     tree_.setFocus(Qt::OtherFocusReason);
@@ -177,7 +177,7 @@ void MainWindow::showHelp() {
         host_.help().showContext(documentsHandle_, qt::fromQt(host_.helpFile().path()),
                                  resources::help_context::overview);
     } catch (const automation::Error& error) {
-        warn(Text::registryNotWritten, qt::toQt(error.message()));
+        warn(Text::registryNotWritten, told(error));
     }
 }
 
@@ -197,7 +197,7 @@ void MainWindow::create(const QString& path) {
     try {
         sqlite::createProject(qt::fromQt(file));
     } catch (const automation::Error& error) {
-        fail(Text::fileNotCreated, qt::toQt(error.description()));
+        fail(Text::fileNotCreated, qt::toQt(error.description(host_.screen().language())));
     }
     open(file);
 }
@@ -252,6 +252,10 @@ void MainWindow::closeEvent(QCloseEvent* event) {
 
 void MainWindow::warn(const QString& text) {
     host_.screen().messageBox(qt::fromQt(text), forms::message::ok | forms::message::exclamation, qt::fromQt(title));
+}
+
+QString MainWindow::told(const automation::Error& error) const {
+    return qt::toQt(error.message(host_.screen().language()));
 }
 
 void MainWindow::fail(Text text, const QString& detail) const {

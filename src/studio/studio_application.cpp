@@ -5,8 +5,6 @@
 #include <memory>
 
 #include "adapters/qt/style.h"
-#include "adapters/qt/text.h"
-#include "automation/error.h"
 
 namespace hx::studio {
 
@@ -21,21 +19,19 @@ StudioApplication::StudioApplication(int& argc, char** argv) : QApplication(argc
 bool StudioApplication::notify(QObject* receiver, QEvent* event) {
     try {
         return QApplication::notify(receiver, event);
-    } catch (const automation::Error& error) {
-        report(qt::toQt(error.message()));
-    } catch (const std::exception& error) {
-        report(qt::toQt(error.what()));
+    } catch (const std::exception&) {
+        report(automation::caughtError());
     }
     return true;
 }
 
-void StudioApplication::report(const QString& message) {
+void StudioApplication::report(const automation::Error& error) {
     if (reporting_ || !report_) {
-        qWarning("%s", qPrintable(message));
+        qWarning("%s", error.what());
         return;
     }
     const QScopedValueRollback reporting(reporting_, true);
-    report_(message);
+    report_(error);
 }
 
 }  // namespace hx::studio

@@ -4,20 +4,21 @@
 #include <functional>
 
 #include "adapters/qt/input_rules.h"
+#include "automation/error.h"
 
 namespace hx::studio {
 
 /// An application that survives what its event handlers throw: it is reported, and the studio goes on.
 class StudioApplication : public QApplication {
   public:
-    /// Shows the number and description of an error, or what() of another exception.
-    using Report = std::function<void(const QString& message)>;
+    /// Tells the user.
+    using Report = std::function<void(const automation::Error& error)>;
     StudioApplication(int& argc, char** argv);
     void setReport(Report report) { report_ = std::move(report); }
     bool notify(QObject* receiver, QEvent* event) override;
 
   private:
-    void report(const QString& message);
+    void report(const automation::Error& error);
     qt::InputRules inputRules_;
     Report report_;
     bool reporting_ = false;

@@ -27,7 +27,7 @@ std::string told(const auto& action) {
     try {
         action();
     } catch (const automation::Error& error) {
-        return error.message();
+        return error.message(automation::Language::english);
     }
     return {};
 }

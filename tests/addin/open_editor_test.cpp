@@ -210,6 +210,16 @@ TEST_F(OpeningTheEditor, AfterAFailedConnectionEventsOfNodesAreIgnored) {
     EXPECT_EQ(studio.nodes(), Texts{});
 }
 
+TEST_F(OpeningTheEditor, TellsInTheUsersLanguageThatMemoryIsMissing) {
+    studio.addRecipe("Cola");
+    studio.start();
+    studio.host.screen.setLanguage(automation::Language::german);
+    studio.faults.instead = [] { throw std::bad_alloc(); };
+    studio.faults.arm(1, Kind::read);
+    studio.connect->NodeExpand(Studio::node("RCPE0"));
+    EXPECT_EQ(studio.boxes(), (Texts{"Connect: AddRecipeNodes|-2147024882: Der Speicher reicht nicht aus."}));
+}
+
 TEST_F(OpeningTheEditor, KeepsTheEditorUsableWhenTheRecipesCannotBeRead) {
     studio.addRecipe("Cola");
     studio.addMember(1, "Tank1.Level");

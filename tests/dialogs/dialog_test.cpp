@@ -32,8 +32,10 @@ TEST_F(DialogTest, TellsUnderItsNameWhateverFails) {
     };
     dialog->cmdChooseItem->click();
     ASSERT_EQ(host.record.messages.size(), 2U);
-    EXPECT_EQ(host.record.messages[0].text, automation::Error(automation::errFail, "No memory.").message());
-    EXPECT_EQ(host.record.messages[1].text, automation::Error(automation::errOverflow, "Too many.").message());
+    EXPECT_EQ(host.record.messages[0].text,
+              automation::Error(automation::errFail, "No memory.").message(automation::Language::english));
+    EXPECT_EQ(host.record.messages[1].text,
+              automation::Error(automation::errOverflow, "Too many.").message(automation::Language::english));
     for (const auto& message : host.record.messages) {
         EXPECT_EQ(message.style, forms::message::ok);
         EXPECT_EQ(message.title, "FSubRecipe");

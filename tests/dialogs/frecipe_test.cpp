@@ -201,6 +201,14 @@ TEST_F(FRecipeTest, HasNoButtonBeyondTheSeventh) {
     EXPECT_THROW(dialog->get("cmdChooseItem", std::array{automation::Variant(std::int32_t{7})}), automation::Error);
 }
 
+TEST_F(FRecipeTest, TellsInTheUsersLanguageThatMemoryIsMissing) {
+    host.screen.setLanguage(automation::Language::german);
+    host.script.onItem = [](const std::string&) -> std::string { throw std::bad_alloc(); };
+    show<FRecipe>(*dialog, [](FRecipe& shown) { shown.cmdChooseItem[2]->click(); });
+    ASSERT_EQ(host.record.messages.size(), 1U);
+    EXPECT_EQ(host.record.messages[0].text, "-2147024882: Der Speicher reicht nicht aus.");
+}
+
 TEST_F(FRecipeTest, ShowsWhyVariablesCannotBeChosenAndGoesOn) {
     host.script.onItem = [](const std::string&) -> std::string {
         throw automation::Error(automation::errFail, "The list of variables cannot be read");

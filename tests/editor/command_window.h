@@ -85,7 +85,7 @@ class CommandWindow : public EditorWindow {
     /// An error of the grid itself is not taken for a duplicate that a command met.
     void expectNoOldDuplicate() {
         host.record.messages.clear();
-        grid().reportError(forms::gridErrBadValue, "Not a number");
+        grid().reportError({forms::gridErrBadValue, "Not a number"});
         EXPECT_EQ(messages(), Texts{});
     }
     /// Runs the action with the first operation of the database failing, then the second, ... until none fails, each

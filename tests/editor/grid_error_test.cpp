@@ -143,7 +143,7 @@ TEST_F(GridError, ARowIsStoredWhenAnotherHasChangedAnotherRow) {
 TEST_F(GridError, AnErrorEventOfCodeThirtyTwoResetsTheRecordsetToItsFirstRow) {
     grid().setRow(2);
     storeVariable(2, "Tank.Theirs");
-    grid().reportError(forms::gridErrStaleRow, "The row is gone");
+    grid().reportError({forms::gridErrStaleRow, "The row is gone"});
     EXPECT_EQ(messages(), (Texts{"Resource 407 not found"}));
     EXPECT_EQ(grid().row(), 0);
     EXPECT_EQ(shown("VarRecipe"), (Texts{"Tank.Level", "Tank.Theirs", "Pump.Speed"}));
@@ -153,7 +153,7 @@ TEST_F(GridError, AnErrorEventOfCodeThirtyTwoResetsTheRecordsetToItsFirstRow) {
 
 TEST_F(GridError, AnErrorEventOnAnEmptyGridStandsNowhere) {
     show("RCPE");
-    grid().reportError(forms::gridErrStaleRow, "The row is gone");
+    grid().reportError({forms::gridErrStaleRow, "The row is gone"});
     EXPECT_EQ(messages(), (Texts{"Resource 407 not found"}));
     EXPECT_EQ(grid().row(), -1);
 }
@@ -198,7 +198,7 @@ TEST_F(GridError, AnEarlierDuplicateOfAnotherTableIsNotTheRows) {
 
 TEST_F(GridError, WithoutADatabaseOnlyBeeps) {
     window->setDataEnvironment(nullptr);
-    grid().reportError(forms::gridErrBadValue, "Not a number");
+    grid().reportError({forms::gridErrBadValue, "Not a number"});
     EXPECT_EQ(host.record.beeps, 1);
     EXPECT_EQ(messages(), Texts{});
 }

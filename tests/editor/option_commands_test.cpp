@@ -81,6 +81,17 @@ TEST_F(OptionCommands, StatisticReportsADatabaseThatCannotBeRead) {
     EXPECT_EQ(host.screen.pointer(), forms::Pointer::standard);
 }
 
+TEST_F(OptionCommands, TellsInTheUsersLanguageThatMemoryOrTheDatabaseIsMissing) {
+    host.screen.setLanguage(automation::Language::german);
+    faults.instead = [] { throw std::bad_alloc(); };
+    faults.arm(1, support::FaultPlan::Kind::open);
+    window->abr->click("mnuOptionStatistik");
+    window->setDataEnvironment(nullptr);
+    window->abr->click("mnuOptionStatistik");
+    EXPECT_EQ(messages(), (Texts{"-2147024882: Der Speicher reicht nicht aus.",
+                                 "-2147467259: Der Editor hat jetzt keine Datenbank"}));
+}
+
 TEST_F(OptionCommands, CountingOpensCountsAndCloses) {
     EXPECT_EQ(countRecords(*data->rsRecipes), 3);
     EXPECT_EQ(data->rsRecipes->state(), ado::adStateClosed);

@@ -137,7 +137,7 @@ TEST_F(VerifyAdds, LeavesNoDuplicateForTheNextErrorOfTheGrid) {
     type(1, "Tank.Level");
     refuseNextUpdate(ado::dbErrDuplicate);
     window->VerifyAdds();
-    grid().reportError(forms::gridErrBadValue, "Not a number");
+    grid().reportError({forms::gridErrBadValue, "Not a number"});
     EXPECT_EQ(messages(), Texts{});
 }
 

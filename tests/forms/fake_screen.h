@@ -33,9 +33,11 @@ class FakeScreen : public Screen {
     [[nodiscard]] Pointer pointer() const override { return Pointer::standard; }
     void setPointer(Pointer) override {}
     void sendKeys(Form&, std::string_view keys) override { calls.push_back("keys " + std::string(keys)); }
+    [[nodiscard]] automation::Language language() const override { return spoken; }
     [[nodiscard]] double twipsPerPixel() const override { return 15; }
 
     std::vector<std::string> calls;
+    automation::Language spoken = automation::Language::english;
     std::function<void()> whileModal;
     WindowHandle lastHandle = 100;
 };

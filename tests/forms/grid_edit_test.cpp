@@ -168,7 +168,7 @@ TEST_F(GridEdit, ARefusedRowStaysCurrent) {
     EXPECT_EQ(text(1, "Name"), "a") << "the text stays for the user to mend";
     EXPECT_TRUE(grid.dataChanged());
     EXPECT_EQ(stored("Name"), "A;B;C;");
-    EXPECT_EQ(connection->errors().back().number, ado::dbErrDuplicate);
+    EXPECT_EQ(connection->errors().back().number(), ado::dbErrDuplicate);
     type(1, "Name", "D");
     EXPECT_TRUE(grid.setRow(2));
     EXPECT_EQ(stored("Name"), "A;D;C;");
@@ -206,10 +206,10 @@ TEST_F(GridEdit, AHandlerThatGoesToTheFirstRowIsFollowed) {
 }
 
 TEST_F(GridEdit, WithoutAHandlerAnErrorIsShown) {
-    grid.reportError(32, "Gone");
+    grid.reportError({32, "Gone"});
     EXPECT_EQ(screen.calls, Names{"message 32: Gone | 0 | HXRecipeEditor"});
     Grid alone("tdbRM");
-    alone.reportError(32, "Gone");
+    alone.reportError({32, "Gone"});
 }
 
 TEST_F(GridEdit, UpdateTellsRefusedRowsFromStaleOnes) {

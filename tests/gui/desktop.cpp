@@ -23,7 +23,8 @@ class Application : public testing::Environment {
         // Another one than C, which every system has.
         if (!qEnvironmentVariableIsSet("LC_ALL")) qputenv("LC_NUMERIC", "C.UTF-8");
         application_ = std::make_unique<studio::StudioApplication>(count_, arguments_.data());
-        application_->setReport([](const QString& message) { ADD_FAILURE() << qt::fromQt(message); });
+        application_->setReport(
+            [](const automation::Error& error) { ADD_FAILURE() << error.message(automation::Language::english); });
         QApplication::setEffectEnabled(Qt::UI_AnimateMenu, false);
     }
     void TearDown() override { application_.reset(); }

@@ -52,6 +52,15 @@ TEST_F(GridErrors, RowsThatCannotBeReadAreToldOnceAndShownAsSoonAsTheyCan) {
     EXPECT_EQ(boxes.shown(), (Boxes{cannotRead, cannotRead}));
 }
 
+TEST_F(GridErrors, TellInTheUsersLanguageThatMemoryIsMissing) {
+    show(3);
+    form->rows()->resync(ado::adAffectAll);
+    form->faults.instead = [] { throw std::bad_alloc(); };
+    form->faults.arm(1, FaultPlan::Kind::read);
+    paint();
+    EXPECT_EQ(boxes.shown(), (Boxes{{cannotRead.title, "-2147024882: Der Speicher reicht nicht aus.", ""}}));
+}
+
 TEST_F(GridErrors, APictureOfRowsThatCannotBeReadAsksForThemOnce) {
     show(3);
     breakReading();

@@ -72,6 +72,25 @@ TEST_F(FileReplacementTest, SaysThatTheDiskIsFull) {
               "The file '" + path() + "' cannot be written: the disk is full.");
 }
 
+TEST_F(FileReplacementTest, SaysInGermanTooWhatHasFailed) {
+    given("old");
+    const auto told = [this](const Disk& disk) {
+        try {
+            replaceFile(path(), "new", disk);
+        } catch (const automation::Error& error) {
+            return error.description(automation::Language::german);
+        }
+        return std::string();
+    };
+    EXPECT_EQ(told(FailingDisk(5)), "Die Datei '" + path() +
+                                        "' ist geschrieben, aber der Datenträger bestätigt es nicht: "
+                                        "Ein-/Ausgabefehler.");
+    EXPECT_EQ(told(FailingDisk(2, std::errc::no_space_on_device)),
+              "Die Datei '" + path() + "' kann nicht geschrieben werden: der Datenträger ist voll.");
+    EXPECT_EQ(told(FailingDisk(2, std::errc::host_unreachable)),
+              "Die Datei '" + path() + "' kann nicht geschrieben werden: No route to host.");
+}
+
 TEST_F(FileReplacementTest, DoesNotUseAFileOfTheNameThatItWouldTake) {
     given("old");
     const FailingDisk disk(1, std::errc::file_exists);

@@ -67,6 +67,12 @@ TEST_F(MacroMemory, CountsWhatIsHandedOverAsOftenAsItIs) {
     EXPECT_EQ(counted_, 0U);
 }
 
+TEST_F(MacroMemory, IsMissingInTheUsersWordsAndWithItsNumber) {
+    EXPECT_EQ(failure("local ok, e = pcall(host.Take, 40)"
+                      "assert(not ok and e.number == -2147024882 and e.description == 'There is not enough memory.')"),
+              "");
+}
+
 TEST_F(MacroMemory, CountsWhatAFunctionTakesUntilItReturns) {
     EXPECT_EQ(failure("for i = 1, 100 do host.Take(20) end"), "");
     EXPECT_THAT(failure("host.Take(40)"), HasSubstr("not enough memory"));

@@ -56,7 +56,7 @@ TEST_P(Conflict, TheErrorSaysWhatHappenedAndHasItsNumber) {
     const std::string description = descriptionOf([&] { recordset->update(); });
     EXPECT_NE(description.find("The row was changed by another"), std::string::npos) << description;
     ASSERT_EQ(connection_->errors().size(), 1U);
-    EXPECT_EQ(connection_->errors()[0].number, -2147217864);
+    EXPECT_EQ(connection_->errors()[0].number(), -2147217864);
 }
 
 TEST_P(Conflict, NothingOfARefusedUpdateIsStored) {

@@ -69,7 +69,7 @@ TEST_P(LateBound, TheErrorListHoldsWhatTheProviderSaid) {
     EXPECT_EQ(call(*connection_, "ErrorCount"), Variant(1));
     const auto error = call(*connection_, "Errors", {0}).asObject();
     EXPECT_EQ(call(*error, "Number"), Variant(ado::dbErrDuplicate));
-    EXPECT_EQ(call(*error, "Description"), Variant(connection_->errors()[0].description));
+    EXPECT_EQ(call(*error, "Description"), Variant(connection_->errors()[0].description()));
     EXPECT_EQ(errorOf([&] { call(*connection_, "Errors", {1}); }), automation::errBadIndex);
 }
 

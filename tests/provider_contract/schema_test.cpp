@@ -156,7 +156,7 @@ TEST_P(Schema, NamesAreUniqueIgnoringCaseAlsoOfUmlauts) {
     recordset->field("Name").setValue("mÜhle");
     EXPECT_EQ(errorOf([&] { recordset->update(); }), ado::dbErrDuplicate);
     ASSERT_EQ(connection_->errors().size(), 1U);
-    EXPECT_EQ(connection_->errors()[0].number, ado::dbErrDuplicate);
+    EXPECT_EQ(connection_->errors()[0].number(), ado::dbErrDuplicate);
     recordset->cancelUpdate();
     recordset->moveFirst();
     recordset->field("Name").setValue("MÜhle");

@@ -32,7 +32,7 @@ TEST_P(State, AMissingFileIsAnErrorAndIsNotCreated) {
     EXPECT_EQ(descriptionOf(openMissing), "Could not find file '/no/such/folder/Plant.hxs'.");
     EXPECT_EQ(connection.state(), ado::adStateClosed);
     ASSERT_EQ(connection.errors().size(), 1U);
-    EXPECT_EQ(connection.errors()[0].number, ado::dbErrUnspecified);
+    EXPECT_EQ(connection.errors()[0].number(), ado::dbErrUnspecified);
 }
 
 TEST_P(State, AClosedConnectionRefusesEverythingElse) {
@@ -100,7 +100,7 @@ TEST_P(State, AnEmptyOrUnreadableSourceIsAnError) {
     EXPECT_EQ(errorOf([&] { (void)open("SELECT * FROM TrcpRecipe WHERE NoColumn = 1"); }), ado::dbErrBadCommand);
     EXPECT_EQ(errorOf([&] { (void)open(" ORDER BY ID"); }), ado::dbErrNoTable);
     ASSERT_EQ(connection_->errors().size(), 1U);
-    EXPECT_EQ(connection_->errors()[0].number, ado::dbErrNoTable);
+    EXPECT_EQ(connection_->errors()[0].number(), ado::dbErrNoTable);
 }
 
 TEST_P(State, ACommandWithoutRowsIsCarriedOutAndLeavesTheRecordsetClosed) {

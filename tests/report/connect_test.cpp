@@ -143,7 +143,20 @@ TEST_F(ReportConnect, AFailureOfThePreviewIsSaidAndNotPassedOn) {
     addRecipe();
     viewer->onShow = [] { throw std::runtime_error("out of paper"); };
     EXPECT_NO_THROW(show());
-    EXPECT_EQ(messages(), Messages{"Rezeptbericht|Der Bericht kann nicht erstellt werden.\r\n\r\nout of paper"});
+    EXPECT_EQ(messages(),
+              Messages{"Rezeptbericht|Der Bericht kann nicht erstellt werden.\r\n\r\n-2147467259: out of paper"});
+}
+
+TEST_F(ReportConnect, WantOfMemoryIsSaidInTheReportsLanguage) {
+    addRecipe();
+    viewer->onShow = [] { throw std::bad_alloc(); };
+    show();
+    host.registry.writeNumber(host::registry_keys::helvix, "LCID", english);
+    show();
+    EXPECT_EQ(messages(), (Messages{"Rezeptbericht|Der Bericht kann nicht erstellt werden.\r\n\r\n"
+                                    "-2147024882: Der Speicher reicht nicht aus.",
+                                    "Recipe Report|The report cannot be made.\r\n\r\n"
+                                    "-2147024882: There is not enough memory."}));
 }
 
 TEST_F(ReportConnect, ACallWithWrongArgumentsIsRefusedAsByAnyObject) {

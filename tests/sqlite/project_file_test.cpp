@@ -72,6 +72,12 @@ TEST_F(ProjectFile, DoesNotFollowALinkThatLeadsNowhere) {
     EXPECT_EQ(filesInFolder(), "link.hxs plant.hxs ");
 }
 
+TEST_F(ProjectFile, SaysInGermanTooThatThePathIsTaken) {
+    const std::string path = folder_.file("plant.hxs");
+    EXPECT_EQ(errorOf([&] { createProject(path); }).description(automation::Language::german),
+              "Die Datei '" + path + "' gibt es schon.");
+}
+
 TEST_F(ProjectFile, NeedsAFolder) {
     const std::string path = folder_.file("no/such/folder.hxs");
     EXPECT_EQ(errorOf([&] { createProject(path); }).description(),

@@ -37,7 +37,7 @@ class FaultPlan {
     bool fired_ = false;
     bool lasting_ = false;
     Kind kind_ = Kind::any;
-    automation::Error error_{ado::dbErrUnspecified, {}};
+    automation::Error error_{ado::dbErrUnspecified, ""};
 };
 
 /// Passes everything on to another provider, but for the operations that the plan lets fail.

@@ -17,6 +17,7 @@ class Screen : public forms::Screen {
     Screen(const Script& script, Record& record, WindowOperations& windows)
         : script_(script), record_(record), windows_(windows) {}
 
+    void setLanguage(automation::Language language) noexcept { language_ = language; }
     /// The room of a maximised form, in twips.
     static constexpr double areaWidth = 19200, areaHeight = 12000;
 
@@ -34,6 +35,7 @@ class Screen : public forms::Screen {
     [[nodiscard]] forms::Pointer pointer() const override { return pointer_; }
     void setPointer(forms::Pointer pointer) override;
     void sendKeys(forms::Form& form, std::string_view keys) override;
+    [[nodiscard]] automation::Language language() const override { return language_; }
     [[nodiscard]] double twipsPerPixel() const override { return WindowOperations::twipsPerPixel; }
 
   private:
@@ -48,6 +50,7 @@ class Screen : public forms::Screen {
     WindowOperations& windows_;
     std::map<const forms::Form*, Shown> shown_;
     std::vector<forms::Form*> modals_;
+    automation::Language language_ = automation::Language::english;
     forms::Pointer pointer_ = forms::Pointer::standard;
 };
 

@@ -67,8 +67,8 @@ Value Function::operator()(Values arguments) const {
         if (call(state, reference_->number, arguments)) return valueAt(state, -1);
     } catch (const Raised&) {
         // In want of memory for what it returns.
-    } catch (const OutOfMemory& error) {
-        pushError(state, {automation::errFail, error.what()});
+    } catch (const OutOfMemory&) {
+        pushError(state, automation::caughtError());
     }
     keepFailure(state, *machine);
     fail();

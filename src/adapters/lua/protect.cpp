@@ -29,9 +29,13 @@ int takeFailure(lua_State* state, Machine& machine) {
     return -1;
 }
 
-void pushAlone(lua_State* state, const automation::Error& error) noexcept {
+void pushCaught(lua_State* state) noexcept {
     lua_settop(state, 0);
-    pushError(state, error);
+    try {
+        pushError(state, automation::caughtError());
+    } catch (...) {
+        lua_pushnil(state);
+    }
 }
 
 int failStopping(lua_State* state) noexcept {
@@ -71,12 +75,8 @@ int detail::attempt(lua_State* state, int (*body)(lua_State*)) noexcept {
         results = body(state);
     } catch (const Raised&) {
         // Its value lies on the stack already.
-    } catch (const automation::Error& error) {
-        pushAlone(state, error);
-    } catch (const std::exception& error) {
-        pushAlone(state, {automation::errFail, error.what()});
     } catch (...) {
-        pushAlone(state, {automation::errFail, "Unknown error"});
+        pushCaught(state);
     }
     if (machine.stopping) return failStopping(state);
     // A callback of the macro failed on the way, and the editor may have shown and forgotten that.

@@ -2,8 +2,6 @@
 
 namespace hx::qt {
 
-using automation::Error;
-
 void GridErrors::begin() noexcept {
     drawing_ = true;
     failed_ = read_ = false;
@@ -16,15 +14,7 @@ void GridErrors::end() noexcept {
 
 void GridErrors::reportCaught() noexcept {
     try {
-        try {
-            throw;
-        } catch (const Error& error) {
-            report_(error);
-        } catch (const std::exception& error) {
-            report_(Error(automation::errFail, error.what()));
-        } catch (...) {
-            report_(Error(automation::errFail, "Unknown error"));
-        }
+        report_(automation::caughtError());
     } catch (...) {
         // The report itself failed: there is no way left to tell the user.
     }

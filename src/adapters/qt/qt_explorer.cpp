@@ -38,7 +38,8 @@ void QtExplorer::closeProject() {
 
 void QtExplorer::takeClipboardImage(std::string_view key) {
     const QIcon icon = svgIcon(clipboard_.picture());
-    if (icon.isNull()) throw automation::Error(automation::errFail, "The clipboard holds no picture");
+    constexpr automation::Sentence noPicture{"The clipboard holds no picture", "Die Zwischenablage enthält kein Bild"};
+    if (icon.isNull()) throw automation::Error(automation::errFail, noPicture);
     model_.setImage(std::string(key), icon);
 }
 
@@ -52,8 +53,10 @@ void QtExplorer::addNode(const host::NewNode& node) {
 // The tree goes from a node into those below it when it lays them out.
 void QtExplorer::requireRoomBelow(std::string_view key) const {
     constexpr int deepest = 100;
+    constexpr automation::Sentence tooDeep{"The explorer takes no more than 100 nodes one below the other",
+                                           "Der Explorer nimmt höchstens 100 Knoten untereinander auf"};
     if (model_.depth(key) < deepest) return;
-    throw automation::Error(automation::errFail, "The explorer takes no more than 100 nodes one below the other");
+    throw automation::Error(automation::errFail, tooDeep);
 }
 
 std::vector<std::string> QtExplorer::childKeys(std::string_view key, std::int32_t levels) const {

@@ -29,6 +29,7 @@ class QtScreen : public forms::Screen {
     [[nodiscard]] forms::Pointer pointer() const override { return pointer_; }
     void setPointer(forms::Pointer pointer) override;
     void sendKeys(forms::Form& form, std::string_view keys) override;
+    [[nodiscard]] automation::Language language() const override { return automation::languageOf(wording_.language()); }
     [[nodiscard]] double twipsPerPixel() const override { return views_.units.twipsPerPixel(); }
 
     /// Shows a dialog over `owner` while the work is done on it in place of the user; the form is hidden by the work.

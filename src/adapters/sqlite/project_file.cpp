@@ -5,6 +5,7 @@
 
 #include "adapters/sqlite/database.h"
 #include "adapters/sqlite/project_schema.h"
+#include "adapters/sqlite/sentences.h"
 #include "ado/types.h"
 
 namespace hx::sqlite {
@@ -14,9 +15,7 @@ namespace {
 namespace fs = std::filesystem;
 using automation::Error;
 
-[[noreturn]] void refuseTaken(const std::string& path) {
-    throw Error(ado::dbErrUnspecified, "The file '" + path + "' exists already.");
-}
+[[noreturn]] void refuseTaken(const std::string& path) { throw Error(ado::dbErrUnspecified, sentence::exists, {path}); }
 
 void requireFree(const std::string& path) {
     std::error_code ignored;

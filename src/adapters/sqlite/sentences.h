@@ -38,6 +38,7 @@ inline constexpr Sentence noMemory{"Not enough memory for the file '%1'.",
                                    "Der Speicher reicht nicht für die Datei '%1'."};
 inline constexpr Sentence unusable{"The file '%1' cannot be used: %2.",
                                    "Die Datei '%1' kann nicht benutzt werden: %2."};
+inline constexpr Sentence exists{"The file '%1' exists already.", "Die Datei '%1' gibt es schon."};
 inline constexpr Sentence missing{"Could not find file '%1'.", "Die Datei '%1' wurde nicht gefunden."};
 inline constexpr Sentence unreachable{"The file '%1' cannot be reached: %2.",
                                       "Die Datei '%1' ist nicht erreichbar: %2."};

@@ -46,15 +46,18 @@ class ReplacementDevice : public QIODevice {
     std::optional<automation::Error> error_;
 };
 
+constexpr automation::Sentence noPage{"no page can be drawn", "es lässt sich keine Seite zeichnen"};
+
 // Fills a file and puts it in its place; why not, empty when it is done.
-QString save(const QString& path, const std::function<void(host::FileReplacement&)>& fill) {
+QString save(const QString& path, automation::Language language,
+             const std::function<void(host::FileReplacement&)>& fill) {
     try {
         host::FileReplacement file(host::fileSystemPath(qt::fromQt(path)));
         fill(file);
         file.publish();
         return {};
     } catch (const automation::Error& error) {
-        return qt::toQt(error.description());
+        return qt::toQt(error.description(language));
     }
 }
 
@@ -76,7 +79,7 @@ bool paintPages(const Pages& pages, PageRange range, QPagedPaintDevice& device) 
 }
 
 QString savePdf(const Report& report, const Pages& pages, PageRange range, const QString& path) {
-    return save(path, [&](host::FileReplacement& file) {
+    return save(path, report.texts().wording(), [&](host::FileReplacement& file) {
         ReplacementDevice device(file);
         bool painted = false;
         {
@@ -89,13 +92,12 @@ QString savePdf(const Report& report, const Pages& pages, PageRange range, const
             painted = paintPages(pages, range, writer);
         }
         if (device.error()) throw *device.error();
-        if (!painted)
-            host::failWith("cannot be written", host::fileSystemPath(qt::fromQt(path)), "no page can be drawn");
+        if (!painted) host::failWith(host::sentence::notWritten, host::fileSystemPath(qt::fromQt(path)), noPage);
     });
 }
 
 QString saveHtml(const Report& report, const QString& path) {
-    return save(path, [&](host::FileReplacement& file) {
+    return save(path, report.texts().wording(), [&](host::FileReplacement& file) {
         writeHtml(report, [&file](std::string_view part) { file.write(part); });
     });
 }

@@ -35,8 +35,8 @@ int runStudio(StudioApplication& application, const Options& options) {
     StudioHost host(config, moduleFolders());
     Preferences preferences(config);
     MainWindow window(host, preferences);
-    application.setReport([&host](const QString& message) {
-        host.screen().messageBox(qt::fromQt(message), forms::message::critical,
+    application.setReport([&host](const automation::Error& error) {
+        host.screen().messageBox(error.message(host.screen().language()), forms::message::critical,
                                  qt::fromQt(studioText(Text::unexpected, host.wording())));
     });
     window.show();
