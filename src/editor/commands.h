@@ -9,6 +9,7 @@
 #include "automation/dispatch.h"
 #include "editor/add_in.h"
 #include "editor/recipe_rows.h"
+#include "recipe/stored_row.h"
 
 namespace hx::recipe {
 class RecipeNodes;
@@ -72,6 +73,9 @@ class Commands {
     void recipeRenamed(std::int32_t id, const std::string& name);
     void recipeDeleted(std::int32_t id);
     [[nodiscard]] recipe::RecipeNodes nodes(host::ProjectExplorer& explorer) const;
+
+    /// Shows what the database refuses while a dialog is open under this title, and sets `told`.
+    [[nodiscard]] recipe::Refusal tellingIn(std::string_view title, bool& told) const;
 
     // --- members
     void chooseVariables();

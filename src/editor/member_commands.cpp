@@ -113,17 +113,17 @@ void Commands::chooseVariables() {
         const recipe::WaitCursor wait(window_.screen());
         dialog->hxMI->setSelectedItems(shownVariables());
     }
+    bool stored = false, refused = false;
+    const auto store = [&] {
+        replaceVariables(recipe, known, dialog->hxMI->selectedItems().value_or(std::vector<std::string>()),
+                         work.connection());
+        return true;
+    };
     {
         const Busy busy(addIn_.busy());
-        dialog->setOwner(window_.share());
-        dialog->showModal(window_.handle());
+        stored = recipe::showStoring(window_, *dialog, tellingIn(procedure, refused), store);
     }
-    if (!dialog->cancelled()) {
-        showingConflicts(recipe, {}, [&] {
-            replaceVariables(recipe, std::move(known),
-                             dialog->hxMI->selectedItems().value_or(std::vector<std::string>()), work.connection());
-        });
-    }
+    if (!stored && !dialog->cancelled()) showingConflicts(recipe, {}, store);
     window_.refreshMembers();
 }
 
@@ -131,27 +131,27 @@ void Commands::newSubRecipe() {
     window_.finishOrDropEdit();
     const DatabaseWork work(window_.dataEnvironment());
     const ado::Bookmark row = window_.tdbRM->bookmark();
-    bool added = false;
+    bool added = false, refused = false;
     const bool done = guard(addIn_, procedure, [&] {
         showingConflicts(recipe::KeyId(window_.nodeKey()), {}, [&] {
             const Dialog dialog(dialogOpen_);
-            added = recipe::AddSubRecipeMember(window_);
+            added = recipe::AddSubRecipeMember(window_, tellingIn(procedure, refused));
         });
     });
     // After an error too: the recordset then stands on its last row.
-    if (added || !done) window_.refreshMembersAt(row);
+    if (added || refused || !done) window_.refreshMembersAt(row);
 }
 
 void Commands::editSubRecipe() {
     window_.finishOrDropEdit();
     const DatabaseWork work(window_.dataEnvironment());
-    bool edited = false;
+    bool edited = false, refused = false;
     const bool done = guard(addIn_, procedure, [&] {
         const Dialog dialog(dialogOpen_);
-        edited = recipe::EditSubRecipeMember(window_.memberRecordset(), window_);
+        edited = recipe::EditSubRecipeMember(window_.memberRecordset(), window_, tellingIn(procedure, refused));
     });
     // After an error too: another may have changed the row.
-    if (edited || !done) window_.refreshMembers();
+    if (edited || refused || !done) window_.refreshMembers();
 }
 
 // A bookmark of a row whose ID is its key says it already; else the row is asked.

@@ -67,13 +67,19 @@ void Commands::editRecipe() {
     const std::string before = nameIn(work.recipes());
     showingConflicts(id, before, [&] {
         const Dialog dialog(dialogOpen_);
-        recipe::EditRecipe(work.recipes(), window_, [this](const automation::Error& error) {
-            const Busy busy(addIn_.busy());
-            showError(window_.screen(), error, procedure);
-        });
+        bool refused = false;
+        recipe::EditRecipe(work.recipes(), window_, tellingIn(procedure, refused));
     });
     const std::string after = nameIn(work.recipes());
     if (after != before) recipeRenamed(id, after);
+}
+
+recipe::Refusal Commands::tellingIn(std::string_view title, bool& told) const {
+    return [this, title, &told](const automation::Error& error) {
+        told = true;
+        const Busy busy(addIn_.busy());
+        showError(window_.screen(), error, title);
+    };
 }
 
 void Commands::showingConflicts(std::int32_t id, const std::string& before, const std::function<void()>& action) {

@@ -113,23 +113,6 @@ ColumnNames namesIn(const resources::ResourceTable& texts) {
     return {caption, value};
 }
 
-/// How OK ends an edit while the dialog is open.
-enum class Ending { stored, refused, failed };
-
-// What is refused stays pending: the next try is compared with what was read for the dialog. When another has changed
-// or deleted the row, it would be refused for ever.
-Ending tryToStore(ado::Recordset& recipes, const FRecipe& dialog, const Refusal& refused) {
-    if (!refused || !WriteDialogToRecipe(recipes, dialog)) return Ending::failed;
-    try {
-        recipes.update();
-        return Ending::stored;
-    } catch (const Error& error) {
-        if (isConflict(error)) return Ending::failed;
-        refused(error);
-        return Ending::refused;
-    }
-}
-
 }  // namespace
 
 bool EditRecipe(ado::Recordset& recipes, RecipeWindow& window, const Refusal& refused) {
@@ -139,12 +122,13 @@ bool EditRecipe(ado::Recordset& recipes, RecipeWindow& window, const Refusal& re
         window.tell(notRead);
         return false;
     }
-    Ending ending = Ending::failed;
-    showOver(window, *dialog, [&] {
-        ending = tryToStore(row.fields(), *dialog, refused);
-        return ending != Ending::refused;
+    // What is refused stays pending: the next try is compared with what was read for the dialog.
+    const bool stored = showStoring(window, *dialog, refused, [&] {
+        if (!WriteDialogToRecipe(row.fields(), *dialog)) return false;
+        row.fields().update();
+        return true;
     });
-    if (ending == Ending::stored) return true;
+    if (stored) return true;
     if (dialog->cancelled()) return false;
     if (WriteDialogToRecipe(row.fields(), *dialog)) {
         row.store();

@@ -1,20 +1,15 @@
 #pragma once
 
-#include <functional>
-
 #include "dialogs/frecipe.h"
-#include "recipe/recipe_window.h"
+#include "recipe/stored_row.h"
 
 /// The way of a recipe's properties between its row and the dialog: the module MRecipe.
 namespace hx::recipe {
 
-/// Tells the user what the database says.
-using Refusal = std::function<void(const automation::Error&)>;
-
 /// Lets the user edit the current row. False when the dialog was cancelled or could not be filled: the row is as it
 /// was. Else true, also when the values could not be written back, which a message says. What the database says when it
-/// stores the row is thrown; the row then keeps its stored values. With `refused` the row is stored by OK: what another
-/// try may mend, as a name that exists already, is told by it, and the dialog stays open with all that was entered.
+/// stores the row is thrown; the row then keeps its stored values. With `refused` the row is stored by OK
+/// (showStoring).
 bool EditRecipe(ado::Recordset& recipes, RecipeWindow& window, const Refusal& refused = {});
 
 /// From every column of the current row that has a control. False after any error.

@@ -77,6 +77,22 @@ void storeMember(RowInDialog& row, const resources::ResourceTable& texts) {
     transaction.commit();
 }
 
+// In one transaction: nobody deletes one of the two recipes in between.
+void addMember(RecipeWindow& window, std::int32_t parent, const FSubRecipe& dialog) {
+    ado::Recordset& members = window.memberRecordset();
+    ado::Transaction transaction(*members.activeConnection());
+    requireRecipe(members.activeConnection(), parent, window.texts());
+    requireRecipe(members.activeConnection(), chosenRecipe(dialog), window.texts());
+    OpenAndMoveLast(members);
+    members.addNew(std::to_array<std::pair<std::string, Variant>>({
+        {std::string(column::parentId), parent},
+        {std::string(column::varRecipe), dialog.txtVarRecipe->text()},
+        {std::string(column::childId), chosenRecipe(dialog)},
+    }));
+    transaction.commit();
+    CloseRecordset(members, false);
+}
+
 }  // namespace
 
 void FillSubRecipeList(RecipeWindow& window, FSubRecipe& dialog) {
@@ -85,36 +101,33 @@ void FillSubRecipeList(RecipeWindow& window, FSubRecipe& dialog) {
     dialog.setParentSavesSubRecipes(savesSubRecipes(recipes, KeyId(window.nodeKey())));
 }
 
-bool AddSubRecipeMember(RecipeWindow& window) {
+bool AddSubRecipeMember(RecipeWindow& window, const Refusal& refused) {
     const auto dialog = std::make_shared<FSubRecipe>(window.services(), window.texts(), window.help());
     FillSubRecipeList(window, *dialog);
     const std::int32_t parent = KeyId(window.nodeKey());  // the window may show another node when the dialog is closed
-    showOver(window, *dialog);
+    const bool stored = showStoring(window, *dialog, refused, [&] {
+        addMember(window, parent, *dialog);
+        return true;
+    });
+    if (stored) return true;
     if (dialog->cancelled()) return false;
-    // In one transaction: nobody deletes one of the two recipes in between.
-    ado::Recordset& members = window.memberRecordset();
-    ado::Transaction transaction(*members.activeConnection());
-    requireRecipe(members.activeConnection(), parent, window.texts());
-    requireRecipe(members.activeConnection(), chosenRecipe(*dialog), window.texts());
-    OpenAndMoveLast(members);
-    members.addNew(std::to_array<std::pair<std::string, Variant>>({
-        {std::string(column::parentId), parent},
-        {std::string(column::varRecipe), dialog->txtVarRecipe->text()},
-        {std::string(column::childId), chosenRecipe(*dialog)},
-    }));
-    transaction.commit();
-    CloseRecordset(members, false);
+    addMember(window, parent, *dialog);
     return true;
 }
 
-bool EditSubRecipeMember(ado::Recordset& members, RecipeWindow& window) {
+bool EditSubRecipeMember(ado::Recordset& members, RecipeWindow& window, const Refusal& refused) {
     const auto dialog = std::make_shared<FSubRecipe>(window.services(), window.texts(), window.help());
     RowInDialog row(members, window.texts(), namesIn(window.texts(), *dialog));
     if (!row.begin() || !ReadMemberToDialog(row.fields(), *dialog, window)) {
         window.tell(window.texts().GetResource(text::notRead));
         return false;
     }
-    showOver(window, *dialog);
+    const bool stored = showStoring(window, *dialog, refused, [&] {
+        if (!WriteDialogToMember(row.fields(), *dialog)) return false;
+        storeMember(row, window.texts());
+        return true;
+    });
+    if (stored) return true;
     if (dialog->cancelled()) return false;
     if (WriteDialogToMember(row.fields(), *dialog)) {
         storeMember(row, window.texts());

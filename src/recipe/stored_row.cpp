@@ -40,15 +40,29 @@ bool forEachField(ado::Recordset& recordset, const std::function<void(ado::Field
     });
 }
 
-void showOver(RecipeWindow& window, dialogs::Dialog& dialog, std::function<bool()> accept) {
+bool showStoring(RecipeWindow& window, dialogs::Dialog& dialog, const Refusal& refused,
+                 const std::function<bool()>& store) {
     struct Accepting {
         dialogs::Dialog& dialog;
         ~Accepting() { dialog.setAccept(nullptr); }
     } const accepting{dialog};
-    dialog.setAccept(std::move(accept));
+    bool stored = false;
+    // When another has changed or deleted the row, every further try would be refused.
+    dialog.setAccept([&] {
+        if (!refused) return true;
+        try {
+            stored = store();
+            return true;
+        } catch (const Error& error) {
+            if (isConflict(error)) return true;
+            refused(error);
+            return false;
+        }
+    });
     forms::Form& owner = window.editorWindow();
     dialog.setOwner(owner.share());
     dialog.showModal(owner.handle());
+    return stored;
 }
 
 }  // namespace hx::recipe

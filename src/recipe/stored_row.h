@@ -37,7 +37,14 @@ class RowInDialog {
 /// Calls `use` with each field of the current row, in the order of the recordset. False after any error.
 [[nodiscard]] bool forEachField(ado::Recordset& recordset, const std::function<void(ado::Field&)>& use) noexcept;
 
-/// Shows the dialog until the user is done with it, in front of the window. `accept` is asked by OK meanwhile.
-void showOver(RecipeWindow& window, dialogs::Dialog& dialog, std::function<bool()> accept = {});
+/// Tells the user what the database says.
+using Refusal = std::function<void(const automation::Error&)>;
+
+/// Shows the dialog until the user is done with it, in front of the window. With `refused`, OK stores: what another try
+/// may mend, as a name that exists already or a disk that is full, is told by it, and the dialog stays open with all
+/// that was entered. `store` is false when the dialog's values could not be taken over. True when they are stored;
+/// after any other OK the dialog is closed and it is the caller who stores them.
+[[nodiscard]] bool showStoring(RecipeWindow& window, dialogs::Dialog& dialog, const Refusal& refused,
+                               const std::function<bool()>& store);
 
 }  // namespace hx::recipe

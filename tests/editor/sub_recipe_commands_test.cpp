@@ -4,7 +4,6 @@
 namespace hx::editor {
 namespace {
 
-using automation::Variant;
 using dialogs::FSubRecipe;
 
 struct SubRecipes : CommandWindow {
@@ -75,6 +74,66 @@ TEST_F(SubRecipes, ANewOneThatCannotBeStoredIsReportedAndTheCursorStays) {
     EXPECT_EQ(grid().row(), 0);
     EXPECT_EQ(shown("ChildID"), (Texts{"Sirup", "Wasser"}));
     expectAtRest();
+}
+
+TEST_F(SubRecipes, ANewOneThatCannotBeStoredStaysInItsDialogForAnotherTry) {
+    for (const auto kind :
+         {support::FaultPlan::Kind::begin, support::FaultPlan::Kind::insert, support::FaultPlan::Kind::commit}) {
+        host.record.messages.clear();
+        const Texts before = storedMembers();
+        const std::string typed = "File." + std::to_string(static_cast<int>(kind));
+        inDialog<FSubRecipe>("FSubRecipe", [&](FSubRecipe& dialog) {
+            dialog.txtVarRecipe->setText(typed);
+            faults.arm(1, kind);
+            dialog.cmdOk->click();
+            EXPECT_TRUE(dialog.visible());
+            EXPECT_EQ(messages(), (Texts{"-2147467259: The disk cannot be written."}));
+            EXPECT_EQ(dialog.txtVarRecipe->text(), typed);
+            EXPECT_EQ(storedMembers(), before);
+            dialog.cmdOk->click();
+        });
+        click("mnuRecipeMemberNewRecipe");
+        EXPECT_EQ(messages().size(), 1U);
+        EXPECT_EQ(storedMembers().size(), before.size() + 1);
+        EXPECT_EQ(shown("VarRecipe").back(), typed);
+        expectAtRest();
+    }
+}
+
+TEST_F(SubRecipes, OneThatIsGivenUpAfterARefusalLeavesTheGridAsItWas) {
+    inDialog<FSubRecipe>("FSubRecipe", [&](FSubRecipe& dialog) {
+        dialog.txtVarRecipe->setText("File.Mix");
+        faults.arm(1, support::FaultPlan::Kind::insert);
+        dialog.cmdOk->click();
+        dialog.cmdCancel->click();
+    });
+    grid().setRow(0);
+    click("mnuRecipeMemberNewRecipe");
+    EXPECT_EQ(grid().row(), 0);
+    EXPECT_EQ(shown("ChildID"), (Texts{"Sirup", "Wasser"}));
+    EXPECT_EQ(storedMembers(), allMembers);
+    expectAtRest();
+}
+
+TEST_F(SubRecipes, AnEditThatCannotBeStoredStaysInItsDialogForAnotherTry) {
+    for (const auto kind :
+         {support::FaultPlan::Kind::begin, support::FaultPlan::Kind::update, support::FaultPlan::Kind::commit}) {
+        host.record.messages.clear();
+        const std::string typed = "File." + std::to_string(static_cast<int>(kind));
+        inDialog<FSubRecipe>("FSubRecipe", [&](FSubRecipe& dialog) {
+            dialog.txtVarRecipe->setText(typed);
+            faults.arm(1, kind);
+            dialog.cmdOk->click();
+            EXPECT_TRUE(dialog.visible());
+            EXPECT_EQ(messages(), (Texts{"-2147467259: The disk cannot be written."}));
+            dialog.cmdOk->click();
+        });
+        click("mnuRecipeMemberEditSubRecipe");
+        EXPECT_EQ(messages().size(), 1U);
+        EXPECT_EQ(storedVariable(4), typed);
+        EXPECT_EQ(shown("VarRecipe").front(), typed);
+        expectAtRest();
+    }
 }
 
 TEST_F(SubRecipes, ANewOneIsStoredOrReportedWhateverFails) {

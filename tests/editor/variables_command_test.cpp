@@ -10,11 +10,12 @@ using dialogs::FMultiSelectItems;
 struct ChooseVariables : CommandWindow {
     ChooseVariables() { show(mixKey); }
 
-    /// The user's selection, confirmed by OK.
+    /// The user's selection, confirmed by OK; given up when that is refused.
     void choose(const std::optional<Texts>& names) {
         inDialog<FMultiSelectItems>("FMultiSelectItems", [names](FMultiSelectItems& dialog) {
             dialog.hxMI->setSelectedItems(names);
             dialog.cmdOk->click();
+            if (dialog.visible()) dialog.cmdCancel->click();
         });
         click("mnuRecipeMemberNewVariable");
     }
@@ -167,6 +168,25 @@ TEST_F(ChooseVariables, ThatCannotBeStoredLeaveTheOldOnes) {
     EXPECT_EQ(host.record.messages[0].title, "mnuRecipeMember");
     EXPECT_EQ(storedMembers(), before);
     EXPECT_EQ(shown("VarRecipe"), variables);
+    expectAtRest();
+}
+
+TEST_F(ChooseVariables, ThatCannotBeStoredStayChosenForAnotherTry) {
+    const Texts before = storedMembers();
+    faults.arm(2, support::FaultPlan::Kind::insert);
+    inDialog<FMultiSelectItems>("FMultiSelectItems", [&](FMultiSelectItems& dialog) {
+        dialog.hxMI->setSelectedItems(Texts{"A", "B", "C"});
+        dialog.cmdOk->click();
+        EXPECT_TRUE(dialog.visible());
+        EXPECT_EQ(messages(), (Texts{"-2147467259: The disk cannot be written."}));
+        EXPECT_EQ(dialog.hxMI->selectedItems(), (Texts{"A", "B", "C"}));
+        EXPECT_EQ(storedMembers(), before);
+        dialog.cmdOk->click();
+        EXPECT_FALSE(dialog.visible());
+    });
+    click("mnuRecipeMemberNewVariable");
+    EXPECT_EQ(messages().size(), 1U);
+    EXPECT_EQ(shown("VarRecipe"), (Texts{"A", "B", "C"}));
     expectAtRest();
 }
 
