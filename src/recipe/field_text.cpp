@@ -11,9 +11,13 @@ std::string FieldToText(const ado::Field& field, const automation::NumberFormat&
     return automation::toText(field.value(), field.type() == ado::adDouble ? automation::NumberFormat{} : format);
 }
 
-// Not every value of a number column can be read from a text: one that is infinite or missing would come back as 0.
+// Not every value of a number column can be read from a text: one that is infinite or missing would come back as 0. So
+// one that the field holds, or held before the edit, is taken from there.
 void TextToField(ado::Field& field, std::string_view text) {
-    if (field.type() != ado::adVarWChar && text == FieldToText(field)) return;
+    if (field.type() != ado::adVarWChar) {
+        if (text == FieldToText(field)) return;
+        if (text == automation::toText(field.originalValue())) return field.setValue(field.originalValue());
+    }
     switch (field.type()) {
         case ado::adSmallInt:
         case ado::adInteger: return field.setValue(automation::leadingNumber(text));

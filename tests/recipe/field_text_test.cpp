@@ -68,6 +68,20 @@ TEST_F(FieldText, ANumberThatNoTextGivesBackStaysWhileItsTextDoes) {
     EXPECT_TRUE(std::isnan(field("StandardValue").value().asDouble()));
 }
 
+TEST_F(FieldText, ANumberThatNoTextGivesBackReturnsWithItsText) {
+    constexpr double infinity = std::numeric_limits<double>::infinity();
+    for (const Variant& value : {Variant(infinity), Variant(-infinity), Variant(Null{})}) {
+        field("StandardValue").setValue(value);
+        recipes.update();
+        const std::string text = FieldToText(field("StandardValue"));
+        TextToField(field("StandardValue"), "2,5");
+        EXPECT_EQ(field("StandardValue").value(), Variant(2.5));
+        TextToField(field("StandardValue"), text);
+        EXPECT_EQ(field("StandardValue").value(), value);
+        recipes.cancelUpdate();
+    }
+}
+
 TEST_F(FieldText, AnUnchangedNumberStartsNoEdit) {
     for (const char* name : {"StandardValue", "Options"}) TextToField(field(name), FieldToText(field(name)));
     EXPECT_EQ(recipes.editMode(), ado::adEditNone);
