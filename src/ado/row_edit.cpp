@@ -70,8 +70,8 @@ constexpr automation::Sentence doesNotFit{"The value does not fit the column \"%
 std::string fittingText(const Column& column, const Variant& value) {
     if (value.isObject()) throwError(automation::errTypeMismatch, {"text expected", "es muss ein Text sein"});
     std::string text = automation::toText(value);
-    const bool limited = column.type == adVarWChar && column.definedSize > 0;
-    if (limited && automation::characterCount(text) > static_cast<std::size_t>(column.definedSize)) {
+    const std::size_t longest = longestText(column);
+    if (longest > 0 && automation::characterCount(text) > longest) {
         throwError(automation::errOverflow,
                    {"the text is longer than %1 characters", "der Text ist länger als %1 Zeichen"},
                    {std::to_string(column.definedSize)});
@@ -91,6 +91,11 @@ Variant convert(const Column& column, const Variant& value) {
 }
 
 }  // namespace
+
+std::size_t longestText(const Column& column) noexcept {
+    const bool limited = column.type == adVarWChar && column.definedSize > 0;
+    return limited ? static_cast<std::size_t>(column.definedSize) : 0;
+}
 
 Variant convertFor(const Column& column, const Variant& value) {
     if (column.isKey || !column.updatable) {

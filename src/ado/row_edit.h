@@ -44,4 +44,7 @@ class RowEdit {
 /// for a column that cannot be assigned.
 [[nodiscard]] automation::Variant convertFor(const Column& column, const automation::Variant& value);
 
+/// How many characters a text in the column has at most; 0: any number.
+[[nodiscard]] std::size_t longestText(const Column& column) noexcept;
+
 }  // namespace hx::ado

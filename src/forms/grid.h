@@ -123,6 +123,8 @@ class Grid : public Control {
     void setAddNewMode(bool on);
     /// Whether the user may type into the column: not where it is locked, shows translated values or cannot be written.
     [[nodiscard]] bool editable(std::int32_t column) const;
+    /// How many characters a text in the column has at most; 0: any number.
+    [[nodiscard]] std::size_t longestText(std::int32_t column) const;
     /// Puts text into a cell of the row, which becomes current, and marks the row as changed. Text that does not fit
     /// the column's type is reported as gridErrBadValue and changes nothing; empty text in a column of numbers is Null.
     /// A column that is not editable throws errMemberNotFound. In add-new mode row -1 is the new row.

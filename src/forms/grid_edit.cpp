@@ -1,6 +1,7 @@
 #include <array>
 
 #include "ado/errors.h"
+#include "ado/row_edit.h"
 #include "automation/convert.h"
 #include "forms/form.h"
 #include "forms/grid.h"
@@ -105,6 +106,11 @@ bool Grid::editable(std::int32_t column) const {
     const Column& shown = *columns_[static_cast<std::size_t>(column)];
     const ado::Column& stored = recordset_->columns()[*field];
     return !shown.locked() && !shown.valueItems().translates() && stored.updatable && !stored.isKey;
+}
+
+std::size_t Grid::longestText(std::int32_t column) const {
+    const auto field = fieldOf(column);
+    return field ? ado::longestText(recordset_->columns()[*field]) : 0;
 }
 
 void Grid::setText(std::int32_t row, std::int32_t column, const std::string& text) {

@@ -1,4 +1,5 @@
 #include <QHeaderView>
+#include <algorithm>
 
 #include "gui/grid_fixture.h"
 
@@ -33,6 +34,63 @@ TEST_F(GridEditing, ACommandThatSettlesTheGridGetsWhatIsBeingTyped) {
     EXPECT_FALSE(grid().editorOpen());
     EXPECT_TRUE(grid().dataChanged());
     EXPECT_TRUE(table().hasFocus());
+}
+
+TEST_F(GridEditing, ACellTakesNoMoreThanItsColumnHolds) {
+    show(3);
+    const int longest = form->rows()->field("VarRecipe").definedSize();
+    ASSERT_EQ(longest, 255);
+    startTyping(1, "VarRecipe", "ab");
+    editor()->setCursorPosition(1);
+    editor()->insert(QString(300, 'x'));
+    const QString full = "a" + QString(longest - 2, 'x') + "b";
+    EXPECT_EQ(editor()->text(), full) << "what stands behind the caret stays";
+    EXPECT_EQ(editor()->cursorPosition(), longest - 1);
+    type(*editor(), "y");
+    EXPECT_EQ(editor()->text(), full);
+    press(Qt::Key_Return);
+    EXPECT_EQ(variable(1), full.toStdString());
+}
+
+TEST_F(GridEditing, TypingIntoAFullCellLeavesWhatCanBeUndone) {
+    show(3);
+    startTyping(1, "VarRecipe", "");
+    editor()->insert(QString(254, 'x'));
+    type(*editor(), "yz");
+    EXPECT_EQ(editor()->text(), QString(254, 'x') + "y");
+    editor()->undo();
+    EXPECT_EQ(editor()->text(), "Var2");
+}
+
+TEST_F(GridEditing, ACharacterOfTwoUnitsCountsOnceAndIsNeverCutInTwo) {
+    show(3);
+    startTyping(1, "VarRecipe", "");
+    const QString bell = QString::fromUtf8("\xF0\x9F\x94\x94");
+    editor()->insert(bell.repeated(255));
+    EXPECT_EQ(editor()->text(), bell.repeated(255));
+    editor()->insert(bell);
+    EXPECT_EQ(editor()->text(), bell.repeated(255));
+    press(Qt::Key_Backspace);
+    editor()->insert("xx");
+    EXPECT_EQ(editor()->text(), bell.repeated(254) + "x");
+}
+
+TEST_F(GridEditing, ALongerTextThatIsThereAlreadyStaysWhole) {
+    show(3);
+    const std::string longer(300, 'x');
+    const auto& columns = form->table().columns();
+    const auto found = std::ranges::find(columns, "VarRecipe", &ado::Column::name);
+    const std::vector<ado::ColumnValue> values = {
+        {static_cast<std::size_t>(found - columns.begin()), automation::Variant(longer)}};
+    form->table().update(2, values);
+    form->rows()->resync(ado::adAffectAll);
+    click(1, "VarRecipe");
+    press(Qt::Key_F2);
+    ASSERT_NE(editor(), nullptr);
+    EXPECT_EQ(editor()->text(), QString::fromStdString(longer));
+    editor()->end(false);
+    press(Qt::Key_Backspace);
+    EXPECT_EQ(editor()->text().size(), 299);
 }
 
 TEST_F(GridEditing, ATabulatorEditsTheNextCellAndSelectsNoRow) {

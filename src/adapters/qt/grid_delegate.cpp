@@ -1,9 +1,13 @@
 #include "adapters/qt/grid_delegate.h"
 
 #include <QLineEdit>
+#include <algorithm>
 #include <memory>
 
 #include "adapters/qt/grid_cell.h"
+#include "adapters/qt/text.h"
+#include "adapters/qt/text_limit.h"
+#include "automation/text.h"
 
 namespace hx::qt {
 
@@ -20,7 +24,12 @@ QWidget* GridDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem&
     line->setAccessibleName(model_.headerData(index.column(), Qt::Horizontal, Qt::DisplayRole).toString());
     line->setObjectName(QStringLiteral("cellEditor"));
     line->setContextMenuPolicy(Qt::NoContextMenu);  // the grid shows its own
-    return line.release();                          // the view owns it
+    // A longer text that is there already stays whole.
+    if (const std::size_t longest = model_.grid()->longestText(index.column())) {
+        const std::size_t present = automation::characterCount(fromQt(model_.text(index.row(), index.column())));
+        line->setValidator(std::make_unique<TextLimit>(std::max(longest, present), line.get()).release());
+    }
+    return line.release();  // the view owns it
 }
 
 void GridDelegate::updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option,
