@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "ado/row_edit.h"
 #include "automation/text.h"
 #include "cli/project_reader.h"
 #include "cli/text_file.h"
@@ -45,9 +46,8 @@ std::vector<bool> textColumns(sqlite::Database& database, const sqlite::TableInf
 
 bool isTooLong(const ado::Column& column, const Value& value) {
     const auto* text = std::get_if<std::string>(&value);
-    const bool limited = column.type == ado::adVarWChar && column.definedSize > 0;
-    return limited && text != nullptr &&
-           automation::characterCount(*text) > static_cast<std::size_t>(column.definedSize);
+    const std::size_t longest = ado::longestText(column);
+    return longest > 0 && text != nullptr && automation::characterCount(*text) > longest;
 }
 
 void bind(sqlite::Statement& statement, int parameter, const Value& value) {
@@ -56,6 +56,13 @@ void bind(sqlite::Statement& statement, int parameter, const Value& value) {
     else if (const auto* real = std::get_if<double>(&value)) statement.bind(parameter, Variant(*real));
     else if (const auto* text = std::get_if<std::string>(&value)) statement.bind(parameter, Variant(*text));
     else statement.bind(parameter, Variant(automation::Null{}));
+}
+
+// For a message.
+Variant variantOf(const Value& value) {
+    if (const auto* text = std::get_if<std::string>(&value)) return *text;
+    if (const auto* number = std::get_if<std::int64_t>(&value)) return static_cast<double>(*number);
+    return Variant(automation::Null{});
 }
 
 // Bytes cannot be bound; of hexadecimal digits they are a safe literal.
@@ -100,7 +107,13 @@ void RowWriter::insert(const std::vector<std::pair<std::string, std::int64_t>>& 
         numbers.push_back(value);
         add(column, "?" + std::to_string(cells.size() + numbers.size()));
     }
-    run("INSERT INTO " + quotedName(info_.name) + " (" + columns + ") VALUES (" + values + ")", cells, numbers, line);
+    run("INSERT INTO " + quotedName(info_.name) + " (" + columns + ") VALUES (" + values + ")", cells, numbers, line,
+        [&](std::string_view column) {
+            for (const auto& [name, value] : keys) {
+                if (automation::equalIgnoreCase(name, column)) return variantOf(value);
+            }
+            return Variant();
+        });
 }
 
 void RowWriter::update(std::int64_t id, const std::vector<Cell>& cells, int line) {
@@ -111,11 +124,12 @@ void RowWriter::update(std::int64_t id, const std::vector<Cell>& cells, int line
     }
     if (changes.empty()) return;
     const std::string key = "?" + std::to_string(cells.size() + 1);
-    run("UPDATE " + quotedName(info_.name) + " SET " + changes + " WHERE ID = " + key, cells, {id}, line);
+    run("UPDATE " + quotedName(info_.name) + " SET " + changes + " WHERE ID = " + key, cells, {id}, line,
+        [&](std::string_view column) { return storedValue(database_, info_, column, id); });
 }
 
 void RowWriter::run(const std::string& sql, const std::vector<Cell>& cells, const std::vector<std::int64_t>& numbers,
-                    int line) {
+                    int line, const sqlite::RefusedRow& others) {
     sqlite::Statement& statement = database_.prepared(sql);
     const sqlite::ResetGuard guard(statement);
     int parameter = 0;
@@ -128,7 +142,13 @@ void RowWriter::run(const std::string& sql, const std::vector<Cell>& cells, cons
         statement.step();
     } catch (const automation::Error& error) {
         if (error.number() == ado::dbErrUnspecified) throw;  // the project's file is to blame
-        Line{file_, line, {}}.fail(error.description());
+        const auto row = [&](std::string_view column) {
+            for (const Cell& cell : cells) {
+                if (automation::equalIgnoreCase(cell.column, column)) return variantOf(cell.value);
+            }
+            return others(column);
+        };
+        Line{file_, line, {}}.fail(sqlite::namingDuplicate(error, database_, info_, row).description());
     }
 }
 

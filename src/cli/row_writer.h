@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "adapters/sqlite/table_info.h"
+#include "adapters/sqlite/duplicates.h"
 #include "cli/content.h"
 
 namespace hx::cli {
@@ -21,8 +21,9 @@ class RowWriter {
     void update(std::int64_t id, const std::vector<Cell>& cells, int line);
 
   private:
-    void run(const std::string& sql, const std::vector<Cell>& cells, const std::vector<std::int64_t>& numbers,
-             int line);
+    /// `others` gives what stands in the row's other columns.
+    void run(const std::string& sql, const std::vector<Cell>& cells, const std::vector<std::int64_t>& numbers, int line,
+             const sqlite::RefusedRow& others);
 
     sqlite::Database& database_;
     sqlite::TableInfo info_;

@@ -289,6 +289,29 @@ TEST_F(Exchange, EveryMemberWithoutARecipeIsAddedOnce) {
     }
 }
 
+TEST_F(Exchange, MembersThatAreTheSameAreRefusedByLineAndNothingIsWritten) {
+    const std::string start =
+        "{\"format\": \"hxrecipe\", \"version\": 1, \"recipes\": [{\"ID\": 1, \"Name\": \"R\"},\n{\"Name\": \"S\", "
+        "\"members\": [\n";
+    const std::string twin = "{\"VarRecipe\": \"F\", \"ChildID\": 1, \"subRecipe\": \"R\"}";
+    const std::string variable = "{\"VarRecipe\": \"V\"}";
+    const std::string path = makeOther("");
+    const std::string before = contents(path);
+    const auto refusal = [&](const std::string& member, const std::string& mode) {
+        const std::string in = write("twins.json", start + member + ",\n" + member + "]}]}");
+        const Result result = hxrecipe({"import", path.c_str(), in.c_str(), "--mode", mode.c_str()});
+        EXPECT_EQ(result.status, 1);
+        EXPECT_EQ(contents(path), before);
+        return result.problems;
+    };
+    const std::string place = "hxrecipe: " + folder_.file("twins.json") + ", line 4: ";
+    for (const char* mode : {"add", "update", "replace"}) {
+        EXPECT_EQ(refusal(twin, mode),
+                  place + "The recipe has this sub-recipe with the variable \"F\" for its file name already.\n");
+        EXPECT_EQ(refusal(variable, mode), place + "The recipe has the variable \"V\" already.\n");
+    }
+}
+
 TEST_F(Exchange, AMemberWithoutARecipeIsChangedWhereItIs) {
     exported(file_, "a.json");
     for (const auto& [mode, expected] : {std::pair{"add", "5|w|bar"}, {"update", "5|W|"}, {"replace", "8|W|"}}) {

@@ -46,6 +46,24 @@ TEST_F(Answers, NameWhatExistsAsTheUserKnowsIt) {
               "Das Rezept hat die Variable \"A\" schon.");
 }
 
+TEST_F(Answers, CallASubRecipeNoVariable) {
+    const Values first{{"ParentID", 1}, {"ChildID", 2}, {"VarRecipe", "File.A"}};
+    const std::string told = "The recipe has this sub-recipe with the variable \"File.A\" for its file name already.";
+    const auto connection = connect();
+    EXPECT_EQ(refusalOf(connection, "TrcpRecipeMember", first), told);
+    EXPECT_EQ(
+        refusalOf(connectTo(german_), "TrcpRecipeMember", {{"ParentID", 1}, {"ChildID", 3}, {"VarRecipe", "File.A"}}),
+        "Das Rezept hat dieses Unterrezept mit der Variablen \"File.A\" für den Dateinamen schon.");
+    const auto rows = open(connection, "TrcpRecipeMember");
+    rows->find("ChildID=3");
+    rows->field("ChildID").setValue(2);
+    EXPECT_EQ(errorOf([&] { rows->update(); }).description(), told);
+    rows->cancelUpdate();
+    rows->addNew(Values{{"ParentID", 1}, {"ChildID", 2}, {"VarRecipe", "File.B"}});
+    rows->field("VarRecipe").setValue("File.A");
+    EXPECT_EQ(errorOf([&] { rows->update(); }).description(), told);
+}
+
 TEST_F(Answers, NameTheColumnOfAnyOtherTable) {
     RawFile(path_).run("CREATE TABLE Extra (ID INTEGER PRIMARY KEY, Code VARCHAR(9) UNIQUE)");
     EXPECT_EQ(refusalOf(connect(), "Extra", {{"Code", "x"}}),

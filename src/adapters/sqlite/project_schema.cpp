@@ -2,7 +2,6 @@
 
 #include <array>
 
-#include "adapters/sqlite/sentences.h"
 #include "automation/text.h"
 
 namespace hx::sqlite {
@@ -94,23 +93,6 @@ std::string_view columnName(automation::Language language, std::string_view colu
         return language == automation::Language::german ? known.name.german : known.name.english;
     }
     return column;
-}
-
-// The user knows recipes and variables, not the names of tables and columns.
-const automation::Sentence& duplicateSentence(std::string_view table, std::string_view column) {
-    struct Known {
-        std::string_view table, column;
-        const automation::Sentence& sentence;
-    };
-    static constexpr std::array<Known, 3> all = {{{"TrcpRecipe", "Name", sentence::recipeExists},
-                                                  {"TrcpRecipeMember", "VarRecipe", sentence::memberExists},
-                                                  {"ThxVariable", "Name", sentence::variableExists}}};
-    for (const Known& known : all) {
-        if (automation::equalIgnoreCase(known.table, table) && automation::equalIgnoreCase(known.column, column)) {
-            return known.sentence;
-        }
-    }
-    return sentence::valueExists;
 }
 
 }  // namespace hx::sqlite

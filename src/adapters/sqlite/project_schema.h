@@ -23,7 +23,5 @@ inline constexpr std::int32_t projectSchemaVersion = 1;
 
 /// What the user calls a column of the recipes and their members; the column's own name when he does not know it.
 [[nodiscard]] std::string_view columnName(automation::Language language, std::string_view column);
-/// What is said of a value (%1) that a column (%2) of a table (%3) holds already.
-[[nodiscard]] const automation::Sentence& duplicateSentence(std::string_view table, std::string_view column);
 
 }  // namespace hx::sqlite

@@ -62,6 +62,9 @@ inline constexpr Sentence takenBack{
 inline constexpr Sentence recipeExists{"There is a recipe \"%1\" already.", "Ein Rezept \"%1\" gibt es schon."};
 inline constexpr Sentence memberExists{"The recipe has the variable \"%1\" already.",
                                        "Das Rezept hat die Variable \"%1\" schon."};
+inline constexpr Sentence subRecipeExists{
+    "The recipe has this sub-recipe with the variable \"%1\" for its file name already.",
+    "Das Rezept hat dieses Unterrezept mit der Variablen \"%1\" für den Dateinamen schon."};
 inline constexpr Sentence variableExists{"There is a variable \"%1\" already.", "Eine Variable \"%1\" gibt es schon."};
 inline constexpr Sentence valueExists{"The value \"%1\" exists already in column \"%2\" of table \"%3\".",
                                       "Den Wert \"%1\" gibt es schon in der Spalte \"%2\" der Tabelle \"%3\"."};

@@ -2,10 +2,10 @@
 
 #include <optional>
 
-#include "adapters/sqlite/project_schema.h"
+#include "adapters/sqlite/duplicates.h"
 #include "adapters/sqlite/sentences.h"
 #include "adapters/sqlite/transaction.h"
-#include "automation/convert.h"
+#include "automation/text.h"
 
 namespace hx::sqlite {
 
@@ -17,21 +17,21 @@ namespace {
 
 constexpr std::size_t rowsPerStatement = 64;
 
-// A refused duplicate names only the column; which value it was the caller knows.
-template <class Action>
-void namingDuplicates(const Database& database, const TableInfo& table, std::span<const ado::Column> columns,
-                      std::span<const ColumnValue> values, Action&& action) {
+// What is not among the values the row holds already, when it has a key.
+void stepNamingDuplicates(Statement& statement, Database& database, const TableInfo& table,
+                          std::span<const ado::Column> columns, std::span<const ColumnValue> values,
+                          std::optional<Key> key = {}) {
+    const auto row = [&](std::string_view column) {
+        for (const ColumnValue& value : values) {
+            if (automation::equalIgnoreCase(columns[value.column].name, column)) return value.value;
+        }
+        return key ? storedValue(database, table, column, *key) : automation::Variant();
+    };
     try {
-        action();
+        statement.step();
     } catch (const Error& error) {
         if (error.number() != ado::dbErrDuplicate) throw;
-        for (const ColumnValue& value : values) {
-            const std::string& name = columns[value.column].name;
-            if (error.description().find("\"" + table.name + "." + name + "\"") == std::string::npos) continue;
-            throw database.error(ado::dbErrDuplicate, duplicateSentence(table.name, name),
-                                 {automation::toText(value.value), name, table.name});
-        }
-        throw;
+        throw namingDuplicate(error, database, table, row);
     }
 }
 
@@ -72,7 +72,7 @@ Key Writes::insert(const TableInfo& table, std::span<const ado::Column> columns,
     Statement& statement = database_.prepared(insertQuery(table, columns, values));
     const ResetGuard guard(statement);
     bindAll(statement, values);
-    namingDuplicates(database_, table, columns, values, [&] { statement.step(); });
+    stepNamingDuplicates(statement, database_, table, columns, values);
     return database_.lastInsertedKey();
 }
 
@@ -127,7 +127,7 @@ void Writes::update(const TableInfo& table, std::span<const ado::Column> columns
         const ResetGuard guard(statement);
         bindAll(statement, values);
         statement.bind(static_cast<int>(values.size()) + 1, key);
-        namingDuplicates(database_, table, columns, values, [&] { statement.step(); });
+        stepNamingDuplicates(statement, database_, table, columns, values, key);
     }
     if (own) own->commit();
 }
