@@ -132,7 +132,7 @@ bool MainWindow::reported(void (MainWindow::*action)(const QString&), const QStr
 void MainWindow::open(const QString& path) {
     const QFileInfo file(path);
     if (!file.isFile()) {
-        preferences_.removeRecent(path);
+        tellUnlessListed(preferences_.removeRecent(path));
         fail(Text::fileMissing, file.absoluteFilePath());
     }
     if (!file.fileName().endsWith(extension, Qt::CaseInsensitive)) {
@@ -145,10 +145,17 @@ void MainWindow::open(const QString& path) {
     } catch (const automation::Error& error) {
         fail(Text::registryNotWritten, told(error));
     }
-    preferences_.addRecent(project_->file());
     showProject();
     statusBar()->showMessage(say(Text::projectOpened).arg(project_->name()), messageTime);
+    tellUnlessListed(preferences_.addRecent(project_->file()));
     startAddIn();
+}
+
+// In the status line: the project itself is not concerned.
+void MainWindow::tellUnlessListed(bool listed) {
+    if (listed) return;
+    const QString text = say(Text::settingsNotWritten).replace('\n', ' ').arg(preferences_.file());
+    statusBar()->showMessage(text, messageTime);
 }
 
 void MainWindow::startAddIn() {

@@ -62,6 +62,7 @@ class MainWindow : public QMainWindow, private StudioCommands, private ProjectWi
     void warn(const QString& text);
     void warn(Text text, const QString& detail) { warn(say(text).arg(detail)); }
     [[nodiscard]] bool reported(void (MainWindow::*action)(const QString&), const QString& path);
+    void tellUnlessListed(bool listed);
     [[nodiscard]] QString told(const automation::Error& error) const;
     [[noreturn]] void fail(Text text, const QString& detail) const;
     [[nodiscard]] QString say(Text text) const;

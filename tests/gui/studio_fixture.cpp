@@ -78,6 +78,15 @@ QString StudioTest::makeProject(const QString& name) {
     return file;
 }
 
+QString StudioTest::startAtMembers() {
+    start();
+    QString file = makeProject();
+    open(file);
+    click("Rezepte");
+    click("Rezepte/Limonade");
+    return file;
+}
+
 void StudioTest::open(const QString& file) {
     ASSERT_TRUE(window_->openProject(file));
     handleEvents();

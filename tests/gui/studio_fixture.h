@@ -32,6 +32,9 @@ class StudioTest : public testing::Test {
     QString makeProject(const QString& name = QStringLiteral("Anlage"));
     void open(const QString& file);
 
+    /// Starts the studio with a new project at the variables of "Limonade"; gives the project's file.
+    QString startAtMembers();
+
     [[nodiscard]] studio::MainWindow& window() { return *window_; }
     [[nodiscard]] studio::StudioHost& host() { return *host_; }
     [[nodiscard]] qt::ExplorerTree& tree() {

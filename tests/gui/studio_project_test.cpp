@@ -2,6 +2,7 @@
 #include <QDialog>
 #include <QDir>
 #include <QMenu>
+#include <QStatusBar>
 #include <QTest>
 #include <QTimer>
 
@@ -50,6 +51,20 @@ TEST_F(StudioTest, WorksOnItsProjectWhileAnotherProgramRecordsOneOfThatNameAllTh
     }
 }
 
+TEST_F(StudioTest, SaysInItsStatusLineThatTheListOfProjectsCannotBeSaved) {
+    ASSERT_TRUE(QDir(folder.path()).mkpath("config/studio.ini"));
+    start();
+    const QString file = makeProject();
+    open(file);
+    const QString text =
+        "Fenster und Projektliste konnten nicht gespeichert werden: " + folder.filePath("config/studio.ini");
+    EXPECT_EQ(window().statusBar()->currentMessage(), text);
+    window().statusBar()->clearMessage();
+    const BoxAnswers answers({"OK"});
+    EXPECT_FALSE(window().openProject(folder.filePath("none.hxs")));
+    EXPECT_EQ(window().statusBar()->currentMessage(), text);
+}
+
 TEST_F(StudioTest, StartsAndSaysSoWhenItsSettingsCannotBeRead) {
     ASSERT_TRUE(QDir(folder.path()).mkpath("config/registry.ini"));
     const BoxAnswers answers({"OK"});
@@ -58,7 +73,9 @@ TEST_F(StudioTest, StartsAndSaysSoWhenItsSettingsCannotBeRead) {
     studio::MainWindow window(host, preferences);
     window.show();
     ASSERT_TRUE(waitUntil([&] { return !answers.shown().empty(); }));
-    EXPECT_EQ(answers.shown()[0].text.substr(0, 47), "Die Einstellungen konnten nicht gelesen werden.");
+    const std::string& told = answers.shown()[0].text;
+    EXPECT_EQ(told.substr(0, 47), "Die Einstellungen konnten nicht gelesen werden.");
+    EXPECT_NE(told.find("registry.ini' kann nicht gelesen werden: sie ist keine Datei."), std::string::npos) << told;
     EXPECT_TRUE(window.isVisible());
 }
 
@@ -90,11 +107,7 @@ TEST_F(StudioTest, TheMenuOfANodeOfSubRecipesShowsTheEditorAlone) {
 
 // The module runs as the built library: its window procedure sees the window become active.
 TEST_F(StudioTest, TheEditorReadsItsMembersAfreshWhenItIsActivated) {
-    start();
-    const QString file = makeProject();
-    open(file);
-    click("Rezepte");
-    click("Rezepte/Limonade");
+    const QString file = startAtMembers();
     QMdiSubWindow* editor = editorWindow();
     ASSERT_NE(editor, nullptr);
     QWidget other;
@@ -112,11 +125,7 @@ TEST_F(StudioTest, TheEditorReadsItsMembersAfreshWhenItIsActivated) {
 }
 
 TEST_F(StudioTest, TheEditorReadsItsMembersAfreshWhenTheKeyboardComesFromAnotherPartOfTheStudio) {
-    start();
-    const QString file = makeProject();
-    open(file);
-    click("Rezepte");
-    click("Rezepte/Limonade");
+    const QString file = startAtMembers();
     std::vector<std::string> expected = {"Mischer.Zucker", "Mischer.Wasser"};
     auto& output = find<QWidget>(window(), "macroText");
     find<QWidget>(window(), "macroDock").show();
@@ -131,11 +140,7 @@ TEST_F(StudioTest, TheEditorReadsItsMembersAfreshWhenTheKeyboardComesFromAnother
 }
 
 TEST_F(StudioTest, TheEditorReadsItsMembersAfreshWhenTheUserComesBackFromAnotherProgram) {
-    start();
-    const QString file = makeProject();
-    open(file);
-    click("Rezepte");
-    click("Rezepte/Limonade");
+    const QString file = startAtMembers();
     std::vector<std::string> expected = {"Mischer.Zucker", "Mischer.Wasser"};
     for (QWidget* part : {static_cast<QWidget*>(&grid()), static_cast<QWidget*>(&tree())}) {
         part->setFocus();
@@ -151,11 +156,7 @@ TEST_F(StudioTest, TheEditorReadsItsMembersAfreshWhenTheUserComesBackFromAnother
 }
 
 TEST_F(StudioTest, BehindADialogNothingIsReadAfresh) {
-    start();
-    const QString file = makeProject();
-    open(file);
-    click("Rezepte");
-    click("Rezepte/Limonade");
+    const QString file = startAtMembers();
     grid().setFocus();
     const auto before = texts("Variable");
     store(file, 1, "Mischer.Aroma");
