@@ -57,9 +57,9 @@ void MacroCommands::addTo(QMainWindow& window) {
 
 void MacroCommands::retranslate() {
     runAgain_.setText(say(Text::runMacroAgain));
-    runAgain_.setToolTip(say(Text::runMacroAgainTip).arg(shown(againKey)));
+    runAgain_.setToolTip(qt::plainToolTip(say(Text::runMacroAgainTip).arg(shown(againKey))));
     stop_.setText(say(Text::stopMacro));
-    stop_.setToolTip(say(Text::stopMacroTip).arg(shown(stopKey)));
+    stop_.setToolTip(qt::plainToolTip(say(Text::stopMacroTip).arg(shown(stopKey))));
     dock_.setStopKey(shown(stopKey));
     dock_.retranslate();
     menu_.retranslate();

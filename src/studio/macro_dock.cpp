@@ -210,7 +210,7 @@ void MacroDock::retranslate() {
     copy_.setText(say(Text::copyOutput));
     argumentsLabel_.setText(say(Text::macroArguments));
     arguments_.setAccessibleName(say(Text::macroArguments).remove('&').remove(':'));
-    arguments_.setToolTip(say(Text::macroArgumentsTip));
+    arguments_.setToolTip(qt::plainToolTip(say(Text::macroArgumentsTip)));
     status_.setText(stateText());
 }
 

@@ -2,8 +2,10 @@
 
 #include <algorithm>
 #include <array>
+#include <cctype>
 #include <cstddef>
 #include <optional>
+#include <span>
 
 #include "layers/include_reader.h"
 
@@ -178,7 +180,58 @@ Finding findingAt(std::string_view path, int line, std::string_view what) {
     return std::string(path) + ":" + std::to_string(line) + ": " + std::string(what);
 }
 
+bool isName(char c) { return c == '_' || std::isalnum(static_cast<unsigned char>(c)) != 0; }
+
+/// Where `word` stands as a whole word.
+std::vector<std::size_t> placesOf(std::string_view word, std::string_view text) {
+    std::vector<std::size_t> places;
+    for (auto at = text.find(word); at != std::string_view::npos; at = text.find(word, at + 1)) {
+        const auto end = at + word.size();
+        if ((at == 0 || !isName(text[at - 1])) && (end == text.size() || !isName(text[end]))) places.push_back(at);
+    }
+    return places;
+}
+
+int lineAt(std::string_view text, std::size_t place) {
+    return 1 + static_cast<int>(std::ranges::count(text.substr(0, place), '\n'));
+}
+
+bool liesIn(std::string_view path, std::span<const std::string_view> folders) {
+    return std::ranges::any_of(folders, [&](std::string_view folder) { return path.starts_with(folder); });
+}
+
+bool isPlainToolTip(std::string_view call) {
+    return !placesOf("plainToolTip", call).empty() || !placesOf("titledToolTip", call).empty();
+}
+
 }  // namespace
+
+std::vector<Finding> textsAsHtml(std::string_view path, std::string_view text) {
+    static constexpr std::array<std::string_view, 3> folders = {"adapters/qt/", "studio/", "report/preview/"};
+    if (!liesIn(path, folders) || path == "adapters/qt/plain_label.h") return {};
+    std::vector<Finding> findings;
+    for (const std::size_t place : placesOf("QLabel", text)) {
+        findings.push_back(findingAt(path, lineAt(text, place), "QLabel shows HTML: use PlainLabel"));
+    }
+    for (const std::string_view word : {"setToolTip", "ToolTipRole", "QToolTip"}) {
+        for (const std::size_t place : placesOf(word, text)) {
+            if (isPlainToolTip(text.substr(place, text.find(';', place) - place))) continue;
+            findings.push_back(findingAt(path, lineAt(text, place), "a tool tip shows HTML: use plainToolTip"));
+        }
+    }
+    return findings;
+}
+
+std::vector<Finding> rawExceptions(std::string_view path, std::string_view text) {
+    static constexpr std::array<std::string_view, 5> folders = {"addin/", "adapters/qt/", "dialogs/", "editor/",
+                                                                "report/"};
+    if (!liesIn(path, folders)) return {};
+    std::vector<Finding> findings;
+    for (const std::size_t place : placesOf("what()", text)) {
+        findings.push_back(findingAt(path, lineAt(text, place), "what() knows no language: use caughtError()"));
+    }
+    return findings;
+}
 
 std::vector<Finding> wrongIncludes(std::string_view path, std::string_view text) {
     const auto folder = folderOf(path);

@@ -16,4 +16,11 @@ std::vector<Finding> wrongIncludes(std::string_view path, std::string_view text)
 /// One finding when the file has more than 400 lines, else none.
 std::vector<Finding> tooManyLines(std::string_view path, std::string_view text);
 
+/// The places of a file of the windows that may show a text of the user's as HTML: a QLabel that is no PlainLabel, a
+/// tool tip that is not made by plainToolTip or titledToolTip.
+std::vector<Finding> textsAsHtml(std::string_view path, std::string_view text);
+
+/// The places where what() of an exception could reach the user: it knows no language, and says "std::bad_alloc".
+std::vector<Finding> rawExceptions(std::string_view path, std::string_view text);
+
 }  // namespace hx::layers

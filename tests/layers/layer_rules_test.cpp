@@ -113,5 +113,27 @@ TEST(LayerRules, FourHundredLinesAreAllowedAndOneMoreIsNot) {
                 ElementsAre("ado/field.cpp:401: 401 lines, 400 are allowed"));
 }
 
+TEST(LayerRules, LabelsAndToolTipsShowTextAsItIs) {
+    EXPECT_THAT(textsAsHtml("studio/a.h", "#include <QLabel>\nqt::PlainLabel label_;\nQLabel other_;\n"),
+                ElementsAre("studio/a.h:1: QLabel shows HTML: use PlainLabel",
+                            "studio/a.h:3: QLabel shows HTML: use PlainLabel"));
+    EXPECT_THAT(textsAsHtml("adapters/qt/a.cpp",
+                            "a.setToolTip(plainToolTip(x));\nb.setToolTip(0,\n  qt::plainToolTip(x));\n"
+                            "c.setToolTip(titledToolTip(x, y));\nd.setToolTipsVisible(true);\n"),
+                IsEmpty());
+    EXPECT_THAT(textsAsHtml("report/preview/a.cpp",
+                            "\na.setToolTip(x);\nb.setToolTip(plainToolTip(x));\n"
+                            "QToolTip::showText(place, x);\n"),
+                ElementsAre("report/preview/a.cpp:2: a tool tip shows HTML: use plainToolTip",
+                            "report/preview/a.cpp:4: a tool tip shows HTML: use plainToolTip"));
+    EXPECT_THAT(textsAsHtml("adapters/qt/plain_label.h", "QLabel"), IsEmpty());
+}
+
+TEST(LayerRules, ExceptionsAreToldByTheHelper) {
+    EXPECT_THAT(rawExceptions("editor/a.cpp", "caughtError();\nshow(error.what());\n"),
+                ElementsAre("editor/a.cpp:2: what() knows no language: use caughtError()"));
+    EXPECT_THAT(rawExceptions("automation/error.cpp", "error.what()"), IsEmpty());
+}
+
 }  // namespace
 }  // namespace hx::layers

@@ -34,17 +34,20 @@ std::pair<std::string, int> checkTree(Rule rule) {
     return {findings, files};
 }
 
-TEST(SourceTree, EveryFolderIncludesOnlyTheLayersBelowIt) {
-    const auto [findings, files] = checkTree(wrongIncludes);
+template <typename Rule>
+void expectNoFindings(Rule rule) {
+    const auto [findings, files] = checkTree(rule);
     EXPECT_EQ(findings, "");
     EXPECT_GT(files, 10);
 }
 
-TEST(SourceTree, NoFileIsLongerThanFourHundredLines) {
-    const auto [findings, files] = checkTree(tooManyLines);
-    EXPECT_EQ(findings, "");
-    EXPECT_GT(files, 10);
-}
+TEST(SourceTree, EveryFolderIncludesOnlyTheLayersBelowIt) { expectNoFindings(wrongIncludes); }
+
+TEST(SourceTree, NoFileIsLongerThanFourHundredLines) { expectNoFindings(tooManyLines); }
+
+TEST(SourceTree, NoTextOfTheUsersIsShownAsHtml) { expectNoFindings(textsAsHtml); }
+
+TEST(SourceTree, NoExceptionIsToldInItsOwnWords) { expectNoFindings(rawExceptions); }
 
 }  // namespace
 }  // namespace hx::layers

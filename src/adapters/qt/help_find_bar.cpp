@@ -7,6 +7,7 @@
 #include "adapters/qt/help_icons.h"
 #include "adapters/qt/help_texts.h"
 #include "adapters/qt/svg_icon.h"
+#include "adapters/qt/text.h"
 
 namespace hx::qt {
 
@@ -51,7 +52,8 @@ void HelpFindBar::setUpButton(QToolButton& button, const char* name, const char*
 
 void HelpFindBar::retranslate() {
     const auto name = [this](QToolButton& button, HelpText text, const char* keys) {
-        button.setToolTip(helpText(text, wording_) + QStringLiteral(" (%1)").arg(QLatin1StringView(keys)));
+        button.setToolTip(
+            plainToolTip(helpText(text, wording_) + QStringLiteral(" (%1)").arg(QLatin1StringView(keys))));
         button.setAccessibleName(helpText(text, wording_));
     };
     name(previous_, HelpText::findPrevious, wording_.isEnglish() ? "Shift+F3" : "Umschalt+F3");

@@ -5,6 +5,7 @@
 #include "adapters/qt/help_icons.h"
 #include "adapters/qt/help_texts.h"
 #include "adapters/qt/svg_icon.h"
+#include "adapters/qt/text.h"
 
 namespace hx::qt {
 
@@ -61,7 +62,7 @@ void HelpSearchPane::search() {
     for (const HelpHit& hit : index_->find(query)) {
         auto item = std::make_unique<QListWidgetItem>(svgIcon(QByteArray(help_icons::topic)), hit.title);
         item->setData(pathRole, hit.path);
-        item->setToolTip(QStringLiteral("<b>%1</b><br>%2").arg(hit.title.toHtmlEscaped(), hit.excerpt.toHtmlEscaped()));
+        item->setToolTip(titledToolTip(hit.title, hit.excerpt));
         list_.addItem(item.release());  // the list owns it
     }
     const int count = list_.count();

@@ -7,6 +7,7 @@
 #include "adapters/qt/help_icons.h"
 #include "adapters/qt/help_texts.h"
 #include "adapters/qt/svg_icon.h"
+#include "adapters/qt/text.h"
 
 namespace hx::qt {
 
@@ -147,7 +148,7 @@ void HelpWindow::retranslate() {
     for (const auto& [action, text] : actions) {
         action->setText(helpText(text, wording_));
         const QString keys = action->shortcut().toString(QKeySequence::NativeText);
-        action->setToolTip(QStringLiteral("%1 (%2)").arg(action->text(), keys));
+        action->setToolTip(plainToolTip(QStringLiteral("%1 (%2)").arg(action->text(), keys)));
     }
     tabs_.setTabText(0, helpText(HelpText::contents, wording_));
     tabs_.setTabText(1, helpText(HelpText::search, wording_));

@@ -10,6 +10,10 @@ QString plainToolTip(const QString& text) {
     return QStringLiteral("<p style=\"white-space:pre-wrap\">%1</p>").arg(text.toHtmlEscaped());
 }
 
+QString titledToolTip(const QString& title, const QString& text) {
+    return QStringLiteral("<b>%1</b><br>%2").arg(title.toHtmlEscaped(), text.toHtmlEscaped());
+}
+
 std::int32_t toCharacters(const QString& text, int units) {
     const auto end = text.begin() + std::min<qsizetype>(units, text.size());
     return static_cast<std::int32_t>(std::count_if(text.begin(), end, [](QChar c) { return !c.isLowSurrogate(); }));

@@ -15,6 +15,8 @@ namespace hx::qt {
 
 /// A text for a tool tip that is shown as it is: a tool tip takes what looks like HTML for that.
 [[nodiscard]] QString plainToolTip(const QString& text);
+/// The same with a bold title above the text.
+[[nodiscard]] QString titledToolTip(const QString& title, const QString& text);
 
 /// Positions in a model count characters, in Qt UTF-16 units; both are converted within `text`.
 [[nodiscard]] std::int32_t toCharacters(const QString& text, int units);

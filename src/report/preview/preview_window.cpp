@@ -93,7 +93,8 @@ void PreviewWindow::addTool(QAction& action, const char* name, const char* icon,
     const PreviewText hint = caption == PreviewText::savePdf    ? PreviewText::savePdfHint
                              : caption == PreviewText::saveHtml ? PreviewText::saveHtmlHint
                                                                 : caption;
-    action.setToolTip(QStringLiteral("%1 (%2)").arg(text(hint), key.toString(QKeySequence::NativeText)));
+    action.setToolTip(
+        qt::plainToolTip(QStringLiteral("%1 (%2)").arg(text(hint), key.toString(QKeySequence::NativeText))));
     connect(&action, &QAction::triggered, this, run);
     bar_.addAction(&action);
     auto* button = qobject_cast<QToolButton*>(bar_.widgetForAction(&action));
@@ -167,7 +168,7 @@ void PreviewWindow::addZoomTools() {
             [this] { view_.zoomStep(-1); });
     zoom_.setObjectName(QStringLiteral("reportZoom"));
     zoom_.setAccessibleName(text(PreviewText::zoom));
-    zoom_.setToolTip(text(PreviewText::zoom));
+    zoom_.setToolTip(qt::plainToolTip(text(PreviewText::zoom)));
     for (const ZoomEntry& entry : zoomEntries) {
         const bool isWidth = entry.fit == PageView::Fit::width;
         zoom_.addItem(entry.percent > 0 ? percentText(entry.percent / 100.0)
