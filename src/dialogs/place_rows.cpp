@@ -38,7 +38,7 @@ class Placer {
     }
 
     double placeRow(const LayoutRow& row, double top, double width) {
-        const double left = row.label != nullptr && row.field != nullptr ? margin + labelWidth : margin;
+        const double left = row.label != nullptr ? margin + labelWidth : margin;
         const double right = width - margin - (row.button != nullptr ? chooserWidth + gap : 0);
         const double height = row.field != nullptr ? placeField(row, left, top, right - left) : lineHeight;
         if (row.label != nullptr)

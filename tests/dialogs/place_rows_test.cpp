@@ -159,6 +159,9 @@ TEST_F(PlaceRowsTest, LeavesPagesThatAreNotShownOutOfSight) {
     const auto dialog = std::make_shared<FRecipe>(host.services(), texts, help);
     ASSERT_EQ(dialog->tab->tabs(), 3);
     EXPECT_TRUE(dialog->layout().rows.front().grows) << "the pages take what a larger dialog has";
+    EXPECT_EQ(dialog->tab->page(0).top(), 375);
+    EXPECT_EQ(dialog->tab->page(0).width(), 6960);
+    EXPECT_EQ(dialog->tab->page(0).height(), 3390);
     EXPECT_EQ(dialog->tab->page(0).left(), 0);
     for (const std::int16_t hidden : {std::int16_t{1}, std::int16_t{2}}) {
         const forms::Frame& page = dialog->tab->page(hidden);
@@ -176,6 +179,30 @@ TEST_F(PlaceRowsTest, StandsTheRowsBelowEachOther) {
     EXPECT_LT(dialog->chkSaveOnExit->top(), dialog->cmdOk->top());
     EXPECT_LT(dialog->cmdHelp->left(), dialog->cmdOk->left());
     EXPECT_LT(dialog->cmdOk->left(), dialog->cmdCancel->left());
+}
+
+TEST_F(PlaceRowsTest, KnowsRowsWithoutAFieldFramesByCaptionAndFormsWithoutHelp) {
+    struct Plain : forms::Form {
+        explicit Plain(forms::Screen& screen) : Form("Plain", screen) {
+            addRow({.label = label.get()});
+            addRow({.field = frame.get()});
+            addRow({.container = frame.get(), .field = text.get()});
+            addButtons({ok.get()}, nullptr);
+            frame->setCaption("Frame");
+        }
+        std::shared_ptr<forms::Label> label = add<forms::Label>("label");
+        std::shared_ptr<forms::Frame> frame = add<forms::Frame>("frame");
+        std::shared_ptr<forms::TextBox> text = add<forms::TextBox>("text");
+        std::shared_ptr<forms::CommandButton> ok = add<forms::CommandButton>("ok");
+    };
+    const auto form = std::make_shared<Plain>(host.screen);
+    placeRows(*form);
+    EXPECT_EQ(form->label->width(), 6960);
+    EXPECT_EQ(form->label->height(), 315);
+    EXPECT_EQ(form->frame->top(), 525);
+    EXPECT_EQ(form->frame->height(), 705);
+    EXPECT_EQ(form->text->top(), 270);
+    EXPECT_EQ(form->ok->top(), 1410);
 }
 
 }  // namespace

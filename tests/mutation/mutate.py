@@ -133,13 +133,14 @@ class Program:
     def record(self):
         """Which tests reach which changes, and what all tests take."""
         record = WORK / (self.name + '.reached')
+        record.unlink(missing_ok=True)
         before = resource.getrusage(resource.RUSAGE_CHILDREN)
         code = self._run({'HX_MUTATION_RECORD': str(record)}, [], 600)
         after = resource.getrusage(resource.RUSAGE_CHILDREN)
         if code:
             sys.exit(f'{self.file} fails without any change')
         self.cpu = after.ru_utime + after.ru_stime - before.ru_utime - before.ru_stime
-        for line in record.read_text().splitlines():
+        for line in record.read_text().splitlines() if record.exists() else []:
             test, *numbers = line.split(' ')
             for number in numbers:
                 self.reached.setdefault(int(number), set()).add(test)
