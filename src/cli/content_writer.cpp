@@ -76,17 +76,25 @@ class Writer {
     void writeMembers(const std::vector<ContentMember>& members, const char* indent, bool withParent) {
         const char* separator = "\n";
         for (const ContentMember& member : members) {
-            stream_ << separator << indent << "{\"ID\": " << member.id.value_or(0);
-            if (withParent) stream_ << ", \"ParentID\": " << member.parent;
-            const std::string place = "member " + std::to_string(member.id.value_or(0));
-            for (const Cell& cell : member.cells) stream_ << ", " << fieldOf(cell, subRecipeKey, place);
-            if (member.child != 0) {
-                stream_ << ", \"ChildID\": " << member.child
-                        << ", \"subRecipe\": " << (member.childName ? textOf(*member.childName) : "null");
-            }
+            stream_ << separator << indent << "{";
+            writeMember(member, withParent);
             stream_ << "}";
             separator = ",\n";
         }
+    }
+
+    void writeMember(const ContentMember& member, bool withParent) {
+        const char* separator = "";
+        const auto write = [&](const std::string& text) {
+            stream_ << separator << text;
+            separator = ", ";
+        };
+        if (member.id) write("\"ID\": " + std::to_string(*member.id));
+        if (withParent) write("\"ParentID\": " + std::to_string(member.parent));
+        const std::string place = "member " + std::to_string(member.id.value_or(0));
+        for (const Cell& cell : member.cells) write(fieldOf(cell, subRecipeKey, place));
+        if (member.child != 0) write("\"ChildID\": " + std::to_string(member.child));
+        if (member.isSubRecipe()) write("\"subRecipe\": " + (member.childName ? textOf(*member.childName) : "null"));
     }
 
     std::ostream& stream_;

@@ -332,6 +332,17 @@ TEST_F(Exchange, ANewRecipeDoesNotComeToTheIdOfAMissingSubRecipe) {
     EXPECT_EQ(query(other, "SELECT ParentID, ChildID FROM TrcpRecipeMember"), "3|2");
 }
 
+TEST_F(Exchange, ASubRecipeIsTheOneOfItsNameWhateverItsId) {
+    const std::string other = makeOther("INSERT INTO TrcpRecipe (ID, Name) VALUES (1, 'Mine'), (2, 'Other')");
+    const std::string in = write("b.json",
+                                 "{\"format\": \"hxrecipe\", \"version\": 1, \"recipes\": [{\"ID\": 9, \"Name\": "
+                                 "\"R\", \"members\": [{\"subRecipe\": \"Mine\"}, {\"ChildID\": 0, \"subRecipe\": "
+                                 "\"MINE\"}, {\"ChildID\": 2, \"subRecipe\": \"mine\"}]}]}");
+    EXPECT_EQ(problem(contents(in)), "line 1: \"subRecipe\": there is no recipe \"Mine\"\n");
+    EXPECT_EQ(hxrecipe({"import", other.c_str(), in.c_str()}).problems, "");
+    EXPECT_EQ(query(other, "SELECT ParentID, ChildID FROM TrcpRecipeMember"), "9|1,9|1,9|1");
+}
+
 TEST_F(Exchange, FilesThatCannotBeReadAreNamed) {
     const std::string none = folder_.file("none");
     EXPECT_EQ(hxrecipe({"diff", file_.c_str(), none.c_str()}).status, 2);

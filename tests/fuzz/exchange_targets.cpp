@@ -2,6 +2,7 @@
 
 #include "cli/content.h"
 #include "cli/csv_variables.h"
+#include "cli/differences.h"
 #include "cli/plcopen_variables.h"
 #include "fuzz/targets.h"
 
@@ -33,7 +34,9 @@ void json(std::string_view bytes) {
     if (!accepted([&] { content = cli::parseContent(fileOf(bytes)); })) return;
     std::string once;
     if (!accepted([&] { once = exported(content); })) return;
-    require(exported(cli::parseContent(fileOf(once))) == once, "an export is read as it was written");
+    const cli::Content again = cli::parseContent(fileOf(once));
+    require(exported(again) == once, "an export is read as it was written");
+    require(cli::compare(content, again, {}).empty(), "an export leaves nothing out");
 }
 
 void csv(std::string_view bytes) {
