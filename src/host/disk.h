@@ -3,13 +3,15 @@
 #include <cstdint>
 #include <filesystem>
 #include <optional>
+#include <string>
 #include <string_view>
 #include <system_error>
+#include <vector>
 
 namespace hx::host {
 
 /// What writing a file carefully takes beyond the standard library; each operating system has an implementation of its
-/// own. Nothing is thrown: the codes say what went wrong.
+/// own. Nothing is thrown but std::bad_alloc: the codes say what went wrong.
 class Disk {
   public:
     using Path = std::filesystem::path;
@@ -35,6 +37,10 @@ class Disk {
     virtual std::error_code syncFolder(const Path& folder) const = 0;
     /// Removes a file that create() made in a program that has ended since. One that is in use stays.
     virtual void removeAbandoned(const Path& path) const noexcept = 0;
+
+    /// What a folder holds, by name; as much as can be read. The standard library's way through a folder ends the
+    /// program when memory is short.
+    [[nodiscard]] virtual std::vector<std::string> names(const Path& folder) const = 0;
 
     /// Locks a folder against others that lock it, in this process too, until it is closed or the process ends. Nothing
     /// while another holds it; Disk::none where folders cannot be locked.

@@ -36,14 +36,15 @@ std::string_view temporaryIn(std::string_view name, std::string_view target) {
 }
 
 void clearAbandoned(const fs::path& target, const Disk& disk) {
+    const fs::path folder = folderOf(target);
+    const std::string file = target.filename().string();
     std::error_code ignored;  // what cannot be cleared away is in nobody's way
-    for (fs::directory_iterator entry(folderOf(target), ignored), end; entry != end; entry.increment(ignored)) {
-        const std::string name = entry->path().filename().string();
-        const std::string_view temporary = temporaryIn(name, target.filename().string());
+    for (const std::string& name : disk.names(folder)) {
+        const std::string_view temporary = temporaryIn(name, file);
         if (temporary.empty()) continue;
-        const fs::path path = entry->path().parent_path() / temporary;
+        const fs::path path = folder / temporary;
         disk.removeAbandoned(path);
-        if (name.size() > temporary.size() && !fs::exists(path, ignored)) fs::remove(entry->path(), ignored);
+        if (name.size() > temporary.size() && !fs::exists(path, ignored)) fs::remove(folder / name, ignored);
     }
 }
 

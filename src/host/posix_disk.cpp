@@ -1,7 +1,9 @@
 #include "host/posix_disk.h"
 
 #include <cerrno>
+#include <dirent.h>
 #include <fcntl.h>
+#include <memory>
 #include <stdio.h>
 #include <sys/file.h>
 #include <sys/stat.h>
@@ -112,6 +114,15 @@ void PosixDisk::removeAbandoned(const Path& path) const noexcept {
     if (file < 0) return;
     if (lockMark(file, F_RDLCK)) unlink(path.c_str());
     ::close(file);
+}
+
+std::vector<std::string> PosixDisk::names(const Path& folder) const {
+    const auto close = [](DIR* opened) { closedir(opened); };
+    const std::unique_ptr<DIR, decltype(close)> opened(opendir(folder.c_str()), close);
+    std::vector<std::string> names;
+    if (!opened) return names;
+    while (const dirent* entry = readdir(opened.get())) names.emplace_back(entry->d_name);
+    return names;
 }
 
 std::optional<Disk::Handle> PosixDisk::tryLock(const Path& folder) const {

@@ -15,6 +15,7 @@ class PosixDisk : public Disk {
     std::error_code renameNew(const Path& from, const Path& to) const override;
     std::error_code syncFolder(const Path& folder) const override;
     void removeAbandoned(const Path& path) const noexcept override;
+    [[nodiscard]] std::vector<std::string> names(const Path& folder) const override;
     [[nodiscard]] std::optional<Handle> tryLock(const Path& folder) const override;
 };
 

@@ -43,6 +43,7 @@ class FailingDisk : public Disk {
         return code ? code : disk_.syncFolder(folder);
     }
     void removeAbandoned(const Path& path) const noexcept override { disk_.removeAbandoned(path); }
+    [[nodiscard]] std::vector<std::string> names(const Path& folder) const override { return disk_.names(folder); }
     [[nodiscard]] std::optional<Handle> tryLock(const Path& folder) const override { return disk_.tryLock(folder); }
 
   private:

@@ -9,6 +9,7 @@
 #include "host/failing_disk.h"
 #include "host/file_bytes.h"
 #include "host/files_folder.h"
+#include "support/memory_shortage.h"
 #include "support/processes.h"
 
 namespace hx::host {
@@ -43,6 +44,13 @@ TEST_F(FileReplacementTest, WritesSyncsAndRenamesBeforeItSyncsTheFolder) {
     replaceFile(path(), "new", disk);
     EXPECT_EQ(text(), "new");
     EXPECT_THAT(disk.steps(), ElementsAre("create", "write", "sync", "rename", "syncFolder"));
+    EXPECT_EQ(folder.entries(), 1U);
+}
+
+TEST_F(FileReplacementTest, HoldsTheOldFileOrTheNewOneWhereverMemoryRunsOut) {
+    given("old");
+    EXPECT_GT(support::refuseEachBlock([&] { replaceFile(path(), "new contents"); }), 5);
+    EXPECT_EQ(text(), "new contents");
     EXPECT_EQ(folder.entries(), 1U);
 }
 

@@ -5,6 +5,7 @@
 #include <sys/stat.h>
 
 #include "project_fixture.h"
+#include "support/memory_shortage.h"
 
 namespace hx::sqlite {
 
@@ -53,6 +54,17 @@ TEST_F(ProjectFile, KeepsTheRulesOfItsColumnsWhoeverWrites) {
     EXPECT_EQ(sqlite3_exec(file.handle(), "INSERT INTO TrcpRecipe(Name) VALUES(NULL)", nullptr, nullptr, nullptr),
               SQLITE_CONSTRAINT);
     EXPECT_EQ(file.query("SELECT * FROM TrcpRecipe"), "1|Cola|||||0||||||0.0||0|0|0|0");
+}
+
+TEST_F(ProjectFile, AppearsWholeOrNotAtAllWhereverMemoryRunsOut) {
+    const std::string path = folder_.file("new.hxs");
+    const auto make = [&] {
+        fs::remove(path);
+        createProject(path);
+    };
+    EXPECT_GT(support::refuseEachBlock(make), 5);
+    EXPECT_EQ(RawFile(path).query("PRAGMA integrity_check"), "ok");
+    EXPECT_EQ(filesInFolder(), "new.hxs plant.hxs ");
 }
 
 TEST_F(ProjectFile, NeverReplacesAFile) {

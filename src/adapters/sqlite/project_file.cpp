@@ -28,11 +28,12 @@ ProjectDraft::ProjectDraft(std::string path) : path_(std::move(path)) {
     requireFree(path_);
     file_.emplace(path_);
     temporary_ = file_->temporary().string();
+    journal_ = temporary_ + "-journal";
 }
 
 ProjectDraft::~ProjectDraft() {
     std::error_code ignored;
-    fs::remove(temporary_ + "-journal", ignored);
+    fs::remove(journal_, ignored);
 }
 
 void ProjectDraft::createTables(bool withIndexes) {

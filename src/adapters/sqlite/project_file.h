@@ -1,5 +1,6 @@
 #pragma once
 
+#include <filesystem>
 #include <optional>
 #include <string>
 
@@ -33,6 +34,7 @@ class ProjectDraft {
     std::string path_;
     std::optional<host::FileReplacement> file_;
     std::string temporary_;
+    std::filesystem::path journal_;  // made early: where memory is short, taking it away asks for none
 };
 
 }  // namespace hx::sqlite

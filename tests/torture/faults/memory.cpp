@@ -1,7 +1,6 @@
 /// The blocks of memory that a program asks for while its main function runs, one of which the plan may refuse.
 #include <cerrno>
 #include <cstddef>
-#include <dirent.h>
 #include <dlfcn.h>
 
 #include "torture/faults/plan.h"
@@ -19,8 +18,6 @@ using Ending = void (*)();
 
 Main programMain = nullptr;
 bool counting = false;
-// The C++ library itself ends a program that gets no memory between opening a folder and reading its first name.
-thread_local bool openingFolder = false;
 
 template <class Function>
 Function* next(const char* name) {
@@ -38,7 +35,7 @@ int countedMain(int argc, char** argv, char** environment) {
 }
 
 bool grants() {
-    if (!counting || openingFolder || hx::faults::plan().grants()) return true;
+    if (!counting || hx::faults::plan().grants()) return true;
     errno = ENOMEM;
     return false;
 }
@@ -50,23 +47,6 @@ extern "C" {
 void* malloc(size_t bytes) noexcept { return grants() ? __libc_malloc(bytes) : nullptr; }
 void* calloc(size_t count, size_t bytes) noexcept { return grants() ? __libc_calloc(count, bytes) : nullptr; }
 void* realloc(void* block, size_t bytes) noexcept { return grants() ? __libc_realloc(block, bytes) : nullptr; }
-
-DIR* opendir(const char* path) {
-    openingFolder = true;
-    return next<DIR*(const char*)>("opendir")(path);
-}
-DIR* fdopendir(int folder) {
-    openingFolder = true;
-    return next<DIR*(int)>("fdopendir")(folder);
-}
-dirent* readdir(DIR* folder) {
-    openingFolder = false;
-    return next<dirent*(DIR*)>("readdir")(folder);
-}
-dirent64* readdir64(DIR* folder) {
-    openingFolder = false;
-    return next<dirent64*(DIR*)>("readdir64")(folder);
-}
 
 int __libc_start_main(Main main, int argc, char** argv, Ending init, Ending fini, Ending loaderFini, void* stackEnd) {
     programMain = main;
