@@ -19,6 +19,11 @@ constexpr std::size_t page = 4096;
 // Without end, should anybody read all of it.
 const std::string endless = "WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n) SELECT ";
 
+// The members in a table that asks nothing of them.
+const std::string freeMembers =
+    "CREATE TABLE m AS SELECT * FROM TrcpRecipeMember; DROP TABLE TrcpRecipeMember; ALTER TABLE m RENAME TO "
+    "TrcpRecipeMember; ";
+
 struct Schema {
     std::string name, sql;
 };
@@ -46,8 +51,8 @@ const auto schemaRows = std::to_array<Schema>({
      "ParentID, "
      "VarRecipe, ChildID FROM TrcpRecipeMember; DROP TABLE TrcpRecipeMember; ALTER TABLE m RENAME TO TrcpRecipeMember"},
     {"long text", "UPDATE TrcpRecipe SET Comment = printf('%.*c', 30000000, 'x')"},
-    {"bytes",
-     "UPDATE TrcpRecipe SET Name = randomblob(20), Comment = x'00FF'; UPDATE TrcpRecipeMember SET VarRecipe = x'00'"},
+    {"bytes", freeMembers + "UPDATE TrcpRecipe SET Name = randomblob(20), Comment = x'00FF'; UPDATE TrcpRecipeMember "
+                            "SET VarRecipe = x'00'"},
     {"no text",
      "UPDATE TrcpRecipe SET Name = CAST(x'C328' AS TEXT) WHERE ID = 1; UPDATE ThxVariable SET Name = CAST(x'FF41' AS "
      "TEXT) WHERE rowid = 1"},
@@ -55,7 +60,7 @@ const auto schemaRows = std::to_array<Schema>({
      "UPDATE TrcpRecipe SET ID = 9223372036854775807 WHERE ID = 1; UPDATE TrcpRecipe SET ID = -5 WHERE "
      "ID = 2; UPDATE TrcpRecipeMember SET ParentID = 1e300, ChildID = 'x'"},
     {"infinite", "UPDATE TrcpRecipe SET StandardValue = 9e999, Options = -9e999"},
-    {"nothing", "UPDATE TrcpRecipeMember SET ParentID = NULL, ChildID = NULL, VarRecipe = NULL"},
+    {"nothing", freeMembers + "UPDATE TrcpRecipeMember SET ParentID = NULL, ChildID = NULL, VarRecipe = NULL"},
     {"circle of recipes", "UPDATE TrcpRecipeMember SET ChildID = ParentID"},
     {"no SQL", "PRAGMA writable_schema = ON; UPDATE sqlite_master SET sql = 'nothing' WHERE name = 'TrcpRecipe'"},
     {"another's pages",

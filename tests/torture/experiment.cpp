@@ -200,8 +200,8 @@ std::string Experiment::judgeState(const State& state, const Ending& ending, boo
 std::string Experiment::strange(const State& state) const {
     for (const std::string& file : state.files) {
         const auto has = [&](const State& each) { return each.files.contains(file); };
-        // A journal belongs to its project: the next change takes it. What lies in the home is the toolkit's.
-        const bool isOthers = file.ends_with(".hxs-journal") || file.starts_with("home/");
+        // A journal belongs to its project: the next change takes it.
+        const bool isOthers = file.ends_with(".hxs-journal") || isToolkits(file);
         if (!isOthers && !std::ranges::any_of(states_, has)) return file;
     }
     return {};
@@ -209,8 +209,7 @@ std::string Experiment::strange(const State& state) const {
 
 // The next start works, loses nothing more and clears away.
 std::string Experiment::judgeNext(const Place& place, const State& after) const {
-    Environment environment = place.environment(operation_, {});
-    environment.erase("HX_DRIVER_STEPS");
+    const Environment environment = place.environment(operation_, {});
     const bool madeBefore = operation_.once && after.project != "none";
     for (const Process::Command& command : operation_.next) {
         const Ending ending = Process::run(inFolder(command, place.work()), place.path(), environment);

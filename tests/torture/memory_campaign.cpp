@@ -15,11 +15,11 @@ constexpr int shortCount = 12, longCount = 5000;  // of each operation
 }  // namespace
 
 void tryMemory(const Extent& extent, Figures& figures) {
-    std::mt19937 chance(extent.seed);
     std::vector<Attempt> attempts;
     for (const Operation& operation : operations()) {
         if (!extent.wants("memory " + operation.name)) continue;
         if (operation.usesStudio()) continue;  // the toolkit itself does not survive it
+        std::mt19937 chance(extent.seed);      // an operation's own: the same whatever else is tried
         const auto experiment = std::make_shared<const Experiment>(operation);
         const long blocks = experiment->countBlocks();
         if (blocks <= 0) throw std::runtime_error(operation.name + " asks for no memory");

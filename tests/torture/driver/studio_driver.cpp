@@ -6,6 +6,7 @@
 #include <QMainWindow>
 #include <QMenu>
 #include <QMessageBox>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTimer>
 #include <cstdio>
@@ -33,8 +34,9 @@ void say(const char* what, const QString& text) {
 ///   macro=NAME  runs the macro of this name from the user's folder, to its end
 ///   do=NAME     triggers the main window's action of this name
 ///
-/// What a message box says is printed, and its default button pressed. A report that is shown is saved as HTML into the
-/// file HX_DRIVER_HTML.
+/// What a message box says is printed, and its default button pressed; a question is answered with yes. What a macro
+/// has failed with is printed, too; what it prints itself counts as that. A report that is shown is saved as HTML into
+/// the file HX_DRIVER_HTML.
 class Driver : public QObject {
   public:
     Driver() : steps_(qEnvironmentVariable("HX_DRIVER_STEPS").split(';', Qt::SkipEmptyParts)) {
@@ -50,12 +52,13 @@ class Driver : public QObject {
         auto* window = topLevel<QMainWindow>("mainWindow");
         if (window == nullptr || busy_ || runs(*window)) return;
         if (!opened(*window)) return;
-        acknowledge();
+        acknowledge(*window);
         if (steps_.isEmpty() || told_) return leave(*window);
         begin(steps_.takeFirst(), *window);
     }
 
     void answer(QMessageBox& box) {
+        if (auto* yes = box.button(QMessageBox::Yes)) return yes->click();
         say("message:", box.text());
         told_ = true;
         if (auto* button = box.defaultButton()) button->click();
@@ -83,14 +86,21 @@ class Driver : public QObject {
         return told_ || (label != nullptr && !label->text().isEmpty());
     }
 
-    [[nodiscard]] static bool runs(const QMainWindow& window) {
+    // It begins in an event of its own; the dock then shows how it goes.
+    [[nodiscard]] bool runs(const QMainWindow& window) const {
         const auto* stop = window.findChild<QAction*>(QStringLiteral("actionStopMacro"));
-        return stop != nullptr && stop->isEnabled();
+        return stop == nullptr || stop->isEnabled() || (awaited_ != nullptr && awaited_->isHidden());
     }
 
-    void acknowledge() {
-        if (doing_) say("step", QString::number(++done_));
+    void acknowledge(const QMainWindow& window) {
+        if (!doing_) return;
         doing_ = false;
+        const QString text = window.findChild<QPlainTextEdit*>(QStringLiteral("macroText"))->toPlainText().trimmed();
+        const bool failed = awaited_ != nullptr && (text.contains('\n') || !text.endsWith(QStringLiteral("──")));
+        awaited_ = nullptr;
+        told_ = told_ || failed;
+        if (failed) say("message:", text);
+        if (!told_) say("step", QString::number(++done_));
     }
 
     // An event of its own, for the same reason.
@@ -107,7 +117,14 @@ class Driver : public QObject {
         if (verb == QStringLiteral("macro")) action = macro(object, window);
         if (verb == QStringLiteral("do")) action = window.findChild<QAction*>(object);
         if (action == nullptr) return say("message: cannot do", verb + '=' + object);
+        if (verb == QStringLiteral("macro")) await(window);
         action->trigger();
+    }
+
+    void await(const QMainWindow& window) {
+        awaited_ = window.findChild<QLabel*>(QStringLiteral("macroStatus"));
+        awaited_->hide();
+        window.findChild<QPlainTextEdit*>(QStringLiteral("macroText"))->clear();
     }
 
     static QAction* macro(const QString& name, const QMainWindow& window) {
@@ -126,6 +143,7 @@ class Driver : public QObject {
 
     QTimer timer_;
     QStringList steps_;
+    QLabel* awaited_ = nullptr;  // appears when the macro has begun
     int done_ = 0;
     bool busy_ = false, doing_ = false, told_ = false, saving_ = false, chosen_ = false;
 };
