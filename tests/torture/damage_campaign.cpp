@@ -41,7 +41,7 @@ std::vector<Command> commands() {
 std::string judge(const Command& command, const Ending& ending, bool sound) {
     const bool compares = command[1] == "check" || command[1] == "diff";
     std::string problem;
-    if (ending.late || ending.signal != 0) problem = "broke down";
+    if (ending.brokeDown()) problem = "broke down";
     else if (ending.status != 0 && ending.problems.empty() && !compares) problem = "failed and said nothing";
     else if (command[1] == "check" && ending.status == 0 && !sound) problem = "found nothing in a damaged file";
     return problem.empty() ? problem : command[1] + ": " + problem + ": " + ending.words();

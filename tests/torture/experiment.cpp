@@ -213,7 +213,7 @@ std::string Experiment::judgeNext(const Place& place, const State& after) const 
     const bool madeBefore = operation_.once && after.project != "none";
     for (const Process::Command& command : operation_.next) {
         const Ending ending = Process::run(inFolder(command, place.work()), place.path(), environment);
-        if (ending.late || ending.signal != 0 || (ending.told() && !madeBefore)) {
+        if (ending.brokeDown() || (ending.told() && !madeBefore)) {
             return "the next start: " + ending.words();
         }
     }

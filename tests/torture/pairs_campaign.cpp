@@ -36,7 +36,7 @@ void make(const Command& arguments, const std::string& folder) {
 }
 
 std::string brokenDown(const Ending& ending) {
-    const bool broken = ending.late || ending.signal != 0 || (ending.status != 0 && ending.problems.empty());
+    const bool broken = ending.brokeDown() || (ending.status != 0 && ending.problems.empty());
     return broken ? ending.words() : std::string();
 }
 

@@ -19,6 +19,11 @@ struct Ending {
 
     /// Whether it told the user of a problem.
     [[nodiscard]] bool told() const { return status != 0 || output.find("message: ") != std::string::npos; }
+    /// Whether it was ended, or a sanitizer has found something in it.
+    [[nodiscard]] bool brokeDown() const {
+        return late || signal != 0 || problems.find("Sanitizer") != std::string::npos ||
+               problems.find("runtime error: ") != std::string::npos;
+    }
     /// What it said in one line, for a message.
     [[nodiscard]] std::string words() const;
 };
