@@ -34,6 +34,12 @@ struct Null {
 class Variant {
   public:
     Variant() noexcept = default;
+    // By assignment: when memory is short, the copy constructor of libstdc++ 12 destroys what it has not yet made.
+    Variant(const Variant& other) : Variant() { value_ = other.value_; }
+    Variant(Variant&&) noexcept = default;
+    Variant& operator=(const Variant&) = default;
+    Variant& operator=(Variant&&) noexcept = default;
+    ~Variant() = default;
     Variant(Null) noexcept : value_(Null{}) {}
     Variant(bool value) noexcept : value_(value) {}
     Variant(std::int16_t value) noexcept : value_(value) {}
