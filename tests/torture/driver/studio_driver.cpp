@@ -8,6 +8,7 @@
 #include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QStatusBar>
 #include <QTimer>
 #include <cstdio>
 
@@ -34,17 +35,34 @@ void say(const char* what, const QString& text) {
 ///   macro=NAME  runs the macro of this name from the user's folder, to its end
 ///   do=NAME     triggers the main window's action of this name
 ///
-/// What a message box says is printed, and its default button pressed; a question is answered with yes. What a macro
-/// has failed with is printed, too; what it prints itself counts as that. A report that is shown is saved as HTML into
-/// the file HX_DRIVER_HTML.
+/// What a message box says is printed, and its default button pressed; a question is answered with yes. A status line
+/// that names a settings file is printed like a message, and so is what a macro has failed with; what a macro prints
+/// itself counts as that. A report that is shown is saved as HTML into the file HX_DRIVER_HTML.
 class Driver : public QObject {
   public:
     Driver() : steps_(qEnvironmentVariable("HX_DRIVER_STEPS").split(';', Qt::SkipEmptyParts)) {
         timer_.callOnTimeout([this] { look(); });
         timer_.start(interval);
+        qApp->installEventFilter(this);
+    }
+
+  protected:
+    // The status line may say something before the first look.
+    bool eventFilter(QObject* object, QEvent* event) override {
+        auto* line = event->type() == QEvent::Polish ? qobject_cast<QStatusBar*>(object) : nullptr;
+        if (line != nullptr)
+            connect(line, &QStatusBar::messageChanged, this, [this](const QString& text) { read(text); });
+        return false;
     }
 
   private:
+    // What is no success names the file that it is about.
+    void read(const QString& text) {
+        if (!text.contains(QStringLiteral("studio.ini"))) return;
+        say("message:", text);
+        told_ = true;
+    }
+
     void look() {
         if (auto* box = topLevel<QMessageBox>("messageBox")) return answer(*box);
         if (auto* dialog = topLevel<QFileDialog>("reportFileDialog")) return choose(*dialog);
