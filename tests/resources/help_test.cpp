@@ -1,6 +1,8 @@
 #include "resources/help.h"
 
+#include <fstream>
 #include <gtest/gtest.h>
+#include <map>
 
 #include "adapters/headless/host.h"
 #include "support/memory_provider.h"
@@ -47,6 +49,36 @@ TEST_F(HelpTest, ClosesAllItsWindows) {
     help.CloseHelp();
     EXPECT_EQ(host.record.helpCloses, 1);
     EXPECT_TRUE(host.record.help.empty());
+}
+
+// The numbers that the help file of a language is made with.
+std::map<std::string, std::int32_t> numbersIn(const std::string& project) {
+    std::ifstream file(project);
+    std::map<std::string, std::int32_t> numbers;
+    for (std::string word, name; file >> word;) {
+        if (word == "#define" && file >> name) file >> numbers[name];
+    }
+    return numbers;
+}
+
+TEST(Help, KnowsTheTopicsByTheNumbersThatBothHelpFilesAreMadeWith) {
+    using namespace help_context;
+    const std::map<std::string, std::int32_t> known = {{"recipes", root},
+                                                       {"recipe", recipe},
+                                                       {"sub_recipes", subRecipes},
+                                                       {"recipe_dialog", recipeDialog},
+                                                       {"sub_recipe_dialog", subRecipeDialog},
+                                                       {"variable_selection", itemsDialog},
+                                                       {"options", configurationDialog},
+                                                       {"grid", grid},
+                                                       {"keys", keys},
+                                                       {"overview", overview},
+                                                       {"menus", menus},
+                                                       {"report", report},
+                                                       {"settings", settings},
+                                                       {"messages", messages}};
+    EXPECT_EQ(known, numbersIn(HX_HELP_FOLDER "/de/Rezeptsystem.hhp"));
+    EXPECT_EQ(known, numbersIn(HX_HELP_FOLDER "/en/Rezeptsystem.hhp"));
 }
 
 TEST(Help, JoinsWithTheSeparatorOfTheHost) {

@@ -101,10 +101,11 @@ TEST(InitItems, ClearsAllLevels) {
 
 TEST(InitItems, WorksByName) {
     const auto items = std::make_shared<CInitItems>();
-    const Variant arguments[] = {Variant("Me"), Variant(1.5), Variant(std::int16_t{0})};
+    const Variant arguments[] = {Variant("Me"), Variant(1.5), Variant(std::int16_t{3})};
     const ObjectRef item = items->get("add", arguments).asObject();
     EXPECT_EQ(item->get("Name"), Variant("Me"));
     EXPECT_EQ(item->get("VAL"), Variant(1.5));
+    EXPECT_EQ(item->get("Index"), Variant(std::int16_t{3}));
     item->set("val", Variant("x"));
     item->set("Index", Variant(4));
     EXPECT_EQ(items->Item(std::string_view("me"))->val, Variant("x"));
@@ -167,6 +168,13 @@ TEST(InitItems, ThatOthersHoldStayWholeWhenThoseAboveGo) {
     EXPECT_EQ(list->Count(), 1);
 }
 
+TEST(InitItems, OfAListThatOthersHoldStayWholeWhenItsEntryGoes) {
+    auto top = chain(2);
+    const auto list = std::static_pointer_cast<CInitItems>(top->itms->Item(std::string_view("a"))->itms->share());
+    top.reset();
+    EXPECT_EQ(list->Count(), 1);
+}
+
 TEST(InitItems, AreClearedAlsoBelowEntriesThatOthersHold) {
     const auto top = chain(3);
     const auto held = std::static_pointer_cast<CInitItem>(
@@ -195,7 +203,13 @@ TEST(InitItems, HoldNoObjects) {
     EXPECT_EQ(errorOf([&] { items.Add("a", Variant(object), 0); }), automation::errTypeMismatch);
     EXPECT_EQ(items.Count(), 0);
     CInitItem& item = items.Add("a", Variant(1), 0);
-    EXPECT_EQ(errorOf([&] { item.set("val", Variant(object)); }), automation::errTypeMismatch);
+    try {
+        item.set("val", Variant(object));
+        FAIL() << "an object was stored";
+    } catch (const automation::Error& error) {
+        EXPECT_EQ(error.number(), automation::errTypeMismatch);
+        EXPECT_EQ(error.description(), "Type mismatch: a settings entry holds no object");
+    }
     EXPECT_EQ(item.val, Variant(1));
 }
 

@@ -71,6 +71,11 @@ TEST_F(ObjectPathTest, AssignsTextAsText) {
     EXPECT_EQ(window->posLeft, -37.5);
     set("Me.PosLeft", Variant("-12.5"));
     EXPECT_EQ(window->posLeft, -12.5);
+    set("Me.Small", Variant("-2,0"));
+    set("Me.Large", Variant("-40000,0"));
+    EXPECT_EQ(window->small, -2);
+    EXPECT_EQ(window->large, -40000);
+    EXPECT_EQ(errorOf("Me.Nothing", Variant("-5")), automation::errUnknownName);
 }
 
 TEST_F(ObjectPathTest, ReadsPropertiesAsTheyAre) {
@@ -97,6 +102,16 @@ TEST_F(ObjectPathTest, PassesErrorsOnWithoutAnArgument) {
     EXPECT_EQ(errorOf("Me.Caption.Size", Variant(1.0)), automation::errTypeMismatch);
     EXPECT_EQ(errorOf("Me", Variant(1.0)), automation::errUnknownName);
     EXPECT_THROW((void)get("Me.Nothing"), automation::Error);
+}
+
+TEST_F(ObjectPathTest, SaysWhichMemberOnTheWayHoldsNoObjectNow) {
+    try {
+        set("tdbRM.DataSource.Source", Variant("x"));
+        FAIL() << "there is no recordset";
+    } catch (const automation::Error& error) {
+        EXPECT_EQ(error.number(), automation::errTypeMismatch);
+        EXPECT_EQ(error.description(), "DataSource is no object now");
+    }
 }
 
 TEST_F(ObjectPathTest, EndsSilentlyAfterAMemberWithAnArgument) {

@@ -29,17 +29,26 @@ class SettingsWindow : public forms::Form {
     std::shared_ptr<forms::CheckBox> chkA;
     std::vector<std::shared_ptr<forms::OptionButton>> opt;
     double posLeft = 15, posTop = 30;
+    std::int16_t small = 0;
+    std::int32_t large = 0;
 
     [[nodiscard]] double PosLeft() const { return posLeft; }
     void setPosLeft(double twips) { posLeft = twips; }
     [[nodiscard]] double PosTop() const { return posTop; }
     void setPosTop(double twips) { posTop = twips; }
 
+    [[nodiscard]] std::int16_t Small() const { return small; }
+    void setSmall(std::int16_t number) { small = number; }
+    [[nodiscard]] std::int32_t Large() const { return large; }
+    void setLarge(std::int32_t number) { large = number; }
+
     [[nodiscard]] const automation::MemberTable& members() const override {
         using namespace automation;
         static constexpr Member rows[] = {
             property<&SettingsWindow::PosLeft, &SettingsWindow::setPosLeft>("PosLeft", "Left edge"),
             property<&SettingsWindow::PosTop, &SettingsWindow::setPosTop>("PosTop", "Top edge"),
+            property<&SettingsWindow::Small, &SettingsWindow::setSmall>("Small", "A number of 16 bits"),
+            property<&SettingsWindow::Large, &SettingsWindow::setLarge>("Large", "A number of 32 bits"),
         };
         static const MemberTable table{"SettingsWindow", rows, &formMembers()};
         return table;
