@@ -51,7 +51,7 @@ std::string Bin::rowName() const {
         const std::ptrdiff_t row =
             window_.memberRecordset().indexOf(selected.empty() ? grid.bookmark() : selected.front());
         const auto name = automation::Variant(window_.subRecipeView() ? member::childId : member::varRecipe);
-        return row < 0 ? std::string() : grid.text(static_cast<std::int32_t>(row), grid.columnNumber(name));
+        return grid.text(static_cast<std::int32_t>(row), grid.columnNumber(name));
     } catch (const automation::Error&) {
         return {};  // nobody has asked for it: the grid tells what it cannot read
     }

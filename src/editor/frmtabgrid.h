@@ -120,7 +120,7 @@ class frmtabgrid : public forms::Form, public recipe::RecipeWindow, public dialo
     [[nodiscard]] ado::Recordset& recipeRecordset() override;
     [[nodiscard]] forms::Grid& memberGrid() override { return *tdbRM; }
     [[nodiscard]] ado::Recordset& memberRecordset() override;
-    [[nodiscard]] bool saveFirst() const override { return saveFirst_; }
+    [[nodiscard]] bool saveFirst() const override { return true; }
     void setSubRecipeView(bool subRecipes) override { subRecipeView_ = subRecipes; }
     [[nodiscard]] bool subRecipeView() const noexcept { return subRecipeView_; }
 
@@ -143,7 +143,7 @@ class frmtabgrid : public forms::Form, public recipe::RecipeWindow, public dialo
     std::shared_ptr<recipe::DataEnvironment> data_;
     std::string path_, secondPath_, nodeKey_, shownName_;
     std::shared_ptr<settings::CInit> inits_;
-    bool subRecipeView_ = false, saveFirst_ = true;
+    bool subRecipeView_ = false;
     // After the controls, whose events they hear.
     std::unique_ptr<Commands> commands_;
     std::unique_ptr<Menus> menus_;

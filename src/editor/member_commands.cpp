@@ -58,10 +58,9 @@ bool Commands::saysYes(const std::string& question) {
 // On a clone: the current row stays.
 std::vector<std::string> Commands::shownVariables() const {
     ado::Recordset& members = window_.memberRecordset();
-    std::vector<std::string> names;
     const auto shown = members.clone();
-    if (shown->recordCount() == 0) return names;
-    names.reserve(static_cast<std::size_t>(shown->recordCount()));
+    if (shown->recordCount() == 0) return {};
+    std::vector<std::string> names;
     shown->getRows(ado::adGetRowsRest, std::array{member::varRecipe},
                    [&](std::span<Variant> values) { names.push_back(automation::toText(values[0])); });
     return names;
@@ -131,27 +130,27 @@ void Commands::newSubRecipe() {
     window_.finishOrDropEdit();
     const DatabaseWork work(window_.dataEnvironment());
     const ado::Bookmark row = window_.tdbRM->bookmark();
-    bool added = false, refused = false;
+    bool read = false;
     const bool done = guard(addIn_, procedure, [&] {
         showingConflicts(recipe::KeyId(window_.nodeKey()), {}, [&] {
             const Dialog dialog(dialogOpen_);
-            added = recipe::AddSubRecipeMember(window_, tellingIn(procedure, refused));
+            if (recipe::AddSubRecipeMember(window_, tellingIn(procedure, read))) read = true;
         });
     });
     // After an error too: the recordset then stands on its last row.
-    if (added || refused || !done) window_.refreshMembersAt(row);
+    if (read || !done) window_.refreshMembersAt(row);
 }
 
 void Commands::editSubRecipe() {
     window_.finishOrDropEdit();
     const DatabaseWork work(window_.dataEnvironment());
-    bool edited = false, refused = false;
+    bool read = false;
     const bool done = guard(addIn_, procedure, [&] {
         const Dialog dialog(dialogOpen_);
-        edited = recipe::EditSubRecipeMember(window_.memberRecordset(), window_, tellingIn(procedure, refused));
+        if (recipe::EditSubRecipeMember(window_.memberRecordset(), window_, tellingIn(procedure, read))) read = true;
     });
     // After an error too: another may have changed the row.
-    if (edited || refused || !done) window_.refreshMembers();
+    if (read || !done) window_.refreshMembers();
 }
 
 // A bookmark of a row whose ID is its key says it already; else the row is asked.
@@ -164,9 +163,12 @@ std::vector<std::int32_t> Commands::selectedMembers() const {
     const ado::Field& id = rows->field(member::id);
     std::vector<std::int32_t> ids;
     for (const ado::Bookmark& row : window_.tdbRM->selectedRows().bookmarks()) {
-        if (!known && rows->indexOf(row) < 0) continue;
-        if (!known) rows->setBookmark(row);
-        ids.push_back(known ? static_cast<std::int32_t>(row.key()) : automation::toInt32(id.value()));
+        if (known) {
+            ids.push_back(static_cast<std::int32_t>(row.key()));
+        } else if (rows->indexOf(row) >= 0) {
+            rows->setBookmark(row);
+            ids.push_back(automation::toInt32(id.value()));
+        }
     }
     return ids;
 }
@@ -179,13 +181,12 @@ ado::Bookmark Commands::rowLeftByDeletion() const {
     const std::int32_t current = window_.tdbRM->row();
     if (current < 0) return {};
     const auto from = static_cast<std::size_t>(current);
-    for (std::size_t row = from; row < count; ++row) {
-        if (const ado::Bookmark at = members.bookmarkAt(row); !selected.contains(at)) return at;
-    }
-    for (std::size_t row = from; row > 0; --row) {
-        if (const ado::Bookmark at = members.bookmarkAt(row - 1); !selected.contains(at)) return at;
-    }
-    return {};
+    const auto stays = [&](std::size_t row) { return !selected.contains(members.bookmarkAt(row)); };
+    const auto after = std::views::iota(from, count);
+    if (const auto row = std::ranges::find_if(after, stays); row != after.end()) return members.bookmarkAt(*row);
+    const auto earlier = std::views::iota(std::size_t{0}, from) | std::views::reverse;
+    const auto row = std::ranges::find_if(earlier, stays);
+    return row == earlier.end() ? ado::Bookmark() : members.bookmarkAt(*row);
 }
 
 void Commands::deleteMembers() {

@@ -1,5 +1,6 @@
 #include "editor/member_grid_keys.h"
 
+#include <algorithm>
 #include <array>
 #include <span>
 
@@ -81,11 +82,9 @@ MemberGridKeys::MemberGridKeys(frmtabgrid& window, MSurfingGrid& members, Menus&
 }
 
 void MemberGridKeys::run(std::span<const Row> rows, forms::KeyEvent& event) {
-    for (const Row& row : rows) {
-        if (row.code != event.code || row.shift != event.shift) continue;
-        guard(addIn_, "tdbRM_KeyDown", [&] { (this->*row.action)(event); });
-        return;
-    }
+    const auto pressed = [&](const Row& row) { return row.code == event.code && row.shift == event.shift; };
+    const auto row = std::ranges::find_if(rows, pressed);
+    if (row != rows.end()) guard(addIn_, "tdbRM_KeyDown", [&] { (this->*row->action)(event); });
 }
 
 void MemberGridKeys::keyPress(forms::KeyPress& event) {

@@ -44,9 +44,7 @@ constexpr auto rules = std::to_array<MenuRule>({
 std::span<const MenuRule> menuRules() noexcept { return rules; }
 
 bool enables(const MenuState& state, std::string_view tool) {
-    const auto decides = [&](const MenuRule& rule) { return rule.tool == tool && rule.sets != Sets::visible; };
-    const auto rule = std::ranges::find_if(rules, decides);
-    return rule == rules.end() || rule->value(state);
+    return std::ranges::find(rules, tool, &MenuRule::tool)->value(state);
 }
 
 }  // namespace hx::editor

@@ -26,7 +26,7 @@ struct MenuRule {
 };
 [[nodiscard]] std::span<const MenuRule> menuRules() noexcept;
 
-/// Whether the rules enable the tool; a tool without a rule is always enabled.
+/// Whether its rule enables the tool; it has one.
 [[nodiscard]] bool enables(const MenuState& state, std::string_view tool);
 
 }  // namespace hx::editor

@@ -61,7 +61,6 @@ void MSurfingGrid::build(const std::shared_ptr<ado::Recordset>& members) {
     grid_.font().setValues(window_.font().values());
     arranged_ = false;
     grid_.clearColumns();
-    shownKey_.clear();
     for (const ado::Column& field : members->columns()) addColumn(field.name);
     for (const MemberColumn& column : memberColumns) {
         if (forms::Column* shown = grid_.findColumn(column.field)) {
@@ -102,7 +101,6 @@ void MSurfingGrid::applyColumnOrder() {
 }
 
 void MSurfingGrid::saveColumnOrder() {
-    if (grid_.columns().empty()) return;
     window_.inits().WriteAValueToCInits(std::string(columnOrderEntry), Variant(columnOrderText(grid_)));
 }
 
@@ -110,21 +108,22 @@ void MSurfingGrid::refreshSubRecipeNames() {
     if (forms::Column* child = grid_.findColumn(member::childId)) child->valueItems().clear();
 }
 
+bool MSurfingGrid::mayRead() { return window_.dataEnvironment() && !window_.nodeKey().empty() && finishEdit(); }
+
 void MSurfingGrid::refreshMembers() {
-    if (!window_.dataEnvironment() || window_.nodeKey().empty() || !finishEdit()) return;
-    const bool again = shownKey_ == window_.nodeKey() && window_.memberRecordset().state() == ado::adStateOpen;
+    if (!mayRead()) return;
+    const bool again = shownKey_ == window_.nodeKey();
     const ado::Bookmark current = again ? grid_.bookmark() : ado::Bookmark();
     const std::vector<ado::Bookmark> selected = again ? grid_.selectedRows().bookmarks() : std::vector<ado::Bookmark>();
     readMembers(current, selected);
 }
 
 void MSurfingGrid::refreshMembersAt(const ado::Bookmark& row) {
-    if (window_.dataEnvironment() && finishEdit()) readMembers(row, {});
+    if (mayRead()) readMembers(row, {});
 }
 
 void MSurfingGrid::readMembers(const ado::Bookmark& current, const std::vector<ado::Bookmark>& selected) {
     const forms::Raised reading(reading_);
-    shownKey_.clear();
     recipe::RefreshMemberView(window_, addIn_.texts());
     shownKey_ = window_.nodeKey();
     standOn(current);
@@ -132,7 +131,6 @@ void MSurfingGrid::readMembers(const ado::Bookmark& current, const std::vector<a
 }
 
 void MSurfingGrid::clear() {
-    shownKey_.clear();
     if (const auto shown = members()) recipe::CloseRecordset(*shown, false);
     grid_.reload();
 }

@@ -27,7 +27,7 @@ class MSurfingGrid {
     /// Whether the grid has its stored layout: until it has been built to the end, what it shows is not the user's.
     [[nodiscard]] bool arranged() const noexcept { return arranged_; }
     void applyColumnOrder();
-    /// Into the settings; a grid that has no columns yet leaves them as they are.
+    /// Into the settings.
     void saveColumnOrder();
     void refreshSubRecipeNames();
 
@@ -58,6 +58,7 @@ class MSurfingGrid {
     std::optional<automation::Error> writeOrDrop();
     [[nodiscard]] automation::Error lossOf(const std::string& entry, const automation::Error& reason) const;
     [[nodiscard]] std::string entry() const noexcept;
+    [[nodiscard]] bool mayRead();
     void readMembers(const ado::Bookmark& current, const std::vector<ado::Bookmark>& selected);
     void addColumn(const std::string& field);
     void standOn(const ado::Bookmark& row);

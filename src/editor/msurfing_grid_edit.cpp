@@ -2,6 +2,7 @@
 #include "editor/frmtabgrid.h"
 #include "editor/guard.h"
 #include "editor/msurfing_grid.h"
+#include "forms/raised.h"
 #include "recipe/conflict.h"
 #include "recipe/node_key.h"
 #include "recipe/schema.h"
@@ -59,27 +60,18 @@ std::optional<Error> MSurfingGrid::writeOrDrop() {
     grid_.settle();
     const std::string_view type = recipe::KeyPrefix(window_.nodeKey());
     if (type != recipe::prefixRecipe && type != recipe::prefixSubRecipes) return {};
+    clearErrors();
     std::optional<Error> lost;
     // The view could not even hand the text over.
     if (grid_.editorOpen()) lost = lossOf(grid_.editorText(), Error(automation::errFail, std::string()));
-    const auto write = [&] {
-        const std::string typed = entry();
-        try {
-            clearErrors();
-            grid_.update();
-        } catch (const Error& error) {
-            lost = lossOf(typed, error);
-            dropEdit();  // the selection is about to change: there is nowhere left to correct the row
-            clearErrors();
-        }
-    };
-    if (grid_.dataChanged()) {
-        grid_.setDataChanged(false);
-        write();
-    }
-    if (grid_.addNewMode()) {
-        write();
-        grid_.setAddNewMode(false);
+    if (!holdsEdit()) return lost;
+    const std::string typed = entry();
+    try {
+        grid_.update();
+    } catch (const Error& error) {
+        lost = lossOf(typed, error);
+        dropEdit();  // the selection is about to change: there is nowhere left to correct the row
+        clearErrors();
     }
     return lost;
 }
@@ -103,9 +95,11 @@ bool MSurfingGrid::finishRow() {
         return true;
     } catch (const Error& error) {
         const Busy busy(addIn_.busy());
-        gridShowsError_ = error.number() != forms::gridErrRowRefused && error.number() != forms::gridErrStaleRow;
+        std::optional<forms::Raised> byTheGrid;
+        if (error.number() != forms::gridErrRowRefused && error.number() != forms::gridErrStaleRow) {
+            byTheGrid.emplace(gridShowsError_);
+        }
         grid_.reportError(error);
-        gridShowsError_ = false;
         return false;
     }
 }
@@ -113,6 +107,7 @@ bool MSurfingGrid::finishRow() {
 void MSurfingGrid::reportedError(forms::GridError& error) {
     if (gridShowsError_) return;
     guard(addIn_, "tdbRM_Error", [&] {
+        const Busy busy(addIn_.busy());
         const std::optional<Error> told = conflict();
         if (error.code == forms::gridErrStaleRow) resetStaleRows(error.code);
         window_.screen().beep();
@@ -131,17 +126,12 @@ void MSurfingGrid::viewFailed(forms::GridError& error) {
 
 void MSurfingGrid::resetStaleRows(std::int32_t code) {
     const std::string text = addIn_.texts().GetResource(staleRowText);
-    {
-        const Busy busy(addIn_.busy());
-        window_.screen().messageBox(automation::replaceAll(text, "<DataError>", std::to_string(code)),
-                                    forms::message::ok, forms::message::defaultTitle);
-    }
+    window_.screen().messageBox(automation::replaceAll(text, "<DataError>", std::to_string(code)), forms::message::ok,
+                                forms::message::defaultTitle);
     dropEdit();
     const auto recordset = members();
     if (recordset == nullptr || recordset->state() != ado::adStateOpen) return;
-    recordset->resync(ado::adAffectAll);
-    recordset->requery();  // a row that is gone would stay in the list
-    if (recordset->recordCount() != 0) recordset->moveFirst();
+    recordset->requery();  // and stands on the first row; a row that is gone would stay in the list
     grid_.reload();
 }
 
@@ -160,13 +150,11 @@ void MSurfingGrid::showRefusals(std::int32_t code) {
 std::optional<Error> MSurfingGrid::conflict() const {
     const auto recordset = members();
     if (recordset == nullptr || recordset->editMode() != ado::adEditInProgress) return {};
-    const recipe::ColumnNames names{[this](const ado::Field& field) {
-                                        const forms::Column* column = grid_.findColumn(field.name());
-                                        return column == nullptr ? field.name() : column->caption();
-                                    },
-                                    [this](const ado::Field&, const Variant& value) {
-                                        return recipe::valueInWords(value, addIn_.texts().wording());
-                                    }};
+    const recipe::ColumnNames names{
+        [this](const ado::Field& field) { return grid_.column(Variant(field.name())).caption(); },
+        [this](const ado::Field&, const Variant& value) {
+            return recipe::valueInWords(value, addIn_.texts().wording());
+        }};
     for (const Error& refused : window_.dataEnvironment()->CnnRecipes->errors()) {
         if (recipe::isConflict(refused)) return recipe::conflictOf(refused, *recordset, addIn_.texts(), names);
     }
@@ -176,20 +164,15 @@ std::optional<Error> MSurfingGrid::conflict() const {
 // The row then shows what is stored now.
 void MSurfingGrid::showConflict(const Error& conflict) {
     dropEdit();
-    const Busy busy(addIn_.busy());
     showError(window_.screen(), conflict, "tdbRM_Error");
-    if (conflict.number() == ado::dbErrRowChanged) grid_.refetchRow();
+    grid_.refetchRow();
 }
 
 // The row stays as the user typed it, to be corrected.
-void MSurfingGrid::showRefusal(const Error& error) {
-    const Busy busy(addIn_.busy());
-    showError(window_.screen(), error, "tdbRM_Error");
-}
+void MSurfingGrid::showRefusal(const Error& error) { showError(window_.screen(), error, "tdbRM_Error"); }
 
 void MSurfingGrid::refuseDuplicate() {
     dropEdit();
-    const Busy busy(addIn_.busy());
     window_.screen().messageBox("Doppelter Name", forms::message::ok, forms::message::defaultTitle);
     grid_.refetchRow();
 }

@@ -66,7 +66,6 @@ void Commands::editorOptions() {
 }
 
 void Commands::report() {
-    const auto keep = window_.share();  // the report may let the user refresh the view
     report_ = sibling(reportId);
     if (report_ == nullptr) return;
     const std::array<Variant, 3> arguments = {Variant(reportSubject), Variant(window_.path()),

@@ -127,7 +127,7 @@ void Commands::recipeDeleted(std::int32_t id) {
     // The node that the explorer has chosen instead is shown, or the root where it has chosen none of ours.
     std::string key = explorer != nullptr ? explorer->selectedNode().key : std::string();
     if (recipe::KeyHelpContext(key) == 0) key = recipe::rootKey;
-    if (window_.tdbRM->addNewMode()) window_.tdbRM->setAddNewMode(false);  // it would belong to the deleted recipe
+    window_.tdbRM->setAddNewMode(false);  // a new row; it would belong to the deleted recipe
     window_.showNode(key);
 }
 

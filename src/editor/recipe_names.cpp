@@ -9,7 +9,7 @@ namespace hx::editor {
 namespace schema = recipe::schema;
 
 std::optional<std::string> nameOfRecipe(const std::shared_ptr<ado::Connection>& connection, std::int32_t id) {
-    if (connection == nullptr || connection->state() != ado::adStateOpen) return {};
+    if (connection->state() != ado::adStateOpen) return {};
     ado::Recordset found;
     found.open("SELECT * FROM " + std::string(schema::recipeTable) + " WHERE ID = " + std::to_string(id), connection);
     if (found.eof()) return {};

@@ -27,7 +27,6 @@ bool tryToAdd(ado::Recordset& recipes, const std::string& name) {
         recipes.addNew(std::to_array<std::pair<std::string, Variant>>({{std::string(schema::recipe::name), name}}));
         return true;
     } catch (const Error& error) {
-        recipes.cancelUpdate();
         if (error.number() != ado::dbErrDuplicate) throw;  // no other name would be taken either
         return false;
     }
@@ -38,7 +37,7 @@ bool tryToAdd(ado::Recordset& recipes, const std::string& name) {
 void deleteAllMembers(std::int32_t recipe, const std::shared_ptr<ado::Connection>& connection) {
     ado::Recordset command;
     command.open("DELETE * FROM " + std::string(schema::memberTable) + " WHERE ParentID = " + std::to_string(recipe),
-                 connection, ado::adOpenKeyset, ado::adLockOptimistic, ado::adCmdText);
+                 connection);
 }
 
 /// Runs the steps in one transaction: a crash half way leaves the old state. When a step fails, what the steps before
@@ -57,8 +56,7 @@ void deleting(ado::Connection& connection, Steps&& steps) {
 
 // Only the rows between the first and the last of them: however many others the recipe has, little moves when one goes.
 std::string between(const std::string& query, const std::vector<std::int32_t>& ids) {
-    return query + " And ID >= " + std::to_string(ids.front()) + " And ID <= " + std::to_string(ids.back()) +
-           " ORDER BY ID";
+    return query + " And ID >= " + std::to_string(ids.front()) + " And ID <= " + std::to_string(ids.back());
 }
 
 /// The members of one recipe, made from names.
@@ -106,7 +104,6 @@ void deleteRecipeWithMembers(ado::Recordset& recipes, std::int32_t id, bool& del
     try {
         deleting(*connection, [&] {
             recipes.remove();
-            recipes.update();
             recipeGone = true;
             deleteAllMembers(id, connection);
         });
@@ -119,31 +116,27 @@ void deleteRecipeWithMembers(ado::Recordset& recipes, std::int32_t id, bool& del
 
 void deleteMembersOf(const std::string& nodeKey, std::vector<std::int32_t> ids,
                      const std::shared_ptr<ado::Connection>& connection) {
-    if (ids.empty()) return;
     std::ranges::sort(ids);
     deleting(*connection, [&] {
         ado::Recordset members;
-        members.open(between(recipe::memberQuery(nodeKey), ids), connection, ado::adOpenKeyset, ado::adLockOptimistic,
-                     ado::adCmdText);
+        members.open(between(recipe::memberQuery(nodeKey), ids), connection);
         for (const std::int32_t id : ids) {
             if (members.recordCount() == 0) return;
             members.moveFirst();
             members.find("ID=" + std::to_string(id));
             if (members.eof()) continue;
             members.remove();
-            members.update();
         }
     });
 }
 
 Members membersOf(std::int32_t recipe, const std::shared_ptr<ado::Connection>& connection) {
-    Members members;
     ado::Recordset rows;
     rows.open("SELECT * FROM " + std::string(schema::memberTable) + " WHERE ParentID = " + std::to_string(recipe) +
                   " ORDER BY ID",
               connection);
-    if (rows.eof()) return members;
-    members.reserve(static_cast<std::size_t>(rows.recordCount()));
+    if (rows.eof()) return {};
+    Members members;
     const auto fields = {schema::member::id, schema::member::childId, schema::member::varRecipe};
     rows.getRows(ado::adGetRowsRest, fields, [&](std::span<Variant> values) {
         members.push_back(
@@ -160,13 +153,11 @@ std::optional<Members> replaceMembers(std::int32_t recipe, const Members& known,
     recipe::requireRecipe(connection, recipe, texts);
     if (Members now = membersOf(recipe, connection); now != known) return now;
     deleteAllMembers(recipe, connection);
-    if (!variables.empty()) {
-        ado::Recordset members;
-        members.open(std::string(schema::memberTable), connection, ado::adOpenKeyset, ado::adLockOptimistic,
-                     ado::adCmdTableDirect);
-        NewVariables rows(variables, recipe);
-        members.addNew(NewVariables::fields(), rows);
-    }
+    ado::Recordset members;
+    members.open(std::string(schema::memberTable), connection, ado::adOpenKeyset, ado::adLockOptimistic,
+                 ado::adCmdTableDirect);
+    NewVariables rows(variables, recipe);
+    members.addNew(NewVariables::fields(), rows);
     transaction.commit();
     return std::nullopt;
 }

@@ -23,8 +23,8 @@ std::string addRecipe(ado::Recordset& recipes);
 /// the database fails, what was deleted before stays deleted. `deleted` becomes true when the recipe is gone for good.
 void deleteRecipeWithMembers(ado::Recordset& recipes, std::int32_t id, bool& deleted);
 
-/// Deletes those of the node's members. All in one transaction; when the database fails, what was deleted before stays
-/// deleted. A member that is gone already is passed over.
+/// Deletes those of the node's members, one at least. All in one transaction; when the database fails, what was deleted
+/// before stays deleted. A member that is gone already is passed over.
 void deleteMembersOf(const std::string& nodeKey, std::vector<std::int32_t> members,
                      const std::shared_ptr<ado::Connection>& connection);
 

@@ -114,6 +114,22 @@ TEST_F(CellButton, ReportsASelectionThatFails) {
     EXPECT_FALSE(grid().dataChanged());
 }
 
+TEST_F(CellButton, ReportsASelectionThatFailsAtTheSpaceKeyToo) {
+    host.script.onItem = [](const std::string&) -> std::string { throw automation::Error(5, "No variable list"); };
+    grid().setCol(columnNumber("VarRecipe"));
+    forms::KeyPress space{forms::key::space};
+    grid().keyPress(space);
+    EXPECT_EQ(messages(), (Texts{"5: No variable list"}));
+    EXPECT_EQ(host.record.messages[0].title, "tdbRM_KeyPress");
+}
+
+TEST_F(CellButton, ServesANewRow) {
+    grid().setAddNewMode(true);
+    choose("Pump.State");
+    press(-1);
+    EXPECT_EQ(grid().text(-1, columnNumber("VarRecipe")), "Pump.State");
+}
+
 TEST_F(CellButton, AsksNothingWithoutARowOrWhereNothingMayBeEdited) {
     show("RCPE");
     grid().setCol(columnNumber("VarRecipe"));

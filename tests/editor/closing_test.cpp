@@ -173,8 +173,9 @@ TEST_F(Closing, AGridThatWasNeverBoundKeepsItsStoredOrder) {
 
 TEST_F(Closing, SavesNoNumberThatCouldNotBeAppliedAgain) {
     window->setWindowState(forms::WindowState::normal);
-    window->move(0, 0, 57600, 30000);
+    window->move(-40000, 0, 57600, 30000);
     window->unload(forms::UnloadMode::byCode);
+    EXPECT_EQ(stored("Me.PosLeft"), "-32768");
     EXPECT_EQ(stored("Me.Width"), "32767");
     EXPECT_EQ(stored("Me.Height"), "30000");
     make();
@@ -201,6 +202,42 @@ TEST_F(Closing, ByTheCloseBoxShowsAnEmbeddingEditFirst) {
     });
     window->closeByFrame();
     EXPECT_EQ(visible, (std::vector<bool>{true, false}));
+}
+
+TEST_F(Closing, ByTheCloseBoxStoresBeforeItShowsAndTellsWhatCannotBeShown) {
+    host.windows.setEmbeddingClass("MDIEdit");
+    window->hide();
+    std::vector<bool> whenStored;
+    const auto view = grid().changed.subscribe([&](std::string_view property) {
+        if (property == "Settle") whenStored.push_back(window->visible());
+    });
+    const auto failing = window->changed.subscribe([this](std::string_view property) {
+        if (property == "Visible" && window->visible()) throw Error(automation::errFail, "No display.");
+    });
+    window->closeByFrame();
+    EXPECT_EQ(whenStored, std::vector<bool>{false});
+    EXPECT_EQ(messages(), (Texts{"-2147467259: No display."}));
+    EXPECT_EQ(host.record.messages[0].title, "frmtabgrid: QueryUnload");
+}
+
+TEST_F(Closing, TellsWhatCannotBeSavedWhileTheWindowIsThere) {
+    host.iniFile.failWritesWith(Error(automation::errFail, "The disk is full."));
+    std::vector<bool> visible;
+    host.script.onMessage = [&](const headless::Message& message) {
+        visible.push_back(window->visible());
+        return message.defaultButton;
+    };
+    window->closeByFrame();
+    EXPECT_EQ(visible, std::vector<bool>{true});
+}
+
+TEST_F(Closing, KeepsTheStoredLayoutOfAGridThatCouldNotBeBuiltAgain) {
+    host.iniFile.write("frmtabGridRCP", "tdbRMColOrders", ",3,2,1,0", iniPath);
+    window->inits().LoadInits(iniPath);
+    const auto failing = grid().rowsChanged.subscribe([] { throw Error(automation::errFail, "locked"); });
+    EXPECT_THROW(window->bindGrid(), Error);
+    window->unload(forms::UnloadMode::byCode);
+    EXPECT_EQ(stored("tdbRMColOrders"), ",3,2,1,0");
 }
 
 TEST_F(Closing, ByTheCloseBoxMakesAnEmbeddingWindowVisibleFirst) {

@@ -110,6 +110,33 @@ TEST_F(DeleteMembers, ThenStandsOnTheRowBeforeWhenTheLastIsGone) {
     expectAtRest();
 }
 
+TEST_F(DeleteMembers, ThenStandsOnTheLastRowBeforeThemThatIsLeft) {
+    addMember(mix, "Late");
+    window->refreshMembers();
+    grid().setRow(3);
+    deleteRows({2, 3});
+    EXPECT_EQ(grid().text(grid().row(), columnNumber("VarRecipe")), "Tank.Temp");
+}
+
+TEST_F(DeleteMembers, WithoutACurrentRowThenStandsOnTheFirst) {
+    selectRows({0});
+    members().moveLast();
+    members().moveNext();
+    ASSERT_EQ(grid().row(), -1);
+    click("mnuRecipeMemberDelete");
+    EXPECT_EQ(messages(), (Texts{question}));
+    EXPECT_EQ(shown("VarRecipe"), (Texts{"Tank.Temp", "Pump.Speed"}));
+    EXPECT_EQ(grid().row(), 0);
+}
+
+TEST_F(DeleteMembers, ByNumberDoesNothingForANodeOfAnother) {
+    selectRows({0});
+    window->setNodeKey("VARS1");
+    window->commands().mnuRecipeMember(2);
+    EXPECT_EQ(messages(), Texts{});
+    EXPECT_EQ(storedMembers(), allMembers);
+}
+
 TEST_F(DeleteMembers, KeepsTheOrderOfTheGrid) {
     grid().headClick(columnNumber("VarRecipe"));
     EXPECT_EQ(shown("VarRecipe"), (Texts{"Pump.Speed", "Tank.Level", "Tank.Temp"}));

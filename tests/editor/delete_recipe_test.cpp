@@ -139,6 +139,21 @@ TEST_F(DeleteRecipe, DropsANewRowOfTheGrid) {
     expectAtRest();
 }
 
+TEST_F(DeleteRecipe, LeavesANewRowOfTheGridWaitingUntilTheUserSaysYes) {
+    grid().setAddNewMode(true);
+    answer(Answer::no);
+    click("mnuRecipeDelete");
+    EXPECT_TRUE(grid().addNewMode());
+}
+
+TEST_F(DeleteRecipe, WorksWithoutAnExplorer) {
+    addIn.node = nullptr;
+    click("mnuRecipeDelete");
+    EXPECT_EQ(storedRecipes().size(), 2U);
+    EXPECT_EQ(window->nodeKey(), "RCPE0");
+    EXPECT_EQ(messages(), (Texts{question}));
+}
+
 TEST_F(DeleteRecipe, ThatIsGoneAlreadyDoesNothing) {
     database.table("TrcpRecipe").remove(mix);
     const Texts stored = storedMembers();

@@ -72,10 +72,11 @@ TEST_F(EditRecipe, CancelledChangesNothing) {
 TEST_F(EditRecipe, LeavesTheWindowFreeToFollowTheStudioWhileTheDialogIsOpen) {
     edit([&](FRecipe& dialog) {
         EXPECT_FALSE(addIn.busyFlag.isSet());
-        show("RCPR" + std::to_string(syrup));
+        window->showNode("RCPR" + std::to_string(syrup));
         dialog.txtName->setText("Mischung");
         dialog.cmdOk->click();
     });
+    EXPECT_EQ(window->caption(), "HelvixStudio Rezepteditor: Sirup");
     EXPECT_EQ(storedRecipes()[0], "1 Mischung");
     EXPECT_EQ(storedRecipes()[1], "2 Sirup");
     EXPECT_EQ(shownNodes()[0], "RCPR1 Mischung");
@@ -164,11 +165,17 @@ TEST_F(EditRecipe, KeepsTheDialogWithAllThatWasEnteredWhileTheNameExists) {
 }
 
 TEST_F(EditRecipe, KeepsTheDialogWhileTheFileIsLocked) {
-    inDialog<FRecipe>("FRecipe", [this](FRecipe& dialog) {
+    bool busy = false;
+    host.script.onMessage = [&](const headless::Message& message) {
+        busy = addIn.busyFlag.isSet();
+        return message.defaultButton;
+    };
+    inDialog<FRecipe>("FRecipe", [&](FRecipe& dialog) {
         dialog.txtComment->setText("Neu");
         refuseNextUpdate(ado::dbErrUnspecified, "Gesperrt.");
         dialog.cmdOk->click();
         EXPECT_TRUE(dialog.visible());
+        EXPECT_TRUE(busy);
         dialog.cmdOk->click();
         EXPECT_FALSE(dialog.visible());
     });
@@ -259,6 +266,28 @@ TEST_F(EditRecipe, ShowsTheNameThatAnotherHasGivenIt) {
     EXPECT_EQ(shownNodes()[0], "RCPR1 Theirs");
     EXPECT_EQ(storedRecipes()[0], "1 Theirs");
     expectAtRest();
+}
+
+TEST_F(EditRecipe, TellsAConflictAlsoWhenTheDatabaseIsGoneFromTheWindow) {
+    edit([this](FRecipe& dialog) {
+        const std::vector<ado::ColumnValue> values = {{7, Variant("Theirs")}};
+        database.table("TrcpRecipe").update(mix, values);
+        window->setDataEnvironment(nullptr);
+        dialog.txtComment->setText("Mine");
+    });
+    ASSERT_EQ(messages().size(), 1U);
+    EXPECT_TRUE(messages()[0].starts_with("-2147217864: ")) << messages()[0];
+}
+
+TEST_F(EditRecipe, LeavesTheNodeAloneWhenAnotherHasChangedSomethingElse) {
+    host.explorer.setNodeProperty(mixKey, host::node_property::caption, Variant("As it was"));
+    edit([this](FRecipe& dialog) {
+        const std::vector<ado::ColumnValue> values = {{7, Variant("Theirs")}};
+        database.table("TrcpRecipe").update(mix, values);
+        dialog.txtComment->setText("Mine");
+    });
+    ASSERT_EQ(messages().size(), 1U);
+    EXPECT_EQ(shownNodes()[0], "RCPR1 As it was");
 }
 
 TEST_F(EditRecipe, RemovesTheNodeOfARecipeThatAnotherHasDeleted) {

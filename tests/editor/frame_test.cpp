@@ -1,3 +1,5 @@
+#include "automation/convert.h"
+#include "editor/database_work.h"
 #include "editor_window.h"
 
 namespace hx::editor {
@@ -134,6 +136,10 @@ TEST_F(Frame, NamesEverySettingThatCannotBeAppliedAndAppliesTheOthers) {
     EXPECT_NE(messages()[0].find("/plant/HXEditors.ini\r\nsb.Visible=x"), std::string::npos) << messages()[0];
     EXPECT_NE(messages()[1].find("\r\nMe.WindowState=7 ("), std::string::npos) << messages()[1];
     EXPECT_NE(messages()[1].find("\r\nMe.Width=40000 ("), std::string::npos) << messages()[1];
+    EXPECT_TRUE(messages()[1].starts_with("-2147352566: /plant/HXEditors.ini\r\n")) << messages()[1];
+    EXPECT_TRUE(messages()[1].ends_with(")")) << messages()[1];
+    window->applySettings("abr");
+    EXPECT_EQ(messages().size(), 2U) << "nothing is stored of the menu bar";
     EXPECT_EQ(host.record.messages[1].title, "frmtabgrid: Load");
     EXPECT_EQ(window->height(), 4500);
     EXPECT_TRUE(window->loaded());
@@ -237,6 +243,22 @@ TEST_F(Frame, KnowsTheNameOfANodesRecipe) {
     EXPECT_EQ(window->recipeName("RCPR999"), "");
     window->setDataEnvironment(nullptr);
     EXPECT_EQ(window->recipeName(mixKey), "");
+}
+
+TEST_F(Frame, ReadsNothingForTheNameOfANodeWithoutARecipe) {
+    faults.arm(1, support::FaultPlan::Kind::open);
+    EXPECT_EQ(window->recipeName("RCPE0"), "");
+    EXPECT_FALSE(faults.fired());
+}
+
+TEST_F(Frame, ShowsNoSubRecipesBeforeTheFirstNode) { EXPECT_FALSE(window->subRecipeView()); }
+
+TEST_F(Frame, ACommandDropsWhatWaitsInTheTableOfRecipes) {
+    data->rsRecipes->open();
+    data->rsRecipes->field("Comment").setValue(Variant("Neu"));
+    { const DatabaseWork work(data); }
+    EXPECT_EQ(data->rsRecipes->state(), ado::adStateClosed);
+    EXPECT_EQ(automation::toText(database.table("TrcpRecipe").row(mix)->at(7)), "");
 }
 
 TEST_F(Frame, TheBusyFlagStaysSetUntilTheOutermostMessageIsGone) {

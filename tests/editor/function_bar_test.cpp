@@ -19,13 +19,20 @@ struct ToolBarButtons : EditorWindow {
     void click(const char* key) { window->tbrfunc->click(button(key)); }
 };
 
+void expectDrawn(const std::string& svg, const std::string& shape) {
+    EXPECT_TRUE(svg.starts_with("<svg ")) << svg;
+    EXPECT_TRUE(svg.ends_with("</svg>")) << svg;
+    EXPECT_NE(svg.find(shape), std::string::npos) << svg;
+}
+
 TEST_F(ToolBarButtons, StandInTheirOrderWithPictures) {
     Texts keys;
     for (const auto& each : window->tbrfunc->buttons()) {
         keys.push_back(each->key());
-        EXPECT_TRUE(each->picture().svg.starts_with("<svg ")) << each->key();
+        expectDrawn(each->picture().svg, "<path stroke=\"#");
     }
     EXPECT_EQ(keys, (Texts{"New", "Edit", "Delete", "Refresh"}));
+    expectDrawn(column("VarRecipe").buttonPicture().svg, "<circle ");
     EXPECT_TRUE(button("Refresh").separatorBefore);
     EXPECT_FALSE(button("Delete").separatorBefore);
 }
@@ -55,6 +62,14 @@ TEST_F(ToolBarButtons, OnlyTheBinSelectsTheRowThatItMeans) {
     grid().focusEvent.raise(true);
     click("New");
     EXPECT_EQ(grid().selectedRows().count(), 0);
+}
+
+TEST_F(ToolBarButtons, TellWhatFailsUnderTheirName) {
+    show(mixKey);
+    window->abr->band(Variant("mnuRecipe")).remove("mnuRecipeEdit");
+    click("New");
+    ASSERT_EQ(messages().size(), 1U);
+    EXPECT_EQ(host.record.messages[0].title, "tbrfunc_ButtonClick");
 }
 
 TEST_F(ToolBarButtons, FollowTheNode) {
@@ -182,6 +197,33 @@ TEST_F(BinButton, DeletesTheRecipeWhereTheKeyboardIsInTheExplorer) {
     window->explorerUsed();
     click("Delete");
     EXPECT_EQ(commands, (Texts{"mnuRecipeFunc(2)"}));
+}
+
+TEST_F(BinButton, StaysWithTheExplorerWhenTheSelectionIsTakenBack) {
+    selectRows({0});
+    window->explorerUsed();
+    grid().selectedRows().clear();
+    EXPECT_EQ(tip(), "Löschen: Rezept Mix");
+}
+
+TEST_F(BinButton, NamesOnlyTheKindOfARowWithoutAName) {
+    addMember(mix, "");
+    window->refreshMembers();
+    selectRows({3});
+    EXPECT_EQ(tip(), "Löschen: Rezeptelement");
+}
+
+TEST_F(BinButton, DeletesSelectedRowsAlsoWhereTheCurrentOneIsNew) {
+    grid().setAddNewMode(true);
+    selectRows({1});
+    EXPECT_EQ(tip(), "Löschen: Rezeptelement Tank.Temp");
+    EXPECT_TRUE(button("Delete").enabled());
+}
+
+TEST_F(BinButton, DeletesNoRowsUnderANodeWithoutMembers) {
+    grid().setFocus();
+    window->MenuSwitcher("VARS1", false);
+    EXPECT_FALSE(button("Delete").enabled());
 }
 
 TEST_F(BinButton, NamesASubRecipe) {

@@ -1,3 +1,5 @@
+#include <utility>
+
 #include "editor_window.h"
 
 namespace hx::editor {
@@ -53,6 +55,79 @@ TEST_F(GridError, ARowWhoseDuplicateIsRefusedIsReadAnewAsAnotherHasLeftItMeanwhi
     storeVariable(2, "Tank.Theirs");
     grid().setRow(0);
     EXPECT_EQ(shown("VarRecipe")[1], "Tank.Theirs");
+}
+
+TEST_F(GridError, WhatTheUserIsToldOfIsDroppedAlreadyAndReadAnewAfterwards) {
+    for (const std::int32_t number : {ado::dbErrDuplicate, ado::dbErrRowChanged}) {
+        const std::string theirs = "Tank.Theirs" + std::to_string(number);
+        host.record.beeps = 0;
+        host.script.onMessage = [&](const headless::Message& message) {
+            EXPECT_EQ(host.record.beeps, 1);
+            EXPECT_FALSE(grid().dataChanged());
+            EXPECT_NE(shown("VarRecipe")[1], "Tank.Mine");
+            storeVariable(2, theirs);
+            return message.defaultButton;
+        };
+        type(1, "Tank.Mine");
+        refuseNextUpdate(number, "Refused.");
+        grid().setRow(0);
+        EXPECT_EQ(shown("VarRecipe")[1], theirs);
+        EXPECT_EQ(members().editMode(), ado::adEditNone);
+    }
+    EXPECT_EQ(messages().size(), 2U);
+}
+
+TEST_F(GridError, IsNotToldAgainWithTheNext) {
+    typeDuplicate();
+    grid().setRow(0);
+    grid().reportError({forms::gridErrBadValue, "Not a number"});
+    EXPECT_EQ(messages().size(), 1U);
+}
+
+/// Boxes that cannot be shown: the first of them.
+struct FailingBox : GridError {
+    FailingBox() {
+        host.script.onMessage = [this](const headless::Message& message) {
+            if (std::exchange(fails, false)) throw automation::Error(automation::errFail, "No box.");
+            return message.defaultButton;
+        };
+    }
+    [[nodiscard]] Texts titles() const {
+        Texts all;
+        for (const auto& message : host.record.messages) all.push_back(message.title);
+        return all;
+    }
+    bool fails = true;
+};
+
+TEST_F(FailingBox, OfARefusalIsToldAndTheGridSaysNothingItself) {
+    typeDuplicate();
+    EXPECT_FALSE(grid().setRow(0));
+    EXPECT_EQ(titles().back(), "tdbRM_Error");
+    EXPECT_EQ(messages().back(), "-2147467259: No box.");
+    EXPECT_TRUE(grid().hasFocus());
+}
+
+TEST_F(FailingBox, OfTheGridKeepsTheRowAndLaterErrorsAreHeard) {
+    type(1, "Tank.Pressure");
+    faults.arm(1, support::FaultPlan::Kind::update);
+    EXPECT_FALSE(grid().setRow(0));
+    EXPECT_EQ(titles().back(), "tdbRM_BeforeUpdate");
+    EXPECT_EQ(grid().row(), 1);
+    EXPECT_TRUE(grid().dataChanged());
+    EXPECT_EQ(storedVariable(2), "Tank.Temp");
+    grid().reportError({forms::gridErrBadValue, "Not a number"});
+    EXPECT_EQ(host.record.beeps, 1);
+}
+
+TEST_F(GridError, AConflictInAnotherTableIsNotTheRows) {
+    data->rsRecipes->open();
+    data->rsRecipes->field("Comment").setValue(Variant("Mine"));
+    refuseNextUpdate(ado::dbErrRowChanged);
+    EXPECT_THROW(data->rsRecipes->update(), automation::Error);
+    ASSERT_FALSE(data->CnnRecipes->errors().empty());
+    grid().reportError({forms::gridErrBadValue, "Not a number"});
+    EXPECT_EQ(messages(), Texts{});
 }
 
 TEST_F(GridError, TheBusyFlagIsSetOnlyWhileTheMessageIsShown) {
@@ -142,10 +217,12 @@ TEST_F(GridError, ARowIsStoredWhenAnotherHasChangedAnotherRow) {
 
 TEST_F(GridError, AnErrorEventOfCodeThirtyTwoResetsTheRecordsetToItsFirstRow) {
     grid().setRow(2);
+    selectRows({1});
     storeVariable(2, "Tank.Theirs");
     grid().reportError({forms::gridErrStaleRow, "The row is gone"});
     EXPECT_EQ(messages(), (Texts{"Resource 407 not found"}));
     EXPECT_EQ(grid().row(), 0);
+    EXPECT_EQ(grid().selectedRows().count(), 0);
     EXPECT_EQ(shown("VarRecipe"), (Texts{"Tank.Level", "Tank.Theirs", "Pump.Speed"}));
     EXPECT_EQ(busy, (std::vector<bool>{true}));
     EXPECT_EQ(host.record.messages[0].style, forms::message::ok);
@@ -156,6 +233,14 @@ TEST_F(GridError, AnErrorEventOnAnEmptyGridStandsNowhere) {
     grid().reportError({forms::gridErrStaleRow, "The row is gone"});
     EXPECT_EQ(messages(), (Texts{"Resource 407 not found"}));
     EXPECT_EQ(grid().row(), -1);
+}
+
+TEST_F(GridError, AStaleRowOfAGridWithoutRowsIsOnlyTold) {
+    members().close();
+    grid().reportError({forms::gridErrStaleRow, "The row is gone"});
+    window->setDataEnvironment(nullptr);
+    grid().reportError({forms::gridErrStaleRow, "The row is gone"});
+    EXPECT_EQ(messages(), (Texts{"Resource 407 not found", "Resource 407 not found"}));
 }
 
 TEST_F(GridError, AnyOtherFailureIsShownByTheGridAndKeepsTheEdit) {

@@ -108,6 +108,33 @@ TEST_F(GridKeys, F9DoesNothingWithoutARow) {
     EXPECT_EQ(host.record.beeps, 0);
 }
 
+TEST_F(GridKeys, F9IsLeftToOthersUnderTheirNodes) {
+    window->setNodeKey("VARS1");
+    EXPECT_FALSE(press(key::f9));
+    EXPECT_EQ(host.record.beeps, 0);
+}
+
+TEST_F(GridKeys, ACommandSeesTheMenusAsTheyAreAfterTheTextIsTakenOver) {
+    const auto editor = grid().changed.subscribe([this](std::string_view property) {
+        if (property == "Settle") selectRows({0});
+    });
+    press(key::del, shift::ctrl);
+    EXPECT_EQ(commands, (Texts{"mnuRecipeMember(2)"}));
+    EXPECT_EQ(window->abr->mainBand().find("mnuShowEditor"), nullptr) << "an entry of the context menu";
+}
+
+TEST_F(GridKeys, TellWhatFailsUnderTheirName) {
+    window->abr->band(automation::Variant("mnuRecipe")).remove("mnuRecipeEdit");
+    press(key::f8);
+    grid().setHitTester([](double, double) { return forms::GridHit::cell; });
+    grid().doubleClick();
+    grid().mouseUp({forms::button::right, 0, 10, 10});
+    window->abr->menuOpening(tool("mnuRecipeMembers"));
+    Texts titles;
+    for (const auto& message : host.record.messages) titles.push_back(message.title);
+    EXPECT_EQ(titles, (Texts{"tdbRM_KeyDown", "tdbRM_DblClick", "tdbRM_MouseUp", "abr_MenuOpening"}));
+}
+
 TEST_F(GridKeys, F9EditsASubRecipeThroughItsTool) {
     show("RCPE");
     show(mixSubRecipes);
@@ -196,6 +223,11 @@ TEST_F(GridKeys, ReleasingShiftLeftOrRightMovesToTheVisibleNeighbour) {
     EXPECT_EQ(currentField(), "VarRecipe");
     release(key::left, shift::shift);
     EXPECT_EQ(currentField(), "VarRecipe") << "the columns to the left are hidden";
+    showAllColumns();
+    grid().setCol(1);
+    release(key::left, shift::shift);
+    EXPECT_EQ(grid().col(), 0);
+    EXPECT_EQ(messages(), Texts{});
 }
 
 TEST_F(GridKeys, ReleasingOtherKeysMovesNowhere) {

@@ -25,7 +25,7 @@ struct GridMouse : EditorWindow {
         return names;
     }
     forms::GridHit hit = forms::GridHit::cell;
-    std::pair<double, double> tested;
+    std::pair<double, double> tested = {-1, -1};
 };
 
 TEST_F(GridMouse, ADoubleClickOnACellEditsTheSubRecipe) {
@@ -40,6 +40,7 @@ TEST_F(GridMouse, ADoubleClickOnACellEditsTheSubRecipe) {
 TEST_F(GridMouse, ADoubleClickOnAVariableBeepsSinceItsToolIsDisabled) {
     show(mixKey);
     grid().doubleClick();
+    EXPECT_EQ(tested, std::make_pair(0.0, 0.0)) << "no button was pressed before";
     EXPECT_EQ(host.record.beeps, 1);
     EXPECT_EQ(commands, Texts{});
 }
@@ -98,6 +99,17 @@ TEST_F(GridMouse, TheMenuBarIsAsBeforeAfterAMenuThatFailed) {
     EXPECT_EQ(messages(), Texts{"7: No menu."});
     EXPECT_EQ(window->abr->band(automation::Variant("mnuMain")).find("mnuShowEditor"), nullptr);
     EXPECT_FALSE(tool("mnuRecipeMemberDescriptor").visible());
+}
+
+TEST_F(GridMouse, ACommandOfTheMenuMayEndTheWindow) {
+    host.script.onPopUp = [this](forms::Band&) {
+        window.reset();
+        return "";
+    };
+    const auto shown = window->tdbRM;
+    shown->mouseUp({button::right, 0, 10, 10});
+    EXPECT_EQ(window, nullptr);
+    EXPECT_EQ(messages(), Texts{});
 }
 
 TEST_F(GridMouse, OtherButtonsShowNoMenu) {

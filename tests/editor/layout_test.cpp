@@ -81,6 +81,13 @@ TEST_F(Layout, RunsAgainWhenTheToolBarGetsAnotherHeight) {
     expectBounds(grid(), 0, 900, 9000, 5400);
 }
 
+TEST_F(Layout, LeavesTheGridWhereItIsWhenTheToolBarChangesOtherwise) {
+    area(9000, 6300);
+    grid().move(0, 0, 10, 10);
+    window->tbrfunc->setVisible(false);
+    expectBounds(grid(), 0, 0, 10, 10);
+}
+
 TEST_F(Layout, RunsWhenItIsCalledAfterTheStatusLineWasHidden) {
     area(9000, 6300);
     window->sb->setVisible(false);

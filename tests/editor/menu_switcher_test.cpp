@@ -145,6 +145,19 @@ TEST_F(MenuSwitcher, HidesTheEditOfASubRecipeWithoutACurrentRow) {
     EXPECT_FALSE(tool("mnuRecipeMemberEditSubRecipe").enabled());
 }
 
+TEST_F(MenuSwitcher, EnablesWhatIsAlwaysOffered) {
+    const Texts always = {"mnuOptions", "mnuOptionActualize", "mnuOptionOption", "mnuOptionReport"};
+    for (const std::string& name : always) tool(name).setEnabled(false);
+    window->MenuSwitcher("RCPE0", false);
+    for (const std::string& name : always) EXPECT_TRUE(tool(name).enabled()) << name;
+}
+
+TEST_F(MenuSwitcher, MayBeginWithAContextMenu) {
+    make();
+    window->MenuSwitcher("RCPR1", true);
+    EXPECT_EQ(mainTools().size(), 5U);
+}
+
 TEST_F(MenuSwitcher, TreatsAKeyWithoutANumberByItsType) {
     window->MenuSwitcher("RCPE", false);
     EXPECT_TRUE(tool("mnuRecipeNew").enabled());

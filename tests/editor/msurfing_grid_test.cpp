@@ -109,6 +109,13 @@ TEST_F(MSurfingGrid, ComesThroughADamagedStoredLayout) {
     EXPECT_NE(messages()[0].find("\r\ntdbRM.Font.Size=0 ("), std::string::npos) << messages()[0];
 }
 
+TEST_F(MSurfingGrid, HasTheFontOfTheWindowWhereItsOwnCannotBeApplied) {
+    host.iniFile.setBytes(iniPath, "[frmtabGridRCP]\r\nMe.Font.Size=11\r\ntdbRM.Font.Size=0\r\n");
+    make();
+    open();
+    EXPECT_EQ(grid().font().size(), 11);
+}
+
 TEST_F(MSurfingGrid, BuildsItsColumnsAnewEachTime) {
     window->bindGrid();
     EXPECT_EQ(grid().columns().size(), 4U);
@@ -142,6 +149,27 @@ TEST_F(MSurfingGrid, ShowsNothingForARecipeThatIsGoneAndForNone) {
     EXPECT_EQ(shown("ChildID"), (Texts{"", ""}));
     show(mixKey);
     EXPECT_EQ(shown("ChildID"), (Texts{"", "", ""}));
+}
+
+TEST_F(MSurfingGrid, ShowsNoRowsOfANodeThatIsReadByHalf) {
+    show(mixKey);
+    selectRows({1});
+    faults.arm(2, support::FaultPlan::Kind::open);  // the members, then the name
+    EXPECT_THROW(window->showNode(mixKey), automation::Error);
+    EXPECT_EQ(grid().rowCount(), 0);
+    EXPECT_EQ(grid().selectedRows().count(), 0);
+}
+
+TEST_F(MSurfingGrid, ShowsNoSubRecipeInANewRowOrWithoutADatabase) {
+    show(mixSubRecipes);
+    window->setDataEnvironment(nullptr);
+    EXPECT_EQ(shown("ChildID"), (Texts{"", ""}));
+    window->setDataEnvironment(data);
+    grid().setAddNewMode(true);
+    EXPECT_EQ(grid().text(-1, columnNumber("ChildID")), "");
+    grid().setAddNewMode(false);
+    data->CnnRecipes->close();
+    EXPECT_EQ(window->recipeName(mixKey), "");
 }
 
 TEST_F(MSurfingGrid, KeepsTheNamesUntilTheyAreRefreshed) {

@@ -63,6 +63,20 @@ TEST_F(NewRecipe, LeavesTheRootShown) {
     EXPECT_EQ(host.record.pointers, (std::vector{forms::Pointer::hourglass, forms::Pointer::standard}));
 }
 
+TEST_F(NewRecipe, IsStoredAlsoWhenTheTableIsOpenAlready) {
+    data->rsRecipes->open();
+    click("mnuRecipeNew");
+    EXPECT_EQ(storedRecipes().back(), "4 Neues Rezept");
+    EXPECT_EQ(messages(), Texts{});
+}
+
+TEST_F(NewRecipe, ReadsTheMembersAnew) {
+    show(mixKey);
+    addMember(mix, "Late");
+    window->commands().mnuRecipeFunc(0);
+    EXPECT_EQ(shown("VarRecipe").back(), "Late");
+}
+
 TEST_F(NewRecipe, IsKnownByNameToTheGridAtOnce) {
     addMember(mix, "File.New", 4);
     show(mixSubRecipes);

@@ -104,6 +104,13 @@ TEST_F(OptionCommands, CountingAnOpenRecordsetCountsAllItsRecords) {
     EXPECT_EQ(data->rsRecipeMembers->state(), ado::adStateClosed);
 }
 
+TEST_F(OptionCommands, CountingStoresAPendingEditFirst) {
+    data->rsRecipeMembers->open();
+    data->rsRecipeMembers->field("VarRecipe").setValue(Variant("Tank.Pressure"));
+    EXPECT_EQ(countRecords(*data->rsRecipeMembers), 6);
+    EXPECT_EQ(storedVariable(1), "Tank.Pressure");
+}
+
 TEST_F(OptionCommands, CountingThatFailsClosesTheRecordset) {
     faults.arm(1, support::FaultPlan::Kind::keys);
     EXPECT_THROW((void)countRecords(*data->rsRecipes), Error);

@@ -88,6 +88,7 @@ TEST_F(SplitBar, IgnoresMovesAndReleasesWhileNotSplitting) {
     release();
     move(500);
     EXPECT_EQ(bar().left(), 630);
+    bar().setLeft(900);
     release();
     EXPECT_EQ(grid().split(0).size(), 500);
 }

@@ -276,6 +276,78 @@ TEST_F(SubRecipes, CommandsByNumberDoNothingForOtherNodes) {
     EXPECT_EQ(messages(), Texts{});
 }
 
+TEST_F(SubRecipes, LetNoOtherCommandRunWhileTheirDialogIsOpen) {
+    for (const char* command : {"mnuRecipeMemberNewRecipe", "mnuRecipeMemberEditSubRecipe"}) {
+        host.record.beeps = 0;
+        inDialog<FSubRecipe>("FSubRecipe", [this](FSubRecipe& dialog) {
+            window->commands().mnuRecipeFunc(0);
+            EXPECT_EQ(host.record.beeps, 1);
+            dialog.cmdCancel->click();
+        });
+        click(command);
+    }
+    EXPECT_EQ(storedRecipes().size(), 3U);
+}
+
+TEST_F(SubRecipes, ACancelledDialogReadsNoRowsAnew) {
+    int read = 0;
+    const auto watch = grid().rowsChanged.subscribe([&] { ++read; });
+    cancel();
+    for (const char* command : {"mnuRecipeMemberNewRecipe", "mnuRecipeMemberEditSubRecipe"}) click(command);
+    EXPECT_EQ(host.record.modals.size(), 2U);
+    EXPECT_EQ(read, 0);
+}
+
+TEST_F(SubRecipes, AnEditThatAnotherWasFasterWithShowsTheirs) {
+    inDialog<FSubRecipe>("FSubRecipe", [this](FSubRecipe& dialog) {
+        const std::vector<ado::ColumnValue> theirs = {{2, automation::Variant("File.Theirs")}};
+        database.table("TrcpRecipeMember").update(4, theirs);
+        addMember(mix, "File.Late", water);
+        dialog.txtVarRecipe->setText("File.Mine");
+        dialog.cmdOk->click();
+    });
+    click("mnuRecipeMemberEditSubRecipe");
+    EXPECT_EQ(messages().size(), 1U);
+    EXPECT_EQ(shown("VarRecipe"), (Texts{"File.Theirs", "File.Water", "File.Late"}));
+}
+
+TEST_F(SubRecipes, ARefusedOneShowsWhatAnotherHasStoredMeanwhile) {
+    for (const char* command : {"mnuRecipeMemberNewRecipe", "mnuRecipeMemberEditSubRecipe"}) {
+        inDialog<FSubRecipe>("FSubRecipe", [&](FSubRecipe& dialog) {
+            addMember(mix, command, water);
+            dialog.txtVarRecipe->setText("File.Mine");
+            faults.arm(1, support::FaultPlan::Kind::begin);
+            dialog.cmdOk->click();
+            dialog.cmdCancel->click();
+        });
+        click(command);
+        EXPECT_EQ(shown("VarRecipe").back(), command);
+    }
+}
+
+TEST_F(SubRecipes, AnErrorThatIsNoConflictLeavesTheNodes) {
+    database.table("TrcpRecipe").remove(mix);
+    faults.arm(1, support::FaultPlan::Kind::open);
+    click("mnuRecipeMemberNewRecipe");
+    EXPECT_EQ(messages(), (Texts{"-2147467259: The disk cannot be written."}));
+    EXPECT_EQ(window->nodeKey(), mixSubRecipes);
+    EXPECT_EQ(shownNodes()[0], "RCPR1 Mix");
+}
+
+TEST_F(SubRecipes, ANewOneOfARecipeThatIsGoneLeavesTheNodeOfItsOwn) {
+    host.explorer.setNodeProperty(mixKey, host::node_property::caption, automation::Variant("As it was"));
+    inDialog<FSubRecipe>("FSubRecipe", [this](FSubRecipe& dialog) {
+        dialog.cmbChooseRecipe->setListIndex(1);
+        dialog.txtVarRecipe->setText("File");
+        database.table("TrcpRecipe").remove(syrup);
+        dialog.cmdOk->click();
+    });
+    click("mnuRecipeMemberNewRecipe");
+    ASSERT_EQ(messages().size(), 1U);
+    EXPECT_TRUE(messages()[0].starts_with("-2147217885: ")) << messages()[0];
+    EXPECT_EQ(shownNodes()[0], "RCPR1 As it was");
+}
+
 TEST_F(SubRecipes, ANewOneIsNotGivenToARecipeThatIsGone) {
     inDialog<FSubRecipe>("FSubRecipe", [this](FSubRecipe& dialog) {
         dialog.cmbChooseRecipe->setListIndex(1);

@@ -296,6 +296,15 @@ TEST_F(ChooseBesideAnother, TellsOfARenamedOneAndOfNoMoreThanAFew) {
         << messages()[0];
 }
 
+TEST_F(ChooseBesideAnother, TellsOfAllThatCameWhenTheyAreFew) {
+    chooseWhile([this] {
+        for (int i = 1; i <= 5; ++i) addMember(mix, "Late" + std::to_string(i));
+    });
+    ASSERT_EQ(messages().size(), 1U);
+    EXPECT_NE(messages()[0].find("Hinzugekommen: Late1, Late2, Late3, Late4, Late5\r\n"), std::string::npos)
+        << messages()[0];
+}
+
 TEST_F(ChooseBesideAnother, MembersOfOtherRecipesDoNotMatter) {
     chooseWhile([this] { addMember(syrup, "Late"); });
     EXPECT_EQ(messages(), Texts{});

@@ -101,6 +101,23 @@ TEST_F(VerifyAdds, BeforeTheRowsGoAwayTheUserIsToldWhatWasDroppedAndWhy) {
     EXPECT_EQ(messages().size(), 1U);
 }
 
+TEST_F(VerifyAdds, LeavesAGridWithoutAnEditAlone) {
+    int changes = 0;
+    const auto watch = grid().rowChanged.subscribe([&](std::int32_t) { ++changes; });
+    EXPECT_TRUE(window->finishEdit());
+    window->VerifyAdds();
+    window->finishOrDropEdit();
+    EXPECT_EQ(changes, 0);
+}
+
+TEST_F(VerifyAdds, ANewRowIsStoredBeforeTheRowsAreReadAnew) {
+    startNewMember("Pump.State");
+    grid().setDataChanged(false);
+    window->refreshMembers();
+    EXPECT_EQ(shown("VarRecipe").back(), "Pump.State");
+    EXPECT_FALSE(grid().addNewMode());
+}
+
 TEST_F(VerifyAdds, NamesADuplicateByTheNumberOfTheDatabaseAndInEnglishToo) {
     useLanguage(english);
     type(1, "Tank.Level");
@@ -120,10 +137,20 @@ TEST_F(VerifyAdds, NamesANewRowThatWasDropped) {
 }
 
 TEST_F(VerifyAdds, NamesATextThatTheViewCouldNotHandOver) {
+    data->rsRecipes->open();
+    data->rsRecipes->field("Comment").setValue(Variant("Mine"));
+    refuseNextUpdate(ado::dbErrIntegrity, "Of another table.");
+    EXPECT_THROW(data->rsRecipes->update(), automation::Error);
     grid().editorReported("Half.Typed", 4);
+    bool busy = false;
+    host.script.onMessage = [&](const headless::Message& message) {
+        busy = addIn.busyFlag.isSet();
+        return message.defaultButton;
+    };
     window->finishOrDropEdit();
-    ASSERT_EQ(messages().size(), 1U);
-    EXPECT_NE(messages()[0].find("\"Half.Typed\""), std::string::npos) << messages()[0];
+    EXPECT_EQ(messages(), (Texts{"-2147467259: Die Eingabe \"Half.Typed\" konnte nicht gespeichert werden und wurde "
+                                 "verworfen. "}));
+    EXPECT_TRUE(busy);
 }
 
 TEST_F(VerifyAdds, TellsNothingOfAnEditThatIsStored) {
