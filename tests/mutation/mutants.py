@@ -2,6 +2,7 @@
 thrown at run time: hxMutant(n) is true in the run that tries change n."""
 
 import dataclasses
+import re
 import zlib
 from pathlib import Path
 
@@ -18,6 +19,9 @@ SYMMETRIC = {'equalIgnoreCase', 'isSameNode', 'sameValue', 'min', 'max'}  # func
 CLASSES = {Kind.CLASS_DECL, Kind.STRUCT_DECL, Kind.CLASS_TEMPLATE}
 FUNCTIONS = {Kind.FUNCTION_DECL, Kind.CXX_METHOD, Kind.CONSTRUCTOR, Kind.DESTRUCTOR, Kind.FUNCTION_TEMPLATE,
              Kind.CONVERSION_FUNCTION}
+HEARS = re.compile(r'(?:subscriptions_ \. push_back \( (.+?) \. subscribe|(?:on|hear) \( (.+?) ,)')
+SETS_TEXT = re.compile(r'(.+?) (?:->|\.) set\w+ \( "[^"]*" \)')
+GETS = re.compile(r'\w+ (?:->|\.) \w+ \( \)')
 
 
 @dataclasses.dataclass
@@ -214,7 +218,7 @@ class File:
     def _swap(self, first, second):
         code = self._code(second)
         if '\n' in code or Kind.CXX_THROW_EXPR in (first.kind, second.kind) or not second.kind.is_expression() or \
-                self._independent(first, second) and self._independent(second, first):
+                self._independent(first, second):
             return
         number = self._mutant(first, f'"{self._short(second)}" before "{self._short(first)}"')
         self.wraps.append(Wrap(first.extent.start.offset, self._end_of_statement(first), f'if(hxMutant({number})){{{code};}}', '',
@@ -222,10 +226,17 @@ class File:
         self.wraps.append(Wrap(second.extent.start.offset, self._end_of_statement(second), f'if(hxMutant({number})){{}}else ', '',
                                (number,)))
 
-    def _independent(self, assignment, other):
-        """An assignment that calls nothing, to what the other statement does not name."""
-        target, sign, value = self._code(assignment).partition(' = ')
-        return bool(sign) and '(' not in value and '=' not in value and target.split()[-1] not in self._code(other).split()
+    def _independent(self, first, second):
+        one, two = self._code(first), self._code(second)
+        return self._assigns_beside(one, two) and self._assigns_beside(two, one) or \
+            any(pattern.match(one) and pattern.match(two) and pattern.match(one).groups() != pattern.match(two).groups()
+                for pattern in (HEARS, SETS_TEXT))  # two events are heard, two controls get a text
+
+    def _assigns_beside(self, assignment, other):
+        """An assignment that at most asks an object, to what the other statement does not name."""
+        target, sign, value = assignment.partition(' = ')
+        return bool(sign) and ('(' not in value or GETS.fullmatch(value) is not None) and '=' not in value and \
+            target.split()[-1] not in other.split()
 
     def _unused(self, statement):
         """An object that only lives, such as a wait cursor: without it."""
