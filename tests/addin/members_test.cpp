@@ -23,11 +23,11 @@ std::int32_t failure(const auto& action) {
     return 0;
 }
 
-std::string told(const auto& action) {
+std::string told(const auto& action, automation::Language language = automation::Language::english) {
     try {
         action();
     } catch (const automation::Error& error) {
-        return error.message(automation::Language::english);
+        return error.message(language);
     }
     return {};
 }
@@ -168,6 +168,8 @@ TEST_F(Members, TheExplorerObjectFailsOnceTheAddInHasEnded) {
     const automation::ObjectRef explorer = call("Explorer").asObject();
     studio.connect->Terminate();
     EXPECT_EQ(told([&] { explorer->get("HostWindow"); }), "-2147467259: The project explorer has been released.");
+    EXPECT_EQ(told([&] { explorer->get("HostWindow"); }, automation::Language::german),
+              "-2147467259: Der Projektexplorer ist freigegeben.");
     EXPECT_EQ(call("Explorer"), Variant(automation::ObjectRef()));
 }
 

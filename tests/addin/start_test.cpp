@@ -42,6 +42,12 @@ TEST_F(StartUp, ReadsTheLanguageWhenTheAddInIsCreated) {
     EXPECT_EQ(tree.caption(tree.find("RCPE0")), "Recipes");
 }
 
+TEST_F(StartUp, SpeaksGermanWhereTheRegistryNamesALanguageThatItHasNot) {
+    studio.host.registry.writeNumber(host::registry_keys::helvix, "LCID", 1036);
+    studio.start();
+    EXPECT_EQ(tree.caption(tree.find("RCPE0")), "Rezepte");
+}
+
 TEST_F(StartUp, HandsEveryImageToTheExplorerByTheClipboard) {
     studio.start();
     const FImageList list;
@@ -126,6 +132,11 @@ TEST_F(StartUp, WithoutAnExplorerSaysSo) {
     studio.connect->Initialize("Plant", "", nullptr, nullptr);
     EXPECT_EQ(studio.boxes(), (Texts{"Connect: Initialize|-2147467259: The studio gave no project explorer."}));
     EXPECT_EQ(studio.connect->Explorer(), nullptr);
+    studio.host.screen.setLanguage(automation::Language::german);
+    studio.create();
+    studio.connect->Initialize("Plant", "", nullptr, nullptr);
+    EXPECT_EQ(studio.boxes().back(),
+              "Connect: Initialize|-2147467259: Das Studio hat keinen Projektexplorer übergeben.");
 }
 
 TEST_F(StartUp, TerminateWithoutAnEditorRemovesTheRootAndNothingElse) {

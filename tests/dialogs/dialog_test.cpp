@@ -42,6 +42,17 @@ TEST_F(DialogTest, TellsUnderItsNameWhateverFails) {
     }
 }
 
+TEST_F(DialogTest, MayEndInWhatFails) {
+    host.script.onItem = [this](const std::string&) -> std::string {
+        dialog.reset();
+        throw std::runtime_error("No memory.");
+    };
+    const auto button = dialog->cmdChooseItem;
+    button->click();
+    ASSERT_EQ(host.record.messages.size(), 1U);
+    EXPECT_EQ(host.record.messages[0].title, "FSubRecipe");
+}
+
 TEST_F(DialogTest, GivesItsStateByName) {
     dialog->set("Cancelled", Variant(true));
     EXPECT_TRUE(dialog->cancelled());

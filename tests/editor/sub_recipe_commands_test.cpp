@@ -298,6 +298,14 @@ TEST_F(SubRecipes, ACancelledDialogReadsNoRowsAnew) {
     EXPECT_EQ(read, 0);
 }
 
+TEST_F(SubRecipes, AnEditWithATextThatDoesNotFitIsToldAndNotStored) {
+    choose(0, std::string(300, 'x'));
+    click("mnuRecipeMemberEditSubRecipe");
+    EXPECT_EQ(messages(), (Texts{"Zurückschreiben Unterrezeptdialog fehlgeschlagen"}));
+    EXPECT_EQ(storedMembers(), allMembers);
+    expectAtRest();
+}
+
 TEST_F(SubRecipes, AnEditThatAnotherWasFasterWithShowsTheirs) {
     inDialog<FSubRecipe>("FSubRecipe", [this](FSubRecipe& dialog) {
         const std::vector<ado::ColumnValue> theirs = {{2, automation::Variant("File.Theirs")}};

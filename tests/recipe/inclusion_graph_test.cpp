@@ -106,6 +106,12 @@ TEST(SubRecipeTree, EndsWhenItWouldBecomeTooLong) {
     EXPECT_EQ(full.tree(0, wide).branches.size(), 1000U);
 }
 
+TEST(SubRecipeTree, WithoutASubRecipeIsEmptyAndWhole) {
+    const Tree tree = chain(1).tree(0, wide);
+    EXPECT_TRUE(tree.branches.empty());
+    EXPECT_FALSE(tree.cut);
+}
+
 /// "B", "C>A": used in B, and in C through A.
 Lines usesOf(const Children& children, const std::vector<std::size_t>& recipes) {
     const Uses uses = graphOf(children).uses(recipes);
@@ -139,6 +145,12 @@ TEST(RecipeUses, EndWhenThereAreTooMany) {
     const Uses direct = chain(3).uses({2}, 0);
     EXPECT_EQ(direct.list.size(), 1U);
     EXPECT_TRUE(direct.cut);
+}
+
+TEST(RecipeUses, OfARecipeThatNobodyIncludesAreNoneAndWhole) {
+    const Uses uses = chain(1).uses({0}, 1000);
+    EXPECT_TRUE(uses.list.empty());
+    EXPECT_FALSE(uses.cut);
 }
 
 TEST(RecipeUses, AllThatUseItDirectlyAreFound) {
