@@ -165,7 +165,7 @@ std::vector<std::int32_t> Commands::selectedMembers() const {
     for (const ado::Bookmark& row : window_.tdbRM->selectedRows().bookmarks()) {
         if (known) {
             ids.push_back(static_cast<std::int32_t>(row.key()));
-        } else if (rows->indexOf(row) >= 0) {
+        } else {
             rows->setBookmark(row);
             ids.push_back(automation::toInt32(id.value()));
         }

@@ -89,7 +89,6 @@ void MSurfingGrid::leavingRow(bool& stay) {
 }
 
 bool MSurfingGrid::finishRow() {
-    clearErrors();
     try {
         grid_.update();
         return true;

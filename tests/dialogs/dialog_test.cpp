@@ -24,6 +24,26 @@ TEST_F(DialogTest, LeavesF1ToNobodyElse) {
     EXPECT_EQ(host.record.help.size(), 1U);
 }
 
+TEST_F(DialogTest, LeavesF1ToNobodyElseAlsoWithoutAHelpFile) {
+    host.help.failWith(automation::Error(automation::errFail, "No help."));
+    forms::KeyEvent key{forms::key::f1, forms::shift::none};
+    dialog->keyDownEvent.raise(key);
+    EXPECT_TRUE(key.swallowed());
+    ASSERT_EQ(host.record.messages.size(), 1U);
+}
+
+TEST_F(DialogTest, KnowsHowItIsLeftBeforeItIsGone) {
+    dialog->load();
+    dialog->show();
+    std::vector<bool> cancelled;
+    const auto watch = dialog->changed.subscribe([&](std::string_view property) {
+        if (property == "Visible") cancelled.push_back(dialog->cancelled());
+    });
+    dialog->setCancelled(false);
+    dialog->cmdCancel->click();
+    EXPECT_EQ(cancelled, std::vector<bool>{true});
+}
+
 TEST_F(DialogTest, TellsUnderItsNameWhateverFails) {
     host.script.onItem = [](const std::string&) -> std::string { throw std::runtime_error("No memory."); };
     dialog->cmdChooseItem->click();

@@ -283,6 +283,7 @@ TEST_F(ToolBarButtons, RefreshTheMenusBeforeTheyRunATool) {
     EXPECT_FALSE(tool("mnuRecipeMemberDelete").enabled());
     click("Delete");
     EXPECT_TRUE(tool("mnuRecipeMemberDelete").enabled());
+    EXPECT_EQ(window->abr->mainBand().find("mnuShowEditor"), nullptr) << "an entry of the context menu";
     EXPECT_EQ(commands, (Texts{"mnuRecipeMember(2)"}));
 }
 

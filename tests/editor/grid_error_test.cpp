@@ -165,7 +165,17 @@ TEST_F(GridError, AStaleRowShowsTheNotFoundTextAndResetsTheGrid) {
     grid().setRow(1);
     type(1, "Tank.Pressure");
     database.table("TrcpRecipeMember").remove(2);
+    std::vector<ado::EditMode> modes;
+    host.script.onMessage = [&](const headless::Message& message) {
+        busy.push_back(addIn.busyFlag.isSet());
+        modes.push_back(members().editMode());
+        return message.defaultButton;
+    };
+    std::vector<std::int32_t> counts;
+    const auto view = grid().rowsChanged.subscribe([&] { counts.push_back(grid().rowCount()); });
     EXPECT_FALSE(grid().setRow(2));
+    EXPECT_EQ(modes, (std::vector{ado::adEditInProgress, ado::adEditNone}));
+    EXPECT_EQ(counts, std::vector<std::int32_t>{2});
     EXPECT_EQ(messages(), (Texts{"Resource 407 not found",
                                  "-2147217885: Die Zeile wurde von jemand anderem gelöscht. Nichts davon wurde "
                                  "gespeichert:\r\nVariable: \"Tank.Pressure\""}));

@@ -44,6 +44,16 @@ struct StoredOtherwise : testing::Test {
         return variables;
     }
 
+    /// The first and the third row go: neither keys nor places are their IDs.
+    void expectDeletedById() {
+        open();
+        select({0, 2});
+        window->MenuSwitcher("RCPR1", false);
+        window->abr->click("mnuRecipeMemberDelete");
+        EXPECT_TRUE(host.record.messages.empty()) << host.record.messages[0].text;
+        EXPECT_EQ(stored(), (Texts{"B", "X", "Y"}));
+    }
+
     support::TemporaryFolder folder;
     const std::string path = folder.file("line.hxs");
     sqlite::Provider provider;
@@ -61,12 +71,15 @@ TEST_F(StoredOtherwise, MembersAreReadByTheirIdsWhateverIndexHelps) {
 
 TEST_F(StoredOtherwise, RowsAreDeletedByTheirIdsWhereThoseAreNoKeys) {
     makeMembers("CREATE TABLE TrcpRecipeMember AS SELECT * FROM Old ORDER BY ID DESC");
-    open();
-    select({0, 2});
-    window->MenuSwitcher("RCPR1", false);
-    window->abr->click("mnuRecipeMemberDelete");
-    EXPECT_TRUE(host.record.messages.empty()) << host.record.messages[0].text;
-    EXPECT_EQ(stored(), (Texts{"B", "X", "Y"}));
+    expectDeletedById();
+}
+
+TEST_F(StoredOtherwise, RowsAreDeletedByTheirIdsWhereTheKeyIsAnother) {
+    makeMembers(
+        "CREATE TABLE TrcpRecipeMember (Number INTEGER PRIMARY KEY, ID INTEGER, ParentID INTEGER, VarRecipe TEXT, "
+        "ChildID INTEGER); INSERT INTO TrcpRecipeMember (ID, ParentID, VarRecipe, ChildID) SELECT ID, ParentID, "
+        "VarRecipe, ChildID FROM Old ORDER BY ID DESC");
+    expectDeletedById();
 }
 
 TEST_F(StoredOtherwise, AnotherNodeKeepsNeitherRowNorSelectionWhereRowsAreOnlyCounted) {

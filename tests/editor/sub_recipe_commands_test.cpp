@@ -6,6 +6,13 @@ namespace {
 
 using dialogs::FSubRecipe;
 
+/// How often a view reads all rows anew.
+struct RowsRead {
+    explicit RowsRead(forms::Grid& grid) : watch(grid.rowsChanged.subscribe([this] { ++count; })) {}
+    int count = 0;
+    forms::Subscription watch;
+};
+
 struct SubRecipes : CommandWindow {
     SubRecipes() { show(mixSubRecipes); }
     void choose(std::int32_t entry, const std::string& variable) {
@@ -290,12 +297,11 @@ TEST_F(SubRecipes, LetNoOtherCommandRunWhileTheirDialogIsOpen) {
 }
 
 TEST_F(SubRecipes, ACancelledDialogReadsNoRowsAnew) {
-    int read = 0;
-    const auto watch = grid().rowsChanged.subscribe([&] { ++read; });
+    const RowsRead rows(grid());
     cancel();
     for (const char* command : {"mnuRecipeMemberNewRecipe", "mnuRecipeMemberEditSubRecipe"}) click(command);
     EXPECT_EQ(host.record.modals.size(), 2U);
-    EXPECT_EQ(read, 0);
+    EXPECT_EQ(rows.count, 0);
 }
 
 TEST_F(SubRecipes, AnEditWithATextThatDoesNotFitIsToldAndNotStored) {
@@ -314,7 +320,9 @@ TEST_F(SubRecipes, AnEditThatAnotherWasFasterWithShowsTheirs) {
         dialog.txtVarRecipe->setText("File.Mine");
         dialog.cmdOk->click();
     });
+    const RowsRead rows(grid());
     click("mnuRecipeMemberEditSubRecipe");
+    EXPECT_EQ(rows.count, 1);
     EXPECT_EQ(messages().size(), 1U);
     EXPECT_EQ(shown("VarRecipe"), (Texts{"File.Theirs", "File.Water", "File.Late"}));
 }
@@ -333,6 +341,17 @@ TEST_F(SubRecipes, ARefusedOneShowsWhatAnotherHasStoredMeanwhile) {
     }
 }
 
+TEST_F(SubRecipes, ANewOneOfAWindowThatHasLostItsDatabaseIsRefusedOnce) {
+    inDialog<FSubRecipe>("FSubRecipe", [this](FSubRecipe& dialog) {
+        window->setDataEnvironment(nullptr);
+        dialog.txtVarRecipe->setText("File.Mine");
+        dialog.cmdOk->click();
+        dialog.cmdCancel->click();
+    });
+    click("mnuRecipeMemberNewRecipe");
+    EXPECT_EQ(messages(), (Texts{"-2147467259: The editor has no database now"}));
+}
+
 TEST_F(SubRecipes, AnErrorThatIsNoConflictLeavesTheNodes) {
     database.table("TrcpRecipe").remove(mix);
     faults.arm(1, support::FaultPlan::Kind::open);
@@ -348,9 +367,13 @@ TEST_F(SubRecipes, ANewOneOfARecipeThatIsGoneLeavesTheNodeOfItsOwn) {
         dialog.cmbChooseRecipe->setListIndex(1);
         dialog.txtVarRecipe->setText("File");
         database.table("TrcpRecipe").remove(syrup);
+        addMember(mix, "File.Late", water);
         dialog.cmdOk->click();
     });
+    const RowsRead rows(grid());
     click("mnuRecipeMemberNewRecipe");
+    EXPECT_EQ(rows.count, 1);
+    EXPECT_EQ(shown("VarRecipe").back(), "File.Late") << "what another has stored meanwhile";
     ASSERT_EQ(messages().size(), 1U);
     EXPECT_TRUE(messages()[0].starts_with("-2147217885: ")) << messages()[0];
     EXPECT_EQ(shownNodes()[0], "RCPR1 As it was");

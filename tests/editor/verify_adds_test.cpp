@@ -110,11 +110,11 @@ TEST_F(VerifyAdds, LeavesAGridWithoutAnEditAlone) {
     EXPECT_EQ(changes, 0);
 }
 
-TEST_F(VerifyAdds, ANewRowIsStoredBeforeTheRowsAreReadAnew) {
+TEST_F(VerifyAdds, WritesANewRowThatTheViewHasNotMarked) {
     startNewMember("Pump.State");
     grid().setDataChanged(false);
-    window->refreshMembers();
-    EXPECT_EQ(shown("VarRecipe").back(), "Pump.State");
+    window->VerifyAdds();
+    EXPECT_EQ(storedVariable(7), "Pump.State");
     EXPECT_FALSE(grid().addNewMode());
 }
 
