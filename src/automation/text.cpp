@@ -1,7 +1,9 @@
 #include "automation/text.h"
 
+#include <algorithm>
 #include <array>
-#include <cstdint>
+
+#include "automation/utf8.h"
 
 namespace hx::automation {
 
@@ -11,40 +13,15 @@ constexpr char32_t invalidByte = 0x110000;  // added to a byte that is not UTF-8
 
 // The next code point of `text` at `at`, which is moved behind it.
 char32_t nextCodePoint(std::string_view text, std::size_t& at) {
-    const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(text[i]); };
-    const unsigned char lead = byte(at++);
-    if (lead < 0x80) return lead;
-    const int extra = lead >= 0xF0 ? 3 : lead >= 0xE0 ? 2 : lead >= 0xC2 ? 1 : 0;
-    if (extra == 0 || at + static_cast<std::size_t>(extra) > text.size()) return invalidByte + lead;
-    char32_t point = lead & (0x3FU >> extra);
-    for (int i = 0; i < extra; ++i) {
-        const unsigned char next = byte(at + static_cast<std::size_t>(i));
-        if ((next & 0xC0) != 0x80) return invalidByte + lead;
-        point = (point << 6) | (next & 0x3FU);
-    }
-    at += static_cast<std::size_t>(extra);
-    return point;
+    const Utf8Character next = decodeUtf8(text, at);
+    const auto byte = static_cast<unsigned char>(text[at]);
+    at += next.length == 0 ? 1 : next.length;
+    return next.length == 0 ? invalidByte + byte : next.point;
 }
 
 void append(std::string& out, char32_t point) {
-    const auto put = [&](char32_t value) { out += static_cast<char>(static_cast<unsigned char>(value)); };
-    if (point >= invalidByte) {
-        put(point - invalidByte);
-    } else if (point < 0x80) {
-        put(point);
-    } else if (point < 0x800) {
-        put(0xC0 | (point >> 6));
-        put(0x80 | (point & 0x3F));
-    } else if (point < 0x10000) {
-        put(0xE0 | (point >> 12));
-        put(0x80 | ((point >> 6) & 0x3F));
-        put(0x80 | (point & 0x3F));
-    } else {
-        put(0xF0 | (point >> 18));
-        put(0x80 | ((point >> 12) & 0x3F));
-        put(0x80 | ((point >> 6) & 0x3F));
-        put(0x80 | (point & 0x3F));
-    }
+    if (point < invalidByte) return appendUtf8(out, point);
+    out += static_cast<char>(static_cast<unsigned char>(point - invalidByte));
 }
 
 // Latin Extended-A pairs upper and lower case on neighbouring code points, in three runs of different parity.
@@ -67,8 +44,11 @@ char32_t foldGreek(char32_t c) {
     return c;
 }
 
+bool isAscii(char c) { return (c & 0x80) == 0; }
+char foldAscii(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c; }
+
 char32_t fold(char32_t c) {
-    if (c < 0x80) return c >= 'A' && c <= 'Z' ? c + 32 : c;
+    if (c < 0x80) return static_cast<char32_t>(foldAscii(static_cast<char>(c)));
     if (c < 0x100) return c >= 0xC0 && c <= 0xDE && c != 0xD7 ? c + 32 : c;
     if (c < 0x180) return foldLatinExtended(c);
     if (c >= 0x386 && c <= 0x3AB) return foldGreek(c);
@@ -87,14 +67,32 @@ constexpr std::array<char32_t, 32> windows1252 = {0x20AC, 0x81,   0x201A, 0x192,
 
 std::string foldCase(std::string_view text) {
     std::string folded;
-    folded.reserve(text.size());
-    for (std::size_t at = 0; at < text.size();) append(folded, fold(nextCodePoint(text, at)));
+    appendFolded(folded, text);
     return folded;
 }
 
+// Most names are ASCII throughout.
+void appendFolded(std::string& to, std::string_view text) {
+    const std::size_t start = to.size();
+    to.resize(start + text.size());
+    bool ascii = true;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        ascii = ascii && isAscii(text[i]);
+        to[start + i] = foldAscii(text[i]);
+    }
+    if (ascii) return;
+    to.resize(start);
+    for (std::size_t at = 0; at < text.size();) append(to, fold(nextCodePoint(text, at)));
+}
+
 std::strong_ordering compareIgnoreCase(std::string_view a, std::string_view b) {
+    const std::size_t common = std::min(a.size(), b.size());
     std::size_t i = 0;
-    std::size_t j = 0;
+    for (; i < common && isAscii(a[i]) && isAscii(b[i]); ++i) {
+        const auto order = foldAscii(a[i]) <=> foldAscii(b[i]);
+        if (order != 0) return order;
+    }
+    std::size_t j = i;
     while (i < a.size() && j < b.size()) {
         const auto order = fold(nextCodePoint(a, i)) <=> fold(nextCodePoint(b, j));
         if (order != 0) return order;
@@ -136,7 +134,7 @@ std::string fromWindows1252(std::string_view bytes) {
     std::string text;
     for (const char byte : bytes) {
         const auto code = static_cast<unsigned char>(byte);
-        append(text, code >= 0x80 && code < 0xA0 ? windows1252[code - 0x80U] : char32_t{code});
+        appendUtf8(text, code >= 0x80 && code < 0xA0 ? windows1252[code - 0x80U] : char32_t{code});
     }
     return text;
 }

@@ -10,6 +10,8 @@ namespace hx::automation {
 /// UTF-8 text with every letter of the Latin, Greek and Cyrillic scripts in lower case. Bytes that are not
 /// UTF-8 stay as they are.
 [[nodiscard]] std::string foldCase(std::string_view text);
+/// The same, put behind what is there.
+void appendFolded(std::string& to, std::string_view text);
 
 /// Compares the folded texts code point by code point, without building them.
 [[nodiscard]] std::strong_ordering compareIgnoreCase(std::string_view a, std::string_view b);

@@ -8,7 +8,7 @@
 #include <system_error>
 
 #include "automation/error.h"
-#include "automation/text.h"
+#include "automation/utf8.h"
 #include "cli/text_file.h"
 
 namespace hx::cli {
@@ -32,36 +32,18 @@ std::ifstream openText(const std::string& path) {
     return file;
 }
 
-/// Counts what of a text is UTF-8 beyond ASCII, and what is not UTF-8.
-class Utf8Check {
-  public:
-    void take(unsigned char byte) {
-        if (needed_ == 0) return begin(byte);
-        if (byte < lowest_ || byte > highest_) {
-            needed_ = 0;
-            ++wrong_;
-            return begin(byte);
+/// What of a text is UTF-8 beyond ASCII, in characters, and what is not UTF-8, in bytes.
+struct Utf8Check {
+    std::int64_t characters = 0, wrong = 0;
+
+    void take(std::string_view text) {
+        for (std::size_t at = 0; at < text.size();) {
+            const std::size_t length = automation::decodeUtf8(text, at).length;
+            if (length == 0) ++wrong;
+            if (length > 1) ++characters;
+            at += std::max<std::size_t>(length, 1);
         }
-        lowest_ = 0x80;
-        highest_ = 0xBF;
-        if (--needed_ == 0) ++characters_;
     }
-    [[nodiscard]] bool isUtf8() const { return needed_ == 0 && wrong_ == 0; }
-    [[nodiscard]] bool isMostlyUtf8() const { return characters_ > wrong_; }
-
-  private:
-    // Overlong forms, surrogates and what lies beyond U+10FFFF narrow the byte that follows.
-    void begin(unsigned char byte) {
-        if (byte < 0x80) return;
-        needed_ = byte < 0xC2 ? 0 : byte < 0xE0 ? 1 : byte < 0xF0 ? 2 : byte < 0xF5 ? 3 : 0;
-        if (needed_ == 0) ++wrong_;
-        lowest_ = byte == 0xE0 ? 0xA0 : byte == 0xF0 ? 0x90 : 0x80;
-        highest_ = byte == 0xED ? 0x9F : byte == 0xF4 ? 0x8F : 0xBF;
-    }
-
-    int needed_ = 0;  // bytes that the character still lacks
-    unsigned char lowest_ = 0x80, highest_ = 0xBF;
-    std::int64_t characters_ = 0, wrong_ = 0;
 };
 
 std::string beginning(const std::string& path, std::size_t length) {
@@ -88,10 +70,15 @@ Encoding markedEncoding(std::string_view bytes) {
 Utf8Check checkUtf8(const std::string& path) {
     std::ifstream file = openText(path);
     Utf8Check check;
-    std::string block(blockSize, '\0');
-    while (file.read(block.data(), static_cast<std::streamsize>(block.size())) || file.gcount() > 0) {
-        const auto end = block.begin() + file.gcount();
-        for (auto at = block.begin(); at != end; ++at) check.take(static_cast<unsigned char>(*at));
+    std::string text;
+    while (file) {
+        const std::size_t kept = text.size();
+        text.resize(kept + blockSize);
+        file.read(text.data() + kept, static_cast<std::streamsize>(blockSize));
+        text.resize(kept + static_cast<std::size_t>(file.gcount()));
+        const std::size_t whole = text.size() - (file ? automation::unfinishedUtf8(text) : 0);
+        check.take(std::string_view(text).substr(0, whole));
+        text.erase(0, whole);
     }
     return check;
 }
@@ -102,7 +89,7 @@ Encoding recogniseEncoding(const std::string& path) {
     Encoding marked = markedEncoding(beginning(path, 3));
     if (!marked.name.empty()) return marked;
     const Utf8Check check = checkUtf8(path);
-    return {check.isUtf8() || check.isMostlyUtf8() ? "UTF-8" : "WINDOWS-1252"};
+    return {check.wrong == 0 || check.characters > check.wrong ? "UTF-8" : "WINDOWS-1252"};
 }
 
 Encoding declaredEncoding(const std::string& path) {

@@ -5,11 +5,10 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
-#include <optional>
 #include <system_error>
 
 #include "automation/text.h"
-#include "cli/visible.h"
+#include "automation/utf8.h"
 
 namespace hx::cli {
 
@@ -28,16 +27,6 @@ std::string contents(const std::string& path) {
     return text;
 }
 
-// Where the text is not UTF-8.
-std::optional<std::size_t> fault(std::string_view text) {
-    for (std::size_t at = 0; at < text.size();) {
-        const std::size_t length = characterLength(text, at);
-        if (length == 0) return at;
-        at += length;
-    }
-    return std::nullopt;
-}
-
 }  // namespace
 
 void Line::fail(const std::string& problem) const {
@@ -47,8 +36,8 @@ void Line::fail(const std::string& problem) const {
 std::string readText(const std::string& path) {
     std::string text = contents(path);
     if (text.starts_with(byteOrderMark)) Line{path, 1, {}}.fail("the file begins with a byte order mark");
-    if (const auto at = fault(text)) {
-        const auto before = std::ranges::count(std::string_view(text).substr(0, *at), '\n');
+    if (const auto at = automation::findNoUtf8(text); at != std::string::npos) {
+        const auto before = std::ranges::count(std::string_view(text).substr(0, at), '\n');
         Line{path, static_cast<int>(before) + 1, {}}.fail("the text is not UTF-8");
     }
     return text;

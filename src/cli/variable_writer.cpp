@@ -98,16 +98,9 @@ void VariableWriter::check(const ListedVariable& variable) const {
     if (variable.comment) field("Comment", *variable.comment, limits_.comment, isControlButBreak);
 }
 
-// Most names are ASCII throughout.
 std::size_t VariableWriter::hashOf(std::string_view name) {
-    folded_.resize(name.size());
-    bool ascii = true;
-    for (std::size_t i = 0; i < name.size(); ++i) {
-        const char c = name[i];
-        ascii = ascii && (c & 0x80) == 0;
-        folded_[i] = c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c;
-    }
-    if (!ascii) folded_ = automation::foldCase(name);
+    folded_.clear();
+    automation::appendFolded(folded_, name);
     return std::hash<std::string>()(folded_);
 }
 

@@ -3,25 +3,11 @@
 #include <algorithm>
 #include <array>
 
+#include "automation/utf8.h"
+
 namespace hx::cli {
 
 namespace {
-
-// The bytes that follow a lead byte, or -1 when the byte cannot lead. Overlong forms and surrogates count as faults
-// too.
-int followers(std::string_view text, std::size_t at) {
-    const auto byte = [&](std::size_t i) { return i < text.size() ? static_cast<unsigned char>(text[i]) : 0U; };
-    const unsigned lead = byte(at);
-    const unsigned second = byte(at + 1);
-    if (lead < 0x80) return 0;
-    if (lead >= 0xC2 && lead <= 0xDF) return 1;
-    if (lead == 0xE0) return second >= 0xA0 ? 2 : -1;
-    if (lead == 0xED) return second <= 0x9F ? 2 : -1;
-    if (lead >= 0xE1 && lead <= 0xEF) return 2;
-    if (lead == 0xF0) return second >= 0x90 ? 3 : -1;
-    if (lead == 0xF4) return second <= 0x8F ? 3 : -1;
-    return lead >= 0xF1 && lead <= 0xF3 ? 3 : -1;
-}
 
 // Control and format characters and the two separators of lines, but not the format characters that are seen.
 struct Range {
@@ -45,14 +31,6 @@ bool isHidden(char32_t point) {
     return std::ranges::any_of(hidden, [&](const Range& range) { return point >= range.first && point <= range.last; });
 }
 
-char32_t codePoint(std::string_view character) {
-    const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(character[i]); };
-    if (character.size() == 1) return byte(0);
-    char32_t point = byte(0) & (0x7FU >> character.size());
-    for (std::size_t i = 1; i < character.size(); ++i) point = point << 6U | (byte(i) & 0x3FU);
-    return point;
-}
-
 void appendHex(std::string& text, unsigned number, int digits) {
     constexpr std::string_view hex = "0123456789ABCDEF";
     for (int shift = 4 * (digits - 1); shift >= 0; shift -= 4) text += hex[number >> shift & 15U];
@@ -73,9 +51,9 @@ template <class Show>
 std::string shown(std::string_view text, const Show& show) {
     std::string result;
     for (std::size_t at = 0; at < text.size();) {
-        const std::size_t length = characterLength(text, at);
-        const std::string_view character = text.substr(at, std::max<std::size_t>(length, 1));
-        if (length == 0 || isHidden(codePoint(character))) show(result, character);
+        const automation::Utf8Character next = automation::decodeUtf8(text, at);
+        const std::string_view character = text.substr(at, std::max<std::size_t>(next.length, 1));
+        if (next.length == 0 || isHidden(next.point)) show(result, character);
         else result += character;
         at += character.size();
     }
@@ -83,15 +61,6 @@ std::string shown(std::string_view text, const Show& show) {
 }
 
 }  // namespace
-
-std::size_t characterLength(std::string_view text, std::size_t at) {
-    const int count = followers(text, at);
-    for (int i = 1; i <= count; ++i) {
-        const std::size_t next = at + static_cast<std::size_t>(i);
-        if (next >= text.size() || (static_cast<unsigned char>(text[next]) & 0xC0) != 0x80) return 0;
-    }
-    return static_cast<std::size_t>(count + 1);
-}
 
 std::string visible(std::string_view text) { return shown(text, appendBytes); }
 
@@ -108,7 +77,7 @@ std::string visibleLines(std::string_view text) {
 std::string visibleJson(std::string_view json) {
     return shown(json, [](std::string& result, std::string_view character) {
         if (character == "\n") result += '\n';
-        else appendJson(result, codePoint(character));
+        else appendJson(result, automation::decodeUtf8(character, 0).point);
     });
 }
 

@@ -1,13 +1,9 @@
 #pragma once
 
-#include <cstddef>
 #include <string>
 #include <string_view>
 
 namespace hx::cli {
-
-/// How many bytes the character of UTF-8 takes that begins there; 0 when none does.
-[[nodiscard]] std::size_t characterLength(std::string_view text, std::size_t at);
 
 /// Text for a terminal, in one line: what it would obey instead of showing it, or shows nothing of (control characters,
 /// marks of writing direction, joiners), and what is no UTF-8, byte by byte as \x0A.

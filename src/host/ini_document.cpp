@@ -2,6 +2,7 @@
 
 #include "automation/error.h"
 #include "automation/text.h"
+#include "automation/utf8.h"
 #include "host/sentences.h"
 
 namespace hx::host {
@@ -31,21 +32,6 @@ std::optional<std::string_view> keyOf(std::string_view line) {
     const std::string_view key = withoutBlanks(line.substr(0, equals));
     if (!key.empty() && key.front() == ';') return std::nullopt;
     return key;
-}
-
-bool isUtf8(std::string_view text) {
-    std::size_t expected = 0;
-    for (const char c : text) {
-        const auto byte = static_cast<unsigned char>(c);
-        if (expected > 0) {
-            if ((byte & 0xC0) != 0x80) return false;
-            --expected;
-        } else if (byte >= 0x80) {
-            if (byte < 0xC2 || byte > 0xF4) return false;
-            expected = byte >= 0xF0 ? 3 : byte >= 0xE0 ? 2 : 1;
-        }
-    }
-    return expected == 0;
 }
 
 bool inOneLine(std::string_view text) { return text.find_first_of(std::string_view("\r\n\0", 3)) == text.npos; }
@@ -85,7 +71,7 @@ std::optional<std::string> IniDocument::text(std::string_view section, std::stri
     if (!place.line) return std::nullopt;
     const std::string& line = lines_[*place.line].text;
     const std::string text = line.substr(line.find('=') + 1);
-    return isUtf8(text) ? text : automation::fromWindows1252(text);
+    return automation::isUtf8(text) ? text : automation::fromWindows1252(text);
 }
 
 void IniDocument::setText(std::string_view section, std::string_view key, std::string_view text) {

@@ -25,7 +25,7 @@ NodeTree::Id NodeTree::add(const NewNode& node) {
     if (node.key.empty()) throw Error(errBadIndex, "A node of the explorer needs a key");
     const Id id = free_.empty() ? static_cast<Id>(nodes_.size()) : free_.back();
     const auto sameKey = [&](Id other) { return nodes_[other].key == node.key; };
-    if (index_.insert(KeyIndex::hashOf(node.key), id, sameKey) != none) {
+    if (index_.insert(automation::KeyIndex::hashOf(node.key), id, sameKey) != none) {
         throw Error(errBadIndex, "Explorer has a node \"" + std::string(node.key) + "\" already");
     }
     takeSlot();
@@ -49,7 +49,7 @@ void NodeTree::remove(Id id) {
 }
 
 NodeTree::Id NodeTree::find(std::string_view key) const noexcept {
-    return index_.find(KeyIndex::hashOf(key), [&](Id id) { return nodes_[id].key == key; });
+    return index_.find(automation::KeyIndex::hashOf(key), [&](Id id) { return nodes_[id].key == key; });
 }
 
 NodeTree::Id NodeTree::findParent(std::string_view key) const noexcept {
@@ -215,7 +215,7 @@ void NodeTree::release(Id id) {
         doomed.pop_back();
         for (std::size_t i = 0; i < childCount(next); ++i) doomed.push_back(child(next, i));
         Node& node = nodes_[next];
-        index_.erase(KeyIndex::hashOf(node.key), next);
+        index_.erase(automation::KeyIndex::hashOf(node.key), next);
         bytes += node.key.size() + node.caption.size();
         if (node.list != 0) {
             lists_[node.list] = Children{};

@@ -8,8 +8,8 @@
 #include <string_view>
 #include <vector>
 
+#include "automation/key_index.h"
 #include "host/chunked_list.h"
-#include "host/key_index.h"
 #include "host/packed_texts.h"
 #include "host/project_explorer.h"
 #include "host/shared_texts.h"
@@ -78,7 +78,7 @@ class NodeTree {
     PackedTexts packed_;       ///< keys and captions
     std::size_t dropped_ = 0;  ///< bytes of them that no node has any more
     SharedTexts texts_;        ///< tags and images
-    KeyIndex index_;
+    automation::KeyIndex index_;
     Id last_ = root;  ///< the node added last, or the root
 };
 

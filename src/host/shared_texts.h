@@ -5,8 +5,8 @@
 #include <string_view>
 #include <utility>
 
+#include "automation/key_index.h"
 #include "host/chunked_list.h"
-#include "host/key_index.h"
 
 namespace hx::host {
 
@@ -23,8 +23,8 @@ class SharedTexts {
         if (texts_[last_] == text) return last_;
         const auto next = static_cast<std::uint32_t>(texts_.size());
         const auto same = [&](std::uint32_t number) { return texts_[number] == text; };
-        const auto known = index_.insert(KeyIndex::hashOf(text), next, same);
-        last_ = known != KeyIndex::none ? known : next;
+        const auto known = index_.insert(automation::KeyIndex::hashOf(text), next, same);
+        last_ = known != automation::KeyIndex::none ? known : next;
         if (last_ == next) texts_.append() = text;
         return last_;
     }
@@ -38,7 +38,7 @@ class SharedTexts {
 
   private:
     ChunkedList<std::string> texts_;
-    KeyIndex index_;
+    automation::KeyIndex index_;
     std::uint32_t last_ = 0, beforeLast_ = 0;
 };
 

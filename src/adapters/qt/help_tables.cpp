@@ -1,7 +1,10 @@
 #include "adapters/qt/help_tables.h"
 
-#include <QStringDecoder>
 #include <QtEndian>
+
+#include "adapters/qt/text.h"
+#include "automation/text.h"
+#include "automation/utf8.h"
 
 namespace hx::qt {
 
@@ -12,11 +15,6 @@ constexpr qsizetype versionLength = 4, entryHeaderLength = 4;
 enum SystemCode { contentsFile = 0, startTopic = 2, title = 3 };
 
 constexpr qsizetype contextLength = 8;  // the number, and where its text stands in "/#STRINGS"
-
-// What the code page 1252 has where Latin 1 has control characters.
-constexpr char16_t westernMarks[] =
-    u"\u20ac\u0081\u201a\u0192\u201e\u2026\u2020\u2021\u02c6\u2030\u0160\u2039\u0152\u008d\u017d\u008f"
-    u"\u0090\u2018\u2019\u201c\u201d\u2022\u2013\u2014\u02dc\u2122\u0161\u203a\u0153\u009d\u017e\u0178";
 
 std::uint32_t number(const QByteArray& bytes, qsizetype at) {
     return qFromLittleEndian<std::uint32_t>(bytes.constData() + at);
@@ -31,20 +29,11 @@ QByteArray upToZero(const QByteArray& bytes) {
     return zero < 0 ? bytes : bytes.left(zero);
 }
 
-QString decodeWestern(const QByteArray& bytes) {
-    QString text = QString::fromLatin1(bytes);
-    for (QChar& c : text) {
-        if (c.unicode() >= 0x80 && c.unicode() < 0xA0) c = QChar(westernMarks[c.unicode() - 0x80]);
-    }
-    return text;
-}
-
 }  // namespace
 
 QString decodeHelpText(const QByteArray& bytes) {
-    QStringDecoder utf8(QStringDecoder::Utf8);
-    const QString text = utf8.decode(bytes);
-    return utf8.hasError() ? decodeWestern(bytes) : text;
+    const std::string text = bytes.toStdString();
+    return toQt(automation::isUtf8(text) ? text : automation::fromWindows1252(text));
 }
 
 HelpSystem readHelpSystem(const QByteArray& system) {

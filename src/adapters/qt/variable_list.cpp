@@ -1,6 +1,5 @@
 #include "adapters/qt/variable_list.h"
 
-#include <bit>
 #include <functional>
 
 #include "automation/text.h"
@@ -11,54 +10,34 @@ namespace {
 
 constexpr char lineEnd = '\n';  // so that no word is found across two fields
 
-// Nearly all names are ASCII, for which one pass is enough.
-void appendFolded(std::string& to, std::string_view text) {
-    const std::size_t start = to.size();
-    to += text;
-    for (std::size_t i = start; i < to.size(); ++i) {
-        const char c = to[i];
-        if (static_cast<unsigned char>(c) >= 0x80) {
-            to.replace(start, text.size(), automation::foldCase(text));
-            return;
-        }
-        if (c >= 'A' && c <= 'Z') to[i] = static_cast<char>(c + ('a' - 'A'));
-    }
-}
+std::uint32_t hashOf(std::string_view name) { return static_cast<std::uint32_t>(std::hash<std::string_view>()(name)); }
 
 }  // namespace
 
 VariableList::VariableList(std::vector<Variable> variables) : variables_(std::move(variables)) {
     fold();
-    fillSlots();
+    fillIndex();
 }
 
 void VariableList::fold() {
     ends_.reserve(size());
     for (const Variable& variable : variables_) {
-        appendFolded(folded_, variable.name);
+        automation::appendFolded(folded_, variable.name);
         const std::size_t name = folded_.size();
         folded_ += lineEnd;
-        appendFolded(folded_, variable.type);
+        automation::appendFolded(folded_, variable.type);
         folded_ += lineEnd;
-        appendFolded(folded_, variable.comment);
+        automation::appendFolded(folded_, variable.comment);
         ends_.push_back({name, folded_.size()});
     }
 }
 
-// At most half full, so that a free slot is never far.
-void VariableList::fillSlots() {
-    slots_.assign(std::bit_ceil(2 * size() + 1), 0);
+void VariableList::fillIndex() {
     for (std::size_t row = 0; row < size(); ++row) {
-        std::uint32_t& slot = slots_[slotOf(foldedName(row))];
-        if (slot == 0) slot = static_cast<std::uint32_t>(row + 1);
+        const std::string_view name = foldedName(row);
+        index_.insert(hashOf(name), static_cast<automation::KeyIndex::Id>(row),
+                      [&](auto other) { return foldedName(other) == name; });
     }
-}
-
-std::size_t VariableList::slotOf(std::string_view name) const {
-    const std::size_t last = slots_.size() - 1;
-    std::size_t slot = std::hash<std::string_view>()(name) & last;
-    while (slots_[slot] != 0 && foldedName(slots_[slot] - 1) != name) slot = (slot + 1) & last;
-    return slot;
 }
 
 std::string_view VariableList::folded(std::size_t row) const {
@@ -72,8 +51,9 @@ std::string_view VariableList::foldedName(std::size_t row) const {
 }
 
 std::optional<std::size_t> VariableList::find(std::string_view name) const {
-    const std::uint32_t slot = slots_[slotOf(automation::foldCase(name))];
-    return slot == 0 ? std::nullopt : std::optional<std::size_t>(slot - 1);
+    const std::string folded = automation::foldCase(name);
+    const auto row = index_.find(hashOf(folded), [&](auto other) { return foldedName(other) == folded; });
+    return row == automation::KeyIndex::none ? std::nullopt : std::optional<std::size_t>(row);
 }
 
 }  // namespace hx::qt

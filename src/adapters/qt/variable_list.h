@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "adapters/qt/variable_source.h"
+#include "automation/key_index.h"
 
 namespace hx::qt {
 
@@ -31,14 +32,12 @@ class VariableList {
     };
     [[nodiscard]] std::string_view foldedName(std::size_t row) const;
     void fold();
-    void fillSlots();
-    /// The slot of a folded name, or the free one that it would get.
-    [[nodiscard]] std::size_t slotOf(std::string_view name) const;
+    void fillIndex();
 
     std::vector<Variable> variables_;
     std::string folded_;  // of all variables, one after the other
     std::vector<Ends> ends_;
-    std::vector<std::uint32_t> slots_;  // a hash table of rows + 1; 0 is free
+    automation::KeyIndex index_;  // of the rows, by folded name
 };
 
 }  // namespace hx::qt

@@ -1,7 +1,6 @@
 #include "adapters/sqlite/functions.h"
 
 #include <algorithm>
-#include <array>
 #include <exception>
 #include <sqlite3.h>
 #include <string>
@@ -63,32 +62,11 @@ void match(sqlite3_context* context, int, sqlite3_value** arguments) {
             [&] { sqlite3_result_int(context, ado::isLike(textOf(arguments[1]), textOf(arguments[0])) ? 1 : 0); });
 }
 
-constexpr std::array<unsigned char, 128> lowerCase = [] {
-    std::array<unsigned char, 128> table{};
-    for (unsigned char c = 0; c < 128; ++c) table[c] = c >= 'A' && c <= 'Z' ? static_cast<unsigned char>(c + 32) : c;
-    return table;
-}();
-
-// The texts are equal up to byte `at`, which may stand within a letter of several bytes.
-int collateLetters(std::string_view a, std::string_view b, std::size_t at) {
-    while (at > 0 && (a[at - 1] & 0x80) != 0) --at;
-    const auto order = automation::compareIgnoreCase(a.substr(at), b.substr(at));
-    return order < 0 ? -1 : order > 0 ? 1 : 0;
-}
-
-// Most names are ASCII throughout: those bytes are compared here, the rest by the library.
 int collate(void*, int lengthA, const void* textA, int lengthB, const void* textB) {
     const std::string_view a(static_cast<const char*>(textA), static_cast<std::size_t>(lengthA));
     const std::string_view b(static_cast<const char*>(textB), static_cast<std::size_t>(lengthB));
-    const std::size_t common = std::min(a.size(), b.size());
-    for (std::size_t i = 0; i < common; ++i) {
-        const auto x = static_cast<unsigned char>(a[i]);
-        const auto y = static_cast<unsigned char>(b[i]);
-        if (x == y) continue;
-        if (x >= 128 || y >= 128) return collateLetters(a, b, i);
-        if (lowerCase[x] != lowerCase[y]) return lowerCase[x] < lowerCase[y] ? -1 : 1;
-    }
-    return a.size() < b.size() ? -1 : a.size() > b.size() ? 1 : 0;
+    const auto order = automation::compareIgnoreCase(a, b);
+    return order < 0 ? -1 : order > 0 ? 1 : 0;
 }
 
 }  // namespace

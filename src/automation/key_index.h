@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-namespace hx::host {
+namespace hx::automation {
 
 /// Finds numbers by the hash of a key: an open-addressing table that keeps a part of the hash beside each number, so
 /// that a search touches almost no foreign key. The keys themselves stay with their owner, who compares them.
@@ -38,6 +38,10 @@ class KeyIndex {
         ++count_;
         return none;
     }
+    /// Fetches the memory that looking for this hash soon will need.
+    void prefetch(std::uint32_t hash) const noexcept {
+        if (!slots_.empty()) __builtin_prefetch(&slots_[hash & mask()]);
+    }
     void erase(std::uint32_t hash, Id id) noexcept;  ///< must be there
     void clear() noexcept;
     [[nodiscard]] std::size_t size() const noexcept { return count_; }
@@ -57,4 +61,4 @@ class KeyIndex {
     std::size_t count_ = 0;
 };
 
-}  // namespace hx::host
+}  // namespace hx::automation

@@ -1,8 +1,8 @@
-#include "host/key_index.h"
+#include "automation/key_index.h"
 
 #include <utility>
 
-namespace hx::host {
+namespace hx::automation {
 
 namespace {
 
@@ -55,4 +55,4 @@ void KeyIndex::grow() {
     }
 }
 
-}  // namespace hx::host
+}  // namespace hx::automation
