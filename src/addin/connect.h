@@ -68,7 +68,7 @@ class Connect : public host::CHX4Extensibility, public editor::AddIn {
     [[nodiscard]] const resources::ResourceTable& texts() const override { return resources_; }
     [[nodiscard]] resources::Help& help() override { return help_; }
     [[nodiscard]] recipe::StatusCounters& counters() override { return counters_; }
-    [[nodiscard]] editor::BusyFlag& busy() override { return busy_; }
+    [[nodiscard]] bool& busy() override { return busy_; }
 
     /// The editor window; null before the first OpenEditor and after CloseEditor.
     [[nodiscard]] const std::shared_ptr<editor::frmtabgrid>& editorWindow() const noexcept { return editor_; }
@@ -109,7 +109,7 @@ class Connect : public host::CHX4Extensibility, public editor::AddIn {
     resources::ResourceTable resources_;
     resources::Help help_;
     recipe::StatusCounters counters_;
-    editor::BusyFlag busy_;
+    bool busy_ = false;
     EditorEmbedding embedding_;
     FImageList images_;
     host::ProjectExplorer* explorer_ = nullptr;

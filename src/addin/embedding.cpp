@@ -40,7 +40,7 @@ void EditorEmbedding::UnhookEditorWindow(const editor::frmtabgrid& form) {
 
 std::int32_t EditorEmbedding::windowProcedure(forms::WindowHandle handle, std::uint32_t message, std::uint32_t wParam,
                                               std::int32_t lParam) {
-    if (message == window::activateMessage && !busy_.isSet()) {
+    if (message == window::activateMessage && !busy_) {
         activationChanged(wParam == window::active || wParam == window::clickActive);
     }
     return services_.windows.call(previousProcedure_, handle, message, wParam, lParam);

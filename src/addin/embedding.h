@@ -12,7 +12,7 @@ namespace hx::addin {
 /// One editor window at a time. Must outlive the hook.
 class EditorEmbedding {
   public:
-    EditorEmbedding(const host::Services& services, editor::BusyFlag& busy) : services_(services), busy_(busy) {}
+    EditorEmbedding(const host::Services& services, bool& busy) : services_(services), busy_(busy) {}
     EditorEmbedding(const EditorEmbedding&) = delete;
     EditorEmbedding& operator=(const EditorEmbedding&) = delete;
 
@@ -37,7 +37,7 @@ class EditorEmbedding {
     void activationChanged(bool active);
 
     const host::Services& services_;
-    editor::BusyFlag& busy_;
+    bool& busy_;
     editor::frmtabgrid* editor_ = nullptr;
     host::window::ProcedureAddress previousProcedure_ = 0;
     std::uint32_t editorMessage_ = 0;

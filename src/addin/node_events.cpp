@@ -84,7 +84,7 @@ bool isSameNode(std::string_view one, std::string_view other) {
 template <class Action>
 void Connect::event(std::string_view procedure, Action&& action) noexcept {
     // A message box or a selection of the editor is open: what the explorer reports meanwhile is ignored.
-    if (busy_.isSet()) return;
+    if (busy_) return;
     const Call call(*this, Call::From::studio);
     trap(services_.screen, procedure, std::forward<Action>(action));
 }

@@ -5,6 +5,7 @@
 #include <charconv>
 #include <map>
 
+#include "automation/restore.h"
 #include "automation/text.h"
 #include "cli/plcopen_declarations.h"
 #include "cli/project_reader.h"
@@ -110,28 +111,18 @@ class Unfolder {
             type);
     }
 
-    /// Counts what is unfolded, and how deep.
-    class Step {
-      public:
-        Step(Unfolder& unfolder, const xml_node& node) : depth_(unfolder.depth_) {
-            if (++unfolder.parts_ > mostParts) {
-                unfolder.document_.fail(
-                    node, "the variables up to here have more than " + std::to_string(mostParts) + " parts");
-            }
-            if (depth_ == deepest) unfolder.document_.fail(node, "the types are nested too deeply");
-            ++depth_;
+    /// Counts what is unfolded, and how deep while what it gives lives.
+    automation::Restore<int> step(const xml_node& node) {
+        if (++parts_ > mostParts) {
+            document_.fail(node, "the variables up to here have more than " + std::to_string(mostParts) + " parts");
         }
-        ~Step() { --depth_; }
-        Step(const Step&) = delete;
-        Step& operator=(const Step&) = delete;
-
-      private:
-        int& depth_;
-    };
+        if (depth_ == deepest) document_.fail(node, "the types are nested too deeply");
+        return {depth_, depth_ + 1};
+    }
 
     // `holder` has a type: in one element, or named in a text.
     void unfold(const Place& place, const xml_node& holder) {
-        const Step step(*this, holder);
+        const auto deeper = step(holder);
         if (const xml_node named = childOf(holder, "TypeName")) return unfoldNamed(place, textOf(named), named);
         if (const xml_node defined = childOf(holder, "InstantlyDefinedType")) return unfoldDefined(place, defined);
         const xml_node type = firstElement(holder);

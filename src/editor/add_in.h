@@ -3,6 +3,7 @@
 #include <string>
 #include <string_view>
 
+#include "automation/restore.h"
 #include "host/project_explorer.h"
 #include "host/services.h"
 #include "recipe/mhxrcp_hirarch_func.h"
@@ -11,27 +12,10 @@
 
 namespace hx::editor {
 
-/// True while the editor shows a message box or a selection of its own: the window's activation then does nothing.
-class BusyFlag {
+/// While it lives, the add-in is busy.
+class Busy : automation::Restore<bool> {
   public:
-    [[nodiscard]] bool isSet() const noexcept { return set_; }
-    void set(bool busy) noexcept { set_ = busy; }
-
-  private:
-    bool set_ = false;
-};
-
-/// Sets the flag while it lives; afterwards it is as it was.
-class Busy {
-  public:
-    explicit Busy(BusyFlag& flag) : flag_(flag), before_(flag.isSet()) { flag_.set(true); }
-    ~Busy() { flag_.set(before_); }
-    Busy(const Busy&) = delete;
-    Busy& operator=(const Busy&) = delete;
-
-  private:
-    BusyFlag& flag_;
-    bool before_;
+    explicit Busy(bool& flag) : Restore(flag, true) {}
 };
 
 /// What the editor window needs of the add-in that created it.
@@ -46,7 +30,8 @@ class AddIn {
     [[nodiscard]] virtual const resources::ResourceTable& texts() const = 0;
     [[nodiscard]] virtual resources::Help& help() = 0;
     [[nodiscard]] virtual recipe::StatusCounters& counters() = 0;
-    [[nodiscard]] virtual BusyFlag& busy() = 0;
+    /// True while the editor shows a message box or a selection of its own: the window's activation then does nothing.
+    [[nodiscard]] virtual bool& busy() = 0;
 };
 
 /// A window's reference to the add-in that created it, released when the window is closed: somebody may keep the window
@@ -63,7 +48,7 @@ class AddInReference : public AddIn {
     [[nodiscard]] const resources::ResourceTable& texts() const override { return required().texts(); }
     [[nodiscard]] resources::Help& help() override { return required().help(); }
     [[nodiscard]] recipe::StatusCounters& counters() override { return required().counters(); }
-    [[nodiscard]] BusyFlag& busy() override { return addIn_ ? addIn_->busy() : busy_; }
+    [[nodiscard]] bool& busy() override { return addIn_ ? addIn_->busy() : busy_; }
 
   private:
     static constexpr automation::Sentence closed{"The editor has been closed.", "Der Editor ist geschlossen."};
@@ -75,7 +60,7 @@ class AddInReference : public AddIn {
 
     AddIn* addIn_;
     const host::Services& services_;
-    BusyFlag busy_;  // of nobody, when the add-in is gone
+    bool busy_ = false;  // of nobody, when the add-in is gone
 };
 
 /// "number: description" under the procedure's name: the box of every trapped error.

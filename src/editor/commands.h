@@ -48,17 +48,6 @@ class Commands {
         Nodes nodes;
         void (Commands::*command)();
     };
-    /// A dialog on a row is open while it lives.
-    class Dialog {
-      public:
-        explicit Dialog(bool& open) : open_(open) { open_ = true; }
-        ~Dialog() { open_ = false; }
-        Dialog(const Dialog&) = delete;
-        Dialog& operator=(const Dialog&) = delete;
-
-      private:
-        bool& open_;
-    };
     void run(std::span<const Row> rows, std::int16_t index, std::string_view procedure);
     [[nodiscard]] bool showsOneOf(Nodes nodes) const;
 

@@ -4,6 +4,7 @@
 #include <ranges>
 
 #include "automation/convert.h"
+#include "automation/restore.h"
 #include "automation/text.h"
 #include "dialogs/fmulti_select_items.h"
 #include "dialogs/mconfigeditor.h"
@@ -133,7 +134,7 @@ void Commands::newSubRecipe() {
     bool read = false;
     const bool done = guard(addIn_, procedure, [&] {
         showingConflicts(recipe::KeyId(window_.nodeKey()), {}, [&] {
-            const Dialog dialog(dialogOpen_);
+            const automation::Restore dialog(dialogOpen_, true);
             if (recipe::AddSubRecipeMember(window_, tellingIn(procedure, read))) read = true;
         });
     });
@@ -146,7 +147,7 @@ void Commands::editSubRecipe() {
     const DatabaseWork work(window_.dataEnvironment());
     bool read = false;
     const bool done = guard(addIn_, procedure, [&] {
-        const Dialog dialog(dialogOpen_);
+        const automation::Restore dialog(dialogOpen_, true);
         if (recipe::EditSubRecipeMember(window_.memberRecordset(), window_, tellingIn(procedure, read))) read = true;
     });
     // After an error too: another may have changed the row.

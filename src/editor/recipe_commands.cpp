@@ -2,6 +2,7 @@
 
 #include "ado/transaction.h"
 #include "automation/convert.h"
+#include "automation/restore.h"
 #include "editor/commands.h"
 #include "editor/database_work.h"
 #include "editor/frmtabgrid.h"
@@ -66,7 +67,7 @@ void Commands::editRecipe() {
     if (!findRecipe(work.recipes(), "ID=" + std::to_string(id))) return;
     const std::string before = nameIn(work.recipes());
     showingConflicts(id, before, [&] {
-        const Dialog dialog(dialogOpen_);
+        const automation::Restore dialog(dialogOpen_, true);
         bool refused = false;
         recipe::EditRecipe(work.recipes(), window_, tellingIn(procedure, refused));
     });

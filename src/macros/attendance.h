@@ -7,6 +7,7 @@
 #include "adapters/headless/record.h"
 #include "adapters/headless/script.h"
 #include "adapters/lua/macro_files.h"
+#include "automation/restore.h"
 
 namespace hx::macros {
 
@@ -28,28 +29,10 @@ class Attendance {
     /// Whether a function of the macro may be running that the add-in waits for.
     [[nodiscard]] bool asking() const noexcept { return depth_ > 0; }
 
-    /// While one lives, a function of the macro may be running.
-    class Asking {
-      public:
-        explicit Asking(Attendance& attendance) : attendance_(attendance) { ++attendance_.depth_; }
-        ~Asking() { --attendance_.depth_; }
-        Asking(const Asking&) = delete;
-        Asking& operator=(const Asking&) = delete;
-
-      private:
-        Attendance& attendance_;
-    };
-    /// While one lives, what happens is the user's own doing.
-    class Aside {
-      public:
-        explicit Aside(Attendance& attendance) : attendance_(attendance) { attendance_.aside_ = true; }
-        ~Aside() { attendance_.aside_ = false; }
-        Aside(const Aside&) = delete;
-        Aside& operator=(const Aside&) = delete;
-
-      private:
-        Attendance& attendance_;
-    };
+    /// While it lives, a function of the macro may be running.
+    [[nodiscard]] automation::Restore<int> ask() { return {depth_, depth_ + 1}; }
+    /// While it lives, what happens is the user's own doing.
+    [[nodiscard]] automation::Restore<bool> stepAside() { return {aside_, true}; }
 
     headless::Script script;
     headless::Record record;

@@ -62,7 +62,7 @@ void AttendedScreen::showModal(forms::Form& form, forms::WindowHandle owner) {
         return form.hide();
     }
     if (attendance_.answers() && isScripted(form)) {
-        const Attendance::Asking asking(attendance_);
+        const auto asking = attendance_.ask();
         return showFor_(form, owner, [&] { scripted_.showModal(form, owner); });
     }
     dialogs_.push_back(&form);
@@ -78,7 +78,7 @@ void AttendedScreen::showModal(forms::Form& form, forms::WindowHandle owner) {
 forms::message::Answer AttendedScreen::messageBox(std::string_view text, std::int32_t style, std::string_view title) {
     if (!attendance_.answers()) return user_.messageBox(text, style, title);
     if (attendance_.script.onMessage && !attendance_.cancels()) {
-        const Attendance::Asking asking(attendance_);
+        const auto asking = attendance_.ask();
         return scripted_.messageBox(text, style, title);
     }
     return askUser({.text = std::string(text),
@@ -98,7 +98,7 @@ forms::message::Answer AttendedScreen::askUser(headless::Message box) {
 void AttendedScreen::popUp(forms::Bar& bar, forms::Band& band) {
     if (!attendance_.answers()) return user_.popUp(bar, band);
     if (!attendance_.script.onPopUp && !attendance_.cancels()) return showUser(bar, band);
-    const Attendance::Asking asking(attendance_);
+    const auto asking = attendance_.ask();
     scripted_.popUp(bar, band);
 }
 
@@ -121,7 +121,7 @@ bool AttendedScreen::chooseFont(forms::Font::Values& font) {
     if (!attendance_.answers()) return user_.chooseFont(font);
     if (attendance_.cancels()) return false;
     if (!attendance_.script.onFont) return user_.chooseFont(font);
-    const Attendance::Asking asking(attendance_);
+    const auto asking = attendance_.ask();
     return scripted_.chooseFont(font);
 }
 

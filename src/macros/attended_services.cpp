@@ -39,7 +39,7 @@ class MacroComponent : public automation::Dispatch {
 
     [[nodiscard]] const automation::MemberTable& members() const override { return object_->members(); }
     automation::Variant get(std::string_view name, automation::Args args) override {
-        const Attendance::Asking asking(attendance_);
+        const auto asking = attendance_.ask();
         return object_->get(name, args);
     }
 
@@ -55,7 +55,7 @@ std::string AttendedItems::choose(forms::WindowHandle owner, const std::string& 
     if (attendance_.cancels()) return {};
     const auto ask = attendance_.script.onItem;
     if (!ask) return user_.choose(owner, current);
-    const Attendance::Asking asking(attendance_);
+    const auto asking = attendance_.ask();
     return ask(current);
 }
 
@@ -64,7 +64,7 @@ std::string AttendedFolders::choose(forms::WindowHandle owner, const std::string
     if (attendance_.cancels()) return current;
     const auto ask = attendance_.script.onFolder;
     if (!ask) return user_.choose(owner, current);
-    const Attendance::Asking asking(attendance_);
+    const auto asking = attendance_.ask();
     return ask(current);
 }
 

@@ -2,6 +2,7 @@
 #include <filesystem>
 #include <memory>
 
+#include "automation/restore.h"
 #include "automation/text.h"
 #include "macros/arguments.h"
 #include "macros/globals.h"
@@ -34,19 +35,10 @@ Value selected(Studio& studio) {
 }
 
 // A project that is being opened or closed can ask the user; what answers him must not put another in its place.
-class Changing {
-  public:
-    explicit Changing(bool& changing) : changing_(changing) {
-        if (changing_) throw automation::Error(automation::errFail, "A project is being opened or closed");
-        changing_ = true;
-    }
-    ~Changing() { changing_ = false; }
-    Changing(const Changing&) = delete;
-    Changing& operator=(const Changing&) = delete;
-
-  private:
-    bool& changing_;
-};
+automation::Restore<bool> change(bool& changing) {
+    if (changing) throw automation::Error(automation::errFail, "A project is being opened or closed");
+    return {changing, true};
+}
 
 // A name that is its extension alone would make a hidden file.
 void requireName(const std::string& path) {
@@ -58,7 +50,7 @@ void requireName(const std::string& path) {
 void defineProject(Engine& engine, Studio& studio, const lua::MacroFiles& files) {
     const auto busy = std::make_shared<bool>(false);
     engine.define("studio", "NewProject", [&studio, &files, busy](Values given) {
-        const Changing changing(*busy);
+        const auto changing = change(*busy);
         const std::string name = Arguments(given).text(0);
         requireName(name);
         const std::string path = studio.pathOf(name);
@@ -67,14 +59,14 @@ void defineProject(Engine& engine, Studio& studio, const lua::MacroFiles& files)
         return Value();
     });
     engine.define("studio", "OpenProject", [&studio, &files, busy](Values given) {
-        const Changing changing(*busy);
+        const auto changing = change(*busy);
         const std::string file = studio.fileOf(Arguments(given).text(0));
         (void)files.toRead(file);
         studio.openProject(file);
         return Value();
     });
     engine.define("studio", "CloseProject", [&studio, busy](Values) {
-        const Changing changing(*busy);
+        const auto changing = change(*busy);
         studio.closeProject();
         return Value();
     });

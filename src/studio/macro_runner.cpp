@@ -61,7 +61,7 @@ void MacroRunner::runText(const QByteArray& text, const QString& name, const QSt
 void MacroRunner::runEngine(WindowStudio& studio, const QByteArray& text, const QString& name,
                             const QStringList& arguments) {
     const InputHold hold(dock_, stopKey_, [this] { stop(); });
-    const qt::QtWindows::Quiet quiet(host_.windows());
+    const auto quiet = host_.windows().quiet();
     macros::Attendance& attendance = host_.attendance();
     const lua::MacroFiles files(std::filesystem::path(studio.file()).parent_path());
     lua::Engine engine({.print = [this](std::string_view printed) { dock_.print(printed); },
@@ -99,7 +99,7 @@ bool MacroRunner::stopRequested() {
 
 void MacroRunner::handleEvents() {
     const QScopedValueRollback handling(handling_, true);
-    const macros::Attendance::Aside aside(host_.attendance());
+    const auto aside = host_.attendance().stepAside();
     dock_.flush();
     QCoreApplication::processEvents(QEventLoop::AllEvents, handlingTime);
     // Windows that have been closed go when nothing of the add-in's waits for the macro: it may still be in them.

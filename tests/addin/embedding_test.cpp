@@ -44,7 +44,7 @@ TEST_F(Activation, DeactivationSwitchesTheGridOfTheCurrentNode) {
 }
 
 TEST_F(Activation, WhileTheBusyFlagIsSetChangesNothingAndIsStillPassedOn) {
-    studio.connect->busy().set(true);
+    studio.connect->busy() = true;
     studio.addMember(1, "Tank2.Level");
     studio.window().tdbRM->setVisible(false);
     int reloads = 0;
@@ -69,15 +69,15 @@ TEST_F(Activation, OtherMessagesArePassedOnAndDoNothing) {
 TEST_F(Activation, AFailingRefreshShowsOneBoxThoughTheBoxActivatesTheWindowAgain) {
     studio.faults.arm(1, support::FaultPlan::Kind::open, automation::Error(ado::dbErrUnspecified, "Locked."));
     studio.host.script.onMessage = [this](const headless::Message&) {
-        EXPECT_TRUE(studio.connect->busy().isSet());
-        studio.connect->busy().set(false);
+        EXPECT_TRUE(studio.connect->busy());
+        studio.connect->busy() = false;
         studio.faults.arm(1, support::FaultPlan::Kind::open);
         send(window::activateMessage, window::active);
         return forms::message::Answer::ok;
     };
     send(window::activateMessage, window::active);
     EXPECT_EQ(studio.boxes(), (Texts{"Connect: ActivateEditorWindow|-2147467259: Locked."}));
-    EXPECT_FALSE(studio.connect->busy().isSet());
+    EXPECT_FALSE(studio.connect->busy());
 }
 
 TEST_F(Activation, AFailureThatLastsIsShownOnceUntilARefreshWorks) {
@@ -213,7 +213,7 @@ TEST_F(Embedding, PassesEveryMessageOnAndReturnsWhatThePreviousProcedureGave) {
     embedding.HookEditorWindow(*window);
     const forms::WindowHandle handle = window->handle();
     for (const bool busy : {false, true}) {
-        connect->busy().set(busy);
+        connect->busy() = busy;
         for (const std::uint32_t message : {0x400u, window::activateMessage, embedding.editorMessage()}) {
             EXPECT_EQ(windows.sendMessage(handle, message, 3, 4), 42);
             EXPECT_EQ(seen, (std::vector<std::int64_t>{handle, message, 3, 4}));

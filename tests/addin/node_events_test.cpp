@@ -124,13 +124,13 @@ TEST_F(NodeEvents, AnExpansionOpensTheEditor) {
 
 TEST_F(NodeEvents, AreIgnoredWhileTheEditorShowsABoxOfItsOwn) {
     studio.click("RCPR1");
-    studio.connect->busy().set(true);
+    studio.connect->busy() = true;
     studio.click("RCPR2");
     studio.rightClick("RCPR2");
     studio.press("RCPR2", key::f6);
     EXPECT_EQ(studio.window().nodeKey(), "RCPR1");
     EXPECT_TRUE(record.popUps.empty());
-    studio.connect->busy().set(false);
+    studio.connect->busy() = false;
     studio.click("RCPR2");
     EXPECT_EQ(studio.window().nodeKey(), "RCPR2");
 }

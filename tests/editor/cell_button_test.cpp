@@ -10,7 +10,7 @@ struct CellButton : EditorWindow {
     }
     void choose(const std::string& name) {
         host.script.onItem = [this, name](const std::string&) {
-            busy = addIn.busyFlag.isSet();
+            busy = addIn.busyFlag;
             return name;
         };
     }
@@ -38,7 +38,7 @@ TEST_F(CellButton, SetsTheBusyFlagOnlyWhileTheSelectionIsOpen) {
     choose("Pump.State");
     press(1);
     EXPECT_TRUE(busy);
-    EXPECT_FALSE(addIn.busyFlag.isSet());
+    EXPECT_FALSE(addIn.busyFlag);
 }
 
 TEST_F(CellButton, TrimsTheName) {
@@ -110,7 +110,7 @@ TEST_F(CellButton, ReportsASelectionThatFails) {
     press(1);
     EXPECT_EQ(messages(), (Texts{"5: No variable list"}));
     EXPECT_EQ(host.record.messages[0].title, "tdbRM_ButtonClick");
-    EXPECT_FALSE(addIn.busyFlag.isSet());
+    EXPECT_FALSE(addIn.busyFlag);
     EXPECT_FALSE(grid().dataChanged());
 }
 

@@ -76,7 +76,7 @@ class CommandWindow : public EditorWindow {
     /// Nothing of a command is left behind.
     void expectAtRest() {
         EXPECT_EQ(host.screen.pointer(), forms::Pointer::standard);
-        EXPECT_FALSE(addIn.busyFlag.isSet());
+        EXPECT_FALSE(addIn.busyFlag);
         EXPECT_FALSE(data->CnnRecipes->inTransaction());
         EXPECT_EQ(data->rsRecipes->state(), ado::adStateClosed);
         EXPECT_TRUE(data->CnnRecipes->errors().empty());

@@ -21,7 +21,7 @@ struct DeleteMembers : CommandWindow {
 TEST_F(DeleteMembers, AsksWithNoAsTheDefault) {
     bool busy = false;
     host.script.onMessage = [&](const headless::Message& message) {
-        busy = addIn.busyFlag.isSet();
+        busy = addIn.busyFlag;
         return message.defaultButton;
     };
     grid().setRow(1);

@@ -32,7 +32,7 @@ TEST_F(DeleteRecipe, ShowsTheHourglassMeanwhile) {
 TEST_F(DeleteRecipe, AsksWithNoAsTheDefault) {
     bool busy = false;
     host.script.onMessage = [&](const headless::Message& message) {
-        busy = addIn.busyFlag.isSet();
+        busy = addIn.busyFlag;
         return message.defaultButton;
     };
     const Texts recipes = storedRecipes(), stored = storedMembers();

@@ -71,7 +71,7 @@ TEST_F(EditRecipe, CancelledChangesNothing) {
 
 TEST_F(EditRecipe, LeavesTheWindowFreeToFollowTheStudioWhileTheDialogIsOpen) {
     edit([&](FRecipe& dialog) {
-        EXPECT_FALSE(addIn.busyFlag.isSet());
+        EXPECT_FALSE(addIn.busyFlag);
         window->showNode("RCPR" + std::to_string(syrup));
         dialog.txtName->setText("Mischung");
         dialog.cmdOk->click();
@@ -102,7 +102,7 @@ TEST_F(EditRecipe, LetsNoOtherCommandRunWhileTheDialogIsOpen) {
 TEST_F(EditRecipe, KeepsTheWindowBusyWhileAMessageIsShown) {
     bool busy = false;
     host.script.onMessage = [&](const headless::Message&) {
-        busy = addIn.busyFlag.isSet();
+        busy = addIn.busyFlag;
         return forms::message::Answer::ok;
     };
     edit([&](FRecipe& dialog) {
@@ -111,7 +111,7 @@ TEST_F(EditRecipe, KeepsTheWindowBusyWhileAMessageIsShown) {
     });
     EXPECT_EQ(messages(), (Texts{"Zurückschreiben von Rezept-Dialog fehlgegangen"}));
     EXPECT_TRUE(busy);
-    EXPECT_FALSE(addIn.busyFlag.isSet());
+    EXPECT_FALSE(addIn.busyFlag);
 }
 
 TEST_F(EditRecipe, OfARecipeThatIsGoneDoesNothing) {
@@ -167,7 +167,7 @@ TEST_F(EditRecipe, KeepsTheDialogWithAllThatWasEnteredWhileTheNameExists) {
 TEST_F(EditRecipe, KeepsTheDialogWhileTheFileIsLocked) {
     bool busy = false;
     host.script.onMessage = [&](const headless::Message& message) {
-        busy = addIn.busyFlag.isSet();
+        busy = addIn.busyFlag;
         return message.defaultButton;
     };
     inDialog<FRecipe>("FRecipe", [&](FRecipe& dialog) {

@@ -27,13 +27,13 @@ struct FakeAddIn : AddIn {
     const resources::ResourceTable& texts() const override { return resourceTexts; }
     resources::Help& help() override { return onlineHelp; }
     recipe::StatusCounters& counters() override { return statusCounters; }
-    BusyFlag& busy() override { return busyFlag; }
+    bool& busy() override { return busyFlag; }
 
     const host::Services& hostServices;
     resources::ResourceTable resourceTexts;
     resources::Help onlineHelp;
     recipe::StatusCounters statusCounters;
-    BusyFlag busyFlag;
+    bool busyFlag = false;
     host::ProjectExplorer* node;
     int refreshes = 0;
     std::function<void()> onRefresh;

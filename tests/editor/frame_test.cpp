@@ -264,7 +264,7 @@ TEST_F(Frame, ACommandDropsWhatWaitsInTheTableOfRecipes) {
 TEST_F(Frame, TheBusyFlagStaysSetUntilTheOutermostMessageIsGone) {
     const Busy outer(addIn.busyFlag);
     { const Busy inner(addIn.busyFlag); }
-    EXPECT_TRUE(addIn.busyFlag.isSet());
+    EXPECT_TRUE(addIn.busyFlag);
 }
 
 TEST_F(Frame, ShowsAnErrorUnderTheProceduresName) {

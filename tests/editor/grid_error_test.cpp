@@ -12,7 +12,7 @@ struct GridError : EditorWindow {
         open();
         show(mixKey);
         host.script.onMessage = [this](const headless::Message& message) {
-            busy.push_back(addIn.busyFlag.isSet());
+            busy.push_back(addIn.busyFlag);
             return message.defaultButton;
         };
     }
@@ -134,7 +134,7 @@ TEST_F(GridError, TheBusyFlagIsSetOnlyWhileTheMessageIsShown) {
     typeDuplicate();
     grid().setRow(0);
     EXPECT_EQ(busy, (std::vector<bool>{true}));
-    EXPECT_FALSE(addIn.busyFlag.isSet());
+    EXPECT_FALSE(addIn.busyFlag);
 }
 
 TEST_F(GridError, TheRowCanBeLeftAfterTheRefusal) {

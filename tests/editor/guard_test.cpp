@@ -13,11 +13,11 @@ struct Guarded : EditorWindow {
     std::string told(Action&& action) {
         host.record.messages.clear();
         host.script.onMessage = [this](const headless::Message& message) {
-            EXPECT_TRUE(addIn.busyFlag.isSet());
+            EXPECT_TRUE(addIn.busyFlag);
             return message.defaultButton;
         };
         EXPECT_FALSE(guard(addIn, "mnuTest", action));
-        EXPECT_FALSE(addIn.busyFlag.isSet());
+        EXPECT_FALSE(addIn.busyFlag);
         return host.record.messages.size() == 1 ? host.record.messages[0].title + "|" + host.record.messages[0].text
                                                 : "";
     }

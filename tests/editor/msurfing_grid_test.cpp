@@ -194,7 +194,7 @@ TEST_F(MSurfingGrid, AsksAgainForANameThatCouldNotBeRead) {
 TEST_F(MSurfingGrid, TellsWhatItsViewCouldNotRead) {
     bool busy = false;
     host.script.onMessage = [&](const headless::Message& message) {
-        busy = addIn.busyFlag.isSet();
+        busy = addIn.busyFlag;
         return message.defaultButton;
     };
     grid().viewFailed(automation::Error(7, "The disk cannot be read."));

@@ -131,7 +131,7 @@ TEST_F(OptionCommands, TheServerConfigurationGetsTheSecondPathAndTheWindow) {
 TEST_F(OptionCommands, AServerConfigurationThatIsNotInstalledGivesNumberAndDescription) {
     bool busy = false;
     host.script.onMessage = [&](const headless::Message& message) {
-        busy = addIn.busyFlag.isSet();
+        busy = addIn.busyFlag;
         return message.defaultButton;
     };
     window->abr->click("mnuOptionConfiguration");
@@ -139,7 +139,7 @@ TEST_F(OptionCommands, AServerConfigurationThatIsNotInstalledGivesNumberAndDescr
     EXPECT_EQ(host.record.messages[0].style, forms::message::ok);
     EXPECT_EQ(host.record.messages[0].title, forms::message::defaultTitle);
     EXPECT_TRUE(busy);
-    EXPECT_FALSE(addIn.busyFlag.isSet());
+    EXPECT_FALSE(addIn.busyFlag);
 }
 
 TEST_F(OptionCommands, TheReportGetsItsSubjectThePathAndTheWindow) {

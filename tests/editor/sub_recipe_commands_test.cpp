@@ -17,7 +17,7 @@ struct SubRecipes : CommandWindow {
     SubRecipes() { show(mixSubRecipes); }
     void choose(std::int32_t entry, const std::string& variable) {
         inDialog<FSubRecipe>("FSubRecipe", [=, this](FSubRecipe& dialog) {
-            EXPECT_FALSE(addIn.busyFlag.isSet());
+            EXPECT_FALSE(addIn.busyFlag);
             dialog.cmbChooseRecipe->setListIndex(entry);
             dialog.txtVarRecipe->setText(variable);
             dialog.cmdOk->click();
@@ -157,7 +157,7 @@ TEST_F(SubRecipes, ANewOneIsStoredOrReportedWhateverFails) {
 TEST_F(SubRecipes, AnEditedOneIsStoredAndShownAndTheCursorStays) {
     grid().setRow(1);
     inDialog<FSubRecipe>("FSubRecipe", [this](FSubRecipe& dialog) {
-        EXPECT_FALSE(addIn.busyFlag.isSet());
+        EXPECT_FALSE(addIn.busyFlag);
         EXPECT_EQ(dialog.cmbChooseRecipe->text(), "Wasser");
         EXPECT_EQ(dialog.txtVarRecipe->text(), "File.Water");
         dialog.cmbChooseRecipe->setListIndex(0);

@@ -33,14 +33,14 @@ TEST_F(ChooseVariables, ShowsTheRecipesVariablesAsTheSelection) {
         EXPECT_EQ(dialog.hxMI->selectedItems(), variables);
         EXPECT_EQ(dialog.hxMI->itemFilter(), 256);
         EXPECT_EQ(dialog.owner(), window->share());
-        EXPECT_TRUE(addIn.busyFlag.isSet());
+        EXPECT_TRUE(addIn.busyFlag);
         EXPECT_FALSE(dialog.cancelled());
         dialog.cmdCancel->click();
     });
     click("mnuRecipeMemberNewVariable");
     ASSERT_EQ(host.record.modals.size(), 1U);
     EXPECT_EQ(host.record.modals[0].owner, window->handle());
-    EXPECT_FALSE(addIn.busyFlag.isSet());
+    EXPECT_FALSE(addIn.busyFlag);
 }
 
 TEST_F(ChooseVariables, ShowTheHourglassWhileTheyAreReadAndWhileTheyAreReplaced) {

@@ -144,7 +144,7 @@ TEST_F(VerifyAdds, NamesATextThatTheViewCouldNotHandOver) {
     grid().editorReported("Half.Typed", 4);
     bool busy = false;
     host.script.onMessage = [&](const headless::Message& message) {
-        busy = addIn.busyFlag.isSet();
+        busy = addIn.busyFlag;
         return message.defaultButton;
     };
     window->finishOrDropEdit();

@@ -55,7 +55,7 @@ TEST_F(AttendedSettings, AreAmongTheFilesOfAMacro) {
               "The file 'plant.hxs-journal' is a project and cannot be written by a macro");
     EXPECT_FALSE(std::filesystem::exists(project_ + "/plant.hxs-journal"));
     EXPECT_FALSE(std::filesystem::exists(outside));
-    const Attendance::Aside aside(attendance_);
+    const auto aside = attendance_.stepAside();
     EXPECT_THAT(written(project_ + "/users.ini"), "value") << "what the user does between two steps of the macro";
 }
 

@@ -42,19 +42,6 @@ struct Machine : std::enable_shared_from_this<Machine> {
     void rememberTraceback(const char* text) noexcept;
 };
 
-/// The thread that runs, while it runs.
-class Running {
-  public:
-    Running(Machine& machine, lua_State* state) : machine_(machine), before_(std::exchange(machine.current, state)) {}
-    ~Running() { machine_.current = before_; }
-    Running(const Running&) = delete;
-    Running& operator=(const Running&) = delete;
-
-  private:
-    Machine& machine_;
-    lua_State* before_;
-};
-
 /// Names of the metatables in the registry.
 inline constexpr const char* objectTypeName = "hx.Object";
 inline constexpr const char* memberTypeName = "hx.Member";

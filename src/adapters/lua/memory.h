@@ -3,6 +3,8 @@
 #include <cstddef>
 #include <lua.hpp>
 
+#include "automation/restore.h"
+
 namespace hx::lua {
 
 /// What a macro takes, and how much it may take: what its Lua state holds, what functions of C++ hold for it while they
@@ -25,17 +27,7 @@ class Memory {
     [[nodiscard]] bool isFull(lua_State* state);
 
     /// Ends the charges that have been made while it lived.
-    class Charges {
-      public:
-        explicit Charges(Memory& memory) : memory_(memory), before_(memory.charged_) {}
-        ~Charges() { memory_.charged_ = before_; }
-        Charges(const Charges&) = delete;
-        Charges& operator=(const Charges&) = delete;
-
-      private:
-        Memory& memory_;
-        std::size_t before_;
-    };
+    [[nodiscard]] automation::Restore<std::size_t> charges() { return {charged_, charged_}; }
 
   private:
     static void* allocate(void* data, void* block, std::size_t oldSize, std::size_t newSize);

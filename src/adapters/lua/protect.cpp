@@ -3,6 +3,7 @@
 #include "adapters/lua/machine.h"
 #include "adapters/lua/stop.h"
 #include "automation/error.h"
+#include "automation/restore.h"
 
 namespace hx::lua {
 
@@ -67,8 +68,8 @@ void pushError(lua_State* state, const automation::Error& error) noexcept {
 int detail::attempt(lua_State* state, int (*body)(lua_State*)) noexcept {
     Machine& machine = Machine::of(state);
     if (isStopping(state)) return failStopping(state);
-    const Running running(machine, state);
-    const Memory::Charges charges(machine.memory);
+    const automation::Restore running(machine.current, state);
+    const auto charges = machine.memory.charges();
     int results = -1;
     try {
         machine.memory.requireRoom(state);

@@ -3,6 +3,7 @@
 #include "adapters/lua/call_original.h"
 #include "adapters/lua/machine.h"
 #include "adapters/lua/protect.h"
+#include "automation/restore.h"
 
 namespace hx::lua {
 
@@ -86,7 +87,7 @@ void unwatch(lua_State* state) {
 bool isStopping(lua_State* state) noexcept {
     Machine& machine = Machine::of(state);
     if (!machine.stopping) {
-        const Running running(machine, state);
+        const automation::Restore running(machine.current, state);
         if (!askStop(machine)) return false;
         beginStop(state, machine);
     }

@@ -121,7 +121,7 @@ void ExplorerTree::contextMenuEvent(QContextMenuEvent* event) {
 void ExplorerTree::rightClick(const QPersistentModelIndex& node) {
     if (listener_ == nullptr) return;
     const QPoint point = visualRect(node).bottomLeft();
-    const PopUpPlace::AtKeyboard here(*popUps_, viewport()->mapToGlobal(point));
+    const auto here = popUps_->atKeyboard(viewport()->mapToGlobal(point));
     const host::NodeMouse mouse{forms::button::right, 0, static_cast<double>(point.x()),
                                 static_cast<double>(point.y())};
     listener_->nodeMouse(node, NodeListener::Stage::down, mouse);

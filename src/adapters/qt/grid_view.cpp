@@ -269,7 +269,7 @@ void GridView::reportMouse(const QMouseEvent& event, QWidget& part) {
 
 void GridView::reportMenuKey(GridPane& pane) {
     const QPoint point = pane.currentCellPoint();
-    const PopUpPlace::AtKeyboard here(form().popUps(), pane.mapToGlobal(point));
+    const auto here = form().popUps().atKeyboard(pane.mapToGlobal(point));
     const QPoint inBox = pane.mapTo(&box_, point);
     const forms::MouseEvent mouse{forms::button::right, 0, units().twips(inBox.x()), units().twips(inBox.y())};
     tellMouse(QEvent::MouseButtonPress, mouse);

@@ -4,6 +4,8 @@
 #include <QPoint>
 #include <optional>
 
+#include "automation/restore.h"
+
 namespace hx::qt {
 
 /// Where the next pop-up menu opens: at the mouse, or where the user asked for it by keyboard.
@@ -12,16 +14,9 @@ class PopUpPlace {
     [[nodiscard]] QPoint point() const { return keyboard_.value_or(QCursor::pos()); }
 
     /// The place is `point` while it lives.
-    class AtKeyboard {
-      public:
-        AtKeyboard(PopUpPlace& place, const QPoint& point) : place_(place) { place_.keyboard_ = point; }
-        ~AtKeyboard() { place_.keyboard_.reset(); }
-        AtKeyboard(const AtKeyboard&) = delete;
-        AtKeyboard& operator=(const AtKeyboard&) = delete;
-
-      private:
-        PopUpPlace& place_;
-    };
+    [[nodiscard]] automation::Restore<std::optional<QPoint>> atKeyboard(const QPoint& point) {
+        return {keyboard_, point};
+    }
 
   private:
     std::optional<QPoint> keyboard_;

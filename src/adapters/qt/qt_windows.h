@@ -8,6 +8,7 @@
 #include <string>
 
 #include "adapters/qt/form_view.h"
+#include "automation/restore.h"
 #include "host/system_services.h"
 
 namespace hx::qt {
@@ -23,13 +24,7 @@ class QtWindows : public QObject, public host::WindowOperations {
 
     /// While it lives, the user's going about in the studio and coming back to it are no activation: what works on a
     /// document in his place must not find it read again half way.
-    class Quiet {
-      public:
-        explicit Quiet(QtWindows& windows) : quiet_(windows.quiet_, true) {}
-
-      private:
-        QScopedValueRollback<bool> quiet_;
-    };
+    [[nodiscard]] automation::Restore<bool> quiet() { return {quiet_, true}; }
 
     /// Makes a window known; both are lent until remove().
     [[nodiscard]] forms::WindowHandle add(FormView& view);

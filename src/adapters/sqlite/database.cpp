@@ -6,6 +6,7 @@
 #include "adapters/sqlite/functions.h"
 #include "adapters/sqlite/project_schema.h"
 #include "adapters/sqlite/sqlite_error.h"
+#include "automation/restore.h"
 
 namespace hx::sqlite {
 
@@ -110,10 +111,7 @@ void Database::useLargeCache(bool large) noexcept {
 
 ado::KeySet Database::collect(Statement& statement) {
     ado::KeySet keys;
-    struct Target {
-        ado::KeySet*& target;
-        ~Target() { target = nullptr; }
-    } const collecting{* collecting_ = &keys};
+    const automation::Restore collecting(*collecting_, &keys);
     statement.step();
     return keys;
 }
