@@ -9,7 +9,7 @@
 #include "cli/content.h"
 #include "cli/project_reader.h"
 #include "cli/unfinished_file.h"
-#include "host/file_replacement.h"
+#include "hosting/file_replacement.h"
 
 namespace hx::cli {
 
@@ -47,7 +47,7 @@ void exportProject(const std::string& path, const std::string& target, const Out
     const Content content = readContent(project.database());
     std::ostringstream text;
     writeContent(content, text);
-    host::FileReplacement file(target);
+    hosting::FileReplacement file(target);
     const UnfinishedFile unfinished(file.temporary());
     file.write(text.view());
     file.publish();

@@ -30,7 +30,7 @@ void requireNameable(const std::string& path) {
 
 std::unique_ptr<host::Registry> makeRegistry(const std::string& config) {
     if (config.empty()) return std::make_unique<headless::MemoryRegistry>();
-    return std::make_unique<host::RegistryFile>((std::filesystem::path(config) / "registry.ini").string());
+    return std::make_unique<hosting::RegistryFile>((std::filesystem::path(config) / "registry.ini").string());
 }
 
 headless::HostOptions hostOptions(const MacroStudioOptions& options, host::Registry& registry, host::IniFile& ini) {
@@ -117,7 +117,7 @@ void MacroStudio::closeProject() {
 }
 
 std::vector<macros::Node> MacroStudio::nodes() {
-    const host::NodeTree& tree = host_->explorer.tree();
+    const hosting::NodeTree& tree = host_->explorer.tree();
     std::vector<macros::Node> list;
     for (const std::string& key : host_->explorer.childKeys("", allLevels)) list.push_back(macros::nodeOf(tree, key));
     return list;

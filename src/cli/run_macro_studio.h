@@ -8,9 +8,9 @@
 #include "adapters/headless/host.h"
 #include "adapters/sqlite/provider.h"
 #include "addin/connect.h"
-#include "host/ini_text_file.h"
-#include "host/project_registry.h"
-#include "host/registry_file.h"
+#include "hosting/ini_text_file.h"
+#include "hosting/project_registry.h"
+#include "hosting/registry_file.h"
 #include "macros/folder_ini_file.h"
 #include "macros/macro_provider.h"
 #include "macros/studio.h"
@@ -63,10 +63,10 @@ class MacroStudio : public macros::Studio {
     bool keepsRegistry_;
     sqlite::Provider provider_;
     macros::MacroProvider macroProvider_;
-    host::IniTextFile iniFile_;
+    hosting::IniTextFile iniFile_;
     macros::FolderIniFile folderIniFile_;
     std::unique_ptr<host::Registry> registry_;
-    host::ProjectRegistry projectRegistry_;
+    hosting::ProjectRegistry projectRegistry_;
     std::unique_ptr<headless::Host> host_;
     std::string file_;
     std::shared_ptr<addin::Connect> addIn_;

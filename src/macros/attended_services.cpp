@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "host/file_bytes.h"
+#include "hosting/file_bytes.h"
 
 namespace hx::macros {
 
@@ -83,7 +83,7 @@ void AttendedIniFile::writeAll(std::string_view section, std::span<const host::I
 }
 
 void AttendedIniFile::requireUsers(const std::string& path) const {
-    const std::filesystem::path folder = host::fileSystemPath(path).parent_path();
+    const std::filesystem::path folder = hosting::fileSystemPath(path).parent_path();
     std::error_code differs;
     if (std::filesystem::equivalent(folder, folder_(), differs) && !lua::isProject(path)) return;
     throw automation::Error(automation::errFail, "The file '" + path + "' does not lie beside the project");

@@ -10,7 +10,7 @@ namespace {
 
 }  // namespace
 
-Node nodeOf(const host::NodeTree& tree, const std::string& key) {
+Node nodeOf(const hosting::NodeTree& tree, const std::string& key) {
     const auto id = tree.find(key);
     return {key, std::string(tree.key(tree.parent(id))), std::string(tree.caption(id)), std::string(tree.image(id)),
             std::string(tree.tag(id))};

@@ -8,7 +8,7 @@
 #include "adapters/headless/record.h"
 #include "adapters/headless/script.h"
 #include "host/extensibility.h"
-#include "host/node_tree.h"
+#include "hosting/node_tree.h"
 #include "host/system_services.h"
 
 namespace hx::macros {
@@ -18,7 +18,7 @@ struct Node {
     std::string key, parent, caption, image, tag;
 };
 /// The node of a key in a tree that has it.
-[[nodiscard]] Node nodeOf(const host::NodeTree& tree, const std::string& key);
+[[nodiscard]] Node nodeOf(const hosting::NodeTree& tree, const std::string& key);
 
 /// The studio that a macro works on: a real one or one without a screen. All failures are automation::Error. What a
 /// macro still holds of a closed project must stay safe to use while the macro runs.

@@ -8,7 +8,7 @@
 #include "adapters/qt/text.h"
 #include "adapters/qt/wording.h"
 #include "automation/error.h"
-#include "host/file_bytes.h"
+#include "hosting/file_bytes.h"
 
 namespace hx::studio {
 
@@ -29,7 +29,7 @@ QByteArray read(const QString& path) {
 
 bool write(const QString& path, const QByteArray& bytes) {
     try {
-        host::replaceFile(host::fileSystemPath(qt::fromQt(path)), bytes.toStdString());
+        hosting::replaceFile(hosting::fileSystemPath(qt::fromQt(path)), bytes.toStdString());
         return true;
     } catch (const automation::Error&) {
         return false;

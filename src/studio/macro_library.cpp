@@ -9,8 +9,8 @@
 
 #include "adapters/qt/text.h"
 #include "automation/error.h"
-#include "host/file_bytes.h"
-#include "host/file_replacement.h"
+#include "hosting/file_bytes.h"
+#include "hosting/file_replacement.h"
 
 namespace hx::studio {
 
@@ -62,8 +62,8 @@ MacroFolder read(const QString& name, const QDir& folder) {
 // What was installed for all may be protected; the copy is the user's own.
 bool copyFile(const QString& from, const QString& to) {
     try {
-        const auto bytes = host::readFile(host::fileSystemPath(qt::fromQt(from)));
-        host::FileReplacement file(host::fileSystemPath(qt::fromQt(to)));
+        const auto bytes = hosting::readFile(hosting::fileSystemPath(qt::fromQt(from)));
+        hosting::FileReplacement file(hosting::fileSystemPath(qt::fromQt(to)));
         file.write(bytes.value_or(""));
         return bytes && file.publishNew();
     } catch (const automation::Error&) {

@@ -6,7 +6,7 @@
 
 #include "adapters/qt/text.h"
 #include "automation/error.h"
-#include "host/file_bytes.h"
+#include "hosting/file_bytes.h"
 
 namespace hx::studio {
 
@@ -36,7 +36,7 @@ std::string changed(std::string_view bytes, const Preferences::Change& change) {
             throw automation::Error(automation::errFail, qt::fromQt(copy.fileName()));
         }
     }
-    return host::readFile(host::fileSystemPath(qt::fromQt(copy.fileName()))).value_or("");
+    return hosting::readFile(hosting::fileSystemPath(qt::fromQt(copy.fileName()))).value_or("");
 }
 
 }  // namespace
@@ -80,7 +80,7 @@ bool Preferences::clearRecent() {
 // The toolkit takes a file that it cannot read for an empty one, and would write it so; it changes a copy alone.
 bool Preferences::write(const Change& change) {
     try {
-        host::changeFile(host::fileSystemPath(qt::fromQt(file_)),
+        hosting::changeFile(hosting::fileSystemPath(qt::fromQt(file_)),
                          [&](std::string_view bytes) { return changed(bytes, change); });
         return true;
     } catch (const automation::Error&) {

@@ -13,9 +13,9 @@
 #include "adapters/qt/qt_windows.h"
 #include "adapters/qt/wording.h"
 #include "adapters/sqlite/provider.h"
-#include "host/ini_text_file.h"
-#include "host/project_registry.h"
-#include "host/registry_file.h"
+#include "hosting/ini_text_file.h"
+#include "hosting/project_registry.h"
+#include "hosting/registry_file.h"
 #include "host/services.h"
 #include "macros/attended_screen.h"
 #include "macros/attended_services.h"
@@ -40,7 +40,7 @@ class StudioHost {
     [[nodiscard]] qt::QtScreen& screen() noexcept { return screen_; }
     [[nodiscard]] qt::QtWindows& windows() noexcept { return windows_; }
     [[nodiscard]] qt::Wording& wording() noexcept { return wording_; }
-    [[nodiscard]] host::ProjectRegistry& registry() noexcept { return projectRegistry_; }
+    [[nodiscard]] hosting::ProjectRegistry& registry() noexcept { return projectRegistry_; }
     [[nodiscard]] host::Clipboard& clipboard() noexcept { return clipboard_; }
     [[nodiscard]] qt::ModuleComponents& components() noexcept { return components_; }
     [[nodiscard]] qt::QtHelpViewer& help() noexcept { return help_; }
@@ -61,9 +61,9 @@ class StudioHost {
     qt::QtWindows windows_;
     qt::QtScreen screen_;
     sqlite::Provider provider_;
-    host::RegistryFile registry_;
-    host::ProjectRegistry projectRegistry_;
-    host::IniTextFile iniFile_;
+    hosting::RegistryFile registry_;
+    hosting::ProjectRegistry projectRegistry_;
+    hosting::IniTextFile iniFile_;
     qt::QtClipboard clipboard_;
     qt::QtHelpViewer help_;
     HelpFile helpFile_;

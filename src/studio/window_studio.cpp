@@ -68,7 +68,7 @@ automation::ObjectRef WindowStudio::editorWindow() {
 
 // The project's own node is the studio's, not the add-in's.
 std::vector<macros::Node> WindowStudio::nodes() {
-    const host::NodeTree& tree = explorer_.model().nodes();
+    const hosting::NodeTree& tree = explorer_.model().nodes();
     std::vector<macros::Node> list;
     for (const std::string& key : tree.childKeys(qt::QtExplorer::projectKey, allLevels)) {
         list.push_back(macros::nodeOf(tree, key));

@@ -139,7 +139,7 @@ TEST_F(Members, TheExplorerIsAnObjectThatActsOnTheExplorer) {
     const std::vector<Variant> node = {"RCPE0", "Extra", "X1", "tag", "icoRcpRecipe", true, false, true, 7};
     explorer->get("AddNode", node);
     EXPECT_EQ(studio.nodes(), (Texts{"RCPE0", "X1"}));
-    const host::NodeTree& tree = studio.host.explorer.tree();
+    const hosting::NodeTree& tree = studio.host.explorer.tree();
     EXPECT_EQ(tree.options(tree.find("X1")), (std::array<bool, 3>{true, false, true}));
     EXPECT_EQ(tree.number(tree.find("X1")), 7);
     EXPECT_EQ(explorer->get("ChildCount", std::vector<Variant>{"RCPE0", 1}), Variant(1));

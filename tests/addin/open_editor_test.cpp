@@ -12,7 +12,7 @@ struct OpeningTheEditor : testing::Test {
     OpeningTheEditor() { studio.host.explorer.setProject("Plant"); }
     Studio studio;
     const headless::Record& record = studio.host.record;
-    const host::NodeTree& tree = studio.host.explorer.tree();
+    const hosting::NodeTree& tree = studio.host.explorer.tree();
 };
 
 TEST_F(OpeningTheEditor, HappensWithTheFirstExpansionOfANode) {

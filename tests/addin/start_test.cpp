@@ -9,7 +9,7 @@ namespace {
 struct StartUp : testing::Test {
     Studio studio;
     const headless::Record& record = studio.host.record;
-    const host::NodeTree& tree = studio.host.explorer.tree();
+    const hosting::NodeTree& tree = studio.host.explorer.tree();
 };
 
 TEST_F(StartUp, KeepsTheNameAndTurnsThePathIntoTheProjectFile) {
@@ -31,7 +31,7 @@ TEST_F(StartUp, AddsTheRootOfTheRecipeBranch) {
     EXPECT_EQ(tree.image(root), "icoRcpRecipe");
     EXPECT_EQ(tree.options(root), (std::array<bool, 3>{true, true, true}));
     EXPECT_EQ(tree.number(root), 0);
-    EXPECT_EQ(tree.parent(root), host::NodeTree::root);
+    EXPECT_EQ(tree.parent(root), hosting::NodeTree::root);
 }
 
 TEST_F(StartUp, ReadsTheLanguageWhenTheAddInIsCreated) {

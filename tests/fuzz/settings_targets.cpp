@@ -2,9 +2,9 @@
 
 #include "automation/member_rows.h"
 #include "fuzz/targets.h"
-#include "host/ini_document.h"
-#include "host/ini_text_file.h"
-#include "host/registry_file.h"
+#include "hosting/ini_document.h"
+#include "hosting/ini_text_file.h"
+#include "hosting/registry_file.h"
 #include "recipe/node_key.h"
 #include "settings/cinit.h"
 #include "settings/object_path.h"
@@ -61,14 +61,14 @@ class Window : public automation::Dispatch {
 
 // What is written is read back, and the rest of the file stays.
 void settingsFile(std::string_view bytes) {
-    host::IniDocument document{bytes};
+    hosting::IniDocument document{bytes};
     require(document.isUtf16() || document.bytes() == bytes, "a file that is not changed stays as it is");
     (void)accepted([&] {
         document.setText(window, "Me.Width", "6000");
-        require(host::IniDocument(document.bytes()).text(window, "Me.Width") == "6000", "a text is read back");
+        require(hosting::IniDocument(document.bytes()).text(window, "Me.Width") == "6000", "a text is read back");
     });
     const std::string path = fileOf(bytes);
-    host::IniTextFile file;
+    hosting::IniTextFile file;
     settings::CInit settings(file, {});
     (void)accepted([&] {
         settings.LoadDefaultInit(window);
@@ -86,7 +86,7 @@ void settingsPath(std::string_view bytes) {
     Window target;
     (void)accepted([&] { settings::SetValueByPath(target, path, settings::TextToValue(text)); });
     (void)accepted([&] { (void)settings::GetValueByPath(target, path); });
-    host::IniTextFile file;
+    hosting::IniTextFile file;
     settings::CInit settings(file, {});
     settings.Motherobject = &target;
     const bool stored = accepted([&] { settings.WriteAValueToCInits(path, text); });
@@ -102,7 +102,7 @@ void settingsPath(std::string_view bytes) {
 }
 
 void registryFile(std::string_view bytes) {
-    host::RegistryFile registry(fileOf(bytes));
+    hosting::RegistryFile registry(fileOf(bytes));
     constexpr std::string_view key = "SOFTWARE\\Tarnwell\\Helvix\\4.0";
     (void)accepted([&] {
         (void)registry.readString(key, "Path");

@@ -4,7 +4,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "host/ini_text_file.h"
+#include "hosting/ini_text_file.h"
 #include "support/temporary_folder.h"
 
 namespace hx::macros {
@@ -24,7 +24,7 @@ class AttendedSettings : public testing::Test {
 
     support::TemporaryFolder folder_;
     std::string project_ = folder_.file("project");
-    host::IniTextFile user_;
+    hosting::IniTextFile user_;
     Attendance attendance_;
     AttendedIniFile files_{user_, attendance_, [this] { return std::filesystem::path(project_); }};
 };

@@ -12,7 +12,7 @@ std::string MemoryIniFile::read(std::string_view section, std::string_view key, 
 void MemoryIniFile::writeAll(std::string_view section, std::span<const host::IniText> texts, const std::string& path) {
     ++writes_;
     if (error_) throw *error_;
-    host::IniDocument changed = exists(path) ? files_.at(path) : host::IniDocument();
+    hosting::IniDocument changed = exists(path) ? files_.at(path) : hosting::IniDocument();
     const auto refused = changed.setTexts(section, texts);
     if (!changed.bytes().empty()) files_[path] = std::move(changed);
     if (refused) throw *refused;

@@ -5,7 +5,7 @@
 #include <string>
 
 #include "automation/error.h"
-#include "host/ini_document.h"
+#include "hosting/ini_document.h"
 #include "host/system_services.h"
 
 namespace hx::headless {
@@ -20,14 +20,14 @@ class MemoryIniFile : public host::IniFile {
     [[nodiscard]] bool exists(const std::string& path) const { return files_.contains(path); }
     /// The whole file; empty when there is none.
     [[nodiscard]] std::string bytes(const std::string& path) const;
-    void setBytes(const std::string& path, std::string_view bytes) { files_[path] = host::IniDocument(bytes); }
+    void setBytes(const std::string& path, std::string_view bytes) { files_[path] = hosting::IniDocument(bytes); }
     /// From now on every write throws this error; given nothing, it works again.
     void failWritesWith(std::optional<automation::Error> error) { error_ = std::move(error); }
     /// How often a file was to be written.
     [[nodiscard]] std::int32_t writes() const noexcept { return writes_; }
 
   private:
-    std::map<std::string, host::IniDocument> files_;
+    std::map<std::string, hosting::IniDocument> files_;
     std::optional<automation::Error> error_;
     std::int32_t writes_ = 0;
 };

@@ -6,7 +6,7 @@
 
 namespace hx::headless {
 
-using host::NodeTree;
+using hosting::NodeTree;
 
 void ProjectExplorer::takeClipboardImage(std::string_view key) {
     const forms::Picture picture = clipboard_.picture();

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "forms/picture.h"
-#include "host/node_tree.h"
+#include "hosting/node_tree.h"
 #include "host/system_services.h"
 
 namespace hx::headless {
@@ -29,7 +29,7 @@ class ProjectExplorer : public host::ProjectExplorer {
     [[nodiscard]] host::NodeEvent selectedNode() const override;
     void activate() override { ++activations_; }
 
-    [[nodiscard]] const host::NodeTree& tree() const noexcept { return tree_; }
+    [[nodiscard]] const hosting::NodeTree& tree() const noexcept { return tree_; }
     /// The pictures taken from the clipboard, in order.
     [[nodiscard]] const forms::ImageList& images() const noexcept { return images_; }
     [[nodiscard]] bool isExpanded(std::string_view key) const;  ///< errBadIndex when unknown
@@ -42,11 +42,11 @@ class ProjectExplorer : public host::ProjectExplorer {
     void setProject(const std::string& name) { project_ = name; }
 
   private:
-    [[nodiscard]] host::NodeTree::Id require(std::string_view key) const;
+    [[nodiscard]] hosting::NodeTree::Id require(std::string_view key) const;
     forms::WindowHandle hostWindow_;
     const host::Clipboard& clipboard_;
     std::string project_, selected_;
-    host::NodeTree tree_;
+    hosting::NodeTree tree_;
     forms::ImageList images_;
     std::map<std::string, bool, std::less<>> expanded_;
     std::int32_t activations_ = 0;

@@ -9,7 +9,7 @@ namespace hx::qt {
 
 namespace {
 
-void mark(std::vector<bool>& marks, host::NodeTree::Id id) {
+void mark(std::vector<bool>& marks, hosting::NodeTree::Id id) {
     if (marks.size() <= id) marks.resize(std::max<std::size_t>(id + 1, marks.size() * 2));
     marks[id] = true;
 }
@@ -46,7 +46,7 @@ void ExplorerModel::remove(std::string_view key) {
 
 ExplorerModel::Id ExplorerModel::require(std::string_view key) {
     const Id id = tree_.find(key);
-    if (id == host::NodeTree::none || isGoing(id)) {
+    if (id == hosting::NodeTree::none || isGoing(id)) {
         automation::throwBadIndex("Nodes", automation::Variant(std::string(key)));
     }
     return id;
@@ -54,7 +54,7 @@ ExplorerModel::Id ExplorerModel::require(std::string_view key) {
 
 bool ExplorerModel::isGoing(Id id) const {
     if (going_.empty()) return false;
-    for (; id != host::NodeTree::none; id = tree_.parent(id)) {
+    for (; id != hosting::NodeTree::none; id = tree_.parent(id)) {
         if (id < goingMarks_.size() && goingMarks_[id]) return true;
     }
     return false;
@@ -68,14 +68,14 @@ void ExplorerModel::setCaption(std::string_view key, std::string_view caption) {
     emit dataChanged(changed, changed, {Qt::DisplayRole});
 }
 
-const host::NodeTree& ExplorerModel::nodes() {
+const hosting::NodeTree& ExplorerModel::nodes() {
     publish();
     return tree_;
 }
 
 int ExplorerModel::depth(std::string_view key) const {
     int depth = 0;
-    for (Id id = tree_.find(key); id != host::NodeTree::none && id != host::NodeTree::root; id = tree_.parent(id)) {
+    for (Id id = tree_.find(key); id != hosting::NodeTree::none && id != hosting::NodeTree::root; id = tree_.parent(id)) {
         ++depth;
     }
     return depth;
@@ -87,7 +87,7 @@ void ExplorerModel::clear() {
     images_.clear();
     new_.clear();
     published_.clear();
-    growing_ = host::NodeTree::none;
+    growing_ = hosting::NodeTree::none;
     going_.clear();
     goingMarks_.clear();
     endResetModel();
@@ -106,7 +106,7 @@ void ExplorerModel::publishNew() {
         const int count = static_cast<int>(tree_.childCount(parent));
         if (count > known) beginInsertRows(indexOf(parent), known, count - 1);
         published_.erase(parent);
-        growing_ = host::NodeTree::none;
+        growing_ = hosting::NodeTree::none;
         if (count > known) endInsertRows();
     }
 }
@@ -147,17 +147,17 @@ std::vector<std::string> ExplorerModel::childKeys(std::string_view key, std::int
 QModelIndex ExplorerModel::find(std::string_view key) {
     publish();
     const Id id = tree_.find(key);
-    return id == host::NodeTree::none ? QModelIndex() : indexOf(id);
+    return id == hosting::NodeTree::none ? QModelIndex() : indexOf(id);
 }
 
 void ExplorerModel::setImage(const std::string& key, const QIcon& icon) { images_[key] = icon; }
 
 ExplorerModel::Id ExplorerModel::idOf(const QModelIndex& index) const {
-    return index.isValid() ? static_cast<Id>(index.internalId()) : host::NodeTree::root;
+    return index.isValid() ? static_cast<Id>(index.internalId()) : hosting::NodeTree::root;
 }
 
 QModelIndex ExplorerModel::indexOf(Id id) const {
-    if (id == host::NodeTree::root || id == host::NodeTree::none) return {};
+    if (id == hosting::NodeTree::root || id == hosting::NodeTree::none) return {};
     return createIndex(static_cast<int>(tree_.row(id)), 0, static_cast<quintptr>(id));
 }
 

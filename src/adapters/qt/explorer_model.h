@@ -8,7 +8,7 @@
 #include <unordered_map>
 #include <vector>
 
-#include "host/node_tree.h"
+#include "hosting/node_tree.h"
 
 namespace hx::qt {
 
@@ -16,7 +16,7 @@ namespace hx::qt {
 /// ranges: when control returns to the event loop, or before the next question that would tell the difference.
 class ExplorerModel : public QAbstractItemModel {
   public:
-    using Id = host::NodeTree::Id;
+    using Id = hosting::NodeTree::Id;
     ExplorerModel();
 
     void add(const host::NewNode& node);                              ///< errBadIndex as NodeTree::add
@@ -36,7 +36,7 @@ class ExplorerModel : public QAbstractItemModel {
         return std::string(tree_.caption(idOf(index)));
     }
     /// All nodes as they are now.
-    [[nodiscard]] const host::NodeTree& nodes();
+    [[nodiscard]] const hosting::NodeTree& nodes();
     void setImage(const std::string& key, const QIcon& icon);
     [[nodiscard]] bool hasImage(const std::string& key) const { return images_.contains(key); }
 
@@ -58,12 +58,12 @@ class ExplorerModel : public QAbstractItemModel {
     void publishGoing();
     void removeRows(Id parent, std::vector<std::size_t> rows);
 
-    host::NodeTree tree_;
+    hosting::NodeTree tree_;
     std::map<std::string, QIcon, std::less<>> images_;
     QTimer timer_;
     std::vector<bool> new_;                  ///< by number: not published yet
     std::unordered_map<Id, int> published_;  ///< children that views know, where some are new
-    Id growing_ = host::NodeTree::none;      ///< the one of these that got the last new child
+    Id growing_ = hosting::NodeTree::none;      ///< the one of these that got the last new child
     std::vector<Id> going_;                  ///< removed, but still in the tree
     std::vector<bool> goingMarks_;           ///< by number
 };

@@ -4,7 +4,7 @@
 #include <optional>
 #include <string>
 
-#include "host/file_replacement.h"
+#include "hosting/file_replacement.h"
 
 namespace hx::sqlite {
 
@@ -32,7 +32,7 @@ class ProjectDraft {
 
   private:
     std::string path_;
-    std::optional<host::FileReplacement> file_;
+    std::optional<hosting::FileReplacement> file_;
     std::string temporary_;
     std::filesystem::path journal_;  // made early: where memory is short, taking it away asks for none
 };

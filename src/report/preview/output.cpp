@@ -8,9 +8,9 @@
 
 #include "adapters/qt/text.h"
 #include "automation/error.h"
-#include "host/file_bytes.h"
-#include "host/file_place.h"
-#include "host/file_replacement.h"
+#include "hosting/file_bytes.h"
+#include "hosting/file_place.h"
+#include "hosting/file_replacement.h"
 #include "report/html_writer.h"
 
 namespace hx::report {
@@ -23,7 +23,7 @@ constexpr double twipsPerPoint = 20;
 /// A file that takes its place when it is whole, as a device to write on.
 class ReplacementDevice : public QIODevice {
   public:
-    explicit ReplacementDevice(host::FileReplacement& file) : file_(file) { open(WriteOnly | Unbuffered); }
+    explicit ReplacementDevice(hosting::FileReplacement& file) : file_(file) { open(WriteOnly | Unbuffered); }
     [[nodiscard]] bool isSequential() const override { return true; }
     /// What went wrong first: who writes on a device does not look after each part.
     [[nodiscard]] const std::optional<automation::Error>& error() const noexcept { return error_; }
@@ -42,7 +42,7 @@ class ReplacementDevice : public QIODevice {
     }
 
   private:
-    host::FileReplacement& file_;
+    hosting::FileReplacement& file_;
     std::optional<automation::Error> error_;
 };
 
@@ -50,9 +50,9 @@ constexpr automation::Sentence noPage{"no page can be drawn", "es lässt sich ke
 
 // Fills a file and puts it in its place; why not, empty when it is done.
 QString save(const QString& path, automation::Language language,
-             const std::function<void(host::FileReplacement&)>& fill) {
+             const std::function<void(hosting::FileReplacement&)>& fill) {
     try {
-        host::FileReplacement file(host::fileSystemPath(qt::fromQt(path)));
+        hosting::FileReplacement file(hosting::fileSystemPath(qt::fromQt(path)));
         fill(file);
         file.publish();
         return {};
@@ -79,7 +79,7 @@ bool paintPages(const Pages& pages, PageRange range, QPagedPaintDevice& device) 
 }
 
 QString savePdf(const Report& report, const Pages& pages, PageRange range, const QString& path) {
-    return save(path, report.texts().wording(), [&](host::FileReplacement& file) {
+    return save(path, report.texts().wording(), [&](hosting::FileReplacement& file) {
         ReplacementDevice device(file);
         bool painted = false;
         {
@@ -92,12 +92,12 @@ QString savePdf(const Report& report, const Pages& pages, PageRange range, const
             painted = paintPages(pages, range, writer);
         }
         if (device.error()) throw *device.error();
-        if (!painted) host::failWith(host::sentence::notWritten, host::fileSystemPath(qt::fromQt(path)), noPage);
+        if (!painted) hosting::failWith(hosting::sentence::notWritten, hosting::fileSystemPath(qt::fromQt(path)), noPage);
     });
 }
 
 QString saveHtml(const Report& report, const QString& path) {
-    return save(path, report.texts().wording(), [&](host::FileReplacement& file) {
+    return save(path, report.texts().wording(), [&](hosting::FileReplacement& file) {
         writeHtml(report, [&file](std::string_view part) { file.write(part); });
     });
 }
