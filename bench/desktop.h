@@ -1,7 +1,7 @@
 #pragma once
 
-#include "adapters/qt/qt_screen.h"
-#include "adapters/qt/qt_windows.h"
+#include "adapters/qt/screen/qt_screen.h"
+#include "adapters/qt/screen/qt_windows.h"
 #include "adapters/qt/wording.h"
 #include "bench/application.h"
 

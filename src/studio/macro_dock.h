@@ -7,7 +7,7 @@
 #include <QToolBar>
 #include <string_view>
 
-#include "adapters/qt/plain_label.h"
+#include "adapters/qt/controls/plain_label.h"
 #include "adapters/qt/wording.h"
 #include "studio/output_buffer.h"
 #include "studio/studio_texts.h"

@@ -5,9 +5,9 @@
 #include <QTranslator>
 #include <memory>
 
-#include "adapters/qt/explorer_tree.h"
-#include "adapters/qt/plain_label.h"
-#include "adapters/qt/qt_explorer.h"
+#include "adapters/qt/explorer/explorer_tree.h"
+#include "adapters/qt/controls/plain_label.h"
+#include "adapters/qt/explorer/qt_explorer.h"
 #include "studio/document_area.h"
 #include "studio/macro_commands.h"
 #include "studio/preferences.h"

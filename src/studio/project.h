@@ -3,7 +3,7 @@
 #include <QString>
 #include <memory>
 
-#include "adapters/qt/qt_explorer.h"
+#include "adapters/qt/explorer/qt_explorer.h"
 #include "host/extensibility.h"
 #include "studio/studio_host.h"
 

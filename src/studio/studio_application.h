@@ -3,7 +3,7 @@
 #include <QApplication>
 #include <functional>
 
-#include "adapters/qt/input_rules.h"
+#include "adapters/qt/screen/input_rules.h"
 #include "automation/error.h"
 
 namespace hx::studio {

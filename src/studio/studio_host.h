@@ -5,12 +5,12 @@
 #include <filesystem>
 
 #include "adapters/qt/module_components.h"
-#include "adapters/qt/qt_clipboard.h"
-#include "adapters/qt/qt_help_viewer.h"
-#include "adapters/qt/qt_item_selection.h"
-#include "adapters/qt/qt_path_selection.h"
-#include "adapters/qt/qt_screen.h"
-#include "adapters/qt/qt_windows.h"
+#include "adapters/qt/screen/qt_clipboard.h"
+#include "adapters/qt/help/qt_help_viewer.h"
+#include "adapters/qt/choosers/qt_item_selection.h"
+#include "adapters/qt/choosers/qt_path_selection.h"
+#include "adapters/qt/screen/qt_screen.h"
+#include "adapters/qt/screen/qt_windows.h"
 #include "adapters/qt/wording.h"
 #include "adapters/sqlite/provider.h"
 #include "hosting/ini_text_file.h"

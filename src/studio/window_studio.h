@@ -3,7 +3,7 @@
 #include <memory>
 #include <vector>
 
-#include "adapters/qt/qt_explorer.h"
+#include "adapters/qt/explorer/qt_explorer.h"
 #include "macros/studio.h"
 #include "studio/project_window.h"
 #include "studio/studio_host.h"

@@ -1,8 +1,8 @@
-#include "adapters/qt/help_book.h"
-#include "adapters/qt/help_html.h"
-#include "adapters/qt/help_search.h"
-#include "adapters/qt/help_site_map.h"
-#include "adapters/qt/help_tables.h"
+#include "adapters/qt/help/help_book.h"
+#include "adapters/qt/help/help_html.h"
+#include "adapters/qt/help/help_search.h"
+#include "adapters/qt/help/help_site_map.h"
+#include "adapters/qt/help/help_tables.h"
 #include "fuzz/targets.h"
 
 /// What the viewer of the help reads.

@@ -10,8 +10,8 @@
 #include <string>
 #include <vector>
 
-#include "adapters/qt/qt_screen.h"
-#include "adapters/qt/qt_windows.h"
+#include "adapters/qt/screen/qt_screen.h"
+#include "adapters/qt/screen/qt_windows.h"
 #include "adapters/qt/wording.h"
 
 namespace hx::gui {

@@ -9,7 +9,7 @@
 #include <QTimer>
 #include <array>
 
-#include "adapters/qt/item_dialog.h"
+#include "adapters/qt/choosers/item_dialog.h"
 #include "adapters/sqlite/provider.h"
 #include "gui/studio_fixture.h"
 

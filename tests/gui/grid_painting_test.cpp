@@ -3,7 +3,7 @@
 #include <QImage>
 #include <QScrollBar>
 
-#include "adapters/qt/text_widths.h"
+#include "adapters/qt/grid/text_widths.h"
 #include "gui/grid_fixture.h"
 
 namespace hx::gui {

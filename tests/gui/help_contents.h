@@ -3,7 +3,7 @@
 #include <QTest>
 #include <QTreeWidget>
 
-#include "adapters/qt/help_window.h"
+#include "adapters/qt/help/help_window.h"
 #include "gui/desktop.h"
 
 namespace hx::gui {

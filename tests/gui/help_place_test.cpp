@@ -3,8 +3,8 @@
 #include <QTabWidget>
 #include <QTest>
 
-#include "adapters/qt/help_window.h"
-#include "adapters/qt/qt_help_viewer.h"
+#include "adapters/qt/help/help_window.h"
+#include "adapters/qt/help/qt_help_viewer.h"
 #include "dialogs/fconfig_editor.h"
 #include "dialogs/frecipe.h"
 #include "dialogs/fsub_recipe.h"

@@ -5,9 +5,9 @@
 #include <QStatusBar>
 #include <QTemporaryDir>
 
-#include "adapters/qt/help_page.h"
-#include "adapters/qt/help_window.h"
-#include "adapters/qt/qt_help_viewer.h"
+#include "adapters/qt/help/help_page.h"
+#include "adapters/qt/help/help_window.h"
+#include "adapters/qt/help/qt_help_viewer.h"
 #include "adapters/qt/text.h"
 #include "gui/desktop.h"
 

@@ -9,7 +9,7 @@
 #include <QTabWidget>
 #include <QTest>
 
-#include "adapters/qt/item_dialog.h"
+#include "adapters/qt/choosers/item_dialog.h"
 #include "adapters/qt/text.h"
 #include "dialogs/frecipe.h"
 #include "gui/dialog_fixture.h"

@@ -8,7 +8,7 @@
 #include <QPushButton>
 #include <QTest>
 
-#include "adapters/qt/item_dialog.h"
+#include "adapters/qt/choosers/item_dialog.h"
 #include "dialogs/fconfig_editor.h"
 #include "dialogs/fsub_recipe.h"
 #include "gui/dialog_fixture.h"

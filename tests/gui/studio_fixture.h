@@ -6,7 +6,7 @@
 #include <memory>
 #include <string>
 
-#include "adapters/qt/explorer_tree.h"
+#include "adapters/qt/explorer/explorer_tree.h"
 #include "ado/recordset.h"
 #include "gui/desktop.h"
 #include "studio/main_window.h"

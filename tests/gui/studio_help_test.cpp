@@ -2,8 +2,8 @@
 #include <QTest>
 #include <QTimer>
 
-#include "adapters/qt/help_window.h"
-#include "adapters/qt/qt_help_viewer.h"
+#include "adapters/qt/help/help_window.h"
+#include "adapters/qt/help/qt_help_viewer.h"
 #include "adapters/qt/text.h"
 #include "gui/help_contents.h"
 #include "gui/studio_fixture.h"

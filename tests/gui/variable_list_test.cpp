@@ -1,8 +1,8 @@
-#include "adapters/qt/variable_list.h"
+#include "adapters/qt/choosers/variable_list.h"
 
 #include <gtest/gtest.h>
 
-#include "adapters/qt/variable_filter.h"
+#include "adapters/qt/choosers/variable_filter.h"
 
 namespace hx::qt {
 namespace {

@@ -1,10 +1,10 @@
-#include "adapters/qt/help_book.h"
+#include "adapters/qt/help/help_book.h"
 
 #include <gmock/gmock.h>
 #include <map>
 #include <set>
 
-#include "adapters/qt/help_html.h"
+#include "adapters/qt/help/help_html.h"
 #include "adapters/qt/text.h"
 #include "help/compiled_help.h"
 #include "resources/help.h"

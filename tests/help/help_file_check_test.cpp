@@ -1,10 +1,10 @@
-#include "adapters/qt/help_file_check.h"
+#include "adapters/qt/help/help_file_check.h"
 
 #include <QtEndian>
 #include <random>
 
-#include "adapters/qt/help_book.h"
-#include "adapters/qt/help_search.h"
+#include "adapters/qt/help/help_book.h"
+#include "adapters/qt/help/help_search.h"
 #include "help/compiled_help.h"
 
 namespace hx::help {

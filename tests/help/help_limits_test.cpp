@@ -1,12 +1,12 @@
-#include "adapters/qt/help_limits.h"
+#include "adapters/qt/help/help_limits.h"
 
 #include <QBuffer>
 #include <QImage>
 #include <gtest/gtest.h>
 
-#include "adapters/qt/help_book.h"
-#include "adapters/qt/help_html.h"
-#include "adapters/qt/help_site_map.h"
+#include "adapters/qt/help/help_book.h"
+#include "adapters/qt/help/help_html.h"
+#include "adapters/qt/help/help_site_map.h"
 #include "adapters/qt/text.h"
 #include "help/compiled_help.h"
 

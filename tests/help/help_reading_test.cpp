@@ -1,9 +1,9 @@
 #include <gmock/gmock.h>
 #include <random>
 
-#include "adapters/qt/help_html.h"
-#include "adapters/qt/help_site_map.h"
-#include "adapters/qt/help_tables.h"
+#include "adapters/qt/help/help_html.h"
+#include "adapters/qt/help/help_site_map.h"
+#include "adapters/qt/help/help_tables.h"
 #include "adapters/qt/text.h"
 
 namespace hx::help {

@@ -1,4 +1,4 @@
-#include "adapters/qt/help_search.h"
+#include "adapters/qt/help/help_search.h"
 
 #include <gmock/gmock.h>
 

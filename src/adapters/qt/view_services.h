@@ -2,7 +2,7 @@
 
 #include "adapters/qt/popup_place.h"
 #include "adapters/qt/units.h"
-#include "adapters/qt/variable_source.h"
+#include "adapters/qt/choosers/variable_source.h"
 #include "adapters/qt/wording.h"
 
 namespace hx::qt {

@@ -4,7 +4,7 @@
 #include <QFontMetricsF>
 #include <QStringList>
 
-#include "adapters/qt/text_widths.h"
+#include "adapters/qt/grid/text_widths.h"
 
 namespace hx::report {
 

@@ -11,7 +11,7 @@
 #include <QToolBar>
 #include <functional>
 
-#include "adapters/qt/plain_label.h"
+#include "adapters/qt/controls/plain_label.h"
 #include "host/services.h"
 #include "report/preview/output.h"
 #include "report/preview/page_view.h"

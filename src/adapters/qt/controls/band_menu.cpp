@@ -1,0 +1,85 @@
+#include "adapters/qt/controls/band_menu.h"
+
+#include <QMouseEvent>
+#include <QTimer>
+
+#include "adapters/qt/svg_icon.h"
+#include "adapters/qt/text.h"
+
+namespace hx::qt {
+
+namespace {
+
+/// The visible tools, without separators at the ends and doubled ones.
+std::vector<forms::Tool*> shownTools(const forms::Band& band) {
+    std::vector<forms::Tool*> tools;
+    for (const auto& tool : band.tools()) {
+        const bool separator = tool->kind() == forms::ToolKind::separator;
+        const bool wanted = !separator || (!tools.empty() && tools.back()->kind() != forms::ToolKind::separator);
+        if (tool->visible() && wanted) tools.push_back(tool.get());
+    }
+    if (!tools.empty() && tools.back()->kind() == forms::ToolKind::separator) tools.pop_back();
+    return tools;
+}
+
+QFont bold(QFont font) {
+    font.setBold(true);
+    return font;
+}
+
+}  // namespace
+
+BandMenuPointer makeBandMenu(forms::Bar& bar, BandMenu::Chosen chosen) {
+    return BandMenuPointer(std::make_unique<BandMenu>(bar, std::move(chosen)).release());
+}
+
+void BandMenu::open(forms::Tool& menuTool) {
+    if (bar_ == nullptr) return;
+    bar_->menuOpening(menuTool);
+    forms::Band& band = bar_->band(automation::Variant(menuTool.subBand()));
+    const bool opens = bar_->openBand(band);
+    fill(opens ? shownTools(band) : std::vector<forms::Tool*>());
+    if (!opens) QTimer::singleShot(0, this, &QMenu::close);
+}
+
+void BandMenu::fill(const std::vector<forms::Tool*>& tools) {
+    clear();
+    tools_.clear();
+    subMenus_.clear();
+    for (forms::Tool* tool : tools) add(*tool);
+}
+
+void BandMenu::add(forms::Tool& tool) {
+    if (tool.kind() == forms::ToolKind::separator) {
+        addSeparator();
+        return;
+    }
+    QAction* action = nullptr;
+    if (tool.kind() == forms::ToolKind::menu) {
+        auto& menu = *subMenus_.emplace_back(makeBandMenu(*bar_, chosen_));
+        connect(&menu, &QMenu::aboutToShow, &menu, [&menu, &tool] { menu.open(tool); });
+        action = addMenu(&menu);
+    } else {
+        action = addAction(QString());
+        connect(action, &QAction::triggered, this, [this, &tool] { chosen_(tool); });
+    }
+    const QString shortcut = toQt(bar_->shortcutText(tool));
+    const QString caption = toQt(tool.caption());
+    action->setText(shortcut.isEmpty() ? caption : caption + '\t' + shortcut);
+    action->setObjectName(toQt(tool.name()));
+    action->setIcon(svgIcon(tool.picture()));
+    const bool title = tool.kind() == forms::ToolKind::title;
+    action->setEnabled(tool.enabled() && !title);
+    if (title) action->setFont(bold(font()));
+    tools_.emplace_back(action, std::static_pointer_cast<forms::Tool>(tool.share()));
+}
+
+void BandMenu::mouseReleaseEvent(QMouseEvent* event) {
+    const QAction* action = actionAt(event->position().toPoint());
+    if (action == nullptr || action->isEnabled()) return QMenu::mouseReleaseEvent(event);
+    for (const auto& [known, tool] : tools_) {
+        if (known == action && tool->kind() == forms::ToolKind::command && bar_ != nullptr) return chosen_(*tool);
+    }
+}
+
+}  // namespace hx::qt

@@ -1,0 +1,38 @@
+#include "adapters/qt/controls/command_button_view.h"
+
+#include <QKeyEvent>
+
+#include "adapters/qt/screen/form_view.h"
+#include "adapters/qt/text.h"
+
+namespace hx::qt {
+
+CommandButtonView::CommandButtonView(forms::CommandButton& button, FormView& form, QWidget& area)
+    : ControlView(button, form), button_(&area) {
+    watch(button_);
+    connect(&button_, &QPushButton::clicked, this, &CommandButtonView::clicked);
+}
+
+bool CommandButtonView::eventFilter(QObject* watched, QEvent* event) {
+    if (ControlView::eventFilter(watched, event)) return true;
+    if (model() == nullptr || event->type() != QEvent::KeyPress) return false;
+    const int key = static_cast<QKeyEvent*>(event)->key();
+    if (key != Qt::Key_Return && key != Qt::Key_Enter) return false;
+    button_.click();
+    return true;
+}
+
+void CommandButtonView::clicked() {
+    const auto keep = model()->share();
+    form().settle();
+    if (auto* button = modelOf<forms::CommandButton>(*this)) button->click();
+}
+
+void CommandButtonView::show(std::string_view property) {
+    const auto& button = *modelOf<forms::CommandButton>(*this);
+    if (property == "Caption") button_.setText(toQt(button.caption()));
+    else if (property == "Default") button_.setDefault(button.isDefault());
+    else ControlView::show(property);
+}
+
+}  // namespace hx::qt

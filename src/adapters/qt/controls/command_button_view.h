@@ -1,0 +1,28 @@
+#pragma once
+
+#include "adapters/qt/controls/control_view.h"
+#include "adapters/qt/controls/push_button.h"
+#include "forms/simple_controls.h"
+
+namespace hx::qt {
+
+/// A push button. Enter presses the one that has the keyboard.
+class CommandButtonView : public ControlView {
+  public:
+    CommandButtonView(forms::CommandButton& button, FormView& form, QWidget& area);
+    [[nodiscard]] QWidget& widget() override { return button_; }
+    /// For a button that stands behind a field.
+    void makeSmall(int height) { button_.makeSmall(height); }
+
+  protected:
+    void show(std::string_view property) override;
+    [[nodiscard]] std::vector<std::string_view> ownProperties() const override { return {"Caption", "Default"}; }
+    [[nodiscard]] QString accessibleName() const override { return {}; }
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+  private:
+    void clicked();
+    PushButton button_;
+};
+
+}  // namespace hx::qt

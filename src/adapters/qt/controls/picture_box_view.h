@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QWidget>
+
+#include "adapters/qt/controls/control_view.h"
+#include "forms/simple_controls.h"
+
+namespace hx::qt {
+
+/// A plain area that reports the mouse: higher than wide it is a bar between two parts, to be dragged.
+class PictureBoxView : public ControlView {
+  public:
+    PictureBoxView(forms::PictureBox& box, FormView& form, QWidget& area);
+    [[nodiscard]] QWidget& widget() override { return area_; }
+    void layOut() override;
+
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+  private:
+    void paint();
+    QWidget area_;
+};
+
+}  // namespace hx::qt
