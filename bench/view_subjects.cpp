@@ -9,8 +9,8 @@
 #include <stdexcept>
 
 #include "adapters/qt/explorer/explorer_tree.h"
-#include "adapters/qt/screen/qt_clipboard.h"
 #include "adapters/qt/explorer/qt_explorer.h"
+#include "adapters/qt/screen/qt_clipboard.h"
 #include "addin/msurfing_tree.h"
 #include "bench/desktop.h"
 #include "bench/editor_data.h"

@@ -29,7 +29,8 @@ class IniDocument {
     /// (UTF-16).
     void setText(std::string_view section, std::string_view key, std::string_view text);
     /// All that can be set. The error of the first that cannot.
-    [[nodiscard]] std::optional<automation::Error> setTexts(std::string_view section, std::span<const host::IniText> texts);
+    [[nodiscard]] std::optional<automation::Error> setTexts(std::string_view section,
+                                                            std::span<const host::IniText> texts);
 
     [[nodiscard]] std::string bytes() const;
     /// The bytes of a UTF-16 file: none of its texts are found.

@@ -9,9 +9,9 @@
 #include <vector>
 
 #include "automation/key_index.h"
+#include "host/project_explorer.h"
 #include "hosting/chunked_list.h"
 #include "hosting/packed_texts.h"
-#include "host/project_explorer.h"
 #include "hosting/shared_texts.h"
 
 namespace hx::hosting {
@@ -27,7 +27,7 @@ class NodeTree {
 
     NodeTree();
     Id add(const host::NewNode& node);  ///< errBadIndex when the parent is unknown, the key is empty or exists
-    void remove(Id id);           ///< with everything below it; the root keeps itself
+    void remove(Id id);                 ///< with everything below it; the root keeps itself
     [[nodiscard]] Id find(std::string_view key) const noexcept;  ///< none when unknown; keys are case-sensitive
 
     [[nodiscard]] Id parent(Id id) const noexcept;  ///< none for the root

@@ -8,7 +8,7 @@ namespace {
 
 constexpr std::string_view folderValue = "Path";
 
-std::string keyOf(std::string_view name) { return std::string(registry_keys::projects) + std::string(name); }
+std::string keyOf(std::string_view name) { return std::string(host::registry_keys::projects) + std::string(name); }
 
 }  // namespace
 

@@ -2,8 +2,8 @@
 
 #include <string>
 
-#include "hosting/ini_document.h"
 #include "host/system_services.h"
+#include "hosting/ini_document.h"
 
 namespace hx::hosting {
 

@@ -8,8 +8,8 @@
 #include "adapters/headless/record.h"
 #include "adapters/headless/script.h"
 #include "host/extensibility.h"
-#include "hosting/node_tree.h"
 #include "host/system_services.h"
+#include "hosting/node_tree.h"
 
 namespace hx::macros {
 

@@ -32,7 +32,7 @@ std::string escapeHtml(std::string_view text) {
     result.reserve(text.size());
     for (std::size_t at = 0; at < text.size();) {
         const automation::Utf8Character c = automation::decodeUtf8(text, at);
-        const std::size_t taken = std::max<std::size_t>(c.length, 1);
+        const std::size_t taken = isControl(c.point) ? 1 : std::max<std::size_t>(c.length, 1);
         if (c.length == 0 || isControl(c.point)) result += replacement;
         else if (const auto entity = entityOf(text[at]); !entity.empty()) result += entity;
         else result += text.substr(at, taken);

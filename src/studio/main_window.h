@@ -5,8 +5,8 @@
 #include <QTranslator>
 #include <memory>
 
-#include "adapters/qt/explorer/explorer_tree.h"
 #include "adapters/qt/controls/plain_label.h"
+#include "adapters/qt/explorer/explorer_tree.h"
 #include "adapters/qt/explorer/qt_explorer.h"
 #include "studio/document_area.h"
 #include "studio/macro_commands.h"

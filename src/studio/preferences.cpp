@@ -81,7 +81,7 @@ bool Preferences::clearRecent() {
 bool Preferences::write(const Change& change) {
     try {
         hosting::changeFile(hosting::fileSystemPath(qt::fromQt(file_)),
-                         [&](std::string_view bytes) { return changed(bytes, change); });
+                            [&](std::string_view bytes) { return changed(bytes, change); });
         return true;
     } catch (const automation::Error&) {
         return false;

@@ -4,19 +4,19 @@
 #include <QStringList>
 #include <filesystem>
 
-#include "adapters/qt/module_components.h"
-#include "adapters/qt/screen/qt_clipboard.h"
-#include "adapters/qt/help/qt_help_viewer.h"
 #include "adapters/qt/choosers/qt_item_selection.h"
 #include "adapters/qt/choosers/qt_path_selection.h"
+#include "adapters/qt/help/qt_help_viewer.h"
+#include "adapters/qt/module_components.h"
+#include "adapters/qt/screen/qt_clipboard.h"
 #include "adapters/qt/screen/qt_screen.h"
 #include "adapters/qt/screen/qt_windows.h"
 #include "adapters/qt/wording.h"
 #include "adapters/sqlite/provider.h"
+#include "host/services.h"
 #include "hosting/ini_text_file.h"
 #include "hosting/project_registry.h"
 #include "hosting/registry_file.h"
-#include "host/services.h"
 #include "macros/attended_screen.h"
 #include "macros/attended_services.h"
 #include "macros/macro_provider.h"

@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
-#include "adapters/qt/screen/qt_clipboard.h"
 #include "adapters/qt/explorer/qt_explorer.h"
+#include "adapters/qt/screen/qt_clipboard.h"
 #include "gui/desktop.h"
 
 namespace hx::gui {

@@ -9,7 +9,9 @@ namespace {
 
 using Keys = std::vector<std::string>;
 
-host::NewNode node(std::string_view parent, std::string_view key) { return {.parent = parent, .caption = key, .key = key}; }
+host::NewNode node(std::string_view parent, std::string_view key) {
+    return {.parent = parent, .caption = key, .key = key};
+}
 
 std::string keyOf(int recipe) { return "RCPR" + std::to_string(recipe); }
 

@@ -9,7 +9,7 @@
 namespace hx::hosting {
 namespace {
 
-const std::string plant = std::string(registry_keys::projects) + "Plant";
+const std::string plant = std::string(host::registry_keys::projects) + "Plant";
 
 TEST(ProjectRegistry, IsCertainOfItsOwnProjectWhateverOthersRecord) {
     const FilesFolder folder;
@@ -36,10 +36,10 @@ TEST(ProjectRegistry, PassesAllElseOn) {
     RegistryFile file(folder.file("r"));
     ProjectRegistry registry(file);
     registry.open("Plant", "/a");
-    registry.writeNumber(registry_keys::helvix, "LCID", 1033);
+    registry.writeNumber(host::registry_keys::helvix, "LCID", 1033);
     registry.writeString(plant, "Note", "x");
-    EXPECT_EQ(file.readNumber(registry_keys::helvix, "LCID", 0), 1033);
-    EXPECT_EQ(registry.readNumber(registry_keys::helvix, "LCID", 0), 1033);
+    EXPECT_EQ(file.readNumber(host::registry_keys::helvix, "LCID", 0), 1033);
+    EXPECT_EQ(registry.readNumber(host::registry_keys::helvix, "LCID", 0), 1033);
     EXPECT_EQ(registry.readString(plant, "Note"), "x");
     EXPECT_EQ(registry.readString("", "Path", "none"), "none");
 }

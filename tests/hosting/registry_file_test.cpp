@@ -11,21 +11,21 @@ namespace {
 TEST(RegistryFile, IsEmptyWithoutAFile) {
     const FilesFolder folder;
     const RegistryFile registry(folder.file("registry"));
-    EXPECT_EQ(registry.readString(registry_keys::tarnwell, "Common", "none"), "none");
-    EXPECT_EQ(registry.readString(registry_keys::tarnwell, "Common"), "");
-    EXPECT_EQ(registry.readNumber(registry_keys::helvix, "LCID", 1031), 1031);
+    EXPECT_EQ(registry.readString(host::registry_keys::tarnwell, "Common", "none"), "none");
+    EXPECT_EQ(registry.readString(host::registry_keys::tarnwell, "Common"), "");
+    EXPECT_EQ(registry.readNumber(host::registry_keys::helvix, "LCID", 1031), 1031);
 }
 
 TEST(RegistryFile, StoresTextsAndNumbersSoThatAPersonCanReadThem) {
     const FilesFolder folder;
     RegistryFile registry(folder.file("config/helvix/registry"));
-    registry.writeNumber(registry_keys::helvix, "LCID", 1033);
-    registry.writeString(std::string(registry_keys::projects) + "Plant", "Path", "D:\\Prj");
+    registry.writeNumber(host::registry_keys::helvix, "LCID", 1033);
+    registry.writeString(std::string(host::registry_keys::projects) + "Plant", "Path", "D:\\Prj");
     EXPECT_EQ(folder.read("config/helvix/registry"),
               "[SOFTWARE\\Tarnwell\\Helvix\\4.0]\r\nLCID=dword:1033\r\n"
               "[SOFTWARE\\Tarnwell\\Helvix\\4.0\\Projects\\Plant]\r\nPath=\"D:\\Prj\"\r\n");
     EXPECT_EQ(registry.readNumber("software\\TARNWELL\\helvix\\4.0\\", "lcid", 0), 1033);
-    EXPECT_EQ(registry.readString(std::string(registry_keys::projects) + "PLANT", "PATH"), "D:\\Prj");
+    EXPECT_EQ(registry.readString(std::string(host::registry_keys::projects) + "PLANT", "PATH"), "D:\\Prj");
 }
 
 TEST(RegistryFile, ReadsItsOwnNegativeNumbersQuotesAndBlanks) {

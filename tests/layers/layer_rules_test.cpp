@@ -33,7 +33,8 @@ TEST(LayerRules, TheEditorsFoldersStandOnTheStandardLibraryAlone) {
 }
 
 TEST(LayerRules, OnlyTheFilesOfTheOperatingSystemIncludeItsHeaders) {
-    EXPECT_THAT(wrongIncludes("host/posix_disk.cpp", "#include <fcntl.h>\n#include \"host/disk.h\"\n"), IsEmpty());
+    EXPECT_THAT(wrongIncludes("hosting/posix_disk.cpp", "#include <fcntl.h>\n#include \"hosting/disk.h\"\n"),
+                IsEmpty());
     EXPECT_THAT(wrongIncludes("host/posix_disk.cpp", "#include \"editor/frmtabgrid.h\"\n"),
                 ElementsAre("host/posix_disk.cpp:1: includes editor/frmtabgrid.h: host may not include editor"));
     EXPECT_THAT(wrongIncludes("host/file_lock.cpp", "#include <fcntl.h>\n"),
@@ -70,7 +71,25 @@ TEST(LayerRules, WhatAMacroFindsStandsOnTheAdaptersAndOnNoProgram) {
                 ElementsAre("adapters/lua/value.cpp:1: includes macros/studio.h: adapters/lua may not include macros"));
 }
 
-TEST(LayerRules, AProgramIncludesAnything) {
+TEST(LayerRules, NoProgramIncludesTheOtherNorItsToolkit) {
+    EXPECT_THAT(wrongIncludes("cli/list.cpp", "#include \"studio/project.h\"\n#include \"adapters/qt/text.h\"\n"),
+                ElementsAre("cli/list.cpp:1: includes studio/project.h: cli may not include studio",
+                            "cli/list.cpp:2: includes adapters/qt/text.h: cli may not include adapters/qt"));
+    EXPECT_THAT(wrongIncludes("studio/project.cpp", "#include \"cli/list.h\"\n"),
+                ElementsAre("studio/project.cpp:1: includes cli/list.h: studio may not include cli"));
+    EXPECT_THAT(wrongIncludes("macros/data.cpp", "#include \"adapters/qt/text.h\"\n"),
+                ElementsAre("macros/data.cpp:1: includes adapters/qt/text.h: macros may not include adapters/qt"));
+    EXPECT_THAT(
+        wrongIncludes("report/preview/pages.cpp", "#include \"studio/project.h\"\n"),
+        ElementsAre("report/preview/pages.cpp:1: includes studio/project.h: report/preview may not include studio"));
+}
+
+TEST(LayerRules, TheEditorSeesTheContractAndNotWhatHostsAreMadeOf) {
+    EXPECT_THAT(wrongIncludes("addin/connect.cpp", "#include \"host/services.h\"\n#include \"hosting/node_tree.h\"\n"),
+                ElementsAre("addin/connect.cpp:2: includes hosting/node_tree.h: addin may not include hosting"));
+}
+
+TEST(LayerRules, AProgramIncludesWhatIsInstalledAndWhatLiesBelow) {
     EXPECT_THAT(wrongIncludes(
                     "cli/main.cpp",
                     "#include <CLI/CLI.hpp>\n#include \"adapters/sqlite/provider.h\"\n#include \"addin/connect.h\"\n"),
@@ -126,7 +145,7 @@ TEST(LayerRules, LabelsAndToolTipsShowTextAsItIs) {
                             "QToolTip::showText(place, x);\n"),
                 ElementsAre("report/preview/a.cpp:2: a tool tip shows HTML: use plainToolTip",
                             "report/preview/a.cpp:4: a tool tip shows HTML: use plainToolTip"));
-    EXPECT_THAT(textsAsHtml("adapters/qt/plain_label.h", "QLabel"), IsEmpty());
+    EXPECT_THAT(textsAsHtml("adapters/qt/controls/plain_label.h", "QLabel"), IsEmpty());
 }
 
 TEST(LayerRules, ExceptionsAreToldByTheHelper) {

@@ -5,8 +5,8 @@
 #include <string>
 
 #include "automation/error.h"
-#include "hosting/ini_document.h"
 #include "host/system_services.h"
+#include "hosting/ini_document.h"
 
 namespace hx::headless {
 

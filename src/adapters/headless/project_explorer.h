@@ -6,8 +6,8 @@
 #include <vector>
 
 #include "forms/picture.h"
-#include "hosting/node_tree.h"
 #include "host/system_services.h"
+#include "hosting/node_tree.h"
 
 namespace hx::headless {
 

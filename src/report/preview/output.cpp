@@ -92,7 +92,8 @@ QString savePdf(const Report& report, const Pages& pages, PageRange range, const
             painted = paintPages(pages, range, writer);
         }
         if (device.error()) throw *device.error();
-        if (!painted) hosting::failWith(hosting::sentence::notWritten, hosting::fileSystemPath(qt::fromQt(path)), noPage);
+        if (!painted)
+            hosting::failWith(hosting::sentence::notWritten, hosting::fileSystemPath(qt::fromQt(path)), noPage);
     });
 }
 

@@ -6,9 +6,9 @@
 #include <QVBoxLayout>
 #include <optional>
 
-#include "adapters/qt/controls/plain_label.h"
 #include "adapters/qt/choosers/variable_model.h"
 #include "adapters/qt/choosers/variable_table.h"
+#include "adapters/qt/controls/plain_label.h"
 
 namespace hx::qt {
 

@@ -4,10 +4,10 @@
 #include <QLineEdit>
 #include <QVBoxLayout>
 
-#include "adapters/qt/controls/control_view.h"
 #include "adapters/qt/choosers/multi_items_model.h"
-#include "adapters/qt/controls/plain_label.h"
 #include "adapters/qt/choosers/variable_table.h"
+#include "adapters/qt/controls/control_view.h"
+#include "adapters/qt/controls/plain_label.h"
 
 namespace hx::qt {
 

@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <numeric>
 
-#include "adapters/qt/text.h"
 #include "adapters/qt/choosers/variable_filter.h"
+#include "adapters/qt/text.h"
 
 namespace hx::qt {
 

@@ -5,8 +5,8 @@
 #include <array>
 
 #include "adapters/qt/fonts.h"
-#include "adapters/qt/screen/form_view.h"
 #include "adapters/qt/keys.h"
+#include "adapters/qt/screen/form_view.h"
 #include "adapters/qt/text.h"
 
 namespace hx::qt {

@@ -63,7 +63,7 @@ class ExplorerModel : public QAbstractItemModel {
     QTimer timer_;
     std::vector<bool> new_;                  ///< by number: not published yet
     std::unordered_map<Id, int> published_;  ///< children that views know, where some are new
-    Id growing_ = hosting::NodeTree::none;      ///< the one of these that got the last new child
+    Id growing_ = hosting::NodeTree::none;   ///< the one of these that got the last new child
     std::vector<Id> going_;                  ///< removed, but still in the tree
     std::vector<bool> goingMarks_;           ///< by number
 };

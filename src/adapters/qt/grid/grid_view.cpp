@@ -9,8 +9,8 @@
 #include <algorithm>
 #include <ranges>
 
-#include "adapters/qt/screen/form_view.h"
 #include "adapters/qt/keys.h"
+#include "adapters/qt/screen/form_view.h"
 #include "adapters/qt/text.h"
 
 namespace hx::qt {

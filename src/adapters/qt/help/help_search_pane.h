@@ -6,8 +6,8 @@
 #include <functional>
 #include <memory>
 
-#include "adapters/qt/help/help_search.h"
 #include "adapters/qt/controls/plain_label.h"
+#include "adapters/qt/help/help_search.h"
 #include "adapters/qt/wording.h"
 
 namespace hx::qt {

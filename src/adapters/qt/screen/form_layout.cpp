@@ -5,8 +5,8 @@
 #include <algorithm>
 
 #include "adapters/qt/controls/command_button_view.h"
-#include "adapters/qt/screen/form_view.h"
 #include "adapters/qt/controls/label_view.h"
+#include "adapters/qt/screen/form_view.h"
 #include "adapters/qt/text.h"
 #include "automation/error.h"
 #include "forms/simple_controls.h"

@@ -7,14 +7,14 @@
 #include <QScopedValueRollback>
 #include <algorithm>
 
-#include "adapters/qt/fonts.h"
-#include "adapters/qt/keys.h"
 #include "adapters/qt/controls/label_view.h"
-#include "adapters/qt/screen/placement.h"
 #include "adapters/qt/controls/status_bar_view.h"
 #include "adapters/qt/controls/tab_strip_view.h"
-#include "adapters/qt/text.h"
+#include "adapters/qt/fonts.h"
+#include "adapters/qt/keys.h"
+#include "adapters/qt/screen/placement.h"
 #include "adapters/qt/screen/view_factory.h"
+#include "adapters/qt/text.h"
 #include "forms/simple_controls.h"
 
 namespace hx::qt {

@@ -3,8 +3,8 @@
 #include <QApplication>
 #include <QScreen>
 
-#include "adapters/qt/controls/band_menu.h"
 #include "adapters/qt/choosers/font_choice.h"
+#include "adapters/qt/controls/band_menu.h"
 #include "adapters/qt/screen/message_dialog.h"
 #include "adapters/qt/text.h"
 

@@ -1,19 +1,19 @@
 #include "adapters/qt/screen/view_factory.h"
 
+#include "adapters/qt/choosers/multi_items_view.h"
 #include "adapters/qt/controls/bar_view.h"
 #include "adapters/qt/controls/check_box_view.h"
 #include "adapters/qt/controls/combo_box_view.h"
 #include "adapters/qt/controls/command_button_view.h"
 #include "adapters/qt/controls/frame_view.h"
-#include "adapters/qt/grid/grid_view.h"
 #include "adapters/qt/controls/label_view.h"
-#include "adapters/qt/choosers/multi_items_view.h"
 #include "adapters/qt/controls/option_button_view.h"
 #include "adapters/qt/controls/picture_box_view.h"
 #include "adapters/qt/controls/status_bar_view.h"
 #include "adapters/qt/controls/tab_strip_view.h"
 #include "adapters/qt/controls/text_box_view.h"
 #include "adapters/qt/controls/tool_bar_view.h"
+#include "adapters/qt/grid/grid_view.h"
 #include "automation/error.h"
 
 namespace hx::qt {
