@@ -131,27 +131,27 @@ void Commands::newSubRecipe() {
     window_.finishOrDropEdit();
     const DatabaseWork work(window_.dataEnvironment());
     const ado::Bookmark row = window_.tdbRM->bookmark();
-    bool read = false;
+    bool stale = false;
     const bool done = guard(addIn_, procedure, [&] {
         showingConflicts(recipe::KeyId(window_.nodeKey()), {}, [&] {
             const automation::Restore dialog(dialogOpen_, true);
-            if (recipe::AddSubRecipeMember(window_, tellingIn(procedure, read))) read = true;
+            if (recipe::AddSubRecipeMember(window_, tellingIn(procedure, stale))) stale = true;
         });
     });
     // After an error too: the recordset then stands on its last row.
-    if (read || !done) window_.refreshMembersAt(row);
+    if (stale || !done) window_.refreshMembersAt(row);
 }
 
 void Commands::editSubRecipe() {
     window_.finishOrDropEdit();
     const DatabaseWork work(window_.dataEnvironment());
-    bool read = false;
+    bool stale = false;
     const bool done = guard(addIn_, procedure, [&] {
         const automation::Restore dialog(dialogOpen_, true);
-        if (recipe::EditSubRecipeMember(window_.memberRecordset(), window_, tellingIn(procedure, read))) read = true;
+        if (recipe::EditSubRecipeMember(window_.memberRecordset(), window_, tellingIn(procedure, stale))) stale = true;
     });
     // After an error too: another may have changed the row.
-    if (read || !done) window_.refreshMembers();
+    if (stale || !done) window_.refreshMembers();
 }
 
 // A bookmark of a row whose ID is its key says it already; else the row is asked.
