@@ -167,7 +167,7 @@ TEST_F(GridError, AStaleRowShowsTheNotFoundTextAndResetsTheGrid) {
     database.table("TrcpRecipeMember").remove(2);
     std::vector<ado::EditMode> modes;
     host.script.onMessage = [&](const headless::Message& message) {
-        busy.push_back(addIn.busyFlag.isSet());
+        busy.push_back(addIn.busyFlag);
         modes.push_back(members().editMode());
         return message.defaultButton;
     };
