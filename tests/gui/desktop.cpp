@@ -95,3 +95,9 @@ void BoxAnswers::look() {
 }
 
 }  // namespace hx::gui
+
+#ifdef __SANITIZE_ADDRESS__
+// The library that finds fonts keeps what it has found, also when the program ends.
+extern "C" const char* __lsan_default_suppressions();                       // NOLINT(bugprone-reserved-identifier)
+const char* __lsan_default_suppressions() { return "leak:libfontconfig"; }  // NOLINT(bugprone-reserved-identifier)
+#endif

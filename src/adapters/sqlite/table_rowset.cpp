@@ -16,7 +16,10 @@ using ado::Key;
 namespace {
 
 // Rows between two keys are read in one go when at most so many times as many keys lie between as are wanted.
-constexpr Key readAlong = 4;
+constexpr std::uint64_t readAlong = 4;
+
+// From a key to a greater one; a key has half of the numbers.
+std::uint64_t distance(Key from, Key to) { return static_cast<std::uint64_t>(to) - static_cast<std::uint64_t>(from); }
 
 bool isText(const ado::Column& column) { return column.type == ado::adVarWChar || column.type == ado::adLongVarWChar; }
 
@@ -101,7 +104,7 @@ void TableRowset::read(std::span<const Key> keys, ColumnMask mask, ado::RowSink&
         if ((mask & ado::columnBit(i)) != 0 && !columns_[i].isKey) reading_.push_back(i);
     }
     const bool ascending = std::ranges::adjacent_find(keys, std::greater_equal<>()) == keys.end();
-    const bool dense = ascending && (keys.back() - keys.front()) / readAlong <= static_cast<Key>(keys.size());
+    const bool dense = ascending && distance(keys.front(), keys.back()) / readAlong <= keys.size();
     if (dense) readRange(readQuery(), keys, sink);
     else readEach(readQuery(), keys, sink);
 }
