@@ -4,12 +4,12 @@
 #include <array>
 #include <unordered_set>
 
+#include "automation/restore.h"
 #include "editor/column_order.h"
 #include "editor/frmtabgrid.h"
 #include "editor/guard.h"
 #include "editor/pictures.h"
 #include "editor/recipe_names.h"
-#include "forms/raised.h"
 #include "recipe/schema.h"
 
 namespace hx::editor {
@@ -123,7 +123,7 @@ void MSurfingGrid::refreshMembersAt(const ado::Bookmark& row) {
 }
 
 void MSurfingGrid::readMembers(const ado::Bookmark& current, const std::vector<ado::Bookmark>& selected) {
-    const forms::Raised reading(reading_);
+    const automation::Restore reading(reading_, true);
     recipe::RefreshMemberView(window_, addIn_.texts());
     shownKey_ = window_.nodeKey();
     standOn(current);

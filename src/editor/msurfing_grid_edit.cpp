@@ -1,8 +1,8 @@
+#include "automation/restore.h"
 #include "automation/text.h"
 #include "editor/frmtabgrid.h"
 #include "editor/guard.h"
 #include "editor/msurfing_grid.h"
-#include "forms/raised.h"
 #include "recipe/conflict.h"
 #include "recipe/node_key.h"
 #include "recipe/schema.h"
@@ -94,10 +94,8 @@ bool MSurfingGrid::finishRow() {
         return true;
     } catch (const Error& error) {
         const Busy busy(addIn_.busy());
-        std::optional<forms::Raised> byTheGrid;
-        if (error.number() != forms::gridErrRowRefused && error.number() != forms::gridErrStaleRow) {
-            byTheGrid.emplace(gridShowsError_);
-        }
+        const bool rowStays = error.number() == forms::gridErrRowRefused || error.number() == forms::gridErrStaleRow;
+        const automation::Restore byTheGrid(gridShowsError_, !rowStays);
         grid_.reportError(error);
         return false;
     }

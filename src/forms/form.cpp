@@ -1,8 +1,8 @@
 #include "forms/form.h"
 
+#include "automation/restore.h"
 #include "automation/text.h"
 #include "forms/known_value.h"
-#include "forms/raised.h"
 
 namespace hx::forms {
 
@@ -16,7 +16,7 @@ Form::~Form() {
 void Form::load() {
     if (loaded() || loading_) return;
     const auto keep = share();
-    const Raised loading(loading_);
+    const automation::Restore loading(loading_, true);
     loadEvent.raise();
     handle_ = screen_.createWindow(*this);
     if (visible()) changed.raise("Visible");  // a handler has shown it before there was a window
@@ -26,7 +26,7 @@ bool Form::unload(UnloadMode mode) {
     if (!loaded()) return true;
     if (unloading_) return false;
     const auto keep = share();
-    const Raised unloading(unloading_);
+    const automation::Restore unloading(unloading_, true);
     bool cancel = false;
     queryUnloadEvent.raise(cancel, mode);
     if (cancel) return false;

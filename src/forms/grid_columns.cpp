@@ -2,9 +2,9 @@
 #include <array>
 
 #include "automation/convert.h"
+#include "automation/restore.h"
 #include "automation/text.h"
 #include "forms/grid.h"
-#include "forms/raised.h"
 
 namespace hx::forms {
 
@@ -142,7 +142,7 @@ void Grid::columnMoved(std::int32_t column, std::int16_t newOrder) {
     const auto place = std::clamp<std::ptrdiff_t>(newOrder, 0, static_cast<std::ptrdiff_t>(ordered.size()));
     ordered.insert(ordered.begin() + place, moved);
     {
-        const Raised reordering(reordering_);
+        const automation::Restore reordering(reordering_, true);
         for (std::size_t i = 0; i < ordered.size(); ++i) ordered[i]->setOrder(static_cast<std::int16_t>(i));
     }
     columnsChanged.raise();

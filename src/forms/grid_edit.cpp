@@ -3,9 +3,9 @@
 #include "ado/errors.h"
 #include "ado/row_edit.h"
 #include "automation/convert.h"
+#include "automation/restore.h"
 #include "forms/form.h"
 #include "forms/grid.h"
-#include "forms/raised.h"
 
 namespace hx::forms {
 
@@ -50,7 +50,7 @@ void Grid::announceCell(std::int32_t oldRow) {
 bool Grid::leaveRow() {
     if (!dataChanged_ && !addNewMode_ && !pending()) return true;
     if (leaving_) return false;
-    const Raised leaving(leaving_);
+    const automation::Restore leaving(leaving_, true);
     bool stay = false;
     leavingRowEvent.raise(stay);
     if (stay) return false;
