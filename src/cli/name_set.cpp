@@ -1,7 +1,5 @@
 #include "cli/name_set.h"
 
-#include <functional>
-
 #include "automation/text.h"
 
 namespace hx::cli {
@@ -23,7 +21,7 @@ bool NameSet::contains(std::string_view name) {
 std::uint32_t NameSet::fold(std::string_view name) {
     folded_.clear();
     automation::appendFolded(folded_, name);
-    return static_cast<std::uint32_t>(std::hash<std::string_view>()(folded_));
+    return automation::KeyIndex::hashOf(folded_);
 }
 
 bool NameSet::isFolded(std::size_t number) const {

@@ -1,16 +1,14 @@
 #include "adapters/qt/choosers/variable_list.h"
 
-#include <functional>
-
 #include "automation/text.h"
 
 namespace hx::qt {
 
+using automation::KeyIndex;
+
 namespace {
 
 constexpr char lineEnd = '\n';  // so that no word is found across two fields
-
-std::uint32_t hashOf(std::string_view name) { return static_cast<std::uint32_t>(std::hash<std::string_view>()(name)); }
 
 }  // namespace
 
@@ -35,7 +33,7 @@ void VariableList::fold() {
 void VariableList::fillIndex() {
     for (std::size_t row = 0; row < size(); ++row) {
         const std::string_view name = foldedName(row);
-        index_.insert(hashOf(name), static_cast<automation::KeyIndex::Id>(row),
+        index_.insert(KeyIndex::hashOf(name), static_cast<KeyIndex::Id>(row),
                       [&](auto other) { return foldedName(other) == name; });
     }
 }
@@ -52,8 +50,8 @@ std::string_view VariableList::foldedName(std::size_t row) const {
 
 std::optional<std::size_t> VariableList::find(std::string_view name) const {
     const std::string folded = automation::foldCase(name);
-    const auto row = index_.find(hashOf(folded), [&](auto other) { return foldedName(other) == folded; });
-    return row == automation::KeyIndex::none ? std::nullopt : std::optional<std::size_t>(row);
+    const auto row = index_.find(KeyIndex::hashOf(folded), [&](auto other) { return foldedName(other) == folded; });
+    return row == KeyIndex::none ? std::nullopt : std::optional<std::size_t>(row);
 }
 
 }  // namespace hx::qt
