@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "ado/row_edit.h"
+#include "support/error_of.h"
 
 namespace hx::ado {
 namespace {
@@ -10,16 +11,7 @@ namespace {
 using automation::Error;
 using automation::Language;
 using automation::Variant;
-
-template <class Action>
-Error errorOf(Action&& action) {
-    try {
-        action();
-    } catch (const Error& error) {
-        return error;
-    }
-    return {0, "no error"};
-}
+using support::errorOf;
 
 TEST(AdoErrors, AreToldInGermanToo) {
     const Error closed = errorOf([] { throwObjectClosed(); });

@@ -4,26 +4,19 @@
 #include <gtest/gtest.h>
 
 #include "automation/error.h"
+#include "support/error_of.h"
 #include "support/memory_provider.h"
 
 namespace hx::headless {
 namespace {
 
 using automation::Variant;
+using support::errorOf;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
 class HostTest : public ::testing::Test {
   protected:
-    template <class Call>
-    static automation::Error errorOf(Call call) {
-        try {
-            call();
-        } catch (const automation::Error& error) {
-            return error;
-        }
-        return {0, "no error"};
-    }
     static forms::Picture picture() { return {"<svg/>"}; }
 
     support::MemoryProvider database;

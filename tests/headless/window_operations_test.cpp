@@ -5,6 +5,7 @@
 
 #include "adapters/headless/host.h"
 #include "automation/error.h"
+#include "support/error_of.h"
 #include "support/memory_provider.h"
 #include "support/table_walker.h"
 #include "test_form.h"
@@ -21,15 +22,6 @@ class WindowTest : public ::testing::Test {
         form->move(150, 300, 6000, 3000);
         form->show();
         handle = form->handle();
-    }
-    template <class Call>
-    static std::int32_t errorOf(Call call) {
-        try {
-            call();
-            return 0;
-        } catch (const automation::Error& error) {
-            return error.number();
-        }
     }
 
     support::MemoryProvider database;
@@ -62,9 +54,9 @@ TEST_F(WindowTest, PlacesAWindowIntoAnotherAndTakesItOutHidden) {
 }
 
 TEST_F(WindowTest, RefusesAParentThatIsNotThereOrLiesBelow) {
-    EXPECT_EQ(errorOf([&] { windows.setParent(handle, 4711); }), WindowOperations::errInvalidWindow);
+    EXPECT_EQ(support::errorNumber([&] { windows.setParent(handle, 4711); }), WindowOperations::errInvalidWindow);
     windows.setParent(handle, studio);
-    EXPECT_EQ(errorOf([&] { windows.setParent(studio, handle); }), WindowOperations::errInvalidWindow);
+    EXPECT_EQ(support::errorNumber([&] { windows.setParent(studio, handle); }), WindowOperations::errInvalidWindow);
     EXPECT_EQ(windows.parent(handle), studio);
 }
 
@@ -73,13 +65,13 @@ TEST_F(WindowTest, FailsForAHandleWithoutAWindow) {
     EXPECT_EQ(invalid, automation::hresult(0x80070578));
     form->unload(forms::UnloadMode::byCode);
     for (const forms::WindowHandle gone : {handle, 0, -1}) {
-        EXPECT_EQ(errorOf([&] { (void)windows.style(gone); }), invalid);
-        EXPECT_EQ(errorOf([&] { windows.setStyle(gone, 1); }), invalid);
-        EXPECT_EQ(errorOf([&] { windows.setParent(gone, studio); }), invalid);
-        EXPECT_EQ(errorOf([&] { (void)windows.rect(gone); }), invalid);
-        EXPECT_EQ(errorOf([&] { (void)windows.procedure(gone); }), invalid);
-        EXPECT_EQ(errorOf([&] { windows.sendMessage(gone, 6, 1); }), invalid);
-        EXPECT_EQ(errorOf([&] { (void)windows.embeddingObject(gone); }), invalid);
+        EXPECT_EQ(support::errorNumber([&] { (void)windows.style(gone); }), invalid);
+        EXPECT_EQ(support::errorNumber([&] { windows.setStyle(gone, 1); }), invalid);
+        EXPECT_EQ(support::errorNumber([&] { windows.setParent(gone, studio); }), invalid);
+        EXPECT_EQ(support::errorNumber([&] { (void)windows.rect(gone); }), invalid);
+        EXPECT_EQ(support::errorNumber([&] { (void)windows.procedure(gone); }), invalid);
+        EXPECT_EQ(support::errorNumber([&] { windows.sendMessage(gone, 6, 1); }), invalid);
+        EXPECT_EQ(support::errorNumber([&] { (void)windows.embeddingObject(gone); }), invalid);
     }
 }
 
@@ -126,8 +118,8 @@ TEST_F(WindowTest, LetsAProcedureTakeItselfAway) {
 }
 
 TEST_F(WindowTest, RefusesAProcedureThatIsNotThere) {
-    EXPECT_EQ(errorOf([&] { windows.restore(handle, 4711); }), WindowOperations::errInvalidWindow);
-    EXPECT_EQ(errorOf([&] { windows.call(0, handle, 1, 0, 0); }), WindowOperations::errInvalidWindow);
+    EXPECT_EQ(support::errorNumber([&] { windows.restore(handle, 4711); }), WindowOperations::errInvalidWindow);
+    EXPECT_EQ(support::errorNumber([&] { windows.call(0, handle, 1, 0, 0); }), WindowOperations::errInvalidWindow);
 }
 
 TEST_F(WindowTest, TellsTheWindowBeforeAndTheNewOneOfAnActivation) {

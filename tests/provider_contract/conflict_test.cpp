@@ -37,7 +37,7 @@ class Conflict : public ProviderContract {
         const auto recordset = recipes();
         recordset->field(name).setValue(mine);
         theyStore(name, theirs);
-        return errorOf([&] { recordset->update(); });
+        return errorNumber([&] { recordset->update(); });
     }
 };
 
@@ -45,7 +45,7 @@ TEST_P(Conflict, AColumnThatAnotherHasChangedIsNotOverwritten) {
     const auto recordset = recipes();
     recordset->field("Comment").setValue("mine");
     theyStore("Comment", "theirs");
-    EXPECT_EQ(errorOf([&] { recordset->update(); }), ado::dbErrRowChanged);
+    EXPECT_EQ(errorNumber([&] { recordset->update(); }), ado::dbErrRowChanged);
     EXPECT_EQ(storedIn("Comment"), Variant("theirs"));
 }
 
@@ -64,7 +64,7 @@ TEST_P(Conflict, NothingOfARefusedUpdateIsStored) {
     recordset->field("VarLoad").setValue("mine");
     recordset->field("Comment").setValue("mine");
     theyStore("Comment", "theirs");
-    EXPECT_EQ(errorOf([&] { recordset->update(); }), ado::dbErrRowChanged);
+    EXPECT_EQ(errorNumber([&] { recordset->update(); }), ado::dbErrRowChanged);
     EXPECT_EQ(storedIn("VarLoad"), Variant(""));
 }
 
@@ -74,11 +74,11 @@ TEST_P(Conflict, TheEditWaitsAndTheOtherColumnsShowWhatIsStoredNow) {
     recordset->field("Comment").setValue("mine");
     theyStore("Comment", "theirs");
     theyStore("VarLoad", "theirs too");
-    EXPECT_EQ(errorOf([&] { recordset->update(); }), ado::dbErrRowChanged);
+    EXPECT_EQ(errorNumber([&] { recordset->update(); }), ado::dbErrRowChanged);
     EXPECT_EQ(recordset->editMode(), ado::adEditInProgress);
     EXPECT_EQ(recordset->field("Comment").value(), Variant("mine"));
     EXPECT_EQ(recordset->field("VarLoad").value(), Variant("theirs too"));
-    EXPECT_EQ(errorOf([&] { recordset->update(); }), ado::dbErrRowChanged) << "nobody has read the row again";
+    EXPECT_EQ(errorNumber([&] { recordset->update(); }), ado::dbErrRowChanged) << "nobody has read the row again";
     recordset->cancelUpdate();
     EXPECT_EQ(recordset->field("Comment").value(), Variant("theirs"));
 }
@@ -87,7 +87,7 @@ TEST_P(Conflict, AfterTheRowWasReadAgainItCanBeChanged) {
     const auto recordset = recipes();
     recordset->field("Comment").setValue("mine");
     theyStore("Comment", "theirs");
-    EXPECT_EQ(errorOf([&] { recordset->update(); }), ado::dbErrRowChanged);
+    EXPECT_EQ(errorNumber([&] { recordset->update(); }), ado::dbErrRowChanged);
     recordset->resync(ado::adAffectCurrent);
     recordset->field("Comment").setValue("mine");
     recordset->update();
@@ -98,7 +98,7 @@ TEST_P(Conflict, LeavingTheRowStaysOnIt) {
     const auto recordset = recipes();
     recordset->field("Comment").setValue("mine");
     theyStore("Comment", "theirs");
-    EXPECT_EQ(errorOf([&] { recordset->moveNext(); }), ado::dbErrRowChanged);
+    EXPECT_EQ(errorNumber([&] { recordset->moveNext(); }), ado::dbErrRowChanged);
     EXPECT_EQ(recordset->absolutePosition(), 1);
     EXPECT_EQ(recordset->editMode(), ado::adEditInProgress);
 }
@@ -153,7 +153,7 @@ TEST_P(Conflict, AnEditReadsTheRowAfreshAndKeepsWhatItHasRead) {
     EXPECT_EQ(recordset->field("VarLoad").value(), Variant("second"));
     EXPECT_EQ(recordset->field("ID").value(), Variant(1));
     recordset->field("Comment").setValue("mine");
-    EXPECT_EQ(errorOf([&] { recordset->update(); }), ado::dbErrRowChanged);
+    EXPECT_EQ(errorNumber([&] { recordset->update(); }), ado::dbErrRowChanged);
     recordset->cancelUpdate();
     EXPECT_EQ(recordset->field("Comment").value(), Variant("third"));
 }
@@ -171,11 +171,11 @@ TEST_P(Conflict, AnEditOfARowThatIsGoneDoesNotBegin) {
     const auto recordset = recipes();
     EXPECT_EQ(recordset->field("Name").value(), Variant("A"));
     theyDelete();
-    EXPECT_EQ(errorOf([&] { recordset->edit(); }), ado::dbErrDeletedRow);
+    EXPECT_EQ(errorNumber([&] { recordset->edit(); }), ado::dbErrDeletedRow);
     EXPECT_EQ(recordset->editMode(), ado::adEditNone);
     recordset->moveLast();
     recordset->moveNext();
-    EXPECT_EQ(errorOf([&] { recordset->edit(); }), ado::adErrNoCurrentRecord);
+    EXPECT_EQ(errorNumber([&] { recordset->edit(); }), ado::adErrNoCurrentRecord);
 }
 
 TEST_P(Conflict, AFieldTellsWhatItHeldAndWhatIsStoredNow) {
@@ -186,7 +186,7 @@ TEST_P(Conflict, AFieldTellsWhatItHeldAndWhatIsStoredNow) {
     EXPECT_EQ(comment.value(), Variant("mine"));
     EXPECT_EQ(comment.originalValue(), Variant(""));
     EXPECT_EQ(comment.underlyingValue(), Variant("theirs"));
-    EXPECT_EQ(errorOf([&] { recordset->update(); }), ado::dbErrRowChanged);
+    EXPECT_EQ(errorNumber([&] { recordset->update(); }), ado::dbErrRowChanged);
     EXPECT_EQ(comment.originalValue(), Variant(""));
     recordset->cancelUpdate();
     EXPECT_EQ(comment.originalValue(), Variant("theirs"));
@@ -195,7 +195,7 @@ TEST_P(Conflict, AFieldTellsWhatItHeldAndWhatIsStoredNow) {
     EXPECT_TRUE(comment.underlyingValue().isNull());
     recordset->cancelUpdate();
     theyDelete();
-    EXPECT_EQ(errorOf([&] { (void)comment.underlyingValue(); }), ado::dbErrDeletedRow);
+    EXPECT_EQ(errorNumber([&] { (void)comment.underlyingValue(); }), ado::dbErrDeletedRow);
 }
 
 TEST_P(Conflict, ADeletedRowIsDeletedAndNotChanged) {
@@ -203,7 +203,7 @@ TEST_P(Conflict, ADeletedRowIsDeletedAndNotChanged) {
     recordset->field("Comment").setValue("mine");
     theyStore("Comment", "theirs");
     theyDelete();
-    EXPECT_EQ(errorOf([&] { recordset->update(); }), ado::dbErrDeletedRow);
+    EXPECT_EQ(errorNumber([&] { recordset->update(); }), ado::dbErrDeletedRow);
     EXPECT_EQ(recordset->editMode(), ado::adEditInProgress);
     EXPECT_EQ(stored("TrcpRecipe", "Name"), "B");
 }
@@ -229,7 +229,7 @@ TEST_P(Conflict, AnotherRecordsetOfTheConnectionCountsAsAnother) {
     recordset->field("Comment").setValue("mine");
     second->field("Comment").setValue("theirs");
     second->update();
-    EXPECT_EQ(errorOf([&] { recordset->update(); }), ado::dbErrRowChanged);
+    EXPECT_EQ(errorNumber([&] { recordset->update(); }), ado::dbErrRowChanged);
 }
 
 TEST_P(Conflict, InATransactionTheRestOfItCanBeCommitted) {
@@ -237,7 +237,7 @@ TEST_P(Conflict, InATransactionTheRestOfItCanBeCommitted) {
     recordset->field("Comment").setValue("mine");
     theyStore("Comment", "theirs");
     connection_->beginTrans();
-    EXPECT_EQ(errorOf([&] { recordset->update(); }), ado::dbErrRowChanged);
+    EXPECT_EQ(errorNumber([&] { recordset->update(); }), ado::dbErrRowChanged);
     recordset->cancelUpdate();
     recordset->field("VarLoad").setValue("mine");
     recordset->update();
@@ -250,7 +250,7 @@ TEST_P(Conflict, AfterARefusalNobodyIsLockedOut) {
     const auto recordset = recipes();
     recordset->field("Comment").setValue("mine");
     theyStore("Comment", "theirs");
-    EXPECT_EQ(errorOf([&] { recordset->update(); }), ado::dbErrRowChanged);
+    EXPECT_EQ(errorNumber([&] { recordset->update(); }), ado::dbErrRowChanged);
     EXPECT_FALSE(connection_->inTransaction());
     theyStore("Comment", "theirs again");
     EXPECT_EQ(storedIn("Comment"), Variant("theirs again"));

@@ -66,7 +66,7 @@ TEST_P(Edit, LeavingAnEditedRowWritesIt) {
 TEST_P(Edit, AMoveStaysOnTheRowWhenItCannotBeWritten) {
     const auto recordset = recipes();
     recordset->field("Name").setValue("b");
-    EXPECT_EQ(errorOf([&] { recordset->moveNext(); }), ado::dbErrDuplicate);
+    EXPECT_EQ(errorNumber([&] { recordset->moveNext(); }), ado::dbErrDuplicate);
     EXPECT_EQ(recordset->absolutePosition(), 1);
     EXPECT_EQ(recordset->editMode(), ado::adEditInProgress);
     EXPECT_EQ(recordset->field("Name").value(), Variant("b"));
@@ -143,13 +143,13 @@ TEST_P(Edit, ARecipeHasAVariableOnce) {
         recordset->addNew(Values{{"ParentID", parent}, {"VarRecipe", variable}, {"ChildID", child}});
     };
     add(1, "Tank.Level");
-    EXPECT_EQ(errorOf([&] { add(1, "TANK.Level"); }), ado::dbErrDuplicate);
+    EXPECT_EQ(errorNumber([&] { add(1, "TANK.Level"); }), ado::dbErrDuplicate);
     recordset->cancelUpdate();
     EXPECT_EQ(stored("TrcpRecipeMember", "VarRecipe"), "Tank.Level");
     add(2, "Tank.Level");
     add(1, "Tank.Temp");
     recordset->field("VarRecipe").setValue("tank.level");
-    EXPECT_EQ(errorOf([&] { recordset->update(); }), ado::dbErrDuplicate);
+    EXPECT_EQ(errorNumber([&] { recordset->update(); }), ado::dbErrDuplicate);
     recordset->cancelUpdate();
     EXPECT_EQ(recordset->field("VarRecipe").value(), Variant("Tank.Temp"));
 }
@@ -169,21 +169,21 @@ TEST_P(Edit, EmptyVariablesMayRepeatAndSubRecipesMayShareTheVariableOfTheirFileN
 TEST_P(Edit, ARecipeHasASubRecipeOnceUnderTheSameVariable) {
     const auto recordset = members();
     recordset->addNew(Values{{"ParentID", 1}, {"VarRecipe", "CIP.Datei"}, {"ChildID", 2}});
-    EXPECT_EQ(errorOf([&] {
+    EXPECT_EQ(errorNumber([&] {
                   recordset->addNew(Values{{"ParentID", 1}, {"VarRecipe", "cip.datei"}, {"ChildID", 2}});
               }),
               ado::dbErrDuplicate);
     recordset->cancelUpdate();
     recordset->addNew(Values{{"ParentID", 1}, {"VarRecipe", "Other"}, {"ChildID", 2}});
     recordset->field("VarRecipe").setValue("CIP.Datei");
-    EXPECT_EQ(errorOf([&] { recordset->update(); }), ado::dbErrDuplicate);
+    EXPECT_EQ(errorNumber([&] { recordset->update(); }), ado::dbErrDuplicate);
     recordset->cancelUpdate();
     EXPECT_EQ(stored("TrcpRecipeMember", "VarRecipe"), "CIP.Datei,Other");
 }
 
 TEST_P(Edit, AddNewWithAnUnknownColumnStoresNothing) {
     const auto recordset = recipes();
-    EXPECT_EQ(errorOf([&] { recordset->addNew(Values{{"Name", "D"}, {"NoColumn", 1}}); }), ado::adErrItemNotFound);
+    EXPECT_EQ(errorNumber([&] { recordset->addNew(Values{{"Name", "D"}, {"NoColumn", 1}}); }), ado::adErrItemNotFound);
     EXPECT_EQ(recordset->editMode(), ado::adEditNone);
     EXPECT_EQ(stored("TrcpRecipe", "Name"), "A,B,C");
 }
@@ -192,13 +192,13 @@ TEST_P(Edit, ARefusedNewRowCanBeCorrectedOrCancelled) {
     const auto recordset = recipes();
     recordset->addNew();
     recordset->field("Name").setValue("a");
-    EXPECT_EQ(errorOf([&] { recordset->update(); }), ado::dbErrDuplicate);
+    EXPECT_EQ(errorNumber([&] { recordset->update(); }), ado::dbErrDuplicate);
     EXPECT_EQ(recordset->editMode(), ado::adEditAdd);
     recordset->field("Name").setValue("D");
     recordset->update();
     recordset->addNew();
     recordset->field("Name").setValue("d");
-    EXPECT_EQ(errorOf([&] { recordset->update(); }), ado::dbErrDuplicate);
+    EXPECT_EQ(errorNumber([&] { recordset->update(); }), ado::dbErrDuplicate);
     recordset->cancelUpdate();
     recordset->close();
     EXPECT_EQ(stored("TrcpRecipe", "Name"), "A,B,C,D");
@@ -209,7 +209,7 @@ TEST_P(Edit, NamesAreTriedUntilOneIsFree) {
     const auto create = [&] {
         for (int n = 1;; ++n) {
             const std::string name = n == 1 ? "Neues Rezept" : "Neues Rezept(" + std::to_string(n) + ")";
-            if (errorOf([&] { recordset->addNew(Values{{"Name", name}}); }) == 0) return name;
+            if (errorNumber([&] { recordset->addNew(Values{{"Name", name}}); }) == 0) return name;
             recordset->cancelUpdate();
         }
     };
@@ -241,8 +241,8 @@ TEST_P(Edit, ADeletedRowStaysCurrentUntilAMove) {
     recordset->remove();
     EXPECT_EQ(recordset->editMode(), ado::adEditDelete);
     EXPECT_EQ(recordset->recordCount(), 2);
-    EXPECT_EQ(errorOf([&] { (void)recordset->field("Name").value(); }), ado::dbErrDeletedRow);
-    EXPECT_EQ(errorOf([&] { recordset->remove(); }), ado::dbErrDeletedRow);
+    EXPECT_EQ(errorNumber([&] { (void)recordset->field("Name").value(); }), ado::dbErrDeletedRow);
+    EXPECT_EQ(errorNumber([&] { recordset->remove(); }), ado::dbErrDeletedRow);
     EXPECT_TRUE(recordset->bookmark().isNull());
     recordset->update();
     recordset->moveNext();
@@ -303,7 +303,7 @@ TEST_P(Edit, ACloneOnTheDeletedRowStandsOnADeletedRow) {
     const auto copy = recordset->clone();
     EXPECT_EQ(copy->field("Name").value(), Variant("A"));
     recordset->remove();
-    EXPECT_EQ(errorOf([&] { (void)copy->field("Name").value(); }), ado::dbErrDeletedRow);
+    EXPECT_EQ(errorNumber([&] { (void)copy->field("Name").value(); }), ado::dbErrDeletedRow);
     copy->moveNext();
     EXPECT_EQ(copy->field("Name").value(), Variant("B"));
 }
@@ -330,10 +330,10 @@ TEST_P(Edit, ChangingARowThatSomebodyElseDeletedIsAnError) {
     Recordset other;
     other.open("DELETE * FROM TrcpRecipe WHERE ID = 1", connect());
     recordset->field("Comment").setValue("x");
-    EXPECT_EQ(errorOf([&] { recordset->update(); }), ado::dbErrDeletedRow);
+    EXPECT_EQ(errorNumber([&] { recordset->update(); }), ado::dbErrDeletedRow);
     EXPECT_EQ(recordset->editMode(), ado::adEditInProgress);
     recordset->cancelUpdate();
-    EXPECT_EQ(errorOf([&] { recordset->remove(); }), ado::dbErrDeletedRow);
+    EXPECT_EQ(errorNumber([&] { recordset->remove(); }), ado::dbErrDeletedRow);
     recordset->moveNext();
     EXPECT_EQ(recordset->field("Name").value(), Variant("B"));
 }
@@ -360,12 +360,12 @@ TEST_P(Edit, ResyncOfTheCurrentRowNeedsOne) {
     const auto recordset = recipes();
     recordset->moveLast();
     recordset->moveNext();
-    EXPECT_EQ(errorOf([&] { recordset->resync(ado::adAffectCurrent); }), ado::adErrNoCurrentRecord);
+    EXPECT_EQ(errorNumber([&] { recordset->resync(ado::adAffectCurrent); }), ado::adErrNoCurrentRecord);
     recordset->resync();
     recordset->moveFirst();
     Recordset other;
     other.open("DELETE * FROM TrcpRecipe WHERE ID = 1", connect());
-    EXPECT_EQ(errorOf([&] { recordset->resync(ado::adAffectCurrent); }), ado::dbErrDeletedRow);
+    EXPECT_EQ(errorNumber([&] { recordset->resync(ado::adAffectCurrent); }), ado::dbErrDeletedRow);
 }
 
 TEST_P(Edit, AnotherRecordsetOfTheConnectionSeesAChangeAtOnce) {

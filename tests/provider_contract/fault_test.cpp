@@ -41,7 +41,7 @@ class Fault : public ProviderContract {
 TEST_P(Fault, AFailedConnectLeavesTheConnectionClosed) {
     ado::Connection connection(faulty_);
     plan_.arm(1, FaultPlan::Kind::connect);
-    EXPECT_EQ(errorOf([&] { connection.open(connectionString()); }), ado::dbErrUnspecified);
+    EXPECT_EQ(errorNumber([&] { connection.open(connectionString()); }), ado::dbErrUnspecified);
     EXPECT_EQ(connection.state(), ado::adStateClosed);
     connection.open(connectionString());
     EXPECT_EQ(connection.state(), ado::adStateOpen);
@@ -50,7 +50,7 @@ TEST_P(Fault, AFailedConnectLeavesTheConnectionClosed) {
 TEST_P(Fault, AFailedOpenLeavesTheRecordsetClosed) {
     plan_.arm(1, FaultPlan::Kind::open);
     Recordset recordset;
-    EXPECT_EQ(errorOf([&] { recordset.open("TrcpRecipe", connection_); }), ado::dbErrUnspecified);
+    EXPECT_EQ(errorNumber([&] { recordset.open("TrcpRecipe", connection_); }), ado::dbErrUnspecified);
     EXPECT_EQ(recordset.state(), ado::adStateClosed);
     EXPECT_EQ(recordset.source(), "TrcpRecipe");
     recordset.open();
@@ -61,7 +61,7 @@ TEST_P(Fault, AFailedReadOfKeysOrRowsCanBeRepeated) {
     for (const auto kind : {FaultPlan::Kind::keys, FaultPlan::Kind::read}) {
         const auto recordset = recipes();
         plan_.arm(1, kind);
-        EXPECT_EQ(errorOf([&] { (void)column(*recordset, "Name"); }), ado::dbErrUnspecified);
+        EXPECT_EQ(errorNumber([&] { (void)column(*recordset, "Name"); }), ado::dbErrUnspecified);
         EXPECT_EQ(column(*recordset, "Name"), "A,B,C");
     }
 }
@@ -70,7 +70,7 @@ TEST_P(Fault, AFailedMoveStaysWhereItWas) {
     const auto recordset = members();
     recordset->setAbsolutePosition(128);
     plan_.arm(1, FaultPlan::Kind::read);
-    EXPECT_EQ(errorOf([&] { recordset->moveNext(); }), ado::dbErrUnspecified);
+    EXPECT_EQ(errorNumber([&] { recordset->moveNext(); }), ado::dbErrUnspecified);
     EXPECT_EQ(recordset->absolutePosition(), 128);
     recordset->moveNext();
     EXPECT_EQ(recordset->field("VarRecipe").value(), Variant("V129"));
@@ -80,7 +80,7 @@ TEST_P(Fault, AFailedUpdateKeepsTheEdit) {
     const auto recordset = recipes();
     recordset->field("Name").setValue("X");
     plan_.arm(1, FaultPlan::Kind::update);
-    EXPECT_EQ(errorOf([&] { recordset->update(); }), ado::dbErrUnspecified);
+    EXPECT_EQ(errorNumber([&] { recordset->update(); }), ado::dbErrUnspecified);
     EXPECT_EQ(recordset->editMode(), ado::adEditInProgress);
     EXPECT_EQ(recordset->field("Name").value(), Variant("X"));
     EXPECT_EQ(names(), "A,B,C");
@@ -93,7 +93,7 @@ TEST_P(Fault, AFailedInsertKeepsTheNewRow) {
     recordset->addNew();
     recordset->field("Name").setValue("D");
     plan_.arm(1, FaultPlan::Kind::insert);
-    EXPECT_EQ(errorOf([&] { recordset->moveFirst(); }), ado::dbErrUnspecified);
+    EXPECT_EQ(errorNumber([&] { recordset->moveFirst(); }), ado::dbErrUnspecified);
     EXPECT_EQ(recordset->editMode(), ado::adEditAdd);
     EXPECT_EQ(recordset->field("Name").value(), Variant("D"));
     EXPECT_EQ(recordset->recordCount(), 3);
@@ -105,7 +105,7 @@ TEST_P(Fault, AFailedDeleteLeavesTheRowCurrent) {
     const auto recordset = recipes();
     recordset->moveNext();
     plan_.arm(1, FaultPlan::Kind::remove);
-    EXPECT_EQ(errorOf([&] { recordset->remove(); }), ado::dbErrUnspecified);
+    EXPECT_EQ(errorNumber([&] { recordset->remove(); }), ado::dbErrUnspecified);
     EXPECT_EQ(recordset->editMode(), ado::adEditNone);
     EXPECT_EQ(recordset->field("Name").value(), Variant("B"));
     EXPECT_EQ(recordset->recordCount(), 3);
@@ -116,7 +116,7 @@ TEST_P(Fault, AFailedCommitCanBeRolledBack) {
     connection_->beginTrans();
     addRecipes({"D"});
     plan_.arm(1, FaultPlan::Kind::commit);
-    EXPECT_EQ(errorOf([&] { connection_->commitTrans(); }), ado::dbErrUnspecified);
+    EXPECT_EQ(errorNumber([&] { connection_->commitTrans(); }), ado::dbErrUnspecified);
     EXPECT_TRUE(connection_->inTransaction());
     connection_->rollbackTrans();
     EXPECT_EQ(names(), "A,B,C");
@@ -124,7 +124,7 @@ TEST_P(Fault, AFailedCommitCanBeRolledBack) {
 
 TEST_P(Fault, AFailedBeginLeavesNoTransactionOpen) {
     plan_.arm(1, FaultPlan::Kind::begin);
-    EXPECT_EQ(errorOf([&] { connection_->beginTrans(); }), ado::dbErrUnspecified);
+    EXPECT_EQ(errorNumber([&] { connection_->beginTrans(); }), ado::dbErrUnspecified);
     EXPECT_FALSE(connection_->inTransaction());
     addRecipes({"D"});
     EXPECT_EQ(names(), "A,B,C,D");
@@ -161,7 +161,7 @@ TEST_P(Fault, AReplacementFailsAsAWholeWhereverItFails) {
     int failures = 0;
     for (int nth = 1;; ++nth) {
         plan_.arm(nth);
-        const bool failed = errorOf(replace) != 0;
+        const bool failed = errorNumber(replace) != 0;
         if (!plan_.fired()) break;
         EXPECT_TRUE(failed) << nth;
         EXPECT_EQ(memberCount(), 300) << nth;

@@ -26,7 +26,7 @@ TEST_P(GetRows, GivesTheRestFromTheCurrentRowAndStandsBehindIt) {
     recordset->moveNext();
     EXPECT_EQ(rowsOf(*recordset, ado::adGetRowsRest), "V2 2 V3 3 ");
     EXPECT_TRUE(recordset->eof());
-    EXPECT_EQ(errorOf([&] { rowsOf(*recordset, ado::adGetRowsRest); }), ado::adErrNoCurrentRecord);
+    EXPECT_EQ(errorNumber([&] { rowsOf(*recordset, ado::adGetRowsRest); }), ado::adErrNoCurrentRecord);
 }
 
 TEST_P(GetRows, GivesNoMoreThanAsked) {
@@ -71,10 +71,10 @@ TEST_P(GetRows, WritesAPendingEditFirst) {
 TEST_P(GetRows, FailsForAnUnknownFieldAndWhileClosed) {
     addVariables(7, 1);
     const auto recordset = members();
-    EXPECT_EQ(errorOf([&] { rowsOf(*recordset, 1, {"Nothing"}); }), ado::adErrItemNotFound);
+    EXPECT_EQ(errorNumber([&] { rowsOf(*recordset, 1, {"Nothing"}); }), ado::adErrItemNotFound);
     EXPECT_EQ(recordset->absolutePosition(), 1);
     recordset->close();
-    EXPECT_EQ(errorOf([&] { rowsOf(*recordset, 1); }), ado::adErrObjectClosed);
+    EXPECT_EQ(errorNumber([&] { rowsOf(*recordset, 1); }), ado::adErrObjectClosed);
 }
 
 INSTANTIATE_TEST_SUITE_P(Provider, GetRows, testing::ValuesIn(storeKinds()),

@@ -48,9 +48,9 @@ TEST_P(LateBound, FieldsDescribeThemselves) {
     EXPECT_EQ(call(*field, "Name"), Variant("StandardValue"));
     EXPECT_EQ(call(*field, "Type"), Variant(5));
     EXPECT_EQ(call(*field, "DefinedSize"), Variant(8));
-    EXPECT_EQ(errorOf([&] { field->set("Name", "x"); }), automation::errMemberNotFound);
-    EXPECT_EQ(errorOf([&] { call(*recordset, "Fields", {"NoColumn"}); }), ado::adErrItemNotFound);
-    EXPECT_EQ(errorOf([&] { call(*recordset, "Fields", {-1}); }), ado::adErrItemNotFound);
+    EXPECT_EQ(errorNumber([&] { field->set("Name", "x"); }), automation::errMemberNotFound);
+    EXPECT_EQ(errorNumber([&] { call(*recordset, "Fields", {"NoColumn"}); }), ado::adErrItemNotFound);
+    EXPECT_EQ(errorNumber([&] { call(*recordset, "Fields", {-1}); }), ado::adErrItemNotFound);
 }
 
 TEST_P(LateBound, AFieldKeepsItsRecordsetAlive) {
@@ -65,12 +65,12 @@ TEST_P(LateBound, AFieldKeepsItsRecordsetAlive) {
 
 TEST_P(LateBound, TheErrorListHoldsWhatTheProviderSaid) {
     addRecipes({"A"});
-    EXPECT_EQ(errorOf([&] { addRecipes({"a"}); }), ado::dbErrDuplicate);
+    EXPECT_EQ(errorNumber([&] { addRecipes({"a"}); }), ado::dbErrDuplicate);
     EXPECT_EQ(call(*connection_, "ErrorCount"), Variant(1));
     const auto error = call(*connection_, "Errors", {0}).asObject();
     EXPECT_EQ(call(*error, "Number"), Variant(ado::dbErrDuplicate));
     EXPECT_EQ(call(*error, "Description"), Variant(connection_->errors()[0].description()));
-    EXPECT_EQ(errorOf([&] { call(*connection_, "Errors", {1}); }), automation::errBadIndex);
+    EXPECT_EQ(errorNumber([&] { call(*connection_, "Errors", {1}); }), automation::errBadIndex);
 }
 
 TEST_P(LateBound, TransactionsAreReachedByName) {
@@ -85,11 +85,11 @@ TEST_P(LateBound, TransactionsAreReachedByName) {
 
 TEST_P(LateBound, WrongNumbersOfArgumentsAreRefused) {
     const auto recordset = recipes();
-    EXPECT_EQ(errorOf([&] { call(*recordset, "Find"); }), automation::errBadParamCount);
-    EXPECT_EQ(errorOf([&] { call(*recordset, "Find", {"ID=1", 0, 1, 2}); }), automation::errBadParamCount);
-    EXPECT_EQ(errorOf([&] { call(*recordset, "AddNew", {"Name"}); }), automation::errBadParamCount);
-    EXPECT_EQ(errorOf([&] { call(*recordset, "MoveFirst", {1}); }), automation::errBadParamCount);
-    EXPECT_EQ(errorOf([&] { call(*connection_, "Open"); }), automation::errBadParamCount);
+    EXPECT_EQ(errorNumber([&] { call(*recordset, "Find"); }), automation::errBadParamCount);
+    EXPECT_EQ(errorNumber([&] { call(*recordset, "Find", {"ID=1", 0, 1, 2}); }), automation::errBadParamCount);
+    EXPECT_EQ(errorNumber([&] { call(*recordset, "AddNew", {"Name"}); }), automation::errBadParamCount);
+    EXPECT_EQ(errorNumber([&] { call(*recordset, "MoveFirst", {1}); }), automation::errBadParamCount);
+    EXPECT_EQ(errorNumber([&] { call(*connection_, "Open"); }), automation::errBadParamCount);
 }
 
 INSTANTIATE_TEST_SUITE_P(Provider, LateBound, testing::ValuesIn(storeKinds()),

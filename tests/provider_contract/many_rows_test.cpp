@@ -95,16 +95,16 @@ TEST_P(ManyRows, ThatAreNoneStoreNothing) {
 
 TEST_P(ManyRows, OfAnUnknownColumnStoreNothing) {
     Variables rows(3);
-    EXPECT_EQ(errorOf([&] { add(*members(), rows, {"VarRecipe", "NoColumn"}); }), ado::adErrItemNotFound);
+    EXPECT_EQ(errorNumber([&] { add(*members(), rows, {"VarRecipe", "NoColumn"}); }), ado::adErrItemNotFound);
     EXPECT_EQ(members()->recordCount(), 0);
 }
 
 TEST_P(ManyRows, NeedARecordsetThatMayBeWritten) {
     Recordset recordset;
     Variables rows(3);
-    EXPECT_EQ(errorOf([&] { add(recordset, rows, {"VarRecipe"}); }), ado::adErrObjectClosed);
+    EXPECT_EQ(errorNumber([&] { add(recordset, rows, {"VarRecipe"}); }), ado::adErrObjectClosed);
     recordset.open("TrcpRecipeMember", connection_, ado::adOpenKeyset, ado::adLockReadOnly);
-    EXPECT_EQ(errorOf([&] { add(recordset, rows, {"VarRecipe"}); }), ado::adErrIllegalOperation);
+    EXPECT_EQ(errorNumber([&] { add(recordset, rows, {"VarRecipe"}); }), ado::adErrIllegalOperation);
 }
 
 TEST_P(ManyRows, OfWhichOneIsRefusedAreTakenBackWithTheTransaction) {
@@ -126,7 +126,7 @@ TEST_P(ManyRows, OfWhichOneCannotBeConvertedAreTakenBackWithTheTransaction) {
     {
         const ado::Transaction transaction(*connection_);
         Variables rows(manyRows, 200, std::string(300, 'x'));
-        EXPECT_EQ(errorOf([&] { add(*members(), rows, {"VarRecipe"}); }), ado::dbErrCannotConvert);
+        EXPECT_EQ(errorNumber([&] { add(*members(), rows, {"VarRecipe"}); }), ado::dbErrCannotConvert);
     }
     EXPECT_EQ(members()->recordCount(), 0);
 }
@@ -136,7 +136,7 @@ TEST_P(ManyRows, AreCountedAfterAnErrorWithoutATransaction) {
     const auto recordset = recipes();
     EXPECT_EQ(recordset->recordCount(), 1);
     Variables rows(manyRows);
-    EXPECT_EQ(errorOf([&] { add(*recordset, rows, {"Name"}); }), ado::dbErrDuplicate);
+    EXPECT_EQ(errorNumber([&] { add(*recordset, rows, {"Name"}); }), ado::dbErrDuplicate);
     const std::string now = stored("TrcpRecipe", "Name");
     EXPECT_EQ(column(*recordset, "Name"), now);
 }

@@ -23,15 +23,15 @@ TEST_P(Position, WalksForwardToEofAndBackToBof) {
     const auto recordset = recipes();
     EXPECT_EQ(column(*recordset, "ID"), "1,2,3,4,5");
     EXPECT_TRUE(recordset->eof());
-    EXPECT_EQ(errorOf([&] { recordset->moveNext(); }), ado::adErrNoCurrentRecord);
-    EXPECT_EQ(errorOf([&] { (void)recordset->field("ID").value(); }), ado::adErrNoCurrentRecord);
+    EXPECT_EQ(errorNumber([&] { recordset->moveNext(); }), ado::adErrNoCurrentRecord);
+    EXPECT_EQ(errorNumber([&] { (void)recordset->field("ID").value(); }), ado::adErrNoCurrentRecord);
     EXPECT_EQ(recordset->absolutePosition(), -1);
     EXPECT_TRUE(recordset->bookmark().isNull());
     recordset->movePrevious();
     EXPECT_EQ(recordset->field("ID").value(), Variant(5));
     for (int i = 0; i < 5; ++i) recordset->movePrevious();
     EXPECT_TRUE(recordset->bof());
-    EXPECT_EQ(errorOf([&] { recordset->movePrevious(); }), ado::adErrNoCurrentRecord);
+    EXPECT_EQ(errorNumber([&] { recordset->movePrevious(); }), ado::adErrNoCurrentRecord);
     recordset->moveNext();
     EXPECT_EQ(recordset->field("ID").value(), Variant(1));
 }
@@ -41,10 +41,10 @@ TEST_P(Position, AnEmptyRecordsetIsAtBothEnds) {
     EXPECT_TRUE(recordset->bof());
     EXPECT_TRUE(recordset->eof());
     EXPECT_EQ(recordset->recordCount(), 0);
-    EXPECT_EQ(errorOf([&] { recordset->moveFirst(); }), ado::adErrNoCurrentRecord);
-    EXPECT_EQ(errorOf([&] { recordset->moveLast(); }), ado::adErrNoCurrentRecord);
-    EXPECT_EQ(errorOf([&] { recordset->moveNext(); }), ado::adErrNoCurrentRecord);
-    EXPECT_EQ(errorOf([&] { recordset->movePrevious(); }), ado::adErrNoCurrentRecord);
+    EXPECT_EQ(errorNumber([&] { recordset->moveFirst(); }), ado::adErrNoCurrentRecord);
+    EXPECT_EQ(errorNumber([&] { recordset->moveLast(); }), ado::adErrNoCurrentRecord);
+    EXPECT_EQ(errorNumber([&] { recordset->moveNext(); }), ado::adErrNoCurrentRecord);
+    EXPECT_EQ(errorNumber([&] { recordset->movePrevious(); }), ado::adErrNoCurrentRecord);
     recordset->find("ID=1");
     EXPECT_TRUE(recordset->eof());
 }
@@ -60,8 +60,8 @@ TEST_P(Position, MovesToALineByItsNumber) {
     const auto recordset = recipes();
     recordset->setAbsolutePosition(4);
     EXPECT_EQ(recordset->field("Name").value(), Variant("Banane"));
-    EXPECT_EQ(errorOf([&] { recordset->setAbsolutePosition(0); }), ado::adErrInvalidArgument);
-    EXPECT_EQ(errorOf([&] { recordset->setAbsolutePosition(6); }), ado::adErrInvalidArgument);
+    EXPECT_EQ(errorNumber([&] { recordset->setAbsolutePosition(0); }), ado::adErrInvalidArgument);
+    EXPECT_EQ(errorNumber([&] { recordset->setAbsolutePosition(6); }), ado::adErrInvalidArgument);
     EXPECT_EQ(recordset->absolutePosition(), 4);
 }
 
@@ -113,15 +113,15 @@ TEST_P(Position, WhatIsNotFoundLeadsToEof) {
     const auto recordset = recipes();
     recordset->find("Name='nobody'");
     EXPECT_TRUE(recordset->eof());
-    EXPECT_EQ(errorOf([&] { recordset->field("Name").setValue("x"); }), ado::adErrNoCurrentRecord);
+    EXPECT_EQ(errorNumber([&] { recordset->field("Name").setValue("x"); }), ado::adErrNoCurrentRecord);
 }
 
 TEST_P(Position, AMalformedCriterionIsRefusedAndMovesNothing) {
     const auto recordset = recipes();
     recordset->setAbsolutePosition(2);
-    EXPECT_EQ(errorOf([&] { recordset->find("Name='D'Or'"); }), ado::adErrInvalidArgument);
-    EXPECT_EQ(errorOf([&] { recordset->find("NoColumn=1"); }), ado::adErrInvalidArgument);
-    EXPECT_EQ(errorOf([&] { recordset->setFilter("Name='D'Or'"); }), ado::adErrInvalidArgument);
+    EXPECT_EQ(errorNumber([&] { recordset->find("Name='D'Or'"); }), ado::adErrInvalidArgument);
+    EXPECT_EQ(errorNumber([&] { recordset->find("NoColumn=1"); }), ado::adErrInvalidArgument);
+    EXPECT_EQ(errorNumber([&] { recordset->setFilter("Name='D'Or'"); }), ado::adErrInvalidArgument);
     EXPECT_EQ(recordset->absolutePosition(), 2);
     EXPECT_EQ(recordset->filter(), "");
 }
@@ -237,8 +237,8 @@ TEST_P(Position, ABookmarkServesTheRecordsetAndItsClone) {
     copy->setBookmark(bookmark);
     EXPECT_EQ(copy->field("Name").value(), Variant("Überdruck"));
     EXPECT_EQ(copy->bookmark(), bookmark);
-    EXPECT_EQ(errorOf([&] { copy->setBookmark({}); }), ado::adErrInvalidArgument);
-    EXPECT_EQ(errorOf([&] { copy->setBookmark(ado::Bookmark(99)); }), ado::adErrInvalidArgument);
+    EXPECT_EQ(errorNumber([&] { copy->setBookmark({}); }), ado::adErrInvalidArgument);
+    EXPECT_EQ(errorNumber([&] { copy->setBookmark(ado::Bookmark(99)); }), ado::adErrInvalidArgument);
 }
 
 TEST_P(Position, ABookmarkSurvivesARequery) {
@@ -263,7 +263,7 @@ TEST_P(Position, ACloneHasAFilterOfItsOwnAndOutlivesTheOriginal) {
     recordset->close();
     EXPECT_EQ(copy->field("Name").value(), Variant("Apfelsaft"));
     copy->close();
-    EXPECT_EQ(errorOf([&] { copy->close(); }), ado::adErrObjectClosed);
+    EXPECT_EQ(errorNumber([&] { copy->close(); }), ado::adErrObjectClosed);
 }
 
 TEST_P(Position, ReadsByPositionWithoutMoving) {
@@ -272,7 +272,7 @@ TEST_P(Position, ReadsByPositionWithoutMoving) {
     EXPECT_EQ(recordset->valueAt(4, 1), Variant("D'Or"));
     EXPECT_EQ(recordset->valueAt(0, 0), Variant(1));
     EXPECT_TRUE(recordset->valueAt(5, 1).isNull());
-    EXPECT_EQ(errorOf([&] { (void)recordset->valueAt(0, 99); }), ado::adErrItemNotFound);
+    EXPECT_EQ(errorNumber([&] { (void)recordset->valueAt(0, 99); }), ado::adErrItemNotFound);
     EXPECT_EQ(recordset->indexOf(recordset->bookmarkAt(3)), 3);
     EXPECT_TRUE(recordset->bookmarkAt(5).isNull());
     EXPECT_EQ(recordset->indexOf({}), -1);
@@ -292,8 +292,8 @@ TEST_P(Position, FieldsAreReachedByNameAndNumber) {
     const auto recordset = recipes();
     EXPECT_EQ(recordset->field("nAmE").name(), "Name");
     EXPECT_EQ(recordset->field(1).name(), "Name");
-    EXPECT_EQ(errorOf([&] { (void)recordset->field("NoColumn"); }), ado::adErrItemNotFound);
-    EXPECT_EQ(errorOf([&] { (void)recordset->field(99); }), ado::adErrItemNotFound);
+    EXPECT_EQ(errorNumber([&] { (void)recordset->field("NoColumn"); }), ado::adErrItemNotFound);
+    EXPECT_EQ(errorNumber([&] { (void)recordset->field(99); }), ado::adErrItemNotFound);
 }
 
 INSTANTIATE_TEST_SUITE_P(Provider, Position, testing::ValuesIn(storeKinds()),

@@ -20,7 +20,7 @@ TEST_P(State, AConnectionOpensAndCloses) {
 }
 
 TEST_P(State, OpeningAConnectionTwiceKeepsTheFirst) {
-    EXPECT_EQ(errorOf([&] { connection_->open("Data Source=elsewhere.hxs"); }), ado::adErrObjectOpen);
+    EXPECT_EQ(errorNumber([&] { connection_->open("Data Source=elsewhere.hxs"); }), ado::adErrObjectOpen);
     EXPECT_EQ(connection_->state(), ado::adStateOpen);
     EXPECT_EQ(connection_->connectionString(), connectionString());
 }
@@ -28,7 +28,7 @@ TEST_P(State, OpeningAConnectionTwiceKeepsTheFirst) {
 TEST_P(State, AMissingFileIsAnErrorAndIsNotCreated) {
     ado::Connection connection(store_->provider());
     const auto openMissing = [&] { connection.open("Data Source=/no/such/folder/Plant.hxs;Mode=Read|Write"); };
-    EXPECT_EQ(errorOf(openMissing), ado::dbErrUnspecified);
+    EXPECT_EQ(errorNumber(openMissing), ado::dbErrUnspecified);
     EXPECT_EQ(descriptionOf(openMissing), "Could not find file '/no/such/folder/Plant.hxs'.");
     EXPECT_EQ(connection.state(), ado::adStateClosed);
     ASSERT_EQ(connection.errors().size(), 1U);
@@ -37,34 +37,34 @@ TEST_P(State, AMissingFileIsAnErrorAndIsNotCreated) {
 
 TEST_P(State, AClosedConnectionRefusesEverythingElse) {
     connection_->close();
-    EXPECT_EQ(errorOf([&] { connection_->close(); }), ado::adErrObjectClosed);
-    EXPECT_EQ(errorOf([&] { connection_->beginTrans(); }), ado::adErrObjectClosed);
-    EXPECT_EQ(errorOf([&] { (void)recipes(); }), ado::adErrInvalidConnection);
+    EXPECT_EQ(errorNumber([&] { connection_->close(); }), ado::adErrObjectClosed);
+    EXPECT_EQ(errorNumber([&] { connection_->beginTrans(); }), ado::adErrObjectClosed);
+    EXPECT_EQ(errorNumber([&] { (void)recipes(); }), ado::adErrInvalidConnection);
 }
 
 TEST_P(State, ARecordsetIsClosedUntilItIsOpened) {
     Recordset recordset;
     EXPECT_EQ(recordset.state(), ado::adStateClosed);
-    EXPECT_EQ(errorOf([&] { recordset.moveFirst(); }), ado::adErrObjectClosed);
-    EXPECT_EQ(errorOf([&] { recordset.close(); }), ado::adErrObjectClosed);
-    EXPECT_EQ(errorOf([&] { (void)recordset.eof(); }), ado::adErrObjectClosed);
-    EXPECT_EQ(errorOf([&] { (void)recordset.recordCount(); }), ado::adErrObjectClosed);
-    EXPECT_EQ(errorOf([&] { (void)recordset.field("ID"); }), ado::adErrObjectClosed);
-    EXPECT_EQ(errorOf([&] { recordset.addNew(); }), ado::adErrObjectClosed);
-    EXPECT_EQ(errorOf([&] { recordset.update(); }), ado::adErrObjectClosed);
-    EXPECT_EQ(errorOf([&] { recordset.cancelUpdate(); }), ado::adErrObjectClosed);
-    EXPECT_EQ(errorOf([&] { recordset.remove(); }), ado::adErrObjectClosed);
-    EXPECT_EQ(errorOf([&] { recordset.requery(); }), ado::adErrObjectClosed);
-    EXPECT_EQ(errorOf([&] { recordset.resync(); }), ado::adErrObjectClosed);
-    EXPECT_EQ(errorOf([&] { recordset.setFilter("ID=1"); }), ado::adErrObjectClosed);
-    EXPECT_EQ(errorOf([&] { recordset.find("ID=1"); }), ado::adErrObjectClosed);
-    EXPECT_EQ(errorOf([&] { (void)recordset.clone(); }), ado::adErrObjectClosed);
+    EXPECT_EQ(errorNumber([&] { recordset.moveFirst(); }), ado::adErrObjectClosed);
+    EXPECT_EQ(errorNumber([&] { recordset.close(); }), ado::adErrObjectClosed);
+    EXPECT_EQ(errorNumber([&] { (void)recordset.eof(); }), ado::adErrObjectClosed);
+    EXPECT_EQ(errorNumber([&] { (void)recordset.recordCount(); }), ado::adErrObjectClosed);
+    EXPECT_EQ(errorNumber([&] { (void)recordset.field("ID"); }), ado::adErrObjectClosed);
+    EXPECT_EQ(errorNumber([&] { recordset.addNew(); }), ado::adErrObjectClosed);
+    EXPECT_EQ(errorNumber([&] { recordset.update(); }), ado::adErrObjectClosed);
+    EXPECT_EQ(errorNumber([&] { recordset.cancelUpdate(); }), ado::adErrObjectClosed);
+    EXPECT_EQ(errorNumber([&] { recordset.remove(); }), ado::adErrObjectClosed);
+    EXPECT_EQ(errorNumber([&] { recordset.requery(); }), ado::adErrObjectClosed);
+    EXPECT_EQ(errorNumber([&] { recordset.resync(); }), ado::adErrObjectClosed);
+    EXPECT_EQ(errorNumber([&] { recordset.setFilter("ID=1"); }), ado::adErrObjectClosed);
+    EXPECT_EQ(errorNumber([&] { recordset.find("ID=1"); }), ado::adErrObjectClosed);
+    EXPECT_EQ(errorNumber([&] { (void)recordset.clone(); }), ado::adErrObjectClosed);
 }
 
 TEST_P(State, ARecordsetNeedsAConnection) {
     Recordset recordset;
     recordset.setSource("TrcpRecipe");
-    EXPECT_EQ(errorOf([&] { recordset.open(); }), ado::adErrInvalidConnection);
+    EXPECT_EQ(errorNumber([&] { recordset.open(); }), ado::adErrInvalidConnection);
 }
 
 TEST_P(State, APresetSourceSurvivesClosing) {
@@ -74,8 +74,8 @@ TEST_P(State, APresetSourceSurvivesClosing) {
     recordset.setCommandType(ado::adCmdTable);
     recordset.open();
     EXPECT_EQ(recordset.state(), ado::adStateOpen);
-    EXPECT_EQ(errorOf([&] { recordset.open(); }), ado::adErrObjectOpen);
-    EXPECT_EQ(errorOf([&] { recordset.setSource("TrcpRecipeMember"); }), ado::adErrObjectOpen);
+    EXPECT_EQ(errorNumber([&] { recordset.open(); }), ado::adErrObjectOpen);
+    EXPECT_EQ(errorNumber([&] { recordset.setSource("TrcpRecipeMember"); }), ado::adErrObjectOpen);
     recordset.close();
     EXPECT_EQ(recordset.source(), "TrcpRecipe");
     recordset.open();
@@ -93,12 +93,12 @@ TEST_P(State, OpeningWithASourceReplacesThePresetOne) {
 }
 
 TEST_P(State, AnEmptyOrUnreadableSourceIsAnError) {
-    EXPECT_EQ(errorOf([&] { (void)open(""); }), ado::dbErrBadCommand);
-    EXPECT_EQ(errorOf([&] { (void)open("NoSuchTable"); }), ado::dbErrNoTable);
-    EXPECT_EQ(errorOf([&] { (void)open("SELECT * FROM NoSuchTable"); }), ado::dbErrNoTable);
-    EXPECT_EQ(errorOf([&] { (void)open("SELECT * FORM TrcpRecipe"); }), ado::dbErrBadCommand);
-    EXPECT_EQ(errorOf([&] { (void)open("SELECT * FROM TrcpRecipe WHERE NoColumn = 1"); }), ado::dbErrBadCommand);
-    EXPECT_EQ(errorOf([&] { (void)open(" ORDER BY ID"); }), ado::dbErrNoTable);
+    EXPECT_EQ(errorNumber([&] { (void)open(""); }), ado::dbErrBadCommand);
+    EXPECT_EQ(errorNumber([&] { (void)open("NoSuchTable"); }), ado::dbErrNoTable);
+    EXPECT_EQ(errorNumber([&] { (void)open("SELECT * FROM NoSuchTable"); }), ado::dbErrNoTable);
+    EXPECT_EQ(errorNumber([&] { (void)open("SELECT * FORM TrcpRecipe"); }), ado::dbErrBadCommand);
+    EXPECT_EQ(errorNumber([&] { (void)open("SELECT * FROM TrcpRecipe WHERE NoColumn = 1"); }), ado::dbErrBadCommand);
+    EXPECT_EQ(errorNumber([&] { (void)open(" ORDER BY ID"); }), ado::dbErrNoTable);
     ASSERT_EQ(connection_->errors().size(), 1U);
     EXPECT_EQ(connection_->errors()[0].number(), ado::dbErrNoTable);
 }
@@ -121,8 +121,8 @@ TEST_P(State, ClosingTheConnectionClosesItsRecordsets) {
     connection_->close();
     EXPECT_EQ(recordset->state(), ado::adStateClosed);
     EXPECT_EQ(copy->state(), ado::adStateClosed);
-    EXPECT_EQ(errorOf([&] { recordset->moveFirst(); }), ado::adErrObjectClosed);
-    EXPECT_EQ(errorOf([&] { (void)field->get("Value"); }), ado::adErrObjectClosed);
+    EXPECT_EQ(errorNumber([&] { recordset->moveFirst(); }), ado::adErrObjectClosed);
+    EXPECT_EQ(errorNumber([&] { (void)field->get("Value"); }), ado::adErrObjectClosed);
     EXPECT_EQ(stored("TrcpRecipe", "Name"), "A");
     connection_ = connect();
     recordset->setActiveConnection(connection_);
@@ -134,7 +134,7 @@ TEST_P(State, ClosingWithAPendingEditIsRefusedAndKeepsTheEdit) {
     addRecipes({"A"});
     const auto recordset = recipes();
     recordset->field("Name").setValue("B");
-    EXPECT_EQ(errorOf([&] { recordset->close(); }), ado::adErrIllegalOperation);
+    EXPECT_EQ(errorNumber([&] { recordset->close(); }), ado::adErrIllegalOperation);
     EXPECT_EQ(recordset->state(), ado::adStateOpen);
     EXPECT_EQ(recordset->editMode(), ado::adEditInProgress);
     EXPECT_EQ(recordset->field("Name").value(), Variant("B"));
@@ -148,9 +148,9 @@ TEST_P(State, ARecordsetOpenedForReadingRefusesWrites) {
     addRecipes({"A"});
     Recordset recordset;
     recordset.open("TrcpRecipe", connection_, ado::adOpenKeyset, ado::adLockReadOnly);
-    EXPECT_EQ(errorOf([&] { recordset.field("Name").setValue("B"); }), ado::adErrIllegalOperation);
-    EXPECT_EQ(errorOf([&] { recordset.addNew(); }), ado::adErrIllegalOperation);
-    EXPECT_EQ(errorOf([&] { recordset.remove(); }), ado::adErrIllegalOperation);
+    EXPECT_EQ(errorNumber([&] { recordset.field("Name").setValue("B"); }), ado::adErrIllegalOperation);
+    EXPECT_EQ(errorNumber([&] { recordset.addNew(); }), ado::adErrIllegalOperation);
+    EXPECT_EQ(errorNumber([&] { recordset.remove(); }), ado::adErrIllegalOperation);
 }
 
 TEST_P(State, ATableOpensDirectly) {

@@ -9,6 +9,7 @@
 
 #include "ado/connection.h"
 #include "ado/recordset.h"
+#include "support/error_of.h"
 
 namespace hx::contract {
 
@@ -60,16 +61,7 @@ class ProviderContract : public testing::TestWithParam<StoreKind> {
 /// One column of all rows from the first on, joined by commas.
 [[nodiscard]] std::string column(Recordset& recordset, const std::string& name);
 
-/// The number of the error that the action throws, 0 for none.
-template <class Action>
-std::int32_t errorOf(Action&& action) {
-    try {
-        action();
-    } catch (const automation::Error& error) {
-        return error.number();
-    }
-    return 0;
-}
+using support::errorNumber;
 
 /// The description of the error that the action throws.
 template <class Action>

@@ -33,7 +33,7 @@ TEST_P(Transaction, RollbackTakesChangesBackAndOpenRecordsetsFollow) {
     recordset->addNew(Values{{"Name", "D"}});
     EXPECT_EQ(recordset->recordCount(), 3);
     connection_->rollbackTrans();
-    EXPECT_EQ(errorOf([&] { (void)recordset->field("Name").value(); }), ado::dbErrDeletedRow);
+    EXPECT_EQ(errorNumber([&] { (void)recordset->field("Name").value(); }), ado::dbErrDeletedRow);
     EXPECT_EQ(column(*recordset, "Name"), "A,B,C");
     EXPECT_EQ(other->field("Name").value(), Variant("C"));
     EXPECT_EQ(stored("TrcpRecipe", "Name"), "A,B,C");
@@ -70,17 +70,17 @@ TEST_P(Transaction, ClosingRollsBack) {
 TEST_P(Transaction, ARefusedChangeLeavesTheOthersInPlace) {
     connection_->beginTrans();
     addRecipes({"D"});
-    EXPECT_EQ(errorOf([&] { addRecipes({"d"}); }), ado::dbErrDuplicate);
+    EXPECT_EQ(errorNumber([&] { addRecipes({"d"}); }), ado::dbErrDuplicate);
     addRecipes({"E"});
     connection_->commitTrans();
     EXPECT_EQ(stored("TrcpRecipe", "Name"), "A,B,C,D,E");
 }
 
 TEST_P(Transaction, TransactionsDoNotNestAndMustBeOpen) {
-    EXPECT_EQ(errorOf([&] { connection_->commitTrans(); }), ado::adErrIllegalOperation);
-    EXPECT_EQ(errorOf([&] { connection_->rollbackTrans(); }), ado::adErrIllegalOperation);
+    EXPECT_EQ(errorNumber([&] { connection_->commitTrans(); }), ado::adErrIllegalOperation);
+    EXPECT_EQ(errorNumber([&] { connection_->rollbackTrans(); }), ado::adErrIllegalOperation);
     connection_->beginTrans();
-    EXPECT_EQ(errorOf([&] { connection_->beginTrans(); }), ado::adErrInTransaction);
+    EXPECT_EQ(errorNumber([&] { connection_->beginTrans(); }), ado::adErrInTransaction);
     connection_->rollbackTrans();
     EXPECT_FALSE(connection_->inTransaction());
 }

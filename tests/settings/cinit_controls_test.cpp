@@ -29,8 +29,8 @@ TEST_F(CInitTest, AppliesASingleEntryAndIgnoresUnknownNames) {
     inits.SetInitToControl("Me.Width");
     EXPECT_EQ(window->width(), 6000);
     EXPECT_EQ(window->posLeft, 15) << "the others are not applied";
-    EXPECT_EQ(errorOf([&] { inits.SetInitToControl("unknown"); }), 0);
-    EXPECT_EQ(errorOf([&] { inits.SetInitToControl("Me..Width"); }), 0);
+    EXPECT_EQ(support::errorNumber([&] { inits.SetInitToControl("unknown"); }), 0);
+    EXPECT_EQ(support::errorNumber([&] { inits.SetInitToControl("Me..Width"); }), 0);
     EXPECT_EQ(window->posLeft, 15);
 }
 
@@ -45,9 +45,9 @@ TEST_F(CInitTest, StopsAtAPropertyThatCannotTakeItsValue) {
     inits.Motherobject = window.get();
     inits.WriteAValueToCInits("Me.Width", Variant(40000.0));
     inits.WriteAValueToCInits("Me.PosLeft", Variant(7.0));
-    EXPECT_EQ(errorOf([&] { inits.SetInitToControl("Me"); }), automation::errOverflow);
+    EXPECT_EQ(support::errorNumber([&] { inits.SetInitToControl("Me"); }), automation::errOverflow);
     EXPECT_EQ(window->posLeft, 15);
-    EXPECT_EQ(errorOf([&] { inits.GetInitFromControl("Me.Nothing"); }), automation::errBadIndex);
+    EXPECT_EQ(support::errorNumber([&] { inits.GetInitFromControl("Me.Nothing"); }), automation::errBadIndex);
 }
 
 TEST_F(CInitTest, ReadsTheWindowBackIntoTheEntries) {
@@ -71,7 +71,7 @@ TEST_F(CInitTest, ReadsTheWindowBackIntoTheEntries) {
 TEST_F(CInitTest, FailsToReadBackAnUnknownName) {
     loadDefaults();
     inits.Motherobject = window.get();
-    EXPECT_EQ(errorOf([&] { inits.GetInitFromControl("unknown"); }), automation::errBadIndex);
+    EXPECT_EQ(support::errorNumber([&] { inits.GetInitFromControl("unknown"); }), automation::errBadIndex);
 }
 
 TEST_F(CInitTest, KeepsTheEntriesOfAColumnThatIsNotThere) {
@@ -84,8 +84,8 @@ TEST_F(CInitTest, KeepsTheEntriesOfAColumnThatIsNotThere) {
 
 TEST_F(CInitTest, FailsWithoutAWindow) {
     loadDefaults();
-    EXPECT_EQ(errorOf([&] { inits.SetInitToControl("Me"); }), 91);
-    EXPECT_EQ(errorOf([&] { inits.GetInitFromControl("Me"); }), 91);
+    EXPECT_EQ(support::errorNumber([&] { inits.SetInitToControl("Me"); }), 91);
+    EXPECT_EQ(support::errorNumber([&] { inits.GetInitFromControl("Me"); }), 91);
     EXPECT_NO_THROW(inits.SetInitToMotherObject());
 }
 

@@ -75,7 +75,7 @@ TEST_F(CInitTest, ShowsAndSizesBothColumnsByDefault) {
 }
 
 TEST_F(CInitTest, FailsWithoutADefaultText) {
-    EXPECT_EQ(errorOf([&] { inits.LoadDefaultInit("other"); }), 326);
+    EXPECT_EQ(support::errorNumber([&] { inits.LoadDefaultInit("other"); }), 326);
     EXPECT_EQ(inits.root().Count(), 0);
 }
 

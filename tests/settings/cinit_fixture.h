@@ -6,6 +6,7 @@
 #include "automation/error.h"
 #include "settings/cinit.h"
 #include "settings_window.h"
+#include "support/error_of.h"
 #include "support/memory_provider.h"
 
 namespace hx::settings {
@@ -28,15 +29,6 @@ class CInitTest : public ::testing::Test {
         return inits.ReadAValueFromCInits(entry, automation::Variant("missing"));
     }
     std::string stored(const std::string& key) const { return host.iniFile.read(section, key, "none", path); }
-    template <class Call>
-    static std::int32_t errorOf(Call call) {
-        try {
-            call();
-            return 0;
-        } catch (const automation::Error& error) {
-            return error.number();
-        }
-    }
 
     support::MemoryProvider database;
     headless::Host host{database};

@@ -42,8 +42,8 @@ TEST_F(CInitTest, DeletesAnEntry) {
     EXPECT_TRUE(inits.ParamExist("Me.Font.Name"));
     inits.DeleteAValueInCInits("Me");
     EXPECT_FALSE(inits.ParamExist("Me.Font.Name"));
-    EXPECT_EQ(errorOf([&] { inits.DeleteAValueInCInits("gone.Font.Size"); }), 0);
-    EXPECT_EQ(errorOf([&] { inits.DeleteAValueInCInits("tdbRM.gone"); }), automation::errBadIndex);
+    EXPECT_EQ(support::errorNumber([&] { inits.DeleteAValueInCInits("gone.Font.Size"); }), 0);
+    EXPECT_EQ(support::errorNumber([&] { inits.DeleteAValueInCInits("tdbRM.gone"); }), automation::errBadIndex);
 }
 
 // --- the file
@@ -139,8 +139,8 @@ TEST_F(CInitTest, SavesToTheFileOfTheLastLoadWithoutAPath) {
 TEST_F(CInitTest, PassesOnThatTheFileCannotBeWritten) {
     loadDefaults();
     host.iniFile.failWritesWith(automation::Error(70, "Permission denied"));
-    EXPECT_EQ(errorOf([&] { inits.SaveInits(path); }), 70);
-    EXPECT_EQ(errorOf([&] { inits.WriteToIni("SaveOnExit", "False"); }), 70);
+    EXPECT_EQ(support::errorNumber([&] { inits.SaveInits(path); }), 70);
+    EXPECT_EQ(support::errorNumber([&] { inits.WriteToIni("SaveOnExit", "False"); }), 70);
 }
 
 // --- by name
@@ -170,7 +170,7 @@ TEST_F(CInitTest, WorksByName) {
     EXPECT_EQ(shared->get("Motherobject").asObject(), nullptr);
     shared->Motherobject = window.get();
     EXPECT_EQ(shared->get("Motherobject").asObject(), window);
-    EXPECT_EQ(errorOf([&] { shared->get("SaveInits"); }), automation::errBadParamCount);
+    EXPECT_EQ(support::errorNumber([&] { shared->get("SaveInits"); }), automation::errBadParamCount);
 }
 
 TEST_F(CInitTest, TakesSavesAndReadsEntriesHoweverLongTheirPathIs) {
@@ -184,11 +184,11 @@ TEST_F(CInitTest, TakesSavesAndReadsEntriesHoweverLongTheirPathIs) {
     inits.WriteAValueToCInits(entry, Variant("other"));
     inits.LoadInits(path);
     EXPECT_EQ(read(entry), Variant("deep"));
-    EXPECT_NE(errorOf([&] { inits.SetInitToControl("a"); }), 0);
+    EXPECT_NE(support::errorNumber([&] { inits.SetInitToControl("a"); }), 0);
 }
 
 TEST_F(CInitTest, TakesNoObjectForAValue) {
-    EXPECT_EQ(errorOf([&] { inits.WriteAValueToCInits("a.b", Variant(window->share())); }),
+    EXPECT_EQ(support::errorNumber([&] { inits.WriteAValueToCInits("a.b", Variant(window->share())); }),
               automation::errTypeMismatch);
     EXPECT_FALSE(inits.ParamExist("a"));
 }

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "automation/error.h"
+#include "support/error_of.h"
 
 namespace hx::settings {
 namespace {
@@ -14,16 +15,6 @@ std::string names(const CInitItems& items) {
     std::string all;
     for (const auto& item : items) all += item->Name + " ";
     return all;
-}
-
-template <class Call>
-std::int32_t errorOf(Call call) {
-    try {
-        call();
-        return 0;
-    } catch (const automation::Error& error) {
-        return error.number();
-    }
 }
 
 TEST(InitItems, AddsAnEntryWithNameValueIndexAndNoEntriesBelow) {
@@ -83,8 +74,8 @@ TEST(InitItems, DeletesByNameAndPositionWithAllBelow) {
 TEST(InitItems, FailsToDeleteAMissingEntry) {
     CInitItems items;
     items.Add("a", Variant(""), 0);
-    EXPECT_EQ(errorOf([&] { items.Delete(Variant("b")); }), automation::errBadIndex);
-    EXPECT_EQ(errorOf([&] { items.Delete(Variant(2)); }), automation::errBadIndex);
+    EXPECT_EQ(support::errorNumber([&] { items.Delete(Variant("b")); }), automation::errBadIndex);
+    EXPECT_EQ(support::errorNumber([&] { items.Delete(Variant(2)); }), automation::errBadIndex);
     EXPECT_EQ(items.Count(), 1);
 }
 
@@ -111,7 +102,7 @@ TEST(InitItems, WorksByName) {
     EXPECT_EQ(items->Item(std::string_view("me"))->val, Variant("x"));
     EXPECT_EQ(item->get("Index"), Variant(std::int16_t{4}));
     EXPECT_EQ(item->get("itms").asObject()->get("Count"), Variant(0));
-    EXPECT_EQ(errorOf([&] { item->set("Name", Variant("You")); }), automation::errMemberNotFound);
+    EXPECT_EQ(support::errorNumber([&] { item->set("Name", Variant("You")); }), automation::errMemberNotFound);
 
     const Variant key("ME");
     const Variant unknown("sb");
@@ -200,7 +191,7 @@ TEST(InitItems, VisitsTheLeavesInOrderAndHoweverDeepTheyLie) {
 TEST(InitItems, HoldNoObjects) {
     const ObjectRef object = std::make_shared<CInitItems>();
     CInitItems items;
-    EXPECT_EQ(errorOf([&] { items.Add("a", Variant(object), 0); }), automation::errTypeMismatch);
+    EXPECT_EQ(support::errorNumber([&] { items.Add("a", Variant(object), 0); }), automation::errTypeMismatch);
     EXPECT_EQ(items.Count(), 0);
     CInitItem& item = items.Add("a", Variant(1), 0);
     try {

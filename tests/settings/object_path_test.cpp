@@ -5,6 +5,7 @@
 #include "adapters/headless/host.h"
 #include "automation/error.h"
 #include "settings_window.h"
+#include "support/error_of.h"
 #include "support/memory_provider.h"
 
 namespace hx::settings {
@@ -17,12 +18,7 @@ class ObjectPathTest : public ::testing::Test {
     void set(std::string_view path, const Variant& value) { SetValueByPath(*window, path, value); }
     Variant get(std::string_view path) { return GetValueByPath(*window, path); }
     std::int32_t errorOf(std::string_view path, const Variant& value) {
-        try {
-            set(path, value);
-            return 0;
-        } catch (const automation::Error& error) {
-            return error.number();
-        }
+        return support::errorNumber([&] { set(path, value); });
     }
 
     support::MemoryProvider database;

@@ -11,6 +11,7 @@
 #include "ado/recordset.h"
 #include "automation/convert.h"
 #include "raw_file.h"
+#include "support/error_of.h"
 #include "support/temporary_folder.h"
 
 namespace hx::sqlite {
@@ -50,15 +51,6 @@ class ProjectTest : public testing::Test {
     Provider provider_;
 };
 
-/// The error that the action throws; number 0 for none.
-template <class Action>
-automation::Error errorOf(Action&& action) {
-    try {
-        action();
-    } catch (const automation::Error& error) {
-        return error;
-    }
-    return {0, "no error"};
-}
+using support::errorOf;
 
 }  // namespace hx::sqlite
