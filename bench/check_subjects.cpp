@@ -64,7 +64,7 @@ Subject check_project::ours(const Project& project) {
         return [=] {
             std::ostringstream results;
             const cli::Output output{results, results, false};
-            const int status = cli::check(project.path, false, output);
+            const int status = cli::check({.path = project.path}, output);
             require(status == cli::found && results.str().ends_with(lastLine), "the check found something else");
         };
     };

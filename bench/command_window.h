@@ -27,14 +27,14 @@ class WindowOwner : public editor::AddIn {
     [[nodiscard]] const resources::ResourceTable& texts() const override { return texts_; }
     [[nodiscard]] resources::Help& help() override { return help_; }
     [[nodiscard]] recipe::StatusCounters& counters() override { return counters_; }
-    [[nodiscard]] editor::BusyFlag& busy() override { return busy_; }
+    [[nodiscard]] bool& busy() override { return busy_; }
 
   private:
     headless::Host& host_;
     resources::ResourceTable texts_;
     resources::Help help_;
     recipe::StatusCounters counters_;
-    editor::BusyFlag busy_;
+    bool busy_ = false;
 };
 
 /// An editor's window on a project without a screen: the big recipe is shown, and its commands run as by a click. It

@@ -4,6 +4,7 @@
 #include <iostream>
 #include <memory>
 #include <stdexcept>
+#include <utility>
 
 #include "adapters/sqlite/provider.h"
 #include "ado/recordset.h"
@@ -55,7 +56,7 @@ void addInclusions(const std::string& path) {
 report::ProjectData read(const std::string& path) {
     sqlite::Provider provider;
     report::ProjectData data = report::readProject(provider, path);
-    if (data.recipes().size() < recipes) throw std::runtime_error("recipes are missing");
+    if (data.recipes().empty()) throw std::runtime_error("recipes are missing");
     return data;
 }
 
@@ -66,7 +67,9 @@ class Desk {
     void open(const std::string& path) {
         view_.reset();
         pages_.reset();
-        report_ = std::make_unique<report::Report>(read(path), report::Texts(), path, report::Moment::now());
+        report::ProjectData data = read(path);
+        recipes_ = data.recipes().size();
+        report_ = std::make_unique<report::Report>(std::move(data), report::Texts(), path, report::Moment::now());
         pages_ = std::make_unique<report::Pages>(*report_, report::usualPaper());
         view_ = std::make_unique<report::PageView>(*pages_, nullptr);
         constexpr int size = 850;
@@ -74,13 +77,15 @@ class Desk {
     }
     void showPage(int page) {
         view_->showPage(page);
-        if (view_->grab().isNull() || pages_->count() < recipes / 2) throw std::runtime_error("pages are missing");
+        if (view_->grab().isNull() || std::cmp_less(pages_->count(), recipes_ / 2))
+            throw std::runtime_error("pages are missing");
     }
     [[nodiscard]] const report::Report& report() const { return *report_; }
     [[nodiscard]] const report::Pages& pages() const { return *pages_; }
 
   private:
     Application application_;
+    std::size_t recipes_ = 0;
     std::unique_ptr<report::Report> report_;
     std::unique_ptr<report::Pages> pages_;
     std::unique_ptr<report::PageView> view_;

@@ -18,6 +18,7 @@ namespace {
 constexpr std::string_view triggerColumns[] = {"VarLoad", "VarSave", "VarRead", "VarWrite"};
 
 constexpr int mostDamages = 20;
+constexpr std::int64_t comparedWhole = 32 << 20;  // some half a second
 
 bool isBlank(std::string_view text) { return automation::trim(text).empty(); }
 
@@ -194,8 +195,9 @@ void addDamage(FindingWriter& findings, std::string_view damage) {
                   "Go back to a copy of it; \"hxrecipe export\" saves what can still be read."});
 }
 
-void addFindings(ProjectReader& project, FindingWriter& findings) {
-    const auto damages = sqlite::damagesOf(project.database(), mostDamages);
+void addFindings(ProjectReader& project, bool thorough, FindingWriter& findings) {
+    const auto damages = thorough ? sqlite::damagesOf(project.database(), mostDamages)
+                                  : sqlite::damagesOf(project.database(), mostDamages, comparedWhole);
     for (const std::string& damage : damages) addDamage(findings, damage);
     // What a damaged file seems to hold says nothing.
     if (damages.empty()) Check(project, findings).run();
@@ -203,10 +205,10 @@ void addFindings(ProjectReader& project, FindingWriter& findings) {
 
 }  // namespace
 
-int check(const std::string& path, bool json, const Output& output) {
-    ProjectReader project(path, ProjectReader::Damage::read);
-    FindingWriter findings(json, output);
-    addFindings(project, findings);
+int check(const CheckOptions& options, const Output& output) {
+    ProjectReader project(options.path, ProjectReader::Damage::read);
+    FindingWriter findings(options.json, output);
+    addFindings(project, options.thorough, findings);
     findings.finish();
     return findings.isEmpty() ? succeeded : found;
 }

@@ -51,12 +51,15 @@ void addShow(CLI::App& app, Command& chosen, const Output& output) {
 
 void addCheck(CLI::App& app, Command& chosen, const Output& output) {
     CLI::App* command = app.add_subcommand("check", "Look for what is wrong in a project.");
-    const auto arguments = readingArguments(*command);
+    const auto options = std::make_shared<CheckOptions>();
+    command->add_option("FILE", options->path, "The project file; it is only read.")->required();
+    command->add_flag("--json", options->json, "Print JSON, for other programs.");
+    command->add_flag("--thorough", options->thorough,
+                      "In a file of more than 32 MB too, compare each index with its table.");
     command->footer("Exit status: 0 nothing found, 1 findings, 2 the project could not be checked.");
-    command->callback([arguments, &chosen, &output] {
-        chosen = Command::asking([arguments, &output] {
-            return inFile(arguments->path, [&] { return check(arguments->path, arguments->json, output); });
-        });
+    command->callback([options, &chosen, &output] {
+        chosen = Command::asking(
+            [options, &output] { return inFile(options->path, [&] { return check(*options, output); }); });
     });
 }
 

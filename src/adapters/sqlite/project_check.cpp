@@ -33,6 +33,10 @@ void requireTables(Database& database) {
     refuse(database, sentence::tableIsNone, {database.path(), table});
 }
 
+std::int64_t sizeOf(Database& database) {
+    return database.number("PRAGMA page_count") * database.number("PRAGMA page_size");
+}
+
 // What breaks a rule of its table is wrong, but no damage.
 bool tellsDamage(std::string_view line) {
     return !line.empty() && line != "ok" && !line.starts_with("*** in database") &&
@@ -70,15 +74,16 @@ void requireProject(Database& database) {
 }
 
 void requireUndamaged(Database& database, std::int64_t checkedWhole) {
-    const std::int64_t size = database.number("PRAGMA page_count") * database.number("PRAGMA page_size");
+    const std::int64_t size = sizeOf(database);
     if (size > checkedWhole && !TableInfo::read(database, "TrcpRecipe")) return;
     const auto damages =
         linesOf(database, size > checkedWhole ? "PRAGMA quick_check(TrcpRecipe)" : "PRAGMA quick_check(1)");
     if (!damages.empty()) refuse(database, sentence::damagedSo, {database.path(), damages.front()});
 }
 
-std::vector<std::string> damagesOf(Database& database, int most) {
-    return linesOf(database, "PRAGMA integrity_check(" + std::to_string(most) + ")");
+std::vector<std::string> damagesOf(Database& database, int most, std::int64_t comparedWhole) {
+    const char* const check = sizeOf(database) > comparedWhole ? "quick_check" : "integrity_check";
+    return linesOf(database, std::string("PRAGMA ") + check + "(" + std::to_string(most) + ")");
 }
 
 }  // namespace hx::sqlite

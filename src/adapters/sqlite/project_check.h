@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <limits>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -21,8 +22,11 @@ void requireUndamaged(Database& database, std::int64_t checkedWhole = 16 << 20);
 /// What is said of a file that the check itself cannot read.
 inline constexpr std::string_view unreadable = "it cannot be read any further";
 
-/// What SQLite finds damaged in the whole file, a sentence without its full stop each, and at most so many.
-[[nodiscard]] std::vector<std::string> damagesOf(Database& database, int most);
+/// What SQLite finds damaged in the whole file, a sentence without its full stop each, and at most so many. Whether the
+/// indexes tell of the rows of their tables, which takes several times as long as all else, is looked at in files of up
+/// to `comparedWhole` bytes.
+[[nodiscard]] std::vector<std::string> damagesOf(Database& database, int most,
+                                                 std::int64_t comparedWhole = std::numeric_limits<std::int64_t>::max());
 
 /// A project that is open beside the session that works in it.
 class ProjectDatabase : public Database {
