@@ -10,6 +10,7 @@
 #include "automation/text.h"
 #include "cli/in_file.h"
 #include "cli/project_reader.h"
+#include "hosting/file_bytes.h"
 
 namespace hx::cli {
 
@@ -135,11 +136,7 @@ bool isForProjects(const std::string& path) {
 
 bool beginsLikeProject(const std::string& path) {
     constexpr std::string_view mark = "SQLite format 3";
-    std::error_code ignored;
-    if (!std::filesystem::is_regular_file(path, ignored)) return false;
-    std::string start(mark.size(), '\0');
-    std::ifstream file(path, std::ios::binary);
-    return file.read(start.data(), static_cast<std::streamsize>(start.size())) && start == mark;
+    return hosting::startOf(path, mark.size()) == mark;
 }
 
 bool isSame(const Value& a, const Value& b) {

@@ -2,7 +2,6 @@
 
 #include <compare>
 #include <cstdint>
-#include <iosfwd>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -71,7 +70,7 @@ struct Content {
 [[nodiscard]] bool beginsLikeProject(const std::string& path);
 /// Reads the one or the other, whichever the file is.
 [[nodiscard]] Content loadContent(const std::string& path);
-/// Writes an export. Throws automation::Error when a value cannot be written as JSON.
-void writeContent(const Content& content, std::ostream& stream);
+/// The text of an export. Throws automation::Error when a value cannot be written as JSON.
+[[nodiscard]] std::string exportOf(const Content& content);
 
 }  // namespace hx::cli

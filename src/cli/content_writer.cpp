@@ -1,5 +1,6 @@
 #include <cmath>
-#include <ostream>
+#include <string>
+#include <utility>
 
 #include "automation/error.h"
 #include "automation/text.h"
@@ -43,42 +44,42 @@ std::string fieldOf(const Cell& cell, std::string_view reserved, const std::stri
 
 class Writer {
   public:
-    explicit Writer(std::ostream& stream) : stream_(stream) {}
-
-    void write(const Content& content) {
-        stream_ << "{\n  \"format\": \"hxrecipe\",\n  \"version\": 1,\n  \"recipes\": [";
+    std::string write(const Content& content) {
+        add("{\n  \"format\": \"hxrecipe\",\n  \"version\": 1,\n  \"recipes\": [");
         const char* separator = "\n";
         for (const ContentRecipe& recipe : content.recipes) {
-            stream_ << separator;
+            add(separator);
             writeRecipe(recipe);
             separator = ",\n";
         }
-        stream_ << (content.recipes.empty() ? "]" : "\n  ]");
+        add((content.recipes.empty() ? "]" : "\n  ]"));
         if (!content.orphans.empty()) {
-            stream_ << ",\n  \"membersWithoutRecipe\": [";
+            add(",\n  \"membersWithoutRecipe\": [");
             writeMembers(content.orphans, "    ", true);
-            stream_ << "\n  ]";
+            add("\n  ]");
         }
-        stream_ << "\n}\n";
+        add("\n}\n");
+        return std::move(text_);
     }
 
   private:
     void writeRecipe(const ContentRecipe& recipe) {
-        stream_ << "    {\n";
-        if (recipe.id) stream_ << "      \"ID\": " << *recipe.id << ",\n";  // one that was read without has none yet
+        add("    {\n");
+        if (recipe.id)
+            add("      \"ID\": ", std::to_string(*recipe.id), ",\n");  // one that was read without has none yet
         const std::string place = "recipe " + inQuotes(recipe.name());
-        for (const Cell& cell : recipe.cells) stream_ << "      " << fieldOf(cell, membersKey, place) << ",\n";
-        stream_ << "      \"members\": [";
+        for (const Cell& cell : recipe.cells) add("      ", fieldOf(cell, membersKey, place), ",\n");
+        add("      \"members\": [");
         writeMembers(recipe.members, "        ", false);
-        stream_ << (recipe.members.empty() ? "]" : "\n      ]") << "\n    }";
+        add((recipe.members.empty() ? "]" : "\n      ]"), "\n    }");
     }
 
     void writeMembers(const std::vector<ContentMember>& members, const char* indent, bool withParent) {
         const char* separator = "\n";
         for (const ContentMember& member : members) {
-            stream_ << separator << indent << "{";
+            add(separator, indent, "{");
             writeMember(member, withParent);
-            stream_ << "}";
+            add("}");
             separator = ",\n";
         }
     }
@@ -86,7 +87,7 @@ class Writer {
     void writeMember(const ContentMember& member, bool withParent) {
         const char* separator = "";
         const auto write = [&](const std::string& text) {
-            stream_ << separator << text;
+            add(separator, text);
             separator = ", ";
         };
         if (member.id) write("\"ID\": " + std::to_string(*member.id));
@@ -97,11 +98,16 @@ class Writer {
         if (member.isSubRecipe()) write("\"subRecipe\": " + (member.childName ? textOf(*member.childName) : "null"));
     }
 
-    std::ostream& stream_;
+    template <class... Parts>
+    void add(const Parts&... parts) {
+        (text_.append(parts), ...);
+    }
+
+    std::string text_;
 };
 
 }  // namespace
 
-void writeContent(const Content& content, std::ostream& stream) { Writer(stream).write(content); }
+std::string exportOf(const Content& content) { return Writer().write(content); }
 
 }  // namespace hx::cli

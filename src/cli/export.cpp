@@ -1,14 +1,13 @@
 #include "cli/export.h"
 
 #include <filesystem>
-#include <fstream>
-#include <sstream>
 #include <system_error>
 
 #include "automation/error.h"
 #include "cli/content.h"
 #include "cli/project_reader.h"
 #include "cli/unfinished_file.h"
+#include "hosting/file_bytes.h"
 #include "hosting/file_replacement.h"
 
 namespace hx::cli {
@@ -21,11 +20,7 @@ namespace fs = std::filesystem;
 
 bool isExport(const std::string& path) {
     constexpr std::string_view mark = "{\n  \"format\": \"hxrecipe\"";
-    std::error_code ignored;
-    if (!fs::is_regular_file(path, ignored)) return false;
-    std::string start(mark.size(), '\0');
-    std::ifstream file(path, std::ios::binary);
-    return file.read(start.data(), static_cast<std::streamsize>(start.size())) && start == mark;
+    return hosting::startOf(path, mark.size()) == mark;
 }
 
 // What is written is all that could be read.
@@ -45,11 +40,10 @@ void exportProject(const std::string& path, const std::string& target, const Out
     }
     ProjectReader project(path, ProjectReader::Damage::read);
     const Content content = readContent(project.database());
-    std::ostringstream text;
-    writeContent(content, text);
+    const std::string text = exportOf(content);
     hosting::FileReplacement file(target);
     const UnfinishedFile unfinished(file.temporary());
-    file.write(text.view());
+    file.write(text);
     file.publish();
     std::size_t members = content.orphans.size();
     for (const ContentRecipe& recipe : content.recipes) members += recipe.members.size();

@@ -25,6 +25,27 @@ std::string readMacro(const std::string& path) {
     return text;
 }
 
+// CLI11's own checks end the program when there is no memory for the path.
+CLI::Validator existingFile() {
+    const auto check = [](const std::string& path) -> std::string {
+        std::error_code ignored;
+        const auto status = std::filesystem::status(path, ignored);
+        if (!std::filesystem::exists(status)) return "File does not exist: " + path;
+        return std::filesystem::is_directory(status) ? "File is actually a directory: " + path : "";
+    };
+    return {check, "FILE"};
+}
+
+CLI::Validator existingFolder() {
+    const auto check = [](const std::string& path) -> std::string {
+        std::error_code ignored;
+        const auto status = std::filesystem::status(path, ignored);
+        if (!std::filesystem::exists(status)) return "Directory does not exist: " + path;
+        return std::filesystem::is_directory(status) ? "" : "Directory is actually a file: " + path;
+    };
+    return {check, "DIR"};
+}
+
 void makeFolder(const std::string& path) {
     std::error_code problem;
     std::filesystem::create_directories(path, problem);
@@ -135,9 +156,9 @@ void addRunMacro(CLI::App& app, Command& chosen, const Output& output) {
     CLI::App* command = app.add_subcommand("run", "Run a macro on a studio without a screen.");
     const auto plan = std::make_shared<MacroPlan>();
     const auto locale = std::make_shared<std::string>("C");
-    command->add_option("MACRO", plan->macro, "The macro, a text in Lua 5.4.")->required()->check(CLI::ExistingFile);
+    command->add_option("MACRO", plan->macro, "The macro, a text in Lua 5.4.")->required()->check(existingFile());
     command->add_option("ARG", plan->arguments, "What the macro gets as arguments; behind -- also with a dash.");
-    command->add_option("--project", plan->project, "The project file to open first.")->check(CLI::ExistingFile);
+    command->add_option("--project", plan->project, "The project file to open first.")->check(existingFile());
     command->add_option("--lcid", plan->studio.lcid, "The language: 1031 German, 1033 English.")
         ->check(CLI::IsMember({german, english}));
     command->add_option("--locale", *locale, "How numbers are written, as de_DE.")->type_name("NAME");
@@ -145,7 +166,7 @@ void addRunMacro(CLI::App& app, Command& chosen, const Output& output) {
         ->add_option("--folder", plan->folder,
                      "A folder whose files and projects the macro may use, besides that of --project.")
         ->type_name("DIR")
-        ->check(CLI::ExistingDirectory);
+        ->check(existingFolder());
     command
         ->add_option("--config", plan->studio.config,
                      "The folder of the registry, made when it is missing; without one nothing is kept.")

@@ -54,6 +54,14 @@ std::string beginning(const std::string& path, std::size_t length) {
     return bytes;
 }
 
+// None for an encoding that is unknown.
+iconv_t openConverter(const std::string& encoding) {
+    const iconv_t converter = iconv_open("UTF-8", encoding.c_str());
+    if (converter != reinterpret_cast<iconv_t>(-1)) return converter;
+    if (errno != EINVAL) throw std::system_error(errno, std::generic_category());
+    return nullptr;
+}
+
 Encoding markedEncoding(std::string_view bytes) {
     struct Mark {
         std::string_view bytes;
@@ -107,8 +115,8 @@ Encoding declaredEncoding(const std::string& path) {
 }
 
 bool isKnownEncoding(const std::string& name) {
-    const iconv_t converter = iconv_open("UTF-8", name.c_str());
-    if (converter == reinterpret_cast<iconv_t>(-1)) return false;
+    const iconv_t converter = openConverter(name);
+    if (converter == nullptr) return false;
     iconv_close(converter);
     return true;
 }
@@ -117,10 +125,9 @@ void TextDecoder::Closer::operator()(void* converter) const noexcept { iconv_clo
 
 TextDecoder::TextDecoder(std::string path, const Encoding& encoding)
     : path_(std::move(path)), encoding_(encoding.name), file_(openText(path_)) {
-    if (!isKnownEncoding(encoding_)) {
-        Line{path_, 1, {}}.fail("the encoding \"" + encoding_ + "\" is unknown");
-    }
-    converter_.reset(iconv_open("UTF-8", encoding_.c_str()));
+    converter_.reset(openConverter(encoding_));
+    if (!converter_) Line{path_, 1, {}}.fail("the encoding \"" + encoding_ + "\" is unknown");
+    file_.exceptions(std::ios::badbit);  // else want of memory would look like the end of the file
     file_.seekg(0, std::ios::end);
     size_ = file_.tellg();
     done_ = static_cast<std::int64_t>(encoding.markLength);
@@ -140,11 +147,14 @@ bool TextDecoder::read(std::string& piece) {
 void TextDecoder::fill() {
     const std::size_t kept = bytes_.size();
     bytes_.resize(kept + blockSize);
-    file_.read(bytes_.data() + kept, static_cast<std::streamsize>(blockSize));
+    try {
+        file_.read(bytes_.data() + kept, static_cast<std::streamsize>(blockSize));
+    } catch (const std::ios::failure&) {
+        refuse(path_ + " cannot be read");
+    }
     const auto count = file_.gcount();
     bytes_.resize(kept + static_cast<std::size_t>(count));
     done_ += count;
-    if (file_.bad()) refuse(path_ + " cannot be read");
 }
 
 void TextDecoder::convert(std::string& piece) {
@@ -161,6 +171,8 @@ void TextDecoder::convert(std::string& piece) {
         line_ += static_cast<int>(std::ranges::count(piece, '\n'));
         failAtByte(from);
     }
+    const bool stuck = fromLeft == bytes_.size() && problem != 0 && problem != EINVAL;
+    if (stuck) refuse(path_ + " cannot be read: " + std::generic_category().message(problem));
     bytes_.erase(0, bytes_.size() - fromLeft);
 }
 

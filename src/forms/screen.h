@@ -51,7 +51,7 @@ class Screen {
     virtual bool chooseFont(Font::Values& font) = 0;
     virtual void beep() = 0;
     [[nodiscard]] virtual Pointer pointer() const = 0;
-    virtual void setPointer(Pointer pointer) = 0;
+    virtual void setPointer(Pointer pointer) noexcept = 0;  ///< it is put back when something has failed, too
     /// Sends keys ("{F1}") to a form as if they were typed.
     virtual void sendKeys(Form& form, std::string_view keys) = 0;
     /// The language in which the user is told what failed.

@@ -28,6 +28,17 @@ std::optional<std::string> readFile(const fs::path& path) {
     return bytes;
 }
 
+std::string startOf(const fs::path& path, std::size_t length) {
+    std::error_code ignored;
+    if (!fs::is_regular_file(path, ignored)) return {};  // a pipe gives its text only once
+    std::ifstream stream(path, std::ios::binary);
+    stream.exceptions(std::ios::badbit);  // else want of memory would look like an empty file
+    std::string bytes(length, '\0');
+    stream.read(bytes.data(), static_cast<std::streamsize>(length));
+    bytes.resize(static_cast<std::size_t>(stream.gcount()));
+    return bytes;
+}
+
 void replaceFile(const fs::path& path, std::string_view bytes, const Disk& disk) {
     FileReplacement replacement(path, disk);
     replacement.write(bytes);

@@ -15,6 +15,9 @@ namespace hx::hosting {
 /// The whole file; nothing when it is missing. Throws automation::Error when it is there and cannot be read.
 [[nodiscard]] std::optional<std::string> readFile(const std::filesystem::path& path);
 
+/// The first bytes of a file, at most so many; nothing of what is no file or cannot be opened.
+[[nodiscard]] std::string startOf(const std::filesystem::path& path, std::size_t length);
+
 /// Replaces the contents in one step, as FileReplacement does.
 void replaceFile(const std::filesystem::path& path, std::string_view bytes, const Disk& disk = systemDisk());
 

@@ -34,7 +34,7 @@ class AttendedScreen : public forms::Screen {
     bool chooseFont(forms::Font::Values& font) override;
     void beep() override;
     [[nodiscard]] forms::Pointer pointer() const override { return user_.pointer(); }
-    void setPointer(forms::Pointer pointer) override { user_.setPointer(pointer); }
+    void setPointer(forms::Pointer pointer) noexcept override { user_.setPointer(pointer); }
     void sendKeys(forms::Form& form, std::string_view keys) override { user_.sendKeys(form, keys); }
     [[nodiscard]] automation::Language language() const override { return user_.language(); }
     [[nodiscard]] double twipsPerPixel() const override { return user_.twipsPerPixel(); }

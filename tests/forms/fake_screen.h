@@ -31,7 +31,7 @@ class FakeScreen : public Screen {
     bool chooseFont(Font::Values&) override { return false; }
     void beep() override { calls.emplace_back("beep"); }
     [[nodiscard]] Pointer pointer() const override { return Pointer::standard; }
-    void setPointer(Pointer) override {}
+    void setPointer(Pointer) noexcept override {}
     void sendKeys(Form&, std::string_view keys) override { calls.push_back("keys " + std::string(keys)); }
     [[nodiscard]] automation::Language language() const override { return spoken; }
     [[nodiscard]] double twipsPerPixel() const override { return 15; }

@@ -20,12 +20,6 @@ class Variables : public cli::VariableReceiver {
     }
 };
 
-std::string exported(const cli::Content& content) {
-    std::ostringstream text;
-    cli::writeContent(content, text);
-    return text.str();
-}
-
 }  // namespace
 
 // What was written is read back as it was.
@@ -33,9 +27,9 @@ void json(std::string_view bytes) {
     cli::Content content;
     if (!accepted([&] { content = cli::parseContent(fileOf(bytes)); })) return;
     std::string once;
-    if (!accepted([&] { once = exported(content); })) return;
+    if (!accepted([&] { once = cli::exportOf(content); })) return;
     const cli::Content again = cli::parseContent(fileOf(once));
-    require(exported(again) == once, "an export is read as it was written");
+    require(cli::exportOf(again) == once, "an export is read as it was written");
     require(cli::compare(content, again, {}).empty(), "an export leaves nothing out");
 }
 

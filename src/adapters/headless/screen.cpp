@@ -112,9 +112,13 @@ bool Screen::chooseFont(forms::Font::Values& font) {
     return choice.accepted;
 }
 
-void Screen::setPointer(forms::Pointer pointer) {
+void Screen::setPointer(forms::Pointer pointer) noexcept {
     pointer_ = pointer;
-    record_.pointers.push_back(pointer);
+    try {
+        record_.pointers.push_back(pointer);
+    } catch (const std::bad_alloc&) {
+        // The record alone lacks it.
+    }
 }
 
 void Screen::sendKeys(forms::Form& form, std::string_view keys) {

@@ -33,7 +33,7 @@ class Screen : public forms::Screen {
     bool chooseFont(forms::Font::Values& font) override;
     void beep() override { ++record_.beeps; }
     [[nodiscard]] forms::Pointer pointer() const override { return pointer_; }
-    void setPointer(forms::Pointer pointer) override;
+    void setPointer(forms::Pointer pointer) noexcept override;
     void sendKeys(forms::Form& form, std::string_view keys) override;
     [[nodiscard]] automation::Language language() const override { return language_; }
     [[nodiscard]] double twipsPerPixel() const override { return WindowOperations::twipsPerPixel; }

@@ -1,10 +1,10 @@
 #include "adapters/lua/macro_files.h"
 
 #include <algorithm>
-#include <fstream>
 
 #include "automation/error.h"
 #include "automation/text.h"
+#include "hosting/file_bytes.h"
 
 namespace hx::lua {
 
@@ -30,13 +30,9 @@ bool isNamedAsProject(const fs::path& file) {
     return automation::equalIgnoreCase(extension.substr(0, extension.find('-')), projectExtension);
 }
 
-// A hard link gives a project another name. What is no file may keep who opens it waiting.
+// A hard link gives a project another name.
 bool beginsAsProject(const std::string& file) {
-    std::error_code ignored;
-    if (!fs::is_regular_file(file, ignored)) return false;
-    std::string start(databaseMark.size(), '\0');
-    std::ifstream stream(file, std::ios::binary);
-    stream.read(start.data(), static_cast<std::streamsize>(start.size()));
+    const std::string start = hosting::startOf(file, databaseMark.size());
     return start == databaseMark || start.starts_with(journalMark);
 }
 

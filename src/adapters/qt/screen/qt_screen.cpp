@@ -84,7 +84,7 @@ bool QtScreen::chooseFont(forms::Font::Values& font) {
 
 void QtScreen::beep() { QApplication::beep(); }
 
-void QtScreen::setPointer(forms::Pointer pointer) {
+void QtScreen::setPointer(forms::Pointer pointer) noexcept {
     if (pointer == pointer_) return;
     pointer_ = pointer;
     if (pointer == forms::Pointer::hourglass) QGuiApplication::setOverrideCursor(Qt::WaitCursor);

@@ -27,7 +27,7 @@ class QtScreen : public forms::Screen {
     bool chooseFont(forms::Font::Values& font) override;
     void beep() override;
     [[nodiscard]] forms::Pointer pointer() const override { return pointer_; }
-    void setPointer(forms::Pointer pointer) override;
+    void setPointer(forms::Pointer pointer) noexcept override;
     void sendKeys(forms::Form& form, std::string_view keys) override;
     [[nodiscard]] automation::Language language() const override { return automation::languageOf(wording_.language()); }
     [[nodiscard]] double twipsPerPixel() const override { return views_.units.twipsPerPixel(); }
