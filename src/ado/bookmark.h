@@ -2,7 +2,7 @@
 
 #include <optional>
 
-#include "ado/key_set.h"
+#include "ado/row_keys.h"
 #include "automation/variant.h"
 
 namespace hx::ado {

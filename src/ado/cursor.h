@@ -2,7 +2,7 @@
 
 #include <cstddef>
 
-#include "ado/key_set.h"
+#include "ado/row_keys.h"
 
 namespace hx::ado {
 

@@ -30,7 +30,7 @@ automation::Variant keyValue(Key key) {
     return static_cast<double>(key);
 }
 
-const KeySet& KeyList::keys() {
+const RowKeys& KeyList::keys() {
     owner_.refresh();
     if (!keys_) {
         keys_ = owner_.readKeys(filter_ ? &*filter_ : nullptr);
@@ -59,7 +59,7 @@ const Page& KeyList::page(std::size_t position, ColumnMask columns) {
 }
 
 void KeyList::read(std::size_t first, std::size_t count, ColumnMask columns, RowSink& sink) {
-    const KeySet& all = keys();
+    const RowKeys& all = keys();
     std::vector<Key> asked(count);
     for (std::size_t i = 0; i < count; ++i) asked[i] = all[first + i];
     owner_.readRows(asked, columns, sink);
@@ -81,13 +81,13 @@ std::optional<std::size_t> KeyList::scan(const Criterion& criterion, std::size_t
     return std::nullopt;
 }
 
-std::optional<std::size_t> KeyList::firstOf(const KeySet& hits, std::size_t start, SearchDirection direction) {
+std::optional<std::size_t> KeyList::firstOf(const RowKeys& hits, std::size_t start, SearchDirection direction) {
     const bool forward = direction == adSearchForward;
     std::vector<Key> sought;
     sought.reserve(hits.size());
     for (std::size_t i = 0; i < hits.size(); ++i) sought.push_back(hits[i]);
     if (!hits.ascending()) std::sort(sought.begin(), sought.end());
-    const KeySet& all = keys();
+    const RowKeys& all = keys();
     const std::size_t count = forward ? all.size() - start : start + 1;
     for (std::size_t i = 0; i < count; ++i) {
         const std::size_t position = forward ? start + i : start - i;
@@ -107,7 +107,7 @@ std::optional<std::size_t> KeyList::search(const Criterion& criterion, std::size
     const std::size_t here = std::min(count, scanBeforeAsking);
     if (const auto found = scan(criterion, start, here, direction)) return found;
     if (here == count) return std::nullopt;
-    const KeySet hits = owner_.readKeys(&criterion);
+    const RowKeys hits = owner_.readKeys(&criterion);
     if (hits.empty()) return std::nullopt;
     return firstOf(hits, forward ? start + here : start - here, direction);
 }

@@ -51,16 +51,16 @@ class KeyList {
     void dropKeys();
 
   private:
-    const KeySet& keys();
+    const RowKeys& keys();
     const Page& page(std::size_t position, ColumnMask columns);
     std::optional<std::size_t> scan(const Criterion& criterion, std::size_t start, std::size_t count,
                                     SearchDirection direction);
-    std::optional<std::size_t> firstOf(const KeySet& hits, std::size_t start, SearchDirection direction);
+    std::optional<std::size_t> firstOf(const RowKeys& hits, std::size_t start, SearchDirection direction);
     bool matchesAt(const Criterion& criterion, std::size_t position);
 
     Keyset& owner_;
     std::optional<Criterion> filter_;
-    std::optional<KeySet> keys_;
+    std::optional<RowKeys> keys_;
     std::vector<Key> addedBefore_;  // rows stored while the keys had not been read
     PageCache pages_;
     std::vector<Cursor*> cursors_;

@@ -99,7 +99,7 @@ void Keyset::forgetOld() {
     requery();
 }
 
-KeySet Keyset::readKeys(const Criterion* filter) {
+RowKeys Keyset::readKeys(const Criterion* filter) {
     Rowset& open = rowset();
     return connection_->withSession([&](Session&) { return open.keys(filter); });
 }

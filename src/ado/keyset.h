@@ -39,7 +39,7 @@ class Keyset : public ConnectionClient {
     void dropPages() noexcept;
 
     // For the lists.
-    [[nodiscard]] KeySet readKeys(const Criterion* filter);
+    [[nodiscard]] RowKeys readKeys(const Criterion* filter);
     void readRows(std::span<const Key> keys, ColumnMask mask, RowSink& sink);
     /// Forgets what other writes on the connection have made old.
     void refresh() {

@@ -9,7 +9,7 @@
 #include <string_view>
 #include <vector>
 
-#include "ado/key_set.h"
+#include "ado/row_keys.h"
 #include "ado/types.h"
 #include "automation/variant.h"
 
@@ -69,7 +69,7 @@ class Rowset {
 
     /// The keys of all rows in the order of the command, restricted to `criterion` when there is one (criterion.h
     /// says what matches). Runs the command afresh at each call.
-    [[nodiscard]] virtual KeySet keys(const Criterion* criterion) = 0;
+    [[nodiscard]] virtual RowKeys keys(const Criterion* criterion) = 0;
 
     /// Reads the rows with these keys, only the columns of the mask; the key column need not be filled. A key without
     /// a row is left out silently. Integer columns give a 32-bit integer (a double when the number is too large),

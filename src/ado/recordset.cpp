@@ -1,5 +1,6 @@
 #include "ado/recordset.h"
 
+#include <algorithm>
 #include <array>
 
 #include "ado/errors.h"
@@ -9,6 +10,7 @@
 
 namespace hx::ado {
 
+using Place = Cursor::Place;
 using automation::Variant;
 
 namespace {
@@ -140,6 +142,216 @@ Field& Recordset::field(std::string_view name) { return *fields_[columnNumber(na
 Field& Recordset::field(std::size_t index) {
     if (index >= columns().size()) throwItemNotFound();
     return *fields_[index];
+}
+
+namespace {
+
+constexpr std::size_t rowsReadTogether = 1024;
+
+/// Picks some fields out of the rows that are read.
+class ChosenFields : public RowSink {
+  public:
+    explicit ChosenFields(const RowReceiver& receive) : receive_(receive) {}
+
+    void add(std::size_t column, const std::vector<Column>& columns) {
+        mask_ |= columnBit(column);
+        chosen_.push_back({column, columns[column].isKey});
+        values_.emplace_back();
+    }
+    [[nodiscard]] ColumnMask mask() const noexcept { return mask_; }
+    /// The next rows are those from `first` on.
+    void start(KeyList& list, std::size_t first) {
+        list_ = &list;
+        first_ = first;
+    }
+    void row(std::size_t index, std::span<automation::Variant> values) override {
+        for (std::size_t i = 0; i < chosen_.size(); ++i) {
+            if (chosen_[i].isKey) values_[i] = keyValue(list_->key(first_ + index));
+            else values_[i] = std::move(values[chosen_[i].column]);
+        }
+        receive_(values_);
+    }
+
+  private:
+    struct Choice {
+        std::size_t column;
+        bool isKey;
+    };
+    const RowReceiver& receive_;
+    std::vector<Choice> chosen_;
+    std::vector<automation::Variant> values_;
+    ColumnMask mask_ = 0;
+    KeyList* list_ = nullptr;
+    std::size_t first_ = 0;
+};
+
+}  // namespace
+
+// Works out which row the cursor stands on, when it was moved without asking for the keys or the keys were dropped.
+void Recordset::settle() const {
+    requireOpen().refresh();
+    if (cursor_->place == Place::first) {
+        if (list_->size() == 0) cursor_->set(Place::eof);
+        else cursor_->set(Place::row, 0, list_->key(0));
+    } else if (cursor_->place == Place::key) {
+        const auto found = list_->find(cursor_->key);
+        cursor_->deleted = !found;
+        cursor_->position = found.value_or(std::min(cursor_->position, list_->size()));
+        cursor_->place = Place::row;
+    }
+}
+
+// Writes a pending edit: the row is about to be left.
+void Recordset::leaveRow() {
+    requireOpen();
+    if (edit_->pending()) update();
+}
+
+bool Recordset::bof() const {
+    settle();
+    if (edit_->mode() == adEditAdd) return false;
+    return cursor_->place == Place::bof || list_->size() == 0;
+}
+
+bool Recordset::eof() const {
+    settle();
+    if (edit_->mode() == adEditAdd) return false;
+    return cursor_->place == Place::eof || list_->size() == 0;
+}
+
+std::int32_t Recordset::recordCount() const {
+    requireOpen();
+    return static_cast<std::int32_t>(list_->size());
+}
+
+// The first row from `position` on that nobody has deleted, else EOF.
+void Recordset::placeForward(std::size_t position) {
+    const std::size_t size = list_->size();
+    while (position < size && !list_->exists(position)) ++position;
+    if (position < size) cursor_->set(Place::row, position, list_->key(position));
+    else cursor_->set(Place::eof);
+}
+
+// The last of the first `count` rows that nobody has deleted, else BOF.
+void Recordset::placeBackward(std::size_t count) {
+    while (count > 0 && !list_->exists(count - 1)) --count;
+    if (count > 0) cursor_->set(Place::row, count - 1, list_->key(count - 1));
+    else cursor_->set(Place::bof);
+}
+
+void Recordset::moveFirst() {
+    leaveRow();
+    if (list_->size() == 0) throwNoCurrentRecord();
+    placeForward(0);
+}
+
+void Recordset::moveLast() {
+    leaveRow();
+    if (list_->size() == 0) throwNoCurrentRecord();
+    placeBackward(list_->size());
+}
+
+void Recordset::moveNext() {
+    leaveRow();
+    settle();
+    switch (cursor_->place) {
+        case Place::eof: throwNoCurrentRecord();
+        case Place::bof: return placeForward(0);
+        default: return placeForward(cursor_->deleted ? cursor_->position : cursor_->position + 1);
+    }
+}
+
+void Recordset::movePrevious() {
+    leaveRow();
+    settle();
+    switch (cursor_->place) {
+        case Place::bof: throwNoCurrentRecord();
+        case Place::eof:
+            if (list_->size() == 0) throwNoCurrentRecord();
+            return placeBackward(list_->size());
+        default: return placeBackward(cursor_->position);
+    }
+}
+
+void Recordset::getRows(std::int32_t rows, std::span<const std::string_view> fields, const RowReceiver& receive) {
+    leaveRow();
+    settle();
+    if (cursor_->place == Place::eof) throwNoCurrentRecord();
+    ChosenFields sink(receive);
+    for (const std::string_view field : fields) sink.add(columnNumber(field), keyset_->columns());
+    const std::size_t size = list_->size();
+    std::size_t at = cursor_->place == Place::bof ? 0 : cursor_->position;
+    std::size_t left = rows < 0 ? size - at : std::min<std::size_t>(static_cast<std::size_t>(rows), size - at);
+    while (left > 0) {
+        const std::size_t count = std::min(left, rowsReadTogether);
+        sink.start(*list_, at);
+        list_->read(at, count, sink.mask(), sink);
+        at += count;
+        left -= count;
+    }
+    placeForward(at);
+}
+
+std::int32_t Recordset::absolutePosition() const {
+    settle();
+    const bool onRow = cursor_->place == Place::row && !cursor_->deleted && edit_->mode() != adEditAdd;
+    return onRow ? static_cast<std::int32_t>(cursor_->position + 1) : -1;
+}
+
+void Recordset::setAbsolutePosition(std::int32_t position) {
+    leaveRow();
+    if (position < 1 || static_cast<std::size_t>(position) > list_->size()) {
+        throwInvalidArgument("Position " + std::to_string(position) + " is not within the recordset.");
+    }
+    placeForward(static_cast<std::size_t>(position) - 1);
+}
+
+Bookmark Recordset::bookmark() const {
+    settle();
+    const bool onRow = cursor_->place == Place::row && !cursor_->deleted && edit_->mode() != adEditAdd;
+    return onRow ? Bookmark(cursor_->key) : Bookmark();
+}
+
+void Recordset::setBookmark(const Bookmark& bookmark) {
+    leaveRow();
+    const auto position = bookmark.isNull() ? std::nullopt : list_->find(bookmark.key());
+    if (!position) throwInvalidArgument("The bookmark marks no row of the recordset.");
+    cursor_->set(Place::row, *position, bookmark.key());
+}
+
+void Recordset::find(const std::string& criterion, std::int32_t skip, SearchDirection direction) {
+    const Criterion condition = parseFind(criterion, columns());
+    leaveRow();
+    settle();
+    const auto size = static_cast<std::ptrdiff_t>(list_->size());
+    const bool forward = direction == adSearchForward;
+    std::ptrdiff_t start = static_cast<std::ptrdiff_t>(cursor_->position);
+    if (cursor_->place == Place::bof) start = -1 + (forward ? 1 : 0);
+    if (cursor_->place == Place::eof) start = size - (forward ? 0 : 1);
+    if (cursor_->place == Place::row && cursor_->deleted) start -= forward ? 0 : 1;
+    else if (cursor_->place == Place::row) start += forward ? skip : -skip;
+    const bool inside = start >= 0 && start < size;
+    const auto found = inside ? list_->search(condition, static_cast<std::size_t>(start), direction) : std::nullopt;
+    if (found) cursor_->set(Place::row, *found, list_->key(*found));
+    else cursor_->set(forward ? Place::eof : Place::bof);
+}
+
+void Recordset::setFilter(const std::string& filter) {
+    std::optional<Criterion> condition = parseFilter(filter, columns());
+    leaveRow();
+    useList(condition ? keyset_->filtered(std::move(*condition)) : keyset_->all());
+    filter_ = filter;
+}
+
+Bookmark Recordset::bookmarkAt(std::size_t index) const {
+    requireOpen();
+    return index < list_->size() ? Bookmark(list_->key(index)) : Bookmark();
+}
+
+std::ptrdiff_t Recordset::indexOf(const Bookmark& bookmark) const {
+    requireOpen();
+    const auto position = bookmark.isNull() ? std::nullopt : list_->find(bookmark.key());
+    return position ? static_cast<std::ptrdiff_t>(*position) : -1;
 }
 
 }  // namespace hx::ado

@@ -40,9 +40,9 @@ class CountedRowset : public Rowset {
     explicit CountedRowset(Log& log) : log_(log), columns_(manyColumns()) {}
 
     const std::vector<Column>& columns() const override { return columns_; }
-    KeySet keys(const Criterion* criterion) override {
+    RowKeys keys(const Criterion* criterion) override {
         ++log_.keysRead;
-        KeySet keys;
+        RowKeys keys;
         if (criterion != nullptr) {
             keys.append(static_cast<Key>(criterion->value.isString() ? 70001 : criterion->value.asDouble()));
             return keys;

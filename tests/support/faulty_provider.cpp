@@ -37,7 +37,7 @@ class FaultyRowset : public ado::Rowset {
     FaultyRowset(std::unique_ptr<ado::Rowset> inner, FaultPlan& plan) : inner_(std::move(inner)), plan_(plan) {}
 
     [[nodiscard]] const std::vector<ado::Column>& columns() const override { return inner_->columns(); }
-    [[nodiscard]] ado::KeySet keys(const ado::Criterion* criterion) override {
+    [[nodiscard]] ado::RowKeys keys(const ado::Criterion* criterion) override {
         plan_.pass(Kind::keys);
         return inner_->keys(criterion);
     }

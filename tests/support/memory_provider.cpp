@@ -25,7 +25,7 @@ class MemorySession : public ado::Session {
         const MemoryCommand parsed = MemoryCommand::parse(command);
         auto rowset = std::make_unique<MemoryRowset>(database_, parsed);
         if (!parsed.deletes) return rowset;
-        const ado::KeySet doomed = rowset->keys(nullptr);
+        const ado::RowKeys doomed = rowset->keys(nullptr);
         for (std::size_t i = 0; i < doomed.size(); ++i) rowset->remove(doomed[i]);
         return nullptr;
     }

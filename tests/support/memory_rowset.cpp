@@ -57,7 +57,7 @@ bool MemoryRowset::before(const MemoryTable::Row& a, const MemoryTable::Row& b) 
     return false;
 }
 
-ado::KeySet MemoryRowset::keys(const ado::Criterion* criterion) {
+ado::RowKeys MemoryRowset::keys(const ado::Criterion* criterion) {
     std::vector<std::pair<Key, const MemoryTable::Row*>> found;
     for (const auto& [key, row] : table().rows()) {
         if (condition_ && !ado::matches(*condition_, row)) continue;
@@ -66,7 +66,7 @@ ado::KeySet MemoryRowset::keys(const ado::Criterion* criterion) {
     }
     std::stable_sort(found.begin(), found.end(),
                      [this](const auto& a, const auto& b) { return before(*a.second, *b.second); });
-    ado::KeySet keys;
+    ado::RowKeys keys;
     for (const auto& [key, row] : found) keys.append(key);
     return keys;
 }

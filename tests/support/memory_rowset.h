@@ -15,7 +15,7 @@ class MemoryRowset : public ado::Rowset {
     MemoryRowset(MemoryDatabase& database, const MemoryCommand& command);
 
     [[nodiscard]] const std::vector<ado::Column>& columns() const override { return columns_; }
-    [[nodiscard]] ado::KeySet keys(const ado::Criterion* criterion) override;
+    [[nodiscard]] ado::RowKeys keys(const ado::Criterion* criterion) override;
     void read(std::span<const ado::Key> keys, ado::ColumnMask mask, ado::RowSink& sink) override;
     ado::Key insert(std::span<const ado::ColumnValue> values) override;
     void update(ado::Key key, std::span<const ado::ColumnValue> values,

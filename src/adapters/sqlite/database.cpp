@@ -43,7 +43,7 @@ Database::Database(const std::string& path, const OpenOptions& options)
       language_(options.language),
       work_(std::make_unique<Work>()),
       lockWait_(std::make_unique<LockWait>(options.lockWait, options.sleep)),
-      collecting_(std::make_unique<ado::KeySet*>(nullptr)) {
+      collecting_(std::make_unique<ado::RowKeys*>(nullptr)) {
     sqlite3* handle = nullptr;
     // An absolute name is never taken for a URI or for a database in memory.
     const std::string absolute = std::filesystem::absolute(path).string();
@@ -109,8 +109,8 @@ void Database::useLargeCache(bool large) noexcept {
     (void)sqlite3_exec(handle(), large ? largeCache : smallCache, nullptr, nullptr, nullptr);
 }
 
-ado::KeySet Database::collect(Statement& statement) {
-    ado::KeySet keys;
+ado::RowKeys Database::collect(Statement& statement) {
+    ado::RowKeys keys;
     const automation::Restore collecting(*collecting_, &keys);
     statement.step();
     return keys;

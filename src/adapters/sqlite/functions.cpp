@@ -34,7 +34,7 @@ void giveText(sqlite3_context* context, const std::string& text) {
 }
 
 void keysStep(sqlite3_context* context, int, sqlite3_value** arguments) {
-    auto* keys = *static_cast<ado::KeySet**>(sqlite3_user_data(context));
+    auto* keys = *static_cast<ado::RowKeys**>(sqlite3_user_data(context));
     if (keys == nullptr) return sqlite3_result_error(context, "hx_keys is used by the provider alone", -1);
     guarded(context, [&] { keys->append(sqlite3_value_int64(arguments[0])); });
 }
@@ -71,7 +71,7 @@ int collate(void*, int lengthA, const void* textA, int lengthB, const void* text
 
 }  // namespace
 
-int registerFunctions(sqlite3* handle, ado::KeySet** target) {
+int registerFunctions(sqlite3* handle, ado::RowKeys** target) {
     constexpr int pure = SQLITE_UTF8 | SQLITE_DETERMINISTIC | SQLITE_INNOCUOUS;
     using Call = void (*)(sqlite3_context*, int, sqlite3_value**);
     struct Scalar {

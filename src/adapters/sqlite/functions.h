@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ado/key_set.h"
+#include "ado/row_keys.h"
 
 struct sqlite3;
 
@@ -16,6 +16,6 @@ inline constexpr const char* textCollation = "HXTEXT";
 /// one;
 /// - the collation HXTEXT; the operator MATCH: text like a pattern with the wildcards * and %, ignoring case.
 /// Returns SQLite's result code. `target` lives as long as the connection.
-[[nodiscard]] int registerFunctions(sqlite3* handle, ado::KeySet** target);
+[[nodiscard]] int registerFunctions(sqlite3* handle, ado::RowKeys** target);
 
 }  // namespace hx::sqlite

@@ -41,7 +41,7 @@ std::string QueryRowset::numbered(const std::string& what) const {
     return "SELECT " + what + " FROM (SELECT row_number() OVER () AS " + rowNumber + ", * FROM (" + sql_ + "))";
 }
 
-ado::KeySet QueryRowset::keys(const ado::Criterion* criterion) {
+ado::RowKeys QueryRowset::keys(const ado::Criterion* criterion) {
     BoundSql query;
     query.sql = numbered(rowNumber);
     if (criterion != nullptr) {
@@ -52,7 +52,7 @@ ado::KeySet QueryRowset::keys(const ado::Criterion* criterion) {
     for (std::size_t i = 0; i < query.parameters.size(); ++i) {
         statement.bind(static_cast<int>(i + 1), query.parameters[i]);
     }
-    ado::KeySet keys;
+    ado::RowKeys keys;
     while (statement.step()) keys.append(statement.key(0));
     keys.sort(false);
     return keys;

@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "ado/key_set.h"
+#include "ado/row_keys.h"
 #include "ado/types.h"
 #include "automation/variant.h"
 

@@ -75,12 +75,12 @@ BoundSql TableRowset::keysQuery(const ado::Criterion* criterion) const {
     return query;
 }
 
-ado::KeySet TableRowset::keys(const ado::Criterion* criterion) {
+ado::RowKeys TableRowset::keys(const ado::Criterion* criterion) {
     const BoundSql query = keysQuery(criterion);
     Statement& statement = writes_->database().prepared(query.sql);
     const ResetGuard guard(statement);
     bindAll(statement, query.parameters);
-    ado::KeySet keys;
+    ado::RowKeys keys;
     if (order() == Order::other) {
         while (statement.step()) keys.append(statement.key(0));
         return keys;

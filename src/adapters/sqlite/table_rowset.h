@@ -15,7 +15,7 @@ class TableRowset : public ado::Rowset {
     TableRowset(std::shared_ptr<Writes> writes, TableInfo table, const TableSelect& select);
 
     [[nodiscard]] const std::vector<ado::Column>& columns() const override { return columns_; }
-    [[nodiscard]] ado::KeySet keys(const ado::Criterion* criterion) override;
+    [[nodiscard]] ado::RowKeys keys(const ado::Criterion* criterion) override;
     void read(std::span<const ado::Key> keys, ado::ColumnMask mask, ado::RowSink& sink) override;
     ado::Key insert(std::span<const ado::ColumnValue> values) override;
     void insertAll(std::span<const std::size_t> columns, ado::RowSource& rows) override;

@@ -13,7 +13,7 @@ using Key = std::int64_t;
 
 /// The ordered keys of a rowset: four bytes a key while every key fits into 32 bits, eight otherwise. Grows
 /// without moving what it holds.
-class KeySet {
+class RowKeys {
   public:
     void append(Key key) {
         if (!fitsNarrow(key) || !wide_.empty()) return appendWide(key);

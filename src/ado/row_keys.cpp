@@ -1,11 +1,11 @@
-#include "ado/key_set.h"
+#include "ado/row_keys.h"
 
 #include <algorithm>
 #include <vector>
 
 namespace hx::ado {
 
-void KeySet::appendWide(Key key) {
+void RowKeys::appendWide(Key key) {
     if (wide_.empty()) {
         wide_.assign(narrow_.begin(), narrow_.end());
         std::deque<std::int32_t>().swap(narrow_);
@@ -15,7 +15,7 @@ void KeySet::appendWide(Key key) {
     wide_.push_back(key);
 }
 
-void KeySet::erase(std::size_t position) {
+void RowKeys::erase(std::size_t position) {
     const auto offset = static_cast<std::ptrdiff_t>(position);
     if (wide_.empty()) {
         narrow_.erase(narrow_.begin() + offset);
@@ -58,21 +58,21 @@ void sortKeys(Keys& keys, bool ascending, bool descending) {
 
 }  // namespace
 
-void KeySet::sort(bool descending) {
+void RowKeys::sort(bool descending) {
     sortKeys(narrow_, ascending_, descending);
     sortKeys(wide_, ascending_, descending);
     ascending_ = !descending || size() < 2;
     if (!empty()) last_ = (*this)[size() - 1];
 }
 
-std::size_t KeySet::lowerBound(Key key) const {
+std::size_t RowKeys::lowerBound(Key key) const {
     const auto below = [&](const auto& keys) {
         return static_cast<std::size_t>(std::lower_bound(keys.begin(), keys.end(), key) - keys.begin());
     };
     return wide_.empty() ? below(narrow_) : below(wide_);
 }
 
-std::optional<std::size_t> KeySet::find(Key key, std::size_t hint) const {
+std::optional<std::size_t> RowKeys::find(Key key, std::size_t hint) const {
     if (ascending_) {
         const std::size_t position = lowerBound(key);
         if (position < size() && (*this)[position] == key) return position;

@@ -1,4 +1,4 @@
-#include "ado/key_set.h"
+#include "ado/row_keys.h"
 
 #include <gtest/gtest.h>
 #include <vector>
@@ -7,14 +7,14 @@ namespace hx::ado {
 
 namespace {
 
-KeySet keysOf(std::initializer_list<Key> keys) {
-    KeySet set;
+RowKeys keysOf(std::initializer_list<Key> keys) {
+    RowKeys set;
     for (const Key key : keys) set.append(key);
     return set;
 }
 
-TEST(KeySet, KeepsTheOrderInWhichKeysWereAppended) {
-    const KeySet keys = keysOf({7, 3, 9});
+TEST(RowKeys, KeepsTheOrderInWhichKeysWereAppended) {
+    const RowKeys keys = keysOf({7, 3, 9});
     ASSERT_EQ(keys.size(), 3U);
     EXPECT_EQ(keys[0], 7);
     EXPECT_EQ(keys[1], 3);
@@ -22,8 +22,8 @@ TEST(KeySet, KeepsTheOrderInWhichKeysWereAppended) {
     EXPECT_FALSE(keys.ascending());
 }
 
-TEST(KeySet, FindsAKeyAmongAscendingOnes) {
-    KeySet keys;
+TEST(RowKeys, FindsAKeyAmongAscendingOnes) {
+    RowKeys keys;
     for (Key key = 10; key < 3000; key += 10) keys.append(key);
     EXPECT_TRUE(keys.ascending());
     EXPECT_EQ(keys.find(1500), 149U);
@@ -31,8 +31,8 @@ TEST(KeySet, FindsAKeyAmongAscendingOnes) {
     EXPECT_EQ(keys.find(5000), std::nullopt);
 }
 
-TEST(KeySet, FindsAKeyAmongUnorderedOnesFromAnyHint) {
-    const KeySet keys = keysOf({5, 1, 4, 2, 3});
+TEST(RowKeys, FindsAKeyAmongUnorderedOnesFromAnyHint) {
+    const RowKeys keys = keysOf({5, 1, 4, 2, 3});
     for (std::size_t hint = 0; hint < 8; ++hint) {
         EXPECT_EQ(keys.find(5, hint), 0U) << hint;
         EXPECT_EQ(keys.find(2, hint), 3U) << hint;
@@ -41,9 +41,9 @@ TEST(KeySet, FindsAKeyAmongUnorderedOnesFromAnyHint) {
     }
 }
 
-TEST(KeySet, SortsKeysThatLieCloseAndKeysThatLieFarApart) {
+TEST(RowKeys, SortsKeysThatLieCloseAndKeysThatLieFarApart) {
     for (const Key factor : {Key{1}, Key{1000}, Key{1} << 33}) {
-        KeySet keys;
+        RowKeys keys;
         for (const Key key : {5, -3, 9, 0, 7, 12, -8}) keys.append(key * factor);
         keys.sort(false);
         const std::vector<Key> sorted = {-8, -3, 0, 5, 7, 9, 12};
@@ -54,13 +54,13 @@ TEST(KeySet, SortsKeysThatLieCloseAndKeysThatLieFarApart) {
     }
 }
 
-TEST(KeySet, FindsNothingWhenEmpty) {
-    EXPECT_TRUE(KeySet().empty());
-    EXPECT_EQ(KeySet().find(1), std::nullopt);
+TEST(RowKeys, FindsNothingWhenEmpty) {
+    EXPECT_TRUE(RowKeys().empty());
+    EXPECT_EQ(RowKeys().find(1), std::nullopt);
 }
 
-TEST(KeySet, WidensWhenAKeyDoesNotFitInto32Bits) {
-    KeySet keys = keysOf({1, 2});
+TEST(RowKeys, WidensWhenAKeyDoesNotFitInto32Bits) {
+    RowKeys keys = keysOf({1, 2});
     keys.append(Key{1} << 40);
     keys.append(5);
     ASSERT_EQ(keys.size(), 4U);
@@ -71,8 +71,8 @@ TEST(KeySet, WidensWhenAKeyDoesNotFitInto32Bits) {
     EXPECT_FALSE(keys.ascending());
 }
 
-TEST(KeySet, ErasesByPosition) {
-    KeySet keys = keysOf({1, 2, 3, 4});
+TEST(RowKeys, ErasesByPosition) {
+    RowKeys keys = keysOf({1, 2, 3, 4});
     keys.erase(1);
     ASSERT_EQ(keys.size(), 3U);
     EXPECT_EQ(keys[1], 3);
