@@ -25,31 +25,23 @@ void visitAll(const CInitItems& items, const Use& use) {
     for (const auto& item : top) visitLeaves(item->Name, *item, use);
 }
 
-// The collection that the last name of `path` stands in, and that name. Empty names are left out on the way. Null when
-// a name on the way is missing.
-std::pair<CInitItems*, std::string> ownerOf(CInitItems& root, std::string_view path) {
-    std::vector<std::string> names = automation::split(path, '.');
-    std::string last = std::move(names.back());
-    names.pop_back();
-    CInitItems* items = &root;
-    for (const std::string& name : names) {
-        if (name.empty()) continue;
-        CInitItem* const item = items->Item(std::string_view(name));
-        if (item == nullptr) return {nullptr, std::move(last)};
-        items = item->itms.get();
-    }
-    return {items, std::move(last)};
-}
+enum class EmptyNames { leftOut, kept };
 
-// The entry of a path, empty names left out; null when there is none.
-const CInitItem* itemOf(const CInitItems& root, std::string_view path) {
-    const CInitItem* item = nullptr;
+/// What a path leads to: an entry (none at the root), and the collection below it. Nothing when a name is missing.
+struct Place {
+    CInitItem* item = nullptr;
+    CInitItems* items = nullptr;
+};
+
+Place follow(CInitItems& root, std::string_view path, EmptyNames empty) {
+    Place place{nullptr, &root};
     for (const std::string& name : automation::split(path, '.')) {
-        if (name.empty()) continue;
-        item = (item == nullptr ? root : *item->itms).Item(std::string_view(name));
-        if (item == nullptr) return nullptr;
+        if (name.empty() && empty == EmptyNames::leftOut) continue;
+        place.item = place.items->Item(std::string_view(name));
+        if (place.item == nullptr) return {};
+        place.items = place.item->itms.get();
     }
-    return item;
+    return place;
 }
 
 // The path of a control's entries: "chkA", or "optA(1)" in a control array.
@@ -158,34 +150,26 @@ void CInit::WriteAValueToCInits(const std::string& entry, const Variant& value) 
 }
 
 Variant CInit::ReadAValueFromCInits(const std::string& entry, const Variant& fallback) const {
-    const CInitItem* const item = itemOf(*root_, entry);
+    const CInitItem* const item = follow(*root_, entry, EmptyNames::leftOut).item;
     return item != nullptr ? item->val : fallback;
 }
 
 void CInit::DeleteAValueInCInits(const std::string& entry) {
-    const auto [items, name] = ownerOf(*root_, entry);
-    if (items != nullptr) items->Delete(Variant(name));
+    const auto last = entry.rfind('.') + 1;  // the whole entry, where there is none
+    CInitItems* const items = follow(*root_, std::string_view(entry).substr(0, last), EmptyNames::leftOut).items;
+    if (items != nullptr) items->Delete(Variant(entry.substr(last)));
 }
 
 bool CInit::ParamExist(const std::string& entry) const {
     const bool named = entry.find_first_not_of('.') != std::string::npos;
-    return !named || itemOf(*root_, entry) != nullptr;
+    return !named || follow(*root_, entry, EmptyNames::leftOut).item != nullptr;
 }
 
 void CInit::WriteToIni(const std::string& entry, const std::string& value) {
     iniFile_.write(section_, entry, value, path_);
 }
 
-CInitItem* CInit::FindItem(std::string_view path) const {
-    CInitItems* items = root_.get();
-    CInitItem* item = nullptr;
-    for (const std::string& name : automation::split(path, '.')) {
-        item = items->Item(std::string_view(name));
-        if (item == nullptr) return nullptr;
-        items = item->itms.get();
-    }
-    return item;
-}
+CInitItem* CInit::FindItem(std::string_view path) const { return follow(*root_, path, EmptyNames::kept).item; }
 
 automation::Dispatch& CInit::window() const {
     if (Motherobject == nullptr) throw Error(errNoObject, "Motherobject is not set");
