@@ -2,29 +2,22 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <limits>
+#include <utility>
 
 #include "adapters/sqlite/project_file.h"
-#include "automation/text.h"
+#include "host/project_file.h"
 
 namespace hx::cli {
 
 namespace {
 
-constexpr std::string_view extension = ".hxs";
-constexpr std::int32_t allLevels = std::numeric_limits<std::int32_t>::max();
 constexpr const char* languageValue = "LCID";
 constexpr std::int32_t german = 1031;
 
 using automation::Error;
 
-bool isProjectFile(const std::string& path) {
-    return automation::equalIgnoreCase(std::filesystem::path(path).extension().string(), extension);
-}
-
-// The connection string puts the path between other values, with nothing around it.
 void requireNameable(const std::string& path) {
-    if (path.find_first_of(";\"") == std::string::npos) return;
+    if (host::isNameable(path)) return;
     throw Error(automation::errFail, "The path '" + path + "' holds a semicolon or a quotation mark");
 }
 
@@ -48,7 +41,7 @@ MacroStudio::MacroStudio(const MacroStudioOptions& options)
       keepsRegistry_(!options.config.empty() && !options.trusted),
       provider_([this] { return sqlite::OpenOptions{.language = language()}; }),
       macroProvider_(
-          provider_, [this] { return file_; }, [this] { return &files_; }),
+          provider_, [this] { return file(); }, [this] { return &files_; }),
       folderIniFile_(iniFile_, files_),
       registry_(makeRegistry(options.config)),
       projectRegistry_(*registry_) {
@@ -68,7 +61,7 @@ std::string MacroStudio::pathOf(const std::string& path) const {
 }
 
 void MacroStudio::newProject(const std::string& path) {
-    const std::string file = isProjectFile(path) ? path : path + std::string(extension);
+    const std::string file = host::isProjectFile(path) ? path : path + std::string(host::projectExtension);
     requireNameable(file);
     sqlite::createProject(file);
     openProject(file);
@@ -80,48 +73,23 @@ void MacroStudio::openProject(const std::string& path) {
     }
     requireNameable(path);
     closeProject();
-    const std::filesystem::path file(path);
-    const std::string name = file.stem().string();
     host_->screen.setLanguage(language());
-    projectRegistry_.open(name, file.parent_path().string());
-    file_ = path;
-    host_->explorer.setProject(name);
-    startAddIn(name);
-}
-
-std::string MacroStudio::fileOf(const std::string& name) const {
-    if (isProjectFile(name)) return pathOf(name);
-    const std::string folder = projectRegistry_.folderOf(name);
-    if (folder.empty()) throw Error(automation::errFail, "No project '" + name + "' is known");
-    return pathOf((std::filesystem::path(folder) / (name + std::string(extension))).string());
-}
-
-// By its name the add-in finds a project in the registry, always with a small extension; else by its file. A name that
-// looks like a file would be taken for one.
-void MacroStudio::startAddIn(const std::string& name) {
+    project_.emplace(path, projectRegistry_);
+    host_->explorer.setProject(project_->name());
     addIn_ = std::make_shared<addin::Connect>(host_->services());
-    const bool byName = file_.ends_with(extension) && !isProjectFile(std::string(automation::trim(name)));
-    addIn_->Initialize(byName ? name : file_, {}, &host_->explorer, nullptr);
-    addIn_->StartupComplete();
+    project_->start(addIn_, host_->explorer);
 }
 
 void MacroStudio::closeProject() {
-    if (!addIn_) return;
+    if (!project_) return;
     (void)editorWindow();
-    addIn_->Terminate();
-    formerAddIns_.push_back(std::move(addIn_));
-    addIn_.reset();
+    project_->end();
+    formerAddIns_.push_back(std::exchange(addIn_, nullptr));
     host_->explorer.setProject({});
-    projectRegistry_.close();
-    file_.clear();
+    project_.reset();
 }
 
-std::vector<macros::Node> MacroStudio::nodes() {
-    const hosting::NodeTree& tree = host_->explorer.tree();
-    std::vector<macros::Node> list;
-    for (const std::string& key : host_->explorer.childKeys("", allLevels)) list.push_back(macros::nodeOf(tree, key));
-    return list;
-}
+std::vector<macros::Node> MacroStudio::nodes() { return macros::nodesBelow(host_->explorer.tree(), {}); }
 
 automation::ObjectRef MacroStudio::editorWindow() {
     const auto window = addIn_ ? addIn_->editorWindow() : nullptr;

@@ -9,7 +9,7 @@
 #include "adapters/sqlite/provider.h"
 #include "addin/connect.h"
 #include "hosting/ini_text_file.h"
-#include "hosting/project_registry.h"
+#include "hosting/open_project.h"
 #include "hosting/registry_file.h"
 #include "macros/folder_ini_file.h"
 #include "macros/macro_provider.h"
@@ -35,11 +35,10 @@ class MacroStudio : public macros::Studio {
     MacroStudio& operator=(const MacroStudio&) = delete;
 
     [[nodiscard]] std::string pathOf(const std::string& path) const override;
-    [[nodiscard]] std::string fileOf(const std::string& pathOrName) const override;
     void newProject(const std::string& path) override;
     void openProject(const std::string& file) override;
     void closeProject() override;
-    [[nodiscard]] std::string file() const override { return file_; }
+    [[nodiscard]] std::string file() const override { return project_ ? project_->file() : std::string(); }
     [[nodiscard]] std::shared_ptr<host::CHX4Extensibility> addIn() const override { return addIn_; }
     [[nodiscard]] automation::ObjectRef editorWindow() override;
 
@@ -49,15 +48,14 @@ class MacroStudio : public macros::Studio {
     void select(const std::string& key) override { host_->explorer.select(key); }
     void showExpanded(const std::string&) override {}
 
-    [[nodiscard]] host::Registry& registry() override { return projectRegistry_; }
+    [[nodiscard]] hosting::ProjectRegistry& registry() override { return projectRegistry_; }
     [[nodiscard]] bool keepsRegistry() const override { return keepsRegistry_; }
-    [[nodiscard]] headless::Script& script() override { return host_->script; }
-    [[nodiscard]] headless::Record& record() override { return host_->record; }
-    [[nodiscard]] headless::Components& components() override { return host_->components; }
+    [[nodiscard]] forms::Script& script() override { return host_->script; }
+    [[nodiscard]] forms::Record& record() override { return host_->record; }
+    [[nodiscard]] hosting::Components& components() override { return host_->components; }
 
   private:
     [[nodiscard]] automation::Language language() const;
-    void startAddIn(const std::string& name);
 
     lua::MacroFiles files_;
     bool keepsRegistry_;
@@ -68,8 +66,8 @@ class MacroStudio : public macros::Studio {
     std::unique_ptr<host::Registry> registry_;
     hosting::ProjectRegistry projectRegistry_;
     std::unique_ptr<headless::Host> host_;
-    std::string file_;
-    std::shared_ptr<addin::Connect> addIn_;
+    std::optional<hosting::OpenProject> project_;
+    std::shared_ptr<addin::Connect> addIn_;  ///< the project's
     std::vector<std::shared_ptr<addin::Connect>> formerAddIns_;
     std::vector<std::shared_ptr<editor::frmtabgrid>> windows_;
 };

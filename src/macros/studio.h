@@ -4,12 +4,13 @@
 #include <string>
 #include <vector>
 
-#include "adapters/headless/components.h"
-#include "adapters/headless/record.h"
-#include "adapters/headless/script.h"
+#include "forms/record.h"
+#include "forms/script.h"
 #include "host/extensibility.h"
 #include "host/system_services.h"
+#include "hosting/components.h"
 #include "hosting/node_tree.h"
+#include "hosting/project_registry.h"
 
 namespace hx::macros {
 
@@ -17,8 +18,8 @@ namespace hx::macros {
 struct Node {
     std::string key, parent, caption, image, tag;
 };
-/// The node of a key in a tree that has it.
-[[nodiscard]] Node nodeOf(const hosting::NodeTree& tree, const std::string& key);
+/// The nodes below one of a tree, in tree order; those right below it have no parent.
+[[nodiscard]] std::vector<Node> nodesBelow(const hosting::NodeTree& tree, std::string_view top);
 
 /// The studio that a macro works on: a real one or one without a screen. All failures are automation::Error. What a
 /// macro still holds of a closed project must stay safe to use while the macro runs.
@@ -30,7 +31,7 @@ class Studio {
     [[nodiscard]] virtual std::string pathOf(const std::string& path) const = 0;
     /// The file of a project: the one that is named, when it ends in ".hxs", or that of the project which the registry
     /// knows by this name.
-    [[nodiscard]] virtual std::string fileOf(const std::string& pathOrName) const = 0;
+    [[nodiscard]] std::string fileOf(const std::string& pathOrName);
     /// Makes an empty project and opens it; ".hxs" is added when it is missing. The path must not be taken.
     virtual void newProject(const std::string& path) = 0;
     /// Closes the one that is open.
@@ -53,13 +54,13 @@ class Studio {
     /// Shows the nodes below a node, without an event.
     virtual void showExpanded(const std::string& key) = 0;
 
-    [[nodiscard]] virtual host::Registry& registry() = 0;
+    [[nodiscard]] virtual hosting::ProjectRegistry& registry() = 0;
     /// Whether what a macro sets in it would stay when it has ended, and it is not trusted to do that.
     [[nodiscard]] virtual bool keepsRegistry() const = 0;
     /// The answers, what happened, and the components that the macro puts in.
-    [[nodiscard]] virtual headless::Script& script() = 0;
-    [[nodiscard]] virtual headless::Record& record() = 0;
-    [[nodiscard]] virtual headless::Components& components() = 0;
+    [[nodiscard]] virtual forms::Script& script() = 0;
+    [[nodiscard]] virtual forms::Record& record() = 0;
+    [[nodiscard]] virtual hosting::Components& components() = 0;
 
     /// Both throw errFail while no project is open.
     [[nodiscard]] std::string requireFile() const;

@@ -14,6 +14,7 @@
 #include "adapters/qt/svg_icon.h"
 #include "adapters/qt/text.h"
 #include "adapters/sqlite/project_file.h"
+#include "host/project_file.h"
 #include "resources/help.h"
 #include "studio/icons.h"
 #include "studio/options.h"
@@ -27,11 +28,9 @@ constexpr QSize frameRoom(32, 64);  // what a frame takes at most; it is not the
 constexpr int explorerWidth = 280;
 constexpr int messageTime = 8000;
 const QString title = QStringLiteral("HelvixStudio");
-const QString extension = QStringLiteral(".hxs");
 constexpr std::string_view languageValue = "LCID";
 
-// The connection string puts the path between other values, with nothing around it.
-bool canBeNamed(const QString& path) { return !path.contains(';') && !path.contains('"'); }
+bool isProjectFile(const QString& path) { return host::isProjectFile(qt::fromQt(path)); }
 
 }  // namespace
 
@@ -135,10 +134,10 @@ void MainWindow::open(const QString& path) {
         tellUnlessListed(preferences_.removeRecent(path));
         fail(Text::fileMissing, file.absoluteFilePath());
     }
-    if (!file.fileName().endsWith(extension, Qt::CaseInsensitive)) {
+    if (!isProjectFile(file.fileName())) {
         fail(Text::notProjectName, file.absoluteFilePath());
     }
-    if (!canBeNamed(file.absoluteFilePath())) fail(Text::notProjectPath, file.absoluteFilePath());
+    if (!host::isNameable(qt::fromQt(file.absoluteFilePath()))) fail(Text::notProjectPath, file.absoluteFilePath());
     closeProject();
     try {
         project_ = std::make_unique<Project>(path, host_, explorer_);
@@ -198,9 +197,9 @@ void MainWindow::closeProject() {
 bool MainWindow::createProject(const QString& path) { return reported(&MainWindow::create, path); }
 
 void MainWindow::create(const QString& path) {
-    const QString file = path.endsWith(extension, Qt::CaseInsensitive) ? path : path + extension;
+    const QString file = isProjectFile(path) ? path : path + qt::toQt(host::projectExtension);
     if (QFileInfo::exists(file)) fail(Text::fileExists, file);
-    if (!canBeNamed(QFileInfo(file).absoluteFilePath())) fail(Text::notProjectPath, file);
+    if (!host::isNameable(qt::fromQt(QFileInfo(file).absoluteFilePath()))) fail(Text::notProjectPath, file);
     try {
         sqlite::createProject(qt::fromQt(file));
     } catch (const automation::Error& error) {
@@ -221,7 +220,7 @@ void MainWindow::newProject() {
     dialog.setObjectName(QStringLiteral("newProjectDialog"));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setOption(QFileDialog::DontConfirmOverwrite);  // an existing file is never overwritten
-    dialog.setDefaultSuffix(extension.mid(1));
+    dialog.setDefaultSuffix(qt::toQt(host::projectExtension.substr(1)));
     if (dialog.exec() == QDialog::Accepted) createProject(dialog.selectedFiles().constFirst());
 }
 

@@ -13,44 +13,35 @@ namespace hx::studio {
 namespace {
 
 constexpr std::string_view addInClass = "HXRecipeEditor.Connect";
-const QString extension = QStringLiteral(".hxs");
 
 }  // namespace
 
 Project::Project(const QString& file, StudioHost& host, qt::QtExplorer& explorer)
     : file_(QFileInfo(file).absoluteFilePath()),
-      name_(QFileInfo(file).completeBaseName()),
       host_(host),
-      explorer_(explorer) {
-    host_.registry().open(qt::fromQt(name_), qt::fromQt(QFileInfo(file_).absolutePath()));
+      explorer_(explorer),
+      open_(qt::fromQt(file_), host.registry()) {
     host_.setProjectFile(file_);
-    explorer_.openProject(qt::fromQt(name_), qt::svgIcon(icons::project));
+    explorer_.openProject(open_.name(), qt::svgIcon(icons::project));
 }
 
 Project::~Project() {
     host_.screen().settle();
-    if (addIn_) addIn_->Terminate();
+    open_.end();
     explorer_.closeProject();
-    addIn_.reset();
     host_.setProjectFile({});
-    host_.registry().close();
 }
 
 void Project::startAddIn() {
     const auto object = host_.components().create(addInClass);
-    addIn_ = std::dynamic_pointer_cast<host::CHX4Extensibility>(object);
-    if (!addIn_) {
+    auto addIn = std::dynamic_pointer_cast<host::CHX4Extensibility>(object);
+    if (!addIn) {
         throw automation::Error(automation::errFail, qt::fromQt(studioText(Text::addInWrong, host_.wording())));
     }
     // The add-in hands its pictures over by the clipboard, where the user may have something else.
     const ClipboardKeeper clipboard;
-    // By its name the add-in finds a project in the registry, always with a small extension; else by its file.
-    // A name that looks like a file would be taken for one.
-    const bool looksLikeFile = name_.trimmed().endsWith(extension, Qt::CaseInsensitive);
-    const QString& known = file_.endsWith(extension) && !looksLikeFile ? name_ : file_;
-    explorer_.setAddIn(addIn_.get());
-    addIn_->Initialize(qt::fromQt(known), {}, &explorer_, nullptr);
-    addIn_->StartupComplete();
+    explorer_.setAddIn(addIn.get());
+    open_.start(std::move(addIn), explorer_);
 }
 
 }  // namespace hx::studio

@@ -4,7 +4,8 @@
 #include <memory>
 
 #include "adapters/qt/explorer/qt_explorer.h"
-#include "host/extensibility.h"
+#include "adapters/qt/text.h"
+#include "hosting/open_project.h"
 #include "studio/studio_host.h"
 
 namespace hx::studio {
@@ -23,14 +24,14 @@ class Project {
     /// Creates the add-in and starts it. Throws automation::Error when it cannot be loaded; the project stays open.
     void startAddIn();
     [[nodiscard]] const QString& file() const noexcept { return file_; }
-    [[nodiscard]] const QString& name() const noexcept { return name_; }
-    [[nodiscard]] const std::shared_ptr<host::CHX4Extensibility>& addIn() const noexcept { return addIn_; }
+    [[nodiscard]] QString name() const { return qt::toQt(open_.name()); }
+    [[nodiscard]] const std::shared_ptr<host::CHX4Extensibility>& addIn() const noexcept { return open_.addIn(); }
 
   private:
-    QString file_, name_;
+    QString file_;
     StudioHost& host_;
     qt::QtExplorer& explorer_;
-    std::shared_ptr<host::CHX4Extensibility> addIn_;
+    hosting::OpenProject open_;
 };
 
 }  // namespace hx::studio

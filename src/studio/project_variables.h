@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "adapters/qt/choosers/variable_source.h"
+#include "adapters/qt/variable_source.h"
 #include "adapters/sqlite/provider.h"
 
 namespace hx::studio {

@@ -4,11 +4,11 @@
 #include <QStringList>
 #include <filesystem>
 
-#include "adapters/qt/choosers/qt_item_selection.h"
-#include "adapters/qt/choosers/qt_path_selection.h"
 #include "adapters/qt/help/qt_help_viewer.h"
 #include "adapters/qt/module_components.h"
 #include "adapters/qt/screen/qt_clipboard.h"
+#include "adapters/qt/screen/qt_item_selection.h"
+#include "adapters/qt/screen/qt_path_selection.h"
 #include "adapters/qt/screen/qt_screen.h"
 #include "adapters/qt/screen/qt_windows.h"
 #include "adapters/qt/wording.h"

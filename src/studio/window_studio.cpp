@@ -2,7 +2,6 @@
 
 #include <QDir>
 #include <algorithm>
-#include <limits>
 
 #include "adapters/qt/text.h"
 
@@ -11,8 +10,6 @@ namespace hx::studio {
 namespace {
 
 constexpr std::string_view editorClass = "frmtabgrid";
-constexpr std::int32_t allLevels = std::numeric_limits<std::int32_t>::max();
-const QString extension = QStringLiteral(".hxs");
 
 }  // namespace
 
@@ -29,13 +26,6 @@ void WindowStudio::newProject(const std::string& path) {
 void WindowStudio::openProject(const std::string& file) {
     keepOpened();
     window_.open(qt::toQt(file));
-}
-
-std::string WindowStudio::fileOf(const std::string& name) const {
-    if (qt::toQt(name).endsWith(extension, Qt::CaseInsensitive)) return pathOf(name);
-    const std::string folder = host_.registry().folderOf(name);
-    if (folder.empty()) throw automation::Error(automation::errFail, "No project '" + name + "' is known");
-    return qt::fromQt(QDir(qt::toQt(folder)).absoluteFilePath(qt::toQt(name) + extension));
 }
 
 void WindowStudio::closeProject() {
@@ -68,13 +58,7 @@ automation::ObjectRef WindowStudio::editorWindow() {
 
 // The project's own node is the studio's, not the add-in's.
 std::vector<macros::Node> WindowStudio::nodes() {
-    const hosting::NodeTree& tree = explorer_.model().nodes();
-    std::vector<macros::Node> list;
-    for (const std::string& key : tree.childKeys(qt::QtExplorer::projectKey, allLevels)) {
-        list.push_back(macros::nodeOf(tree, key));
-        if (list.back().parent == qt::QtExplorer::projectKey) list.back().parent.clear();
-    }
-    return list;
+    return macros::nodesBelow(explorer_.model().nodes(), qt::QtExplorer::projectKey);
 }
 
 }  // namespace hx::studio

@@ -19,7 +19,6 @@ class WindowStudio : public macros::Studio {
         : window_(window), host_(host), explorer_(explorer) {}
 
     [[nodiscard]] std::string pathOf(const std::string& path) const override;
-    [[nodiscard]] std::string fileOf(const std::string& pathOrName) const override;
     void newProject(const std::string& path) override;
     void openProject(const std::string& file) override;
     void closeProject() override;
@@ -33,11 +32,11 @@ class WindowStudio : public macros::Studio {
     void select(const std::string& key) override { explorer_.select(key); }
     void showExpanded(const std::string& key) override { explorer_.showExpanded(key); }
 
-    [[nodiscard]] host::Registry& registry() override { return host_.registry(); }
+    [[nodiscard]] hosting::ProjectRegistry& registry() override { return host_.registry(); }
     [[nodiscard]] bool keepsRegistry() const override { return true; }
-    [[nodiscard]] headless::Script& script() override { return host_.attendance().script; }
-    [[nodiscard]] headless::Record& record() override { return host_.attendance().record; }
-    [[nodiscard]] headless::Components& components() override { return host_.attendance().components; }
+    [[nodiscard]] forms::Script& script() override { return host_.attendance().script; }
+    [[nodiscard]] forms::Record& record() override { return host_.attendance().record; }
+    [[nodiscard]] hosting::Components& components() override { return host_.attendance().components; }
 
   private:
     void keepOpened();

@@ -4,6 +4,7 @@
 
 #include "automation/error.h"
 #include "automation/text.h"
+#include "host/project_file.h"
 #include "hosting/file_bytes.h"
 
 namespace hx::lua {
@@ -12,7 +13,6 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr std::string_view projectExtension = ".hxs";
 // What the files of the database begin with: a project, and the journal of one.
 constexpr std::string_view databaseMark = "SQLite format 3", journalMark = "\xD9\xD5\x05\xF9\x20\xA1\x63\xD7";
 
@@ -27,7 +27,7 @@ bool isBelow(const fs::path& file, const fs::path& folder) {
 
 bool isNamedAsProject(const fs::path& file) {
     const std::string extension = file.extension().string();
-    return automation::equalIgnoreCase(extension.substr(0, extension.find('-')), projectExtension);
+    return automation::equalIgnoreCase(extension.substr(0, extension.find('-')), host::projectExtension);
 }
 
 // A hard link gives a project another name.
