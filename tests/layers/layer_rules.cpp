@@ -12,7 +12,7 @@
 namespace hx::layers {
 namespace {
 
-constexpr int maximumLines = 400;
+constexpr int usualLines = 400;
 
 // What a folder may be made of: the standard library alone, or anything that is installed.
 enum class Ground { StandardLibrary, Anything };
@@ -25,6 +25,7 @@ struct Layer {
 };
 
 // What a host is made of stands above the editor's folders, so that none of them sees it.
+constexpr std::string_view toolkit = "adapters/qt";
 constexpr std::size_t hostingLevel = 10;
 constexpr std::size_t adapterLevel = 11;
 constexpr std::size_t macroLevel = 12;
@@ -49,6 +50,22 @@ constexpr auto layers = std::to_array<Layer>({
     {"report/", Ground::Anything, macroLevel},
     {"studio", Ground::Anything, programLevel},
     {"cli", Ground::Anything, programLevel, "adapters/qt"},
+});
+
+/// A room of the adapter for the toolkit sees those of the levels below its own, and itself.
+struct Room {
+    std::string_view name;
+    int level;
+};
+
+constexpr auto rooms = std::to_array<Room>({
+    {"", 0},  // what lies in no room
+    {"controls", 1},
+    {"grid", 2},
+    {"choosers", 2},
+    {"screen", 3},
+    {"explorer", 4},
+    {"help", 4},
 });
 
 /// The files that speak to the operating system, one for each; their headers name nothing of it.
@@ -168,6 +185,23 @@ std::string_view folderOf(std::string_view path) {
     return name;
 }
 
+/// The room that a path of the adapter for the toolkit lies in; null for one that has no place.
+const Room* roomOf(std::string_view path) {
+    path.remove_prefix(toolkit.size() + 1);
+    const auto name = path.substr(0, path.find('/') == path.npos ? 0 : path.find('/'));
+    const auto found = std::ranges::find(rooms, name, &Room::name);
+    return found == rooms.end() ? nullptr : &*found;
+}
+
+/// Why a file of the adapter for the toolkit may not include another of it, empty when it may.
+std::string objectionOfRooms(std::string_view path, std::string_view include) {
+    const Room* from = roomOf(path);
+    const Room* to = roomOf(include);
+    if (from == nullptr || to == nullptr) return "this room has no place among the others";
+    if (from == to || to->level < from->level) return {};
+    return std::string(from->name.empty() ? toolkit : from->name) + " may not include " + std::string(to->name);
+}
+
 std::optional<Layer> layerOf(std::string_view folder) {
     const auto found = std::ranges::find_if(layers, [&](const Layer& layer) {
         return layer.folder.ends_with('/') ? folder.starts_with(layer.folder) : folder == layer.folder;
@@ -177,10 +211,11 @@ std::optional<Layer> layerOf(std::string_view folder) {
 }
 
 /// Why a file of `folder` may not include `include`, empty when it may.
-std::string objection(std::string_view folder, const Layer& layer, const Include& include) {
+std::string objection(std::string_view path, std::string_view folder, const Layer& layer, const Include& include) {
     const auto target = folderOf(include.name);
     const auto targetLayer = layerOf(target);
     if (targetLayer) {
+        if (target == toolkit && folder == toolkit) return objectionOfRooms(path, include.name);
         if (target == folder || (targetLayer->level < layer.level && target != layer.unseen)) return {};
         return std::string(folder) + " may not include " + std::string(target);
     }
@@ -253,7 +288,7 @@ std::vector<Finding> wrongIncludes(std::string_view path, std::string_view text)
     if (std::ranges::find(systemFiles, path) != systemFiles.end()) layer->ground = Ground::Anything;
     std::vector<Finding> findings;
     for (const auto& include : includesOf(text)) {
-        const auto why = objection(folder, *layer, include);
+        const auto why = objection(path, folder, *layer, include);
         if (why.empty()) continue;
         findings.push_back(findingAt(path, include.line, "includes " + include.name + ": " + why));
     }
@@ -262,9 +297,9 @@ std::vector<Finding> wrongIncludes(std::string_view path, std::string_view text)
 
 std::vector<Finding> tooManyLines(std::string_view path, std::string_view text) {
     const int lines = lineCount(text);
-    if (lines <= maximumLines) return {};
-    return {findingAt(path, maximumLines + 1,
-                      std::to_string(lines) + " lines, " + std::to_string(maximumLines) + " are allowed")};
+    if (lines <= usualLines || text.find("\n// Long: ") != text.npos) return {};
+    return {findingAt(path, usualLines + 1,
+                      std::to_string(lines) + " lines: split it, or say behind \"// Long: \" why it is one concept")};
 }
 
 }  // namespace hx::layers

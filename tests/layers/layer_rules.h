@@ -13,7 +13,8 @@ using Finding = std::string;
 /// `path` is the file's path below src/ with "/" as separator, `text` its content.
 std::vector<Finding> wrongIncludes(std::string_view path, std::string_view text);
 
-/// One finding when the file has more than 400 lines, else none.
+/// One finding when the file has more than 400 lines and nobody has had a second look at it: it then holds one concept
+/// all the same, and says so by a line "// Long: " and why. Else none.
 std::vector<Finding> tooManyLines(std::string_view path, std::string_view text);
 
 /// The places of a file of the windows that may show a text of the user's as HTML: a QLabel that is no PlainLabel, a

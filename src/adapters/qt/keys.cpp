@@ -1,78 +1,60 @@
 #include "adapters/qt/keys.h"
 
 #include <array>
-#include <utility>
-
-#include "adapters/qt/text.h"
 
 namespace hx::qt {
 
 namespace {
 
-struct NamedKey {
+struct CodedKey {
     Qt::Key qt;
     std::int16_t code;
-    const char* name;
 };
 
-constexpr auto namedKeys = std::to_array<NamedKey>({
-    {Qt::Key_Backspace, 8, "BACKSPACE"},
-    {Qt::Key_Tab, 9, "TAB"},
-    {Qt::Key_Backtab, 9, ""},
-    {Qt::Key_Return, 13, "ENTER"},
-    {Qt::Key_Enter, 13, ""},
-    {Qt::Key_Shift, 16, ""},
-    {Qt::Key_Control, 17, ""},
-    {Qt::Key_Alt, 18, ""},
-    {Qt::Key_Escape, 27, "ESC"},
-    {Qt::Key_Space, 32, ""},
-    {Qt::Key_PageUp, 33, "PGUP"},
-    {Qt::Key_PageDown, 34, "PGDN"},
-    {Qt::Key_End, 35, "END"},
-    {Qt::Key_Home, 36, "HOME"},
-    {Qt::Key_Left, 37, "LEFT"},
-    {Qt::Key_Up, 38, "UP"},
-    {Qt::Key_Right, 39, "RIGHT"},
-    {Qt::Key_Down, 40, "DOWN"},
-    {Qt::Key_Insert, 45, "INSERT"},
-    {Qt::Key_Delete, 46, "DELETE"},
-    {Qt::Key_Menu, 93, ""},
+// Of two keys with the same code the first is the one that is sent.
+constexpr auto codedKeys = std::to_array<CodedKey>({
+    {Qt::Key_Backspace, forms::key::backspace},
+    {Qt::Key_Tab, forms::key::tab},
+    {Qt::Key_Backtab, forms::key::tab},
+    {Qt::Key_Return, forms::key::enter},
+    {Qt::Key_Enter, forms::key::enter},
+    {Qt::Key_Shift, 16},
+    {Qt::Key_Control, 17},
+    {Qt::Key_Alt, 18},
+    {Qt::Key_Escape, forms::key::escape},
+    {Qt::Key_Space, forms::key::space},
+    {Qt::Key_PageUp, forms::key::pageUp},
+    {Qt::Key_PageDown, forms::key::pageDown},
+    {Qt::Key_End, forms::key::end},
+    {Qt::Key_Home, forms::key::home},
+    {Qt::Key_Left, forms::key::left},
+    {Qt::Key_Up, forms::key::up},
+    {Qt::Key_Right, forms::key::right},
+    {Qt::Key_Down, forms::key::down},
+    {Qt::Key_Insert, forms::key::insert},
+    {Qt::Key_Delete, forms::key::del},
+    {Qt::Key_Menu, 93},
 });
 
-constexpr std::int16_t firstFunctionKey = 112;
-
-const NamedKey* findNamed(QStringView name) {
-    for (const NamedKey& key : namedKeys) {
-        if (*key.name != '\0' && name.compare(QLatin1StringView(key.name), Qt::CaseInsensitive) == 0) return &key;
+// A key without a code is known by what it types.
+int keyOf(const forms::KeyStroke& stroke) {
+    for (const CodedKey& key : codedKeys) {
+        if (key.code == stroke.code) return key.qt;
     }
-    return nullptr;
-}
-
-void appendNamed(std::vector<Stroke>& strokes, const QString& name, Qt::KeyboardModifiers modifiers) {
-    bool isNumber = false;
-    const int number = name.mid(1).toInt(&isNumber);
-    if (name.startsWith('F', Qt::CaseInsensitive) && isNumber && number >= 1 && number <= 24) {
-        strokes.push_back({static_cast<Qt::Key>(Qt::Key_F1 + number - 1), modifiers, {}});
-    } else if (const NamedKey* key = findNamed(name)) {
-        strokes.push_back({key->qt, modifiers, key->code == 13 ? QStringLiteral("\r") : QString()});
-    }
-}
-
-Qt::KeyboardModifiers modifierOf(QChar c) {
-    if (c == '+') return Qt::ShiftModifier;
-    if (c == '^') return Qt::ControlModifier;
-    if (c == '%') return Qt::AltModifier;
-    return Qt::NoModifier;
+    if (stroke.code >= forms::key::f1) return Qt::Key_F1 + stroke.code - forms::key::f1;
+    return stroke.code != 0 ? stroke.code : static_cast<int>(QChar::toUpper(static_cast<char32_t>(stroke.character)));
 }
 
 }  // namespace
 
 std::int16_t virtualKey(const QKeyEvent& event) {
     const int key = event.key();
-    for (const NamedKey& named : namedKeys) {
-        if (named.qt == key) return named.code;
+    for (const CodedKey& coded : codedKeys) {
+        if (coded.qt == key) return coded.code;
     }
-    if (key >= Qt::Key_F1 && key <= Qt::Key_F24) return static_cast<std::int16_t>(firstFunctionKey + key - Qt::Key_F1);
+    if (key >= Qt::Key_F1 && key <= Qt::Key_F24) {
+        return static_cast<std::int16_t>(forms::key::f1 + key - Qt::Key_F1);
+    }
     const bool sameInAscii = (key >= Qt::Key_0 && key <= Qt::Key_9) || (key >= Qt::Key_A && key <= Qt::Key_Z);
     return sameInAscii ? static_cast<std::int16_t>(key) : std::int16_t{0};
 }
@@ -106,25 +88,13 @@ forms::MouseEvent mouseEvent(const QMouseEvent& event, const QPointF& point, con
             units.twips(point.x()), units.twips(point.y())};
 }
 
-std::vector<Stroke> strokes(std::string_view keys) {
-    std::vector<Stroke> result;
+QKeyEvent keyEvent(QEvent::Type type, const forms::KeyStroke& stroke) {
     Qt::KeyboardModifiers modifiers;
-    const QString text = toQt(keys);
-    for (qsizetype i = 0; i < text.size(); ++i) {
-        if (const auto modifier = modifierOf(text[i]); modifier != Qt::NoModifier) {
-            modifiers |= modifier;
-            continue;
-        }
-        const qsizetype end = text[i] == '{' ? text.indexOf('}', i) : -1;
-        if (end > i) {
-            appendNamed(result, text.mid(i + 1, end - i - 1), modifiers);
-            i = end;
-        } else {
-            result.push_back({static_cast<Qt::Key>(text[i].toUpper().unicode()), modifiers, QString(text[i])});
-        }
-        modifiers = Qt::NoModifier;
-    }
-    return result;
+    modifiers.setFlag(Qt::ShiftModifier, (stroke.shift & forms::shift::shift) != 0);
+    modifiers.setFlag(Qt::ControlModifier, (stroke.shift & forms::shift::ctrl) != 0);
+    modifiers.setFlag(Qt::AltModifier, (stroke.shift & forms::shift::alt) != 0);
+    const auto character = static_cast<char32_t>(stroke.character);
+    return {type, keyOf(stroke), modifiers, character == 0 ? QString() : QString::fromUcs4(&character, 1)};
 }
 
 }  // namespace hx::qt

@@ -3,11 +3,9 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <cstdint>
-#include <string_view>
-#include <vector>
 
 #include "adapters/qt/units.h"
-#include "forms/input.h"
+#include "forms/key_strokes.h"
 
 namespace hx::qt {
 
@@ -23,14 +21,7 @@ namespace hx::qt {
 /// A mouse event at a point in pixels. A move names all pressed buttons, a press or release the one.
 [[nodiscard]] forms::MouseEvent mouseEvent(const QMouseEvent& event, const QPointF& point, const Units& units);
 
-/// One key of a key text.
-struct Stroke {
-    Qt::Key key;
-    Qt::KeyboardModifiers modifiers;
-    QString text;
-};
-
-/// "{F1}", "{ENTER}", plain characters, and the prefixes "+" Shift, "^" Ctrl, "%" Alt. Unknown names are left out.
-[[nodiscard]] std::vector<Stroke> strokes(std::string_view keys);
+/// A key stroke as the keyboard would report it.
+[[nodiscard]] QKeyEvent keyEvent(QEvent::Type type, const forms::KeyStroke& stroke);
 
 }  // namespace hx::qt

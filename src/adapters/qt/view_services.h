@@ -1,8 +1,8 @@
 #pragma once
 
-#include "adapters/qt/choosers/variable_source.h"
 #include "adapters/qt/popup_place.h"
 #include "adapters/qt/units.h"
+#include "adapters/qt/variable_source.h"
 #include "adapters/qt/wording.h"
 
 namespace hx::qt {

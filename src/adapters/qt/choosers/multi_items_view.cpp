@@ -3,7 +3,7 @@
 #include <array>
 #include <optional>
 
-#include "adapters/qt/screen/form_view.h"
+#include "adapters/qt/controls/surrounding_form.h"
 #include "adapters/qt/text.h"
 
 namespace hx::qt {
@@ -16,7 +16,7 @@ std::vector<Variable> variablesOf(const VariableSource* source) {
 
 }  // namespace
 
-MultiItemsView::MultiItemsView(forms::HXMultiItems& items, FormView& form, QWidget& area)
+MultiItemsView::MultiItemsView(forms::HXMultiItems& items, SurroundingForm& form, QWidget& area)
     : ControlView(items, form),
       wording_(form.services().wording),
       panel_(&area),

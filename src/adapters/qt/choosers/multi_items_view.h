@@ -16,7 +16,7 @@ namespace hx::qt {
 class MultiItemsView : public ControlView {
   public:
     /// Throws automation::Error when the variables cannot be read.
-    MultiItemsView(forms::HXMultiItems& items, FormView& form, QWidget& area);
+    MultiItemsView(forms::HXMultiItems& items, SurroundingForm& form, QWidget& area);
     [[nodiscard]] QWidget& widget() override { return panel_; }
     void detach() override;
 

@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "adapters/qt/choosers/variable_source.h"
+#include "adapters/qt/variable_source.h"
 #include "automation/key_index.h"
 
 namespace hx::qt {

@@ -10,18 +10,6 @@ namespace hx::qt {
 
 namespace {
 
-/// The visible tools, without separators at the ends and doubled ones.
-std::vector<forms::Tool*> shownTools(const forms::Band& band) {
-    std::vector<forms::Tool*> tools;
-    for (const auto& tool : band.tools()) {
-        const bool separator = tool->kind() == forms::ToolKind::separator;
-        const bool wanted = !separator || (!tools.empty() && tools.back()->kind() != forms::ToolKind::separator);
-        if (tool->visible() && wanted) tools.push_back(tool.get());
-    }
-    if (!tools.empty() && tools.back()->kind() == forms::ToolKind::separator) tools.pop_back();
-    return tools;
-}
-
 QFont bold(QFont font) {
     font.setBold(true);
     return font;
@@ -38,7 +26,7 @@ void BandMenu::open(forms::Tool& menuTool) {
     bar_->menuOpening(menuTool);
     forms::Band& band = bar_->band(automation::Variant(menuTool.subBand()));
     const bool opens = bar_->openBand(band);
-    fill(opens ? shownTools(band) : std::vector<forms::Tool*>());
+    fill(opens ? forms::Bar::subMenuTools(band) : std::vector<forms::Tool*>());
     if (!opens) QTimer::singleShot(0, this, &QMenu::close);
 }
 

@@ -2,13 +2,13 @@
 
 #include <QAction>
 
-#include "adapters/qt/screen/form_view.h"
+#include "adapters/qt/controls/surrounding_form.h"
 #include "adapters/qt/svg_icon.h"
 #include "adapters/qt/text.h"
 
 namespace hx::qt {
 
-BarView::BarView(forms::Bar& bar, FormView& form, QWidget& area) : ControlView(bar, form), menuBar_(&area) {
+BarView::BarView(forms::Bar& bar, SurroundingForm& form, QWidget& area) : ControlView(bar, form), menuBar_(&area) {
     menuBar_.setNativeMenuBar(false);
     watch(menuBar_);
     toolsChanged_ = bar.mainBand().toolsChanged.subscribe([this] { rebuild(); });

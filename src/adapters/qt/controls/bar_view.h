@@ -14,7 +14,7 @@ namespace hx::qt {
 /// upper edge.
 class BarView : public ControlView {
   public:
-    BarView(forms::Bar& bar, FormView& form, QWidget& area);
+    BarView(forms::Bar& bar, SurroundingForm& form, QWidget& area);
     [[nodiscard]] QWidget& widget() override { return menuBar_; }
     void layOut() override {}
     void containerResized() override;

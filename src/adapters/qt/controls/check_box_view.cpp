@@ -4,7 +4,8 @@
 
 namespace hx::qt {
 
-CheckBoxView::CheckBoxView(forms::CheckBox& box, FormView& form, QWidget& area) : ControlView(box, form), box_(&area) {
+CheckBoxView::CheckBoxView(forms::CheckBox& box, SurroundingForm& form, QWidget& area)
+    : ControlView(box, form), box_(&area) {
     watch(box_);
     connect(&box_, &QCheckBox::clicked, this, &CheckBoxView::clicked);
 }

@@ -3,13 +3,13 @@
 #include <QCheckBox>
 
 #include "adapters/qt/controls/control_view.h"
-#include "forms/simple_controls.h"
+#include "forms/check_box.h"
 
 namespace hx::qt {
 
 class CheckBoxView : public ControlView {
   public:
-    CheckBoxView(forms::CheckBox& box, FormView& form, QWidget& area);
+    CheckBoxView(forms::CheckBox& box, SurroundingForm& form, QWidget& area);
     [[nodiscard]] QWidget& widget() override { return box_; }
 
   protected:

@@ -7,7 +7,7 @@
 
 namespace hx::qt {
 
-ComboBoxView::ComboBoxView(forms::ComboBox& box, FormView& form, QWidget& area)
+ComboBoxView::ComboBoxView(forms::ComboBox& box, SurroundingForm& form, QWidget& area)
     : ControlView(box, form), combo_(&area) {
     combo_.setEditable(box.style() == forms::ComboBox::Style::dropDownCombo);
     combo_.setInsertPolicy(QComboBox::NoInsert);

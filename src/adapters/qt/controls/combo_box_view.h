@@ -2,13 +2,13 @@
 
 #include "adapters/qt/controls/combo_box.h"
 #include "adapters/qt/controls/control_view.h"
-#include "forms/simple_controls.h"
+#include "forms/combo_box.h"
 
 namespace hx::qt {
 
 class ComboBoxView : public ControlView {
   public:
-    ComboBoxView(forms::ComboBox& box, FormView& form, QWidget& area);
+    ComboBoxView(forms::ComboBox& box, SurroundingForm& form, QWidget& area);
     [[nodiscard]] QWidget& widget() override { return combo_; }
 
   protected:

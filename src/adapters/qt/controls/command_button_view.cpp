@@ -1,25 +1,14 @@
 #include "adapters/qt/controls/command_button_view.h"
 
-#include <QKeyEvent>
-
-#include "adapters/qt/screen/form_view.h"
+#include "adapters/qt/controls/surrounding_form.h"
 #include "adapters/qt/text.h"
 
 namespace hx::qt {
 
-CommandButtonView::CommandButtonView(forms::CommandButton& button, FormView& form, QWidget& area)
+CommandButtonView::CommandButtonView(forms::CommandButton& button, SurroundingForm& form, QWidget& area)
     : ControlView(button, form), button_(&area) {
     watch(button_);
     connect(&button_, &QPushButton::clicked, this, &CommandButtonView::clicked);
-}
-
-bool CommandButtonView::eventFilter(QObject* watched, QEvent* event) {
-    if (ControlView::eventFilter(watched, event)) return true;
-    if (model() == nullptr || event->type() != QEvent::KeyPress) return false;
-    const int key = static_cast<QKeyEvent*>(event)->key();
-    if (key != Qt::Key_Return && key != Qt::Key_Enter) return false;
-    button_.click();
-    return true;
 }
 
 void CommandButtonView::clicked() {

@@ -2,14 +2,14 @@
 
 #include "adapters/qt/controls/control_view.h"
 #include "adapters/qt/controls/push_button.h"
-#include "forms/simple_controls.h"
+#include "forms/command_button.h"
 
 namespace hx::qt {
 
-/// A push button. Enter presses the one that has the keyboard.
+/// A push button.
 class CommandButtonView : public ControlView {
   public:
-    CommandButtonView(forms::CommandButton& button, FormView& form, QWidget& area);
+    CommandButtonView(forms::CommandButton& button, SurroundingForm& form, QWidget& area);
     [[nodiscard]] QWidget& widget() override { return button_; }
     /// For a button that stands behind a field.
     void makeSmall(int height) { button_.makeSmall(height); }
@@ -18,7 +18,6 @@ class CommandButtonView : public ControlView {
     void show(std::string_view property) override;
     [[nodiscard]] std::vector<std::string_view> ownProperties() const override { return {"Caption", "Default"}; }
     [[nodiscard]] QString accessibleName() const override { return {}; }
-    bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
     void clicked();

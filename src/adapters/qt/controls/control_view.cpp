@@ -4,9 +4,9 @@
 #include <QMouseEvent>
 #include <array>
 
+#include "adapters/qt/controls/surrounding_form.h"
 #include "adapters/qt/fonts.h"
 #include "adapters/qt/keys.h"
-#include "adapters/qt/screen/form_view.h"
 #include "adapters/qt/text.h"
 
 namespace hx::qt {
@@ -43,10 +43,12 @@ void ControlView::start() {
     for (const auto property : ownProperties()) show(property);
     widget().setAccessibleName(accessibleName());
     changed_ = control_->changed.subscribe([this](std::string_view property) { apply(property); });
+    focusRequested_ = control_->focusRequestEvent.subscribe([this] { widget().setFocus(Qt::OtherFocusReason); });
 }
 
 void ControlView::detach() {
     changed_.reset();
+    focusRequested_.reset();
     control_ = nullptr;
     silence(widget());
 }
@@ -76,7 +78,6 @@ void ControlView::show(std::string_view property) {
     else if (property == "Enabled") widget().setEnabled(control_->enabled());
     else if (property == "ToolTipText") widget().setToolTip(plainToolTip(toQt(control_->toolTipText())));
     else if (property == "Font") widget().setFont(toQt(control_->font().values()));
-    else if (property == "SetFocus") widget().setFocus(Qt::OtherFocusReason);
     else if (property == "TabStop" && widget().focusPolicy() != Qt::NoFocus) {
         widget().setFocusPolicy(control_->tabStop() ? Qt::StrongFocus : Qt::ClickFocus);
     }

@@ -10,14 +10,14 @@
 
 namespace hx::qt {
 
-class FormView;
+class SurroundingForm;
 
 /// Shows one control in a widget and reports to it what the user does. Keys go to the model first; a swallowed key
 /// goes no further. Lives on when the control ends before it: detach() cuts the ties, the widget is then only waiting
 /// to be deleted.
 class ControlView : public QObject {
   public:
-    ControlView(forms::Control& control, FormView& form) : control_(&control), form_(form) {}
+    ControlView(forms::Control& control, SurroundingForm& form) : control_(&control), form_(form) {}
 
     [[nodiscard]] virtual QWidget& widget() = 0;
     /// The widget that the controls in `container` lie in; null when this view does not show that container.
@@ -39,7 +39,7 @@ class ControlView : public QObject {
     }
 
   protected:
-    [[nodiscard]] FormView& form() const noexcept { return form_; }
+    [[nodiscard]] SurroundingForm& form() const noexcept { return form_; }
     [[nodiscard]] const Units& units() const noexcept;
     /// Reports keys, mouse and focus of `part`, the mouse relative to the control's widget.
     void watch(QWidget& part);
@@ -59,8 +59,8 @@ class ControlView : public QObject {
     [[nodiscard]] static bool hasKeyboard(const QWidget& part);
 
     forms::Control* control_;
-    FormView& form_;
-    forms::Subscription changed_;
+    SurroundingForm& form_;
+    forms::Subscription changed_, focusRequested_;
 };
 
 /// The model of a view as what it is; null after detach().

@@ -4,7 +4,8 @@
 
 namespace hx::qt {
 
-FrameView::FrameView(forms::Frame& frame, FormView& form, QWidget& area) : ControlView(frame, form), box_(&area) {
+FrameView::FrameView(forms::Frame& frame, SurroundingForm& form, QWidget& area)
+    : ControlView(frame, form), box_(&area) {
     watch(box_);
 }
 

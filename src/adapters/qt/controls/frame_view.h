@@ -3,13 +3,13 @@
 #include <QGroupBox>
 
 #include "adapters/qt/controls/control_view.h"
-#include "forms/simple_controls.h"
+#include "forms/frame.h"
 
 namespace hx::qt {
 
 class FrameView : public ControlView {
   public:
-    FrameView(forms::Frame& frame, FormView& form, QWidget& area);
+    FrameView(forms::Frame& frame, SurroundingForm& form, QWidget& area);
     [[nodiscard]] QWidget& widget() override { return box_; }
 
   protected:

@@ -4,7 +4,8 @@
 
 namespace hx::qt {
 
-LabelView::LabelView(forms::Label& label, FormView& form, QWidget& area) : ControlView(label, form), label_(&area) {
+LabelView::LabelView(forms::Label& label, SurroundingForm& form, QWidget& area)
+    : ControlView(label, form), label_(&area) {
     label_.setWordWrap(true);
     watch(label_);
 }

@@ -2,13 +2,13 @@
 
 #include "adapters/qt/controls/control_view.h"
 #include "adapters/qt/controls/plain_label.h"
-#include "forms/simple_controls.h"
+#include "forms/label.h"
 
 namespace hx::qt {
 
 class LabelView : public ControlView {
   public:
-    LabelView(forms::Label& label, FormView& form, QWidget& area);
+    LabelView(forms::Label& label, SurroundingForm& form, QWidget& area);
     [[nodiscard]] QWidget& widget() override { return label_; }
     /// The field that the label stands for: it gets the mnemonic and the label's text as accessible name.
     void setBuddy(QWidget& field);

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <vector>
 
-#include "adapters/qt/screen/form_view.h"
+#include "adapters/qt/controls/surrounding_form.h"
 #include "adapters/qt/text.h"
 
 namespace hx::qt {
@@ -24,7 +24,7 @@ std::vector<const forms::OptionButton*> othersOf(const forms::OptionButton& butt
 
 }  // namespace
 
-OptionButtonView::OptionButtonView(forms::OptionButton& button, FormView& form, QWidget& area)
+OptionButtonView::OptionButtonView(forms::OptionButton& button, SurroundingForm& form, QWidget& area)
     : ControlView(button, form), button_(&area) {
     watch(button_);
     connect(&button_, &QRadioButton::toggled, this, &OptionButtonView::toggled);

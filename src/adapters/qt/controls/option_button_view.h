@@ -3,13 +3,13 @@
 #include <QRadioButton>
 
 #include "adapters/qt/controls/control_view.h"
-#include "forms/simple_controls.h"
+#include "forms/option_button.h"
 
 namespace hx::qt {
 
 class OptionButtonView : public ControlView {
   public:
-    OptionButtonView(forms::OptionButton& button, FormView& form, QWidget& area);
+    OptionButtonView(forms::OptionButton& button, SurroundingForm& form, QWidget& area);
     [[nodiscard]] QWidget& widget() override { return button_; }
 
   protected:

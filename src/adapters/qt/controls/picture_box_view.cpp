@@ -5,7 +5,7 @@
 #include <QPainter>
 #include <algorithm>
 
-#include "adapters/qt/screen/form_view.h"
+#include "adapters/qt/controls/surrounding_form.h"
 
 namespace hx::qt {
 
@@ -16,7 +16,7 @@ constexpr int leastWidth = 5;
 
 }  // namespace
 
-PictureBoxView::PictureBoxView(forms::PictureBox& box, FormView& form, QWidget& area)
+PictureBoxView::PictureBoxView(forms::PictureBox& box, SurroundingForm& form, QWidget& area)
     : ControlView(box, form), area_(&area) {
     area_.setAttribute(Qt::WA_Hover);
     watch(area_);

@@ -4,7 +4,7 @@
 
 namespace hx::qt {
 
-StatusBarView::StatusBarView(forms::StatusBar& bar, FormView& form, QWidget& area)
+StatusBarView::StatusBarView(forms::StatusBar& bar, SurroundingForm& form, QWidget& area)
     : ControlView(bar, form), frame_(&area), row_(&frame_) {
     row_.setContentsMargins(2, 2, 2, 2);
     row_.setSpacing(2);

@@ -13,7 +13,7 @@ namespace hx::qt {
 
 class StatusBarView : public ControlView {
   public:
-    StatusBarView(forms::StatusBar& bar, FormView& form, QWidget& area);
+    StatusBarView(forms::StatusBar& bar, SurroundingForm& form, QWidget& area);
     [[nodiscard]] QWidget& widget() override { return frame_; }
     void layOut() override;
     void detach() override;

@@ -2,12 +2,12 @@
 
 #include <QSignalBlocker>
 
-#include "adapters/qt/screen/form_view.h"
+#include "adapters/qt/controls/surrounding_form.h"
 #include "adapters/qt/text.h"
 
 namespace hx::qt {
 
-TabStripView::TabStripView(forms::TabStrip& strip, FormView& form, QWidget& area)
+TabStripView::TabStripView(forms::TabStrip& strip, SurroundingForm& form, QWidget& area)
     : ControlView(strip, form), tabs_(&area) {
     for (std::int16_t i = 0; i < strip.tabs(); ++i) {
         pages_.push_back(std::make_unique<QWidget>());

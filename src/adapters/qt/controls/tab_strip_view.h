@@ -5,13 +5,13 @@
 #include <vector>
 
 #include "adapters/qt/controls/control_view.h"
-#include "forms/simple_controls.h"
+#include "forms/tab_strip.h"
 
 namespace hx::qt {
 
 class TabStripView : public ControlView {
   public:
-    TabStripView(forms::TabStrip& strip, FormView& form, QWidget& area);
+    TabStripView(forms::TabStrip& strip, SurroundingForm& form, QWidget& area);
     [[nodiscard]] QWidget& widget() override { return tabs_; }
     [[nodiscard]] QWidget* areaOf(const forms::Control& container) override;
     /// To the page so many behind, round the ends.

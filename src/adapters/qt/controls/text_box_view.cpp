@@ -6,7 +6,7 @@
 
 namespace hx::qt {
 
-TextBoxView::TextBoxView(forms::TextBox& box, FormView& form, QWidget& area) : ControlView(box, form) {
+TextBoxView::TextBoxView(forms::TextBox& box, SurroundingForm& form, QWidget& area) : ControlView(box, form) {
     if (box.multiLine()) makeMemo(area);
     else makeLine(area);
     watch(widget());

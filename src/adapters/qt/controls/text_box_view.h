@@ -5,14 +5,14 @@
 #include <memory>
 
 #include "adapters/qt/controls/control_view.h"
-#include "forms/simple_controls.h"
+#include "forms/text_box.h"
 
 namespace hx::qt {
 
 /// A line of text, or several when the model says so at the start.
 class TextBoxView : public ControlView {
   public:
-    TextBoxView(forms::TextBox& box, FormView& form, QWidget& area);
+    TextBoxView(forms::TextBox& box, SurroundingForm& form, QWidget& area);
     [[nodiscard]] QWidget& widget() override;
 
   protected:

@@ -3,7 +3,7 @@
 #include <QAction>
 #include <QToolButton>
 
-#include "adapters/qt/screen/form_view.h"
+#include "adapters/qt/controls/surrounding_form.h"
 #include "adapters/qt/svg_icon.h"
 #include "adapters/qt/text.h"
 
@@ -15,7 +15,8 @@ constexpr int iconSize = 18;
 
 }  // namespace
 
-ToolBarView::ToolBarView(forms::ToolBar& bar, FormView& form, QWidget& area) : ControlView(bar, form), bar_(&area) {
+ToolBarView::ToolBarView(forms::ToolBar& bar, SurroundingForm& form, QWidget& area)
+    : ControlView(bar, form), bar_(&area) {
     bar_.setMovable(false);
     bar_.setIconSize(QSize(iconSize, iconSize));
     bar_.setAutoFillBackground(true);

@@ -10,7 +10,7 @@ namespace hx::qt {
 
 class ToolBarView : public ControlView {
   public:
-    ToolBarView(forms::ToolBar& bar, FormView& form, QWidget& area);
+    ToolBarView(forms::ToolBar& bar, SurroundingForm& form, QWidget& area);
     [[nodiscard]] QWidget& widget() override { return bar_; }
     void detach() override;
 

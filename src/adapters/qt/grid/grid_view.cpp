@@ -9,8 +9,8 @@
 #include <algorithm>
 #include <ranges>
 
+#include "adapters/qt/controls/surrounding_form.h"
 #include "adapters/qt/keys.h"
-#include "adapters/qt/screen/form_view.h"
 #include "adapters/qt/text.h"
 
 namespace hx::qt {
@@ -35,7 +35,7 @@ bool isOfTheMouse(const QEvent& event) {
 
 }  // namespace
 
-GridView::GridView(forms::Grid& grid, FormView& form, QWidget& area)
+GridView::GridView(forms::Grid& grid, SurroundingForm& form, QWidget& area)
     : ControlView(grid, form),
       box_(&area),
       model_(grid, [this](const automation::Error& error) { report(error); }),
@@ -71,6 +71,7 @@ void GridView::subscribe() {
     }));
     subscriptions_.push_back(grid.columnsChanged.subscribe([this] { followColumns(); }));
     subscriptions_.push_back(grid.currentCellChanged.subscribe([this] { currentCellChanged(); }));
+    subscriptions_.push_back(grid.settleEvent.subscribe([this] { settle(); }));
     subscriptions_.push_back(grid.selectedRows().changed.subscribe([this] { selection_.followSelectedRows(); }));
     for (std::int32_t i = 0; i < 2; ++i) {
         subscriptions_.push_back(grid.split(i).changed.subscribe([this] { place(); }));
@@ -330,8 +331,6 @@ void GridView::show(std::string_view property) {
         for (GridPane* pane : panes()) pane->showSort();
     } else if (property == "TabStop") {
         for (GridPane* pane : panes()) pane->setFocusPolicy(focusPolicy(*pane));
-    } else if (property == "Settle") {
-        return settle();
     } else {
         ControlView::show(property);
     }

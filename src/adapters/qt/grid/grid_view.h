@@ -16,7 +16,7 @@ namespace hx::qt {
 /// control, its tables in addition ".Splits(0)" and ".Splits(1)".
 class GridView : public ControlView {
   public:
-    GridView(forms::Grid& grid, FormView& form, QWidget& area);
+    GridView(forms::Grid& grid, SurroundingForm& form, QWidget& area);
     [[nodiscard]] QWidget& widget() override { return box_; }
     void layOut() override;
     void settle() override;

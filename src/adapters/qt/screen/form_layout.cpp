@@ -9,7 +9,11 @@
 #include "adapters/qt/screen/form_view.h"
 #include "adapters/qt/text.h"
 #include "automation/error.h"
-#include "forms/simple_controls.h"
+#include "forms/captioned.h"
+#include "forms/combo_box.h"
+#include "forms/command_button.h"
+#include "forms/frame.h"
+#include "forms/text_box.h"
 
 namespace hx::qt {
 

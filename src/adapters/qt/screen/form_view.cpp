@@ -15,7 +15,7 @@
 #include "adapters/qt/screen/placement.h"
 #include "adapters/qt/screen/view_factory.h"
 #include "adapters/qt/text.h"
-#include "forms/simple_controls.h"
+#include "forms/command_button.h"
 
 namespace hx::qt {
 
@@ -35,6 +35,7 @@ FormView::FormView(forms::Form& form, ViewServices& services)
     build();
     orderTabs();
     changed_ = form.changed.subscribe([this](std::string_view property) { apply(property); });
+    focusRequested_ = form.focusRequestEvent.subscribe([this] { widget_.setFocus(); });
     reportClientArea();
 }
 
@@ -99,7 +100,6 @@ void FormView::apply(std::string_view property) {
     else if (property == "Font") widget_.setFont(toQt(form_->font().values()));
     else if (property == "Enabled") widget_.setEnabled(form_->enabled());
     else if (property == "Visible" || property == "WindowState") applyVisible();
-    else if (property == "SetFocus") widget_.setFocus();
     else applyBounds();
 }
 
@@ -169,11 +169,11 @@ void FormView::settle() {
 }
 
 void FormView::sendKeys(std::string_view keys) {
-    for (const Stroke& stroke : strokes(keys)) {
+    for (const forms::KeyStroke& stroke : forms::keyStrokes(keys)) {
         QWidget* inside = widget_.focusWidget();
         QWidget& target = inside == nullptr ? widget_ : *inside;
         for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease}) {
-            QKeyEvent event(type, stroke.key, stroke.modifiers, stroke.text);
+            QKeyEvent event = keyEvent(type, stroke);
             QApplication::sendEvent(&target, &event);
         }
     }
@@ -182,6 +182,7 @@ void FormView::sendKeys(std::string_view keys) {
 void FormView::detach() {
     if (form_ == nullptr) return;
     changed_.reset();
+    focusRequested_.reset();
     for (const auto& view : views_) view->detach();
     form_ = nullptr;
     takeOut();
@@ -189,22 +190,10 @@ void FormView::detach() {
 }
 
 bool FormView::reportKey(QKeyEvent& event, forms::Control& control) {
-    const auto keep = control.share();
-    const auto keepForm = form_->share();
     const bool down = event.type() == QEvent::KeyPress;
     if (!down && event.isAutoRepeat()) return false;  // the key is still held
-    const bool previews = form_->keyPreview() && &control != form_;
-    if (forms::KeyEvent key{virtualKey(event), shiftState(event.modifiers())}; key.code != 0) {
-        const auto report = [&](forms::Control& to) { down ? to.keyDown(key) : to.keyUp(key); };
-        if (previews) report(*form_);
-        if (form_ != nullptr && !key.swallowed()) report(control);
-        if (form_ == nullptr || key.swallowed()) return true;
-    }
-    forms::KeyPress typed{down ? typedCharacter(event) : 0};
-    if (typed.swallowed()) return false;
-    if (previews) form_->keyPress(typed);
-    if (form_ != nullptr && !typed.swallowed()) control.keyPress(typed);
-    return form_ == nullptr || typed.swallowed();
+    return form_->keyReported(control, down ? forms::KeyMove::down : forms::KeyMove::up,
+                              {virtualKey(event), shiftState(event.modifiers())}, {typedCharacter(event)});
 }
 
 int FormView::freeBottom(const QWidget& area, int bottom) const {
@@ -257,8 +246,12 @@ void FormView::closed() {
 
 // What no control has taken for itself.
 void FormView::pressed(QKeyEvent& event) {
-    const bool enter = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
-    if (enter || event.key() == Qt::Key_Escape) return pressButton(event, enter);
+    if (forms::CommandButton* const button = form_->buttonOf(virtualKey(event))) {
+        const auto keep = button->share();
+        event.accept();
+        settle();
+        return button->click();
+    }
     const bool back = event.key() == Qt::Key_Backtab;
     if ((back || event.key() == Qt::Key_Tab) && event.modifiers().testFlag(Qt::ControlModifier))
         turnPage(back ? -1 : 1);
@@ -267,18 +260,6 @@ void FormView::pressed(QKeyEvent& event) {
 void FormView::turnPage(int pages) {
     for (const auto& view : views_) {
         if (auto* tabs = dynamic_cast<TabStripView*>(view.get())) return tabs->turn(pages);
-    }
-}
-
-void FormView::pressButton(QKeyEvent& event, bool enter) {
-    const auto controls = form_->controls();
-    for (const auto& control : controls) {
-        auto* button = dynamic_cast<forms::CommandButton*>(control.get());
-        if (button == nullptr || !button->visible() || !(enter ? button->isDefault() : button->isCancel())) continue;
-        event.accept();
-        settle();
-        button->click();
-        return;
     }
 }
 

@@ -2,9 +2,11 @@
 
 #include <QApplication>
 #include <QPushButton>
+#include <algorithm>
 #include <array>
 
 #include "adapters/qt/text.h"
+#include "forms/message_style.h"
 
 namespace hx::qt {
 
@@ -25,15 +27,10 @@ constexpr auto buttonRows = std::to_array<ButtonRow>({
     {QMessageBox::Cancel, Word::cancel, Answer::cancel},
 });
 
-constexpr std::int32_t buttonMask = 0x0F, iconMask = 0xF0, defaultMask = 0xF00;
+constexpr std::int32_t iconMask = 0xF0;
 
-std::vector<QMessageBox::StandardButton> buttonsOf(std::int32_t style) {
-    switch (style & buttonMask) {
-        case forms::message::okCancel: return {QMessageBox::Ok, QMessageBox::Cancel};
-        case forms::message::yesNoCancel: return {QMessageBox::Yes, QMessageBox::No, QMessageBox::Cancel};
-        case forms::message::yesNo: return {QMessageBox::Yes, QMessageBox::No};
-        default: return {QMessageBox::Ok};
-    }
+QMessageBox::StandardButton buttonOf(Answer answer) {
+    return std::ranges::find(buttonRows, answer, &ButtonRow::answer)->button;
 }
 
 QMessageBox::Icon iconOf(std::int32_t style) {
@@ -58,16 +55,15 @@ MessageDialog::MessageDialog(const Wording& wording, const QString& text, std::i
 }
 
 void MessageDialog::addButtons(const Wording& wording, std::int32_t style) {
-    const auto buttons = buttonsOf(style);
+    const auto answers = forms::message::buttonsOf(style);
     for (const ButtonRow& row : buttonRows) {
-        if (std::ranges::find(buttons, row.button) == buttons.end()) continue;
+        if (std::ranges::find(answers, row.answer) == answers.end()) continue;
         QPushButton& button = *box_.addButton(row.button);
         button.setText(wording.text(row.word));
         button.setIcon(QIcon());
     }
-    const auto number = static_cast<std::size_t>((style & defaultMask) / forms::message::defaultButton2);
-    box_.setDefaultButton(buttons[std::min(number, buttons.size() - 1)]);
-    box_.setEscapeButton(buttons.back());
+    box_.setDefaultButton(buttonOf(forms::message::defaultButtonOf(style)));
+    box_.setEscapeButton(buttonOf(forms::message::escapeAnswerOf(style)));
 }
 
 Answer MessageDialog::ask() {

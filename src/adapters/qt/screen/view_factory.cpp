@@ -21,12 +21,12 @@ namespace hx::qt {
 namespace {
 
 template <class Model, class View>
-std::unique_ptr<ControlView> makeFor(forms::Control& control, FormView& form, QWidget& area) {
+std::unique_ptr<ControlView> makeFor(forms::Control& control, SurroundingForm& form, QWidget& area) {
     auto* model = dynamic_cast<Model*>(&control);
     return model == nullptr ? nullptr : std::make_unique<View>(*model, form, area);
 }
 
-using Maker = std::unique_ptr<ControlView> (*)(forms::Control&, FormView&, QWidget&);
+using Maker = std::unique_ptr<ControlView> (*)(forms::Control&, SurroundingForm&, QWidget&);
 
 constexpr Maker makers[] = {
     &makeFor<forms::Bar, BarView>,
@@ -47,7 +47,7 @@ constexpr Maker makers[] = {
 
 }  // namespace
 
-std::unique_ptr<ControlView> makeView(forms::Control& control, FormView& form, QWidget& area) {
+std::unique_ptr<ControlView> makeView(forms::Control& control, SurroundingForm& form, QWidget& area) {
     for (const Maker make : makers) {
         if (auto view = make(control, form, area)) return view;
     }

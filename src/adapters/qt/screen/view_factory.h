@@ -8,6 +8,6 @@
 namespace hx::qt {
 
 /// The view for the kind of control, with its widget in `area`. Throws automation::Error for a kind that none shows.
-[[nodiscard]] std::unique_ptr<ControlView> makeView(forms::Control& control, FormView& form, QWidget& area);
+[[nodiscard]] std::unique_ptr<ControlView> makeView(forms::Control& control, SurroundingForm& form, QWidget& area);
 
 }  // namespace hx::qt

@@ -1,4 +1,4 @@
-#include "adapters/qt/choosers/qt_path_selection.h"
+#include "adapters/qt/screen/qt_path_selection.h"
 
 #include <QApplication>
 #include <QDir>

@@ -1,4 +1,4 @@
-#include "adapters/qt/choosers/qt_item_selection.h"
+#include "adapters/qt/screen/qt_item_selection.h"
 
 #include "adapters/qt/choosers/item_dialog.h"
 #include "adapters/qt/text.h"

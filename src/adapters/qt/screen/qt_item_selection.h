@@ -1,7 +1,7 @@
 #pragma once
 
-#include "adapters/qt/choosers/variable_source.h"
 #include "adapters/qt/screen/qt_windows.h"
+#include "adapters/qt/variable_source.h"
 #include "adapters/qt/wording.h"
 #include "host/system_services.h"
 
