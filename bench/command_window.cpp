@@ -2,6 +2,7 @@
 
 #include <stdexcept>
 
+#include "recipe/mhxrcp_hirarch_func.h"
 #include "recipe/node_key.h"
 
 namespace hx::bench {

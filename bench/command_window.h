@@ -46,7 +46,7 @@ class CommandWindow {
     /// Throws when the tool cannot be clicked or the user would be told of an error.
     void click(const std::string& tool);
     /// What the user does in dialogs.
-    [[nodiscard]] headless::Script& script() noexcept { return host_.script; }
+    [[nodiscard]] forms::Script& script() noexcept { return host_.script; }
     [[nodiscard]] editor::frmtabgrid& window() noexcept { return *window_; }
 
   private:

@@ -6,6 +6,7 @@
 #include "bench/limit_database.h"
 #include "bench/require.h"
 #include "bench/subjects.h"
+#include "recipe/mhxrcp_hirarch_func.h"
 
 namespace hx::bench {
 

@@ -1,5 +1,7 @@
 #include "bench/editor_data.h"
 
+#include "recipe/mhxrcp_hirarch_func.h"
+
 namespace hx::bench {
 
 EditorData::EditorData(const Project& project, std::shared_ptr<forms::Grid> grid) : grid_(std::move(grid)) {

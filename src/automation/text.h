@@ -15,6 +15,11 @@ void appendFolded(std::string& to, std::string_view text);
 
 /// Compares the folded texts code point by code point, without building them.
 [[nodiscard]] std::strong_ordering compareIgnoreCase(std::string_view a, std::string_view b);
+/// Orders names ignoring case.
+struct IgnoringCase {
+    using is_transparent = void;
+    bool operator()(std::string_view a, std::string_view b) const { return compareIgnoreCase(a, b) < 0; }
+};
 [[nodiscard]] bool equalIgnoreCase(std::string_view a, std::string_view b);
 
 /// Without the blanks at both ends.

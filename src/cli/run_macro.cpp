@@ -81,9 +81,9 @@ class MacroSession {
         studio_.closeProject();
     }
     /// The messages that only tell something, which nobody has read: the macro goes on as if all were well.
-    [[nodiscard]] std::vector<headless::Message> unread() {
-        std::vector<headless::Message> left = studio_.record().messages;
-        std::erase_if(left, [](const headless::Message& box) { return box.scripted || box.buttons.size() > 1; });
+    [[nodiscard]] std::vector<forms::ShownMessage> unread() {
+        std::vector<forms::ShownMessage> left = studio_.record().messages;
+        std::erase_if(left, [](const forms::ShownMessage& box) { return box.scripted || box.buttons.size() > 1; });
         return left;
     }
 
@@ -147,7 +147,7 @@ int runMacro(const MacroPlan& plan, const Output& output) {
     const bool ended = runToItsEnd(session, plan, text, output);
     session.close();
     const auto unread = session.unread();
-    for (const headless::Message& box : unread)
+    for (const forms::ShownMessage& box : unread)
         output.problems << "hxrecipe: " << visibleLines(box.title + ": " + box.text) << "\n";
     return ended && unread.empty() ? succeeded : failed;
 }

@@ -5,8 +5,9 @@
 #include <string>
 #include <vector>
 
+#include "forms/command_button.h"
 #include "forms/form.h"
-#include "forms/simple_controls.h"
+#include "forms/text_box.h"
 #include "host/services.h"
 #include "resources/help.h"
 

@@ -1,6 +1,8 @@
 #pragma once
 
 #include "dialogs/dialog.h"
+#include "forms/check_box.h"
+#include "forms/label.h"
 
 namespace hx::dialogs {
 

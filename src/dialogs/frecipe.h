@@ -4,6 +4,12 @@
 #include <optional>
 
 #include "dialogs/dialog.h"
+#include "forms/check_box.h"
+#include "forms/combo_box.h"
+#include "forms/frame.h"
+#include "forms/label.h"
+#include "forms/option_button.h"
+#include "forms/tab_strip.h"
 #include "resources/resource_table.h"
 
 namespace hx::dialogs {

@@ -1,6 +1,9 @@
 #pragma once
 
 #include "dialogs/dialog.h"
+#include "forms/combo_box.h"
+#include "forms/frame.h"
+#include "forms/label.h"
 #include "resources/resource_table.h"
 
 namespace hx::dialogs {

@@ -9,7 +9,8 @@
 
 namespace hx::dialogs {
 
-/// The window whose options are edited: frmtabgrid.
+/// The window whose options are edited. It is editor::frmtabgrid, which opens the dialog and is changed by it: the
+/// interface keeps this folder from including the one above it.
 class ConfigurableWindow {
   public:
     virtual ~ConfigurableWindow() = default;

@@ -3,7 +3,9 @@
 #include <algorithm>
 #include <array>
 
-#include "forms/simple_controls.h"
+#include "forms/command_button.h"
+#include "forms/frame.h"
+#include "forms/tab_strip.h"
 
 namespace hx::dialogs {
 

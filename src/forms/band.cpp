@@ -1,8 +1,11 @@
+#include "forms/band.h"
+
 #include <algorithm>
 
 #include "automation/member_rows.h"
 #include "automation/text.h"
 #include "forms/bar.h"
+#include "forms/name_or_number.h"
 
 namespace hx::forms {
 
@@ -35,15 +38,7 @@ Tool* Band::find(std::string_view name) const {
 }
 
 Tool& Band::tool(const Variant& nameOrNumber) const {
-    if (nameOrNumber.isString()) {
-        if (Tool* tool = find(nameOrNumber.asString())) return *tool;
-        automation::throwBadIndex(name_, nameOrNumber);
-    }
-    const std::int32_t number = automation::toInt32(nameOrNumber);
-    if (number < 0 || static_cast<std::size_t>(number) >= tools_.size()) {
-        automation::throwBadIndex(name_, nameOrNumber);
-    }
-    return *tools_[static_cast<std::size_t>(number)];
+    return itemOf(name_, tools_, nameOrNumber, [this](std::string_view wanted) { return find(wanted); });
 }
 
 Tool& Band::add(std::string name, ToolKind kind) {

@@ -5,6 +5,7 @@
 
 #include "automation/member_rows.h"
 #include "automation/text.h"
+#include "forms/name_or_number.h"
 
 namespace hx::forms {
 
@@ -64,15 +65,7 @@ Band* Bar::findBand(std::string_view name) const {
 }
 
 Band& Bar::band(const Variant& nameOrNumber) const {
-    if (nameOrNumber.isString()) {
-        if (Band* band = findBand(nameOrNumber.asString())) return *band;
-        automation::throwBadIndex(name(), nameOrNumber);
-    }
-    const std::int32_t number = automation::toInt32(nameOrNumber);
-    if (number < 0 || static_cast<std::size_t>(number) >= bands_.size()) {
-        automation::throwBadIndex(name(), nameOrNumber);
-    }
-    return *bands_[static_cast<std::size_t>(number)];
+    return itemOf(name(), bands_, nameOrNumber, [this](std::string_view wanted) { return findBand(wanted); });
 }
 
 std::vector<Tool*> Bar::menuTools() const {
@@ -88,6 +81,12 @@ std::vector<Tool*> Bar::popUpTools(const Band& band) const {
     appendVisible(shown, band);
     const Band* main = findBand(mainBand_);
     if (main != nullptr && main != &band) appendClosing(shown, *main, band);
+    return tidied(shown);
+}
+
+std::vector<Tool*> Bar::subMenuTools(const Band& band) {
+    std::vector<Tool*> shown;
+    appendVisible(shown, band);
     return tidied(shown);
 }
 

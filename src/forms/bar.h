@@ -5,88 +5,10 @@
 #include <string_view>
 #include <vector>
 
+#include "forms/band.h"
 #include "forms/control.h"
-#include "forms/picture.h"
 
 namespace hx::forms {
-
-class Band;
-class Bar;
-
-enum class ToolKind : std::int16_t { command = 0, menu = 1, separator = 2, title = 3 };
-
-/// An entry of a band. Tools are shared: a copy in another band is a tool of its own.
-class Tool : public automation::Dispatch {
-  public:
-    Tool(std::string name, ToolKind kind) : name_(std::move(name)), kind_(kind) {}
-    [[nodiscard]] std::shared_ptr<Tool> copy() const;
-
-    [[nodiscard]] const std::string& name() const noexcept { return name_; }
-    [[nodiscard]] ToolKind kind() const noexcept { return kind_; }
-    [[nodiscard]] const std::string& caption() const noexcept { return caption_; }
-    void setCaption(const std::string& caption);
-    /// The number of the caption's resource text; 0 for none.
-    [[nodiscard]] std::int32_t resourceId() const noexcept { return resourceId_; }
-    void setResourceId(std::int32_t id);
-    [[nodiscard]] const std::string& category() const noexcept { return category_; }
-    void setCategory(const std::string& category);
-    [[nodiscard]] bool enabled() const noexcept { return enabled_; }
-    void setEnabled(bool enabled);
-    [[nodiscard]] bool visible() const noexcept { return visible_; }
-    void setVisible(bool visible);
-    /// A key as "F9" or "Control+Delete"; empty for none. Bar::shortcutText gives it in the user's words.
-    [[nodiscard]] const std::string& shortcut() const noexcept { return shortcut_; }
-    void setShortcut(const std::string& shortcut);
-    /// The band that a menu tool opens.
-    [[nodiscard]] const std::string& subBand() const noexcept { return subBand_; }
-    void setSubBand(const std::string& band);
-    [[nodiscard]] const Picture& picture() const noexcept { return picture_; }
-    void setPicture(Picture picture);
-
-    Event<> changed;
-    [[nodiscard]] const automation::MemberTable& members() const override;
-
-  private:
-    template <class T>
-    void assign(T& field, const T& value);
-    std::string name_;
-    ToolKind kind_;
-    std::string caption_, category_, shortcut_, subBand_;
-    Picture picture_;
-    std::int32_t resourceId_ = 0;
-    bool enabled_ = true, visible_ = true;
-};
-
-/// An ordered set of tools: a menu bar, or a menu. By name or by number from 0.
-class Band : public automation::Dispatch {
-  public:
-    Band(Bar& bar, std::string name) : bar_(bar), name_(std::move(name)) {}
-    [[nodiscard]] const std::string& name() const noexcept { return name_; }
-    [[nodiscard]] const std::vector<std::shared_ptr<Tool>>& tools() const noexcept { return tools_; }
-    /// By name: a tool of this band, else of the bands that its menu tools open. Null when there is none.
-    [[nodiscard]] Tool* find(std::string_view name) const;
-    [[nodiscard]] Tool& tool(const automation::Variant& nameOrNumber) const;  ///< errBadIndex
-    Tool& add(std::string name, ToolKind kind);
-    /// Puts a tool in at `position` (0 to the count); errBadIndex.
-    void insert(std::size_t position, std::shared_ptr<Tool> tool);
-    void remove(std::string_view name);  ///< a tool of this band itself; errBadIndex
-    /// Height in twips as the view shows it; 0 while it is not shown.
-    [[nodiscard]] double height() const noexcept { return height_; }
-    void heightReported(double twips) noexcept { height_ = twips; }
-
-    Event<> toolsChanged;
-    [[nodiscard]] const automation::MemberTable& members() const override;
-
-  private:
-    friend class Bar;
-    using Path = std::vector<const Band*>;
-    [[nodiscard]] Tool* find(std::string_view name, Path& visited) const;
-    [[nodiscard]] Tool* own(std::string_view name) const;
-    Bar& bar_;
-    std::string name_;
-    std::vector<std::shared_ptr<Tool>> tools_;
-    double height_ = 0;
-};
 
 /// A menu and tool bar control: the main band as a menu bar, the others as menus and pop-up menus.
 class Bar : public Control {
@@ -105,6 +27,8 @@ class Bar : public Control {
     /// The visible tools of a band shown as a pop-up menu, closed by the commands and separators that stand in the main
     /// band itself and not in the band; separators at the ends and doubled ones left out.
     [[nodiscard]] std::vector<Tool*> popUpTools(const Band& band) const;
+    /// The visible tools of a band that a menu opens, separators as above.
+    [[nodiscard]] static std::vector<Tool*> subMenuTools(const Band& band);
     /// Raises bandOpenEvent; false when a handler cancels. A view asks before it shows a band.
     bool openBand(Band& band);
     /// A view reports that the tool of a menu is about to open its band.

@@ -1,5 +1,9 @@
+#include "forms/captioned.h"
+
 #include "automation/member_rows.h"
-#include "forms/simple_controls.h"
+#include "forms/frame.h"
+#include "forms/label.h"
+#include "forms/picture_box.h"
 
 namespace hx::forms {
 

@@ -1,6 +1,7 @@
+#include "forms/check_box.h"
+
 #include "automation/member_rows.h"
 #include "forms/known_value.h"
-#include "forms/simple_controls.h"
 
 namespace hx::forms {
 

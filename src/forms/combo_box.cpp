@@ -1,6 +1,7 @@
+#include "forms/combo_box.h"
+
 #include "automation/member_rows.h"
 #include "automation/text.h"
-#include "forms/simple_controls.h"
 
 namespace hx::forms {
 

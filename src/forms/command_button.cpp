@@ -1,5 +1,6 @@
+#include "forms/command_button.h"
+
 #include "automation/member_rows.h"
-#include "forms/simple_controls.h"
 
 namespace hx::forms {
 

@@ -27,8 +27,8 @@ void Control::move(double left, double top, double width, double height) {
 }
 
 void Control::setFocus() {
-    if (!changed.hasHandlers()) return focusChanged(true);
-    changed.raise("SetFocus");
+    if (!focusRequestEvent.hasHandlers()) return focusChanged(true);
+    focusRequestEvent.raise();
 }
 
 // One control of a form has the keyboard; a view may report the two sides of a change in any order.

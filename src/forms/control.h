@@ -61,8 +61,7 @@ class Control : public automation::Dispatch {
     /// Each change inside the font raises `changed` with "Font".
     [[nodiscard]] Font& font() noexcept { return font_; }
 
-    /// Asks the view to give the control the keyboard (raises `changed` with "SetFocus"); without a view it has it at
-    /// once.
+    /// Asks the view to give the control the keyboard (focusRequestEvent); without a view it has it at once.
     void setFocus();
     [[nodiscard]] bool hasFocus() const noexcept { return hasFocus_; }
 
@@ -82,6 +81,7 @@ class Control : public automation::Dispatch {
     Event<KeyPress&> keyPressEvent;
     Event<const MouseEvent&> mouseDownEvent, mouseMoveEvent, mouseUpEvent;
     Event<> doubleClickEvent;
+    Event<> focusRequestEvent;
     Event<bool> focusEvent;
 
     /// Rows common to all controls, for the tables of derived classes: Name, Index, Tag, Left, Top, Width, Height,

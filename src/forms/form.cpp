@@ -2,6 +2,7 @@
 
 #include "automation/restore.h"
 #include "automation/text.h"
+#include "forms/command_button.h"
 #include "forms/known_value.h"
 
 namespace hx::forms {
@@ -78,6 +79,32 @@ void Form::clientAreaChanged(double width, double height) {
     scaleWidth_ = width;
     scaleHeight_ = height;
     resizeEvent.raise();
+}
+
+bool Form::keyReported(Control& at, KeyMove move, KeyEvent key, KeyPress typed) {
+    const auto keep = at.share();
+    const auto keepForm = share();
+    const auto isTaken = [&](auto& event, const auto& tell) {
+        if (event.swallowed()) return false;  // a key without a code, or one that types nothing
+        if (keyPreview_ && &at != this) tell(*this);
+        if (loaded() && !event.swallowed()) tell(at);
+        return !loaded() || event.swallowed();
+    };
+    const bool down = move == KeyMove::down;
+    return isTaken(key, [&](Control& to) { down ? to.keyDown(key) : to.keyUp(key); }) ||
+           (down && isTaken(typed, [&](Control& to) { to.keyPress(typed); }));
+}
+
+CommandButton* Form::buttonOf(std::int16_t code) const {
+    if (code != key::enter && code != key::escape) return nullptr;
+    CommandButton* pressed = nullptr;
+    for (const auto& control : controls_) {
+        auto* button = dynamic_cast<CommandButton*>(control.get());
+        if (button == nullptr || !button->visible()) continue;
+        if (code == key::enter && button->hasFocus()) return button;
+        if (pressed == nullptr && (code == key::enter ? button->isDefault() : button->isCancel())) pressed = button;
+    }
+    return pressed;
 }
 
 void Form::boundsReported(double left, double top, double width, double height, WindowState state) {

@@ -61,6 +61,13 @@ class Form : public Control {
     void clientAreaChanged(double width, double height);  ///< raises resizeEvent
     /// The user moved or sized the window or changed its state; no `changed` is raised.
     void boundsReported(double left, double top, double width, double height, WindowState state);
+    /// A key went down or up in a control of the form, or in the form itself: the key, and the character that one going
+    /// down types (0 for none). The form hears of it first when it previews keys, then the control. True when nothing
+    /// else may come of it: a handler has swallowed it, or has ended the form.
+    bool keyReported(Control& at, KeyMove move, KeyEvent key, KeyPress typed = {});
+    /// The button that a key presses which no control has taken: Enter the one that has the keyboard, else the default
+    /// one, Esc the cancel button. Null for none.
+    [[nodiscard]] CommandButton* buttonOf(std::int16_t code) const;
     /// The user closed it by its frame: unload(byUser).
     bool closeByFrame() { return unload(UnloadMode::byUser); }
     void activated(bool active) { activateEvent.raise(active); }

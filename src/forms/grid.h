@@ -5,13 +5,13 @@
 #include <memory>
 #include <optional>
 #include <string>
-#include <unordered_set>
 #include <vector>
 
 #include "ado/recordset.h"
 #include "forms/control.h"
 #include "forms/grid_column.h"
 #include "forms/input.h"
+#include "forms/selected_rows.h"
 
 namespace hx::forms {
 
@@ -27,25 +27,6 @@ enum class GridHit : std::int16_t {
 
 /// Which rows a user can select.
 enum class MultiSelect : std::int16_t { none = 0, simple = 1, extended = 2 };
-
-/// The bookmarks of the selected rows, in the order of selection, each once.
-class SelectedRows : public automation::Dispatch {
-  public:
-    [[nodiscard]] std::int32_t count() const noexcept { return static_cast<std::int32_t>(bookmarks_.size()); }
-    [[nodiscard]] const std::vector<ado::Bookmark>& bookmarks() const noexcept { return bookmarks_; }
-    [[nodiscard]] bool contains(const ado::Bookmark& bookmark) const;
-    void add(const ado::Bookmark& bookmark);  ///< a null bookmark is ignored
-    void remove(const ado::Bookmark& bookmark);
-    using automation::Dispatch::set;
-    void set(std::vector<ado::Bookmark> bookmarks);
-    void clear();
-    Event<> changed;
-    [[nodiscard]] const automation::MemberTable& members() const override;
-
-  private:
-    std::vector<ado::Bookmark> bookmarks_;
-    std::unordered_set<ado::Key> keys_;
-};
 
 /// An error that the grid reports. A handler sets `response` to 0 when the grid shall show no message of its own.
 struct GridError {
@@ -138,9 +119,9 @@ class Grid : public Control {
     void cancelUpdate();  ///< drops the pending row; the stored values show again
     /// Raises errorEvent; when its response stays 1, shows "code: description" in a message box of the form's screen.
     void reportError(const automation::Error& error);
-    /// Asks the view for the text of an open cell editor, which goes into its cell; the editor closes. One whose text
-    /// cannot be taken stays open.
-    void settle() { changed.raise("Settle"); }
+    /// Asks the view (settleEvent) for the text of an open cell editor, which goes into its cell; the editor closes.
+    /// One whose text cannot be taken stays open.
+    void settle() { settleEvent.raise(); }
 
     // --- keys that a view gives to the grid although a window around it has a shortcut of the same name
     void claimKeys(std::vector<KeyEvent> keys) { claimed_ = std::move(keys); }
@@ -177,6 +158,7 @@ class Grid : public Control {
     Event<std::int32_t> rowChanged;  ///< contents of one row are new
     Event<> columnsChanged;          ///< columns were added, removed or reordered
     Event<> currentCellChanged;
+    Event<> settleEvent;
     Event<bool&> leavingRowEvent;  ///< the current row has changed data; set true to stay
     Event<GridError&> errorEvent, viewErrorEvent;
     Event<std::int32_t> headClickEvent, buttonClickEvent;  ///< column number

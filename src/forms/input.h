@@ -6,9 +6,9 @@
 namespace hx::forms {
 
 namespace key {
-inline constexpr std::int16_t tab = 9, enter = 13, escape = 27, space = 32, pageUp = 33, pageDown = 34, end = 35,
-                              home = 36, left = 37, up = 38, right = 39, down = 40, del = 46, c = 67, o = 79, f1 = 112,
-                              f6 = 117, f8 = 119, f9 = 120;
+inline constexpr std::int16_t backspace = 8, tab = 9, enter = 13, escape = 27, space = 32, pageUp = 33, pageDown = 34,
+                              end = 35, home = 36, left = 37, up = 38, right = 39, down = 40, insert = 45, del = 46,
+                              c = 67, o = 79, f1 = 112, f6 = 117, f8 = 119, f9 = 120, f24 = 135;
 }
 
 namespace shift {
@@ -27,6 +27,9 @@ struct KeyEvent {
     void swallow() noexcept { code = 0; }
     friend bool operator==(const KeyEvent&, const KeyEvent&) = default;
 };
+
+/// What a key does.
+enum class KeyMove { down, up };
 
 /// A character typed (its Unicode code point).
 struct KeyPress {

@@ -4,8 +4,8 @@
 #include <array>
 #include <stdexcept>
 
+#include "forms/command_button.h"
 #include "forms/form.h"
-#include "forms/simple_controls.h"
 
 namespace hx::forms {
 

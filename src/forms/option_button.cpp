@@ -1,6 +1,7 @@
+#include "forms/option_button.h"
+
 #include "automation/member_rows.h"
 #include "forms/form.h"
-#include "forms/simple_controls.h"
 
 namespace hx::forms {
 

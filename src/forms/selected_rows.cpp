@@ -1,7 +1,8 @@
+#include "forms/selected_rows.h"
+
 #include <algorithm>
 
 #include "automation/member_rows.h"
-#include "forms/grid.h"
 
 namespace hx::forms {
 

@@ -1,5 +1,6 @@
+#include "forms/tab_strip.h"
+
 #include "automation/member_rows.h"
-#include "forms/simple_controls.h"
 
 namespace hx::forms {
 

@@ -1,9 +1,10 @@
+#include "forms/text_box.h"
+
 #include <algorithm>
 
 #include "automation/member_rows.h"
 #include "automation/text.h"
 #include "forms/known_value.h"
-#include "forms/simple_controls.h"
 
 namespace hx::forms {
 

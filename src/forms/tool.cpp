@@ -1,5 +1,6 @@
+#include "forms/tool.h"
+
 #include "automation/member_rows.h"
-#include "forms/bar.h"
 
 namespace hx::forms {
 

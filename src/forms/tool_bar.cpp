@@ -1,7 +1,10 @@
 #include "forms/tool_bar.h"
 
+#include <algorithm>
+
 #include "automation/member_rows.h"
 #include "automation/text.h"
+#include "forms/name_or_number.h"
 
 namespace hx::forms {
 
@@ -39,17 +42,12 @@ ToolButton& ToolBar::addButton(std::string key, Picture picture) {
 }
 
 ToolButton& ToolBar::button(const Variant& keyOrNumber) {
-    if (keyOrNumber.isString()) {
-        for (const auto& button : buttons_) {
-            if (automation::equalIgnoreCase(button->key(), keyOrNumber.asString())) return *button;
-        }
-        automation::throwBadIndex(name(), keyOrNumber);
-    }
-    const std::int32_t number = automation::toInt32(keyOrNumber);
-    if (number < 1 || static_cast<std::size_t>(number) > buttons_.size()) {
-        automation::throwBadIndex(name(), keyOrNumber);
-    }
-    return *buttons_[static_cast<std::size_t>(number - 1)];
+    const auto find = [this](std::string_view key) {
+        const auto found = std::ranges::find_if(
+            buttons_, [&](const auto& button) { return automation::equalIgnoreCase(button->key(), key); });
+        return found == buttons_.end() ? nullptr : found->get();
+    };
+    return itemOf(name(), buttons_, keyOrNumber, find, 1);
 }
 
 void ToolBar::click(ToolButton& button) {

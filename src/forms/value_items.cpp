@@ -1,7 +1,8 @@
+#include "forms/value_items.h"
+
 #include <functional>
 
 #include "automation/convert.h"
-#include "forms/grid_column.h"
 
 namespace hx::forms {
 

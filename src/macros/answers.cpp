@@ -2,8 +2,8 @@
 #include <array>
 #include <optional>
 
-#include "adapters/headless/message_style.h"
 #include "automation/text.h"
+#include "forms/message_style.h"
 #include "macros/arguments.h"
 #include "macros/globals.h"
 
@@ -33,27 +33,27 @@ std::optional<Variant> ask(Engine& engine, const Function& function, const List&
     }
 }
 
-List buttonsOf(const headless::Message& box) {
+List buttonsOf(const forms::ShownMessage& box) {
     List names;
-    for (const Answer button : box.buttons) names.emplace_back(headless::nameOf(button));
+    for (const Answer button : box.buttons) names.emplace_back(forms::message::nameOf(button));
     return names;
 }
 
-Answer answerOf(Engine& engine, const headless::Message& box, const Variant& answer) {
+Answer answerOf(Engine& engine, const forms::ShownMessage& box, const Variant& answer) {
     if (answer.isEmpty()) return box.defaultButton;
     const std::string name = automation::toText(answer);
     const auto found = std::ranges::find_if(
-        box.buttons, [&](Answer button) { return automation::equalIgnoreCase(headless::nameOf(button), name); });
+        box.buttons, [&](Answer button) { return automation::equalIgnoreCase(forms::message::nameOf(button), name); });
     if (found != box.buttons.end()) return *found;
     engine.fail(Error(automation::errBadIndex, "The message box \"" + box.text + "\" has no button \"" + name + "\""));
-    return headless::escapeAnswerOf(box.style);
+    return forms::message::escapeAnswerOf(box.style);
 }
 
 auto messageAnswer(Engine& engine, Function function) {
-    return [&engine, function = std::move(function)](const headless::Message& box) {
+    return [&engine, function = std::move(function)](const forms::ShownMessage& box) {
         const auto answer =
-            ask(engine, function, {box.text, box.title, buttonsOf(box), headless::nameOf(box.defaultButton)});
-        return answer ? answerOf(engine, box, *answer) : headless::escapeAnswerOf(box.style);
+            ask(engine, function, {box.text, box.title, buttonsOf(box), forms::message::nameOf(box.defaultButton)});
+        return answer ? answerOf(engine, box, *answer) : forms::message::escapeAnswerOf(box.style);
     };
 }
 
@@ -122,7 +122,7 @@ void setDialogAnswer(Engine& engine, Studio& studio, const Arguments& given) {
 }  // namespace
 
 void defineAnswers(Engine& engine, Studio& studio) {
-    headless::Script& script = studio.script();
+    forms::Script& script = studio.script();
     defineAnswer(engine, "OnMessage", script.onMessage,
                  [](Engine& asked, const Function& function) { return messageAnswer(asked, function); });
     defineAnswer(engine, "OnItemSelection", script.onItem,

@@ -3,11 +3,11 @@
 #include <functional>
 #include <optional>
 
-#include "adapters/headless/components.h"
-#include "adapters/headless/record.h"
-#include "adapters/headless/script.h"
 #include "adapters/lua/macro_files.h"
 #include "automation/restore.h"
+#include "forms/record.h"
+#include "forms/script.h"
+#include "hosting/components.h"
 
 namespace hx::macros {
 
@@ -34,9 +34,9 @@ class Attendance {
     /// While it lives, what happens is the user's own doing.
     [[nodiscard]] automation::Restore<bool> stepAside() { return {aside_, true}; }
 
-    headless::Script script;
-    headless::Record record;
-    headless::Components components{record};
+    forms::Script script;
+    forms::Record record;
+    hosting::Components components{record};
 
   private:
     std::function<bool()> cancels_;

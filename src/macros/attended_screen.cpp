@@ -3,10 +3,10 @@
 #include <algorithm>
 #include <ranges>
 
-#include "adapters/headless/message_style.h"
 #include "automation/text.h"
 #include "forms/bar.h"
-#include "forms/simple_controls.h"
+#include "forms/command_button.h"
+#include "forms/message_style.h"
 
 namespace hx::macros {
 
@@ -14,10 +14,7 @@ namespace {
 
 // By the button that Esc presses: to some dialogs their frame means yes.
 void cancel(forms::Form& form) {
-    for (const auto& control : form.controls()) {
-        auto* const button = dynamic_cast<forms::CommandButton*>(control.get());
-        if (button != nullptr && button->isCancel()) return button->click();
-    }
+    if (forms::CommandButton* const button = form.buttonOf(forms::key::escape)) return button->click();
     form.closeByFrame();
 }
 
@@ -81,15 +78,12 @@ forms::message::Answer AttendedScreen::messageBox(std::string_view text, std::in
         const auto asking = attendance_.ask();
         return scripted_.messageBox(text, style, title);
     }
-    return askUser({.text = std::string(text),
-                    .title = std::string(title.empty() ? forms::message::defaultTitle : title),
-                    .style = style,
-                    .buttons = headless::buttonsOf(style),
-                    .defaultButton = headless::defaultButtonOf(style),
-                    .answer = headless::escapeAnswerOf(style)});
+    forms::ShownMessage box = forms::shownMessage(text, style, title);
+    box.answer = forms::message::escapeAnswerOf(style);
+    return askUser(std::move(box));
 }
 
-forms::message::Answer AttendedScreen::askUser(headless::Message box) {
+forms::message::Answer AttendedScreen::askUser(forms::ShownMessage box) {
     if (!attendance_.cancels()) box.answer = user_.messageBox(box.text, box.style, box.title);
     attendance_.record.messages.push_back(box);
     return box.answer;
@@ -111,7 +105,7 @@ void AttendedScreen::showUser(forms::Bar& bar, forms::Band& band) {
             [&](forms::Band& opening, bool& cancel) { refused = refused || (&opening == &band && cancel); });
         user_.popUp(bar, band);
     }
-    headless::PopUp entry;
+    forms::PopUp entry;
     entry.band = band.name();
     entry.refused = refused;
     attendance_.record.popUps.push_back(std::move(entry));

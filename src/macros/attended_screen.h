@@ -3,9 +3,7 @@
 #include <functional>
 #include <vector>
 
-#include "adapters/headless/screen.h"
-#include "adapters/headless/window_operations.h"
-#include "forms/form.h"
+#include "forms/scripted_user.h"
 #include "macros/attendance.h"
 
 namespace hx::macros {
@@ -41,15 +39,14 @@ class AttendedScreen : public forms::Screen {
 
   private:
     [[nodiscard]] bool isScripted(const forms::Form& form) const;
-    forms::message::Answer askUser(headless::Message box);
+    forms::message::Answer askUser(forms::ShownMessage box);
     void showUser(forms::Bar& bar, forms::Band& band);
 
     forms::Screen& user_;
     Attendance& attendance_;
     ShowFor showFor_;
-    headless::WindowOperations noWindows_;
     /// Answers by the macro's functions, and cancels where there is none.
-    headless::Screen scripted_{attendance_.script, attendance_.record, noWindows_};
+    forms::ScriptedUser scripted_{attendance_.script, attendance_.record};
     std::vector<forms::Form*> forms_;
     std::vector<forms::Form*> dialogs_;  ///< those that wait for the user
 };

@@ -1,7 +1,7 @@
 #include <utility>
 
-#include "adapters/headless/message_style.h"
 #include "automation/text.h"
+#include "forms/message_style.h"
 #include "macros/arguments.h"
 #include "macros/globals.h"
 
@@ -15,46 +15,46 @@ using lua::List;
 using lua::Value;
 using lua::Values;
 
-Value takeMessages(headless::Record& record) {
+Value takeMessages(forms::Record& record) {
     List list;
-    for (const headless::Message& box : std::exchange(record.messages, {})) {
+    for (const forms::ShownMessage& box : std::exchange(record.messages, {})) {
         List buttons;
-        for (const auto button : box.buttons) buttons.emplace_back(headless::nameOf(button));
+        for (const auto button : box.buttons) buttons.emplace_back(forms::message::nameOf(button));
         list.emplace_back(Fields{{"text", box.text},
                                  {"title", box.title},
                                  {"buttons", std::move(buttons)},
-                                 {"answer", headless::nameOf(box.answer)}});
+                                 {"answer", forms::message::nameOf(box.answer)}});
     }
     return list;
 }
 
 // A band that refused to open was not seen.
-Value takePopUps(headless::Record& record) {
+Value takePopUps(forms::Record& record) {
     List list;
-    for (const headless::PopUp& popUp : std::exchange(record.popUps, {})) {
+    for (const forms::PopUp& popUp : std::exchange(record.popUps, {})) {
         if (!popUp.refused) list.emplace_back(popUp.band);
     }
     return list;
 }
 
-Value takeBeeps(headless::Record& record) { return std::exchange(record.beeps, 0); }
+Value takeBeeps(forms::Record& record) { return std::exchange(record.beeps, 0); }
 
-Value takeHelp(headless::Record& record) {
+Value takeHelp(forms::Record& record) {
     List list;
-    for (const headless::HelpCall& call : std::exchange(record.help, {})) {
+    for (const forms::HelpCall& call : std::exchange(record.help, {})) {
         list.emplace_back(Fields{{"file", call.file}, {"context", call.context}});
     }
     return list;
 }
 
-List argumentsOf(const headless::ComponentCall& call) {
+List argumentsOf(const forms::ComponentCall& call) {
     List list;
     for (const automation::Variant& argument : call.arguments) list.emplace_back(argument);
     return list;
 }
 
 // The calls of a component follow its creation; a component that was not there has none.
-Value takeComponents(headless::Record& record) {
+Value takeComponents(forms::Record& record) {
     List list;
     auto calls = std::exchange(record.componentCalls, {});
     auto call = calls.begin();
@@ -72,7 +72,7 @@ Value takeComponents(headless::Record& record) {
 }  // namespace
 
 void defineRecords(Engine& engine, Studio& studio) {
-    const auto add = [&](const char* name, Value (*take)(headless::Record&)) {
+    const auto add = [&](const char* name, Value (*take)(forms::Record&)) {
         engine.define("studio", name, [&studio, take](Values) { return take(studio.record()); });
     };
     add("Messages", takeMessages);

@@ -6,7 +6,7 @@
 
 #include "ado/field.h"
 #include "automation/convert.h"
-#include "forms/simple_controls.h"
+#include "forms/check_box.h"
 
 /// How values pass between a row of the recipe table and the controls of a dialog.
 namespace hx::recipe {

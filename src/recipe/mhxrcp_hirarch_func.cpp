@@ -1,6 +1,7 @@
 #include "recipe/mhxrcp_hirarch_func.h"
 
 #include "recipe/node_key.h"
+#include "recipe/recipe_window.h"
 #include "recipe/schema.h"
 
 namespace hx::recipe {
@@ -36,7 +37,7 @@ std::string memberQuery(std::string_view nodeKey) {
     return {};
 }
 
-void RefreshMemberView(MemberView& view, const resources::ResourceTable& texts) {
+void RefreshMemberView(RecipeWindow& view, const resources::ResourceTable& texts) {
     forms::Grid& grid = view.memberGrid();
     ado::Recordset& members = view.memberRecordset();
     const std::string order = orderClause(grid.sortText());

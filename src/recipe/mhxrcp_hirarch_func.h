@@ -4,7 +4,6 @@
 #include <string>
 
 #include "ado/recordset.h"
-#include "forms/grid.h"
 #include "forms/screen.h"
 #include "forms/status_bar.h"
 #include "resources/resource_table.h"
@@ -12,17 +11,7 @@
 /// Shared data-access routines of the editor: the module MHXRCPHirarchFunc.
 namespace hx::recipe {
 
-/// What RefreshMemberView needs of the editor window.
-class MemberView {
-  public:
-    virtual ~MemberView() = default;
-    [[nodiscard]] virtual forms::Grid& memberGrid() = 0;
-    [[nodiscard]] virtual ado::Recordset& memberRecordset() = 0;
-    [[nodiscard]] virtual const std::string& nodeKey() const = 0;
-    /// Whether a pending edit is saved when the query changes.
-    [[nodiscard]] virtual bool saveFirst() const = 0;
-    virtual void setSubRecipeView(bool subRecipes) = 0;
-};
+class RecipeWindow;
 
 /// The numbers of recipes and members that the status line shows; one for the whole add-in.
 class StatusCounters {
@@ -37,8 +26,8 @@ class StatusCounters {
     std::int32_t members_ = 0;
 };
 
-/// Shows the members of the view's node; database errors reach the caller.
-void RefreshMemberView(MemberView& view, const resources::ResourceTable& texts);
+/// Shows the members of the window's node; database errors reach the caller.
+void RefreshMemberView(RecipeWindow& view, const resources::ResourceTable& texts);
 /// "SELECT ..." for a node key without the order; empty for an unknown type.
 [[nodiscard]] std::string memberQuery(std::string_view nodeKey);
 
@@ -46,19 +35,6 @@ bool OpenAndMoveFirst(ado::Recordset& recordset);
 bool OpenAndMoveLast(ado::Recordset& recordset);
 /// Never throws. True when the recordset is closed at the end.
 bool CloseRecordset(ado::Recordset& recordset, bool saveFirst) noexcept;
-void ShowWaitCursor(forms::Screen& screen);
-void RestoreCursor(forms::Screen& screen);
-/// Shows the wait cursor while it lives.
-class WaitCursor {
-  public:
-    explicit WaitCursor(forms::Screen& screen) : screen_(screen) { ShowWaitCursor(screen_); }
-    ~WaitCursor() { RestoreCursor(screen_); }
-    WaitCursor(const WaitCursor&) = delete;
-    WaitCursor& operator=(const WaitCursor&) = delete;
-
-  private:
-    forms::Screen& screen_;
-};
 void RenameRecipe(ado::Recordset& recipes, const std::string& oldName, const std::string& newName);
 
 }  // namespace hx::recipe

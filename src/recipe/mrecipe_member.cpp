@@ -6,6 +6,7 @@
 #include "automation/text.h"
 #include "recipe/existing_recipe.h"
 #include "recipe/field_text.h"
+#include "recipe/mhxrcp_hirarch_func.h"
 #include "recipe/node_key.h"
 #include "recipe/schema.h"
 #include "recipe/stored_row.h"

@@ -35,6 +35,11 @@ const NodeKind* kindOf(std::string_view key) noexcept {
 
 std::string_view KeyPrefix(std::string_view key) noexcept { return key.substr(0, prefixLength); }
 
+bool isRecipeKey(std::string_view key) noexcept {
+    const std::string_view type = KeyPrefix(key);
+    return type == prefixSubRecipes || type == prefixRecipe || type == prefixRoot;
+}
+
 std::int32_t KeyId(std::string_view key) noexcept {
     if (key.size() <= prefixLength) return schema::noRecipe;
     // from_chars would take a minus sign; a key has none.

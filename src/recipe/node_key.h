@@ -13,6 +13,8 @@ inline constexpr std::string_view prefixSubRecipes = "RCPU";
 inline constexpr std::string_view rootKey = "RCPE0";
 
 [[nodiscard]] std::string_view KeyPrefix(std::string_view key) noexcept;
+/// Whether it is the key of the branch's root, a recipe or its sub-recipes.
+[[nodiscard]] bool isRecipeKey(std::string_view key) noexcept;
 /// -1 for a key shorter than five characters; else the leading digits behind the type (0 when there are none, -1 when
 /// they exceed 32 bits).
 [[nodiscard]] std::int32_t KeyId(std::string_view key) noexcept;

@@ -4,14 +4,14 @@
 
 #include "automation/member_rows.h"
 #include "automation/text.h"
-#include "recipe/mhxrcp_hirarch_func.h"
+#include "forms/wait_cursor.h"
 
 namespace hx::report {
 
 namespace {
 
 ProjectData read(const host::Services& services, const std::string& path) {
-    const recipe::WaitCursor wait(services.screen);
+    const forms::WaitCursor wait(services.screen);
     return readProject(services.database, path);
 }
 

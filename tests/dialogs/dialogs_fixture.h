@@ -7,7 +7,9 @@
 #include <vector>
 
 #include "adapters/headless/host.h"
-#include "forms/simple_controls.h"
+#include "forms/captioned.h"
+#include "forms/frame.h"
+#include "forms/label.h"
 #include "resources/help.h"
 #include "resources/resource_table.h"
 #include "support/memory_provider.h"

@@ -119,7 +119,7 @@ TEST_F(FSubRecipeTest, SaysWhatIsMissingInABoxWithOkAloneAndPutsTheKeyboardThere
     fill("");
     (void)ok();
     ASSERT_EQ(host.record.messages.size(), 1U);
-    const headless::Message& message = host.record.messages[0];
+    const forms::ShownMessage& message = host.record.messages[0];
     EXPECT_EQ(message.text, "Please choose a valid SubRecipe and an Item which describes the File Name");
     EXPECT_EQ(message.style, forms::message::ok);
     EXPECT_EQ(message.buttons, std::vector{forms::message::Answer::ok});

@@ -169,6 +169,14 @@ TEST_F(BarTest, APopUpMenuHasSeparatorsOnlyBetweenTools) {
     EXPECT_EQ(names(bar->popUpTools(option)), Names{"mnuOptionActualize"});
 }
 
+TEST_F(BarTest, ASubMenuShowsTheVisibleToolsOfItsBandAlone) {
+    showEditorEntry();
+    option.insert(0, std::make_shared<Tool>("first", ToolKind::separator));
+    EXPECT_EQ(names(Bar::subMenuTools(option)), (Names{"mnuOptionActualize", "mnuOptionsSep0", "mnuOptionStatistik"}));
+    option.tool(Variant("mnuOptionStatistik")).setVisible(false);
+    EXPECT_EQ(names(Bar::subMenuTools(option)), Names{"mnuOptionActualize"});
+}
+
 TEST_F(BarTest, AHandlerCanKeepABandFromOpening) {
     EXPECT_TRUE(bar->openBand(recipe));
     bar->bandOpenEvent.connect([&](Band& band, bool& cancel) { cancel = &band == &option; });

@@ -2,7 +2,10 @@
 #include <gtest/gtest.h>
 
 #include "fake_screen.h"
-#include "forms/simple_controls.h"
+#include "forms/check_box.h"
+#include "forms/command_button.h"
+#include "forms/frame.h"
+#include "forms/option_button.h"
 #include "recorder.h"
 #include "support/table_walker.h"
 

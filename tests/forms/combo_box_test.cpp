@@ -1,6 +1,7 @@
+#include "forms/combo_box.h"
+
 #include <gtest/gtest.h>
 
-#include "forms/simple_controls.h"
 #include "recorder.h"
 #include "support/table_walker.h"
 

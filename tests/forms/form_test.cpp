@@ -3,7 +3,8 @@
 #include <gtest/gtest.h>
 
 #include "fake_screen.h"
-#include "forms/simple_controls.h"
+#include "forms/command_button.h"
+#include "forms/text_box.h"
 #include "recorder.h"
 #include "support/table_walker.h"
 

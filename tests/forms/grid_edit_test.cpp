@@ -330,10 +330,11 @@ TEST_F(GridEdit, TheOpenEditorTellsWhereTheCaretStands) {
 }
 
 TEST_F(GridEdit, SettlingAsksTheViewForAnOpenEditor) {
-    int asked = 0;
-    grid.changed.connect([&](std::string_view property) { asked += property == "Settle" ? 1 : 0; });
+    ChangeRecorder changes(grid);
+    Counter<> asked(grid.settleEvent);
     grid.settle();
-    EXPECT_EQ(asked, 1);
+    EXPECT_EQ(asked.take(), 1);
+    EXPECT_TRUE(changes.take().empty());
 }
 
 TEST_F(GridEdit, AFailureOfItsViewIsShownUnlessAHandlerDoes) {

@@ -4,8 +4,12 @@
 #include <stdexcept>
 
 #include "fake_screen.h"
+#include "forms/command_button.h"
 #include "forms/form.h"
-#include "forms/simple_controls.h"
+#include "forms/frame.h"
+#include "forms/label.h"
+#include "forms/tab_strip.h"
+#include "forms/text_box.h"
 
 namespace hx::forms {
 namespace {

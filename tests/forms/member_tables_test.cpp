@@ -2,8 +2,16 @@
 #include <gtest/gtest.h>
 
 #include "forms/bar.h"
-#include "forms/simple_controls.h"
+#include "forms/check_box.h"
+#include "forms/combo_box.h"
+#include "forms/command_button.h"
+#include "forms/frame.h"
+#include "forms/label.h"
+#include "forms/option_button.h"
+#include "forms/picture_box.h"
 #include "forms/status_bar.h"
+#include "forms/tab_strip.h"
+#include "forms/text_box.h"
 #include "forms/tool_bar.h"
 #include "grid_fixture.h"
 

@@ -6,7 +6,7 @@
 #include "forms/bar.h"
 #include "forms/form.h"
 #include "forms/grid.h"
-#include "forms/simple_controls.h"
+#include "forms/picture_box.h"
 #include "forms/status_bar.h"
 #include "forms/tool_bar.h"
 #include "support/faulty_provider.h"

@@ -10,7 +10,14 @@
 #include <QTest>
 #include <QTimer>
 
-#include "forms/simple_controls.h"
+#include "forms/check_box.h"
+#include "forms/combo_box.h"
+#include "forms/command_button.h"
+#include "forms/frame.h"
+#include "forms/label.h"
+#include "forms/option_button.h"
+#include "forms/tab_strip.h"
+#include "forms/text_box.h"
 #include "gui/desktop.h"
 
 namespace hx::gui {

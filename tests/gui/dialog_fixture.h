@@ -9,8 +9,8 @@
 #include <vector>
 
 #include "adapters/headless/host.h"
-#include "adapters/qt/choosers/qt_item_selection.h"
-#include "adapters/qt/choosers/qt_path_selection.h"
+#include "adapters/qt/screen/qt_item_selection.h"
+#include "adapters/qt/screen/qt_path_selection.h"
 #include "dialogs/dialog.h"
 #include "gui/desktop.h"
 #include "resources/help.h"

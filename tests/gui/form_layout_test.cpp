@@ -7,7 +7,13 @@
 #include <QTabWidget>
 #include <QTest>
 
-#include "forms/simple_controls.h"
+#include "forms/check_box.h"
+#include "forms/combo_box.h"
+#include "forms/command_button.h"
+#include "forms/frame.h"
+#include "forms/label.h"
+#include "forms/tab_strip.h"
+#include "forms/text_box.h"
 #include "gui/dialog_fixture.h"
 
 namespace hx::gui {

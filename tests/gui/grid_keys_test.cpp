@@ -1,6 +1,7 @@
 #include <QAction>
 #include <QApplication>
 
+#include "forms/text_box.h"
 #include "gui/grid_fixture.h"
 
 namespace hx::gui {

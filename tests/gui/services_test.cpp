@@ -8,10 +8,10 @@
 #include <QTimer>
 
 #include "adapters/qt/choosers/item_dialog.h"
-#include "adapters/qt/choosers/qt_item_selection.h"
-#include "adapters/qt/choosers/qt_path_selection.h"
 #include "adapters/qt/help/qt_help_viewer.h"
 #include "adapters/qt/module_components.h"
+#include "adapters/qt/screen/qt_item_selection.h"
+#include "adapters/qt/screen/qt_path_selection.h"
 #include "adapters/qt/text.h"
 #include "gui/desktop.h"
 #include "studio/studio_host.h"

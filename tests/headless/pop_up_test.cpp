@@ -47,7 +47,7 @@ TEST_F(PopUpTest, ClosesWithoutAScriptAndRecordsWhatWasShown) {
     host.screen.popUp(*bar, band());
     EXPECT_THAT(clicked, IsEmpty());
     ASSERT_EQ(host.record.popUps.size(), 1U);
-    const PopUp& shown = host.record.popUps[0];
+    const forms::PopUp& shown = host.record.popUps[0];
     EXPECT_EQ(shown.band, "mnuRecipe");
     EXPECT_FALSE(shown.refused);
     EXPECT_EQ(shown.chosen, "");

@@ -34,14 +34,14 @@ TEST_F(ScreenTest, AnswersAMessageBoxByItsDefaultButton) {
 }
 
 TEST_F(ScreenTest, RecordsTextTitleButtonsAndAnswerOfAMessageBox) {
-    host.script.onMessage = [](const Message& box) {
+    host.script.onMessage = [](const forms::ShownMessage& box) {
         EXPECT_EQ(box.defaultButton, Answer::no);
         return Answer::yes;
     };
     constexpr std::int32_t style = message::yesNo | message::question | message::defaultButton2;
     EXPECT_EQ(ask(style), Answer::yes);
     ASSERT_EQ(host.record.messages.size(), 1U);
-    const Message& box = host.record.messages[0];
+    const forms::ShownMessage& box = host.record.messages[0];
     EXPECT_EQ(box.text, "Really?");
     EXPECT_EQ(box.title, "Question");
     EXPECT_EQ(box.style, style);
@@ -55,7 +55,7 @@ TEST_F(ScreenTest, GivesABoxWithoutATitleTheComponentsName) {
 }
 
 TEST_F(ScreenTest, RefusesAnAnswerThatTheBoxDoesNotOffer) {
-    host.script.onMessage = [](const Message&) { return Answer::cancel; };
+    host.script.onMessage = [](const forms::ShownMessage&) { return Answer::cancel; };
     try {
         ask(message::yesNo);
         FAIL() << "the answer was taken";

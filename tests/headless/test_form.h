@@ -1,8 +1,9 @@
 #pragma once
 
 #include "forms/bar.h"
+#include "forms/command_button.h"
 #include "forms/form.h"
-#include "forms/simple_controls.h"
+#include "forms/text_box.h"
 
 namespace hx::headless {
 

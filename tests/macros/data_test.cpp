@@ -19,7 +19,6 @@ class OpenProject : public Studio {
   public:
     explicit OpenProject(std::string file) : file_(std::move(file)) { sqlite::createProject(file_); }
     [[nodiscard]] std::string pathOf(const std::string& path) const override { return path; }
-    [[nodiscard]] std::string fileOf(const std::string& path) const override { return path; }
     void newProject(const std::string&) override {}
     void openProject(const std::string&) override {}
     void closeProject() override {}
@@ -31,16 +30,17 @@ class OpenProject : public Studio {
     [[nodiscard]] std::string selected() const override { return {}; }
     void select(const std::string&) override {}
     void showExpanded(const std::string&) override {}
-    [[nodiscard]] host::Registry& registry() override { return host_.registry; }
+    [[nodiscard]] hosting::ProjectRegistry& registry() override { return registry_; }
     [[nodiscard]] bool keepsRegistry() const override { return false; }
-    [[nodiscard]] headless::Script& script() override { return host_.script; }
-    [[nodiscard]] headless::Record& record() override { return host_.record; }
-    [[nodiscard]] headless::Components& components() override { return host_.components; }
+    [[nodiscard]] forms::Script& script() override { return host_.script; }
+    [[nodiscard]] forms::Record& record() override { return host_.record; }
+    [[nodiscard]] hosting::Components& components() override { return host_.components; }
 
   private:
     std::string file_;
     support::MemoryProvider provider_;
     headless::Host host_{provider_};
+    hosting::ProjectRegistry registry_{host_.registry};
 };
 
 /// Macros that may take 32 MB.

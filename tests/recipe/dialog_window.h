@@ -30,8 +30,8 @@ struct FakeWindow : forms::Form, RecipeWindow {
     forms::Grid& memberGrid() override { return *grid; }
     ado::Recordset& memberRecordset() override { return *data.rstabRecipeMembers; }
     const std::string& nodeKey() const override { return key; }
-    bool saveFirst() const override { return true; }
-    void setSubRecipeView(bool) override {}
+    bool saveFirst() const override { return save; }
+    void setSubRecipeView(bool on) override { subRecipes = on; }
 
     const host::Services& hostServices;
     resources::ResourceTable resourceTexts;
@@ -39,6 +39,7 @@ struct FakeWindow : forms::Form, RecipeWindow {
     DataEnvironment& data;
     std::shared_ptr<forms::Grid> grid = add<forms::Grid>("tdbRM");
     std::string key;
+    bool save = true, subRecipes = false;
 };
 
 /// A test of dialogs over an open plant.

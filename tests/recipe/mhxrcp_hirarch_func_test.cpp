@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "plant.h"
+#include "dialog_window.h"
 
 namespace hx::recipe {
 namespace {
@@ -18,26 +18,10 @@ TEST(MemberQuery, FollowsTheTypeOfTheNode) {
     EXPECT_EQ(memberQuery(""), "");
 }
 
-struct View : MemberView {
-    explicit View(DataEnvironment& data) : recordset(data.rstabRecipeMembers) {
-        grid.setDataSource(recordset);
-        for (const char* field : {"ID", "ParentID", "VarRecipe", "ChildID"}) grid.addColumn(field);
-    }
-    forms::Grid& memberGrid() override { return grid; }
-    ado::Recordset& memberRecordset() override { return *recordset; }
-    const std::string& nodeKey() const override { return key; }
-    bool saveFirst() const override { return save; }
-    void setSubRecipeView(bool on) override { subRecipes = on; }
-
-    std::shared_ptr<ado::Recordset> recordset;
-    forms::Grid grid{"tdbRM"};
-    std::string key;
-    bool save = true;
-    bool subRecipes = false;
-};
-
-struct RefreshingTheMembers : testing::Test {
+struct RefreshingTheMembers : DialogTest {
     RefreshingTheMembers() {
+        view.grid->setDataSource(recordset);
+        for (const char* field : {"ID", "ParentID", "VarRecipe", "ChildID"}) view.grid->addColumn(field);
         texts.AddResource(301, {"Variable", "Variable"});
         texts.AddResource(303, {"Dateiname", "File Name"});
         mix = plant.addRecipe("Mix");
@@ -53,13 +37,13 @@ struct RefreshingTheMembers : testing::Test {
     }
     std::vector<std::string> variables() {
         std::vector<std::string> names;
-        for (std::int32_t row = 0; row < view.grid.rowCount(); ++row) names.push_back(view.grid.text(row, 2));
+        for (std::int32_t row = 0; row < view.grid->rowCount(); ++row) names.push_back(view.grid->text(row, 2));
         return names;
     }
 
-    Plant plant;
     resources::ResourceTable texts;
-    View view{plant.data};
+    std::shared_ptr<ado::Recordset> recordset = plant.data.rstabRecipeMembers;
+    FakeWindow& view = *window;
     std::int32_t mix = 0, syrup = 0;
 };
 
@@ -68,8 +52,7 @@ using Names = std::vector<std::string>;
 TEST_F(RefreshingTheMembers, ARecipeShowsItsVariablesInTheOrderOfInsertion) {
     show("RCPR1");
     EXPECT_EQ(variables(), (Names{"B.Level", "A.Level"}));
-    EXPECT_EQ(view.recordset->source(),
-              "SELECT * FROM TrcpRecipeMember WHERE ParentID = 1 And ChildID = 0 ORDER BY ID");
+    EXPECT_EQ(recordset->source(), "SELECT * FROM TrcpRecipeMember WHERE ParentID = 1 And ChildID = 0 ORDER BY ID");
     EXPECT_FALSE(view.subRecipes);
 }
 
@@ -82,41 +65,41 @@ TEST_F(RefreshingTheMembers, TheSubRecipesOfARecipeAreItsOtherMembers) {
 TEST_F(RefreshingTheMembers, TheRootShowsAnEmptyGridAndNoError) {
     show("RCPR1");
     show("RCPE");
-    EXPECT_EQ(view.grid.rowCount(), 0);
-    EXPECT_EQ(view.recordset->state(), ado::adStateOpen);
-    EXPECT_EQ(view.recordset->source(), "SELECT * FROM TrcpRecipeMember WHERE ParentID = -1 ORDER BY ID");
+    EXPECT_EQ(view.grid->rowCount(), 0);
+    EXPECT_EQ(recordset->state(), ado::adStateOpen);
+    EXPECT_EQ(recordset->source(), "SELECT * FROM TrcpRecipeMember WHERE ParentID = -1 ORDER BY ID");
 }
 
 TEST_F(RefreshingTheMembers, ASortTextIsAppendedAsItIs) {
-    view.grid.setSortText("VarRecipe");
+    view.grid->setSortText("VarRecipe");
     show("RCPR1");
     EXPECT_EQ(variables(), (Names{"A.Level", "B.Level"}));
-    view.grid.setSortText("VarRecipe DESC");
+    view.grid->setSortText("VarRecipe DESC");
     show("RCPR1");
     EXPECT_EQ(variables(), (Names{"B.Level", "A.Level"}));
-    EXPECT_EQ(view.recordset->source(),
+    EXPECT_EQ(recordset->source(),
               "SELECT * FROM TrcpRecipeMember WHERE ParentID = 1 And ChildID = 0 ORDER BY VarRecipe DESC");
 }
 
 TEST_F(RefreshingTheMembers, OnlyTheSubRecipeViewShowsTheColumnOfTheSubRecipe) {
     show("RCPU1");
-    EXPECT_TRUE(view.grid.findColumn("ChildID")->visible());
-    EXPECT_EQ(view.grid.findColumn("VarRecipe")->caption(), "Dateiname");
+    EXPECT_TRUE(view.grid->findColumn("ChildID")->visible());
+    EXPECT_EQ(view.grid->findColumn("VarRecipe")->caption(), "Dateiname");
     show("RCPR1");
-    EXPECT_FALSE(view.grid.findColumn("ChildID")->visible());
-    EXPECT_EQ(view.grid.findColumn("VarRecipe")->caption(), "Variable");
+    EXPECT_FALSE(view.grid->findColumn("ChildID")->visible());
+    EXPECT_EQ(view.grid->findColumn("VarRecipe")->caption(), "Variable");
 }
 
 TEST_F(RefreshingTheMembers, AGridWithoutColumnsIsReloadedAllTheSame) {
-    view.grid.clearColumns();
+    view.grid->clearColumns();
     show("RCPU1");
     EXPECT_TRUE(view.subRecipes);
-    EXPECT_EQ(view.grid.rowCount(), 1);
+    EXPECT_EQ(view.grid->rowCount(), 1);
 }
 
 TEST_F(RefreshingTheMembers, APendingEditIsSavedBeforeTheQueryChanges) {
     show("RCPR1");
-    view.recordset->field("VarRecipe").setValue("Z.Level");
+    recordset->field("VarRecipe").setValue("Z.Level");
     show("RCPR2");
     EXPECT_EQ(variables(), (Names{"C.Level"}));
     show("RCPR1");
@@ -126,7 +109,7 @@ TEST_F(RefreshingTheMembers, APendingEditIsSavedBeforeTheQueryChanges) {
 TEST_F(RefreshingTheMembers, APendingEditIsDroppedWhenTheEditorDoesNotSaveFirst) {
     view.save = false;
     show("RCPR1");
-    view.recordset->field("VarRecipe").setValue("Z.Level");
+    recordset->field("VarRecipe").setValue("Z.Level");
     show("RCPR1");
     EXPECT_EQ(variables(), (Names{"B.Level", "A.Level"}));
 }
@@ -139,7 +122,7 @@ TEST_F(RefreshingTheMembers, ADatabaseErrorReachesTheCaller) {
 TEST_F(RefreshingTheMembers, ANodeOfAnotherKindHasNoQueryToOpen) { EXPECT_THROW(show("VARS1"), automation::Error); }
 
 TEST_F(RefreshingTheMembers, FindsTheQueryAlsoAfterATableWasOpenedOnTheSameRecordset) {
-    view.recordset->open("TrcpRecipeMember", nullptr, ado::adOpenKeyset, ado::adLockOptimistic, ado::adCmdTableDirect);
+    recordset->open("TrcpRecipeMember", nullptr, ado::adOpenKeyset, ado::adLockOptimistic, ado::adCmdTableDirect);
     show("RCPR1");
     EXPECT_EQ(variables(), (Names{"B.Level", "A.Level"}));
 }
@@ -147,7 +130,7 @@ TEST_F(RefreshingTheMembers, FindsTheQueryAlsoAfterATableWasOpenedOnTheSameRecor
 TEST_F(RefreshingTheMembers, ReadsNoRow) {
     plant.faults.arm(1, support::FaultPlan::Kind::read);
     show("RCPR1");
-    EXPECT_EQ(view.recordset->recordCount(), 2);
+    EXPECT_EQ(recordset->recordCount(), 2);
     EXPECT_FALSE(plant.faults.fired());
 }
 

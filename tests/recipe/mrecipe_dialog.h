@@ -1,6 +1,7 @@
 #pragma once
 
 #include "dialog_window.h"
+#include "recipe/mhxrcp_hirarch_func.h"
 #include "recipe/mrecipe.h"
 
 namespace hx::recipe {

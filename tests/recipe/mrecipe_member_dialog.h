@@ -2,6 +2,7 @@
 
 #include "automation/convert.h"
 #include "dialog_window.h"
+#include "recipe/mhxrcp_hirarch_func.h"
 #include "recipe/mrecipe_member.h"
 
 namespace hx::recipe {

@@ -12,6 +12,11 @@ TEST(NodeKey, ThePrefixIsTheFirstFourCharacters) {
     EXPECT_EQ(KeyPrefix(""), "");
 }
 
+TEST(NodeKey, OfTheRecipeBranchIsTheRootARecipeOrItsSubRecipes) {
+    for (const char* key : {"RCPE", "RCPE0", "RCPR17", "RCPU17"}) EXPECT_TRUE(isRecipeKey(key)) << key;
+    for (const char* key : {"", "RCP", "rcpr17", "RCPX17", "VARS1", "HXPROJECT"}) EXPECT_FALSE(isRecipeKey(key)) << key;
+}
+
 TEST(NodeKey, TheIdOfARecipeIsTheNumberBehindTheType) {
     EXPECT_EQ(KeyId("RCPR17"), 17);
     EXPECT_EQ(KeyId("RCPU2147483647"), 2147483647);

@@ -53,7 +53,7 @@ class ReportConnect : public testing::Test {
     }
     [[nodiscard]] Messages messages() const {
         Messages texts;
-        for (const headless::Message& message : host.record.messages)
+        for (const forms::ShownMessage& message : host.record.messages)
             texts.push_back(message.title + "|" + message.text);
         return texts;
     }

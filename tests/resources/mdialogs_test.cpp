@@ -6,7 +6,11 @@
 
 #include "adapters/headless/host.h"
 #include "automation/member_rows.h"
-#include "forms/simple_controls.h"
+#include "forms/combo_box.h"
+#include "forms/frame.h"
+#include "forms/label.h"
+#include "forms/tab_strip.h"
+#include "forms/text_box.h"
 #include "support/memory_provider.h"
 
 namespace hx::resources {

@@ -1,9 +1,10 @@
 #pragma once
 
 #include "automation/member_rows.h"
+#include "forms/check_box.h"
 #include "forms/form.h"
 #include "forms/grid.h"
-#include "forms/simple_controls.h"
+#include "forms/option_button.h"
 #include "forms/status_bar.h"
 
 namespace hx::settings {

@@ -3,7 +3,7 @@
 #include <optional>
 #include <utility>
 
-#include "adapters/headless/record.h"
+#include "forms/record.h"
 #include "host/system_services.h"
 
 namespace hx::headless {
@@ -11,7 +11,7 @@ namespace hx::headless {
 /// Records which help was asked for.
 class HelpViewer : public host::HelpViewer {
   public:
-    explicit HelpViewer(Record& record) : record_(record) {}
+    explicit HelpViewer(forms::Record& record) : record_(record) {}
     void showContext(forms::WindowHandle owner, const std::string& file, std::int32_t context) override {
         if (error_) throw automation::Error(*error_);
         record_.help.push_back({owner, file, context});
@@ -25,7 +25,7 @@ class HelpViewer : public host::HelpViewer {
 
   private:
     std::optional<automation::Error> error_;
-    Record& record_;
+    forms::Record& record_;
 };
 
 }  // namespace hx::headless

@@ -3,17 +3,17 @@
 #include <string>
 
 #include "adapters/headless/clipboard.h"
-#include "adapters/headless/components.h"
 #include "adapters/headless/help_viewer.h"
 #include "adapters/headless/memory_ini_file.h"
 #include "adapters/headless/memory_registry.h"
 #include "adapters/headless/project_explorer.h"
-#include "adapters/headless/record.h"
 #include "adapters/headless/screen.h"
-#include "adapters/headless/script.h"
 #include "adapters/headless/selections.h"
 #include "adapters/headless/window_operations.h"
+#include "forms/record.h"
+#include "forms/script.h"
 #include "host/services.h"
+#include "hosting/components.h"
 
 namespace hx::headless {
 
@@ -38,13 +38,13 @@ class Host {
     /// Lends the host's parts for as long as the host lives.
     [[nodiscard]] const host::Services& services() const noexcept { return services_; }
 
-    Script script;
-    Record record;
+    forms::Script script;
+    forms::Record record;
     WindowOperations windows;
     Screen screen;
     Clipboard clipboard;
     HelpViewer help;
-    Components components;
+    hosting::Components components;
     ItemSelection items;
     PathSelection folders;
     MemoryRegistry registry;  ///< unused when another one is lent; the same for the INI files

@@ -4,9 +4,8 @@
 #include <memory>
 
 #include "adapters/headless/form_window.h"
-#include "adapters/headless/record.h"
-#include "adapters/headless/script.h"
 #include "adapters/headless/window_operations.h"
+#include "forms/scripted_user.h"
 
 namespace hx::headless {
 
@@ -14,23 +13,25 @@ namespace hx::headless {
 class Screen : public forms::Screen {
   public:
     /// All are lent.
-    Screen(const Script& script, Record& record, WindowOperations& windows)
-        : script_(script), record_(record), windows_(windows) {}
+    Screen(const forms::Script& script, forms::Record& record, WindowOperations& windows)
+        : user_(script, record), record_(record), windows_(windows) {}
 
     void setLanguage(automation::Language language) noexcept { language_ = language; }
     /// The room of a maximised form, in twips.
     static constexpr double areaWidth = 19200, areaHeight = 12000;
 
     /// The form on top of those shown modally; null when there is none.
-    [[nodiscard]] forms::Form* modalForm() const noexcept { return modals_.empty() ? nullptr : modals_.back(); }
+    [[nodiscard]] forms::Form* modalForm() const noexcept { return user_.modalForm(); }
 
     [[nodiscard]] forms::WindowHandle createWindow(forms::Form& form) override;
     void destroyWindow(forms::Form& form) override;
-    void showModal(forms::Form& form, forms::WindowHandle owner) override;
+    void showModal(forms::Form& form, forms::WindowHandle owner) override { user_.showModal(form, owner); }
     void bringToFront(forms::Form& form) override;
-    forms::message::Answer messageBox(std::string_view text, std::int32_t style, std::string_view title) override;
-    void popUp(forms::Bar& bar, forms::Band& band) override;
-    bool chooseFont(forms::Font::Values& font) override;
+    forms::message::Answer messageBox(std::string_view text, std::int32_t style, std::string_view title) override {
+        return user_.messageBox(text, style, title);
+    }
+    void popUp(forms::Bar& bar, forms::Band& band) override { user_.popUp(bar, band); }
+    bool chooseFont(forms::Font::Values& font) override { return user_.chooseFont(font); }
     void beep() override { ++record_.beeps; }
     [[nodiscard]] forms::Pointer pointer() const override { return pointer_; }
     void setPointer(forms::Pointer pointer) noexcept override;
@@ -43,13 +44,11 @@ class Screen : public forms::Screen {
         forms::WindowHandle handle;
         std::unique_ptr<FormWindow> window;
     };
-    void runScript(forms::Form& form, ModalForm& entry);
 
-    const Script& script_;
-    Record& record_;
+    forms::ScriptedUser user_;
+    forms::Record& record_;
     WindowOperations& windows_;
     std::map<const forms::Form*, Shown> shown_;
-    std::vector<forms::Form*> modals_;
     automation::Language language_ = automation::Language::english;
     forms::Pointer pointer_ = forms::Pointer::standard;
 };

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "adapters/headless/record.h"
-#include "adapters/headless/script.h"
+#include "forms/record.h"
+#include "forms/script.h"
 #include "host/system_services.h"
 
 namespace hx::headless {
@@ -9,7 +9,7 @@ namespace hx::headless {
 /// Variables that the script chooses.
 class ItemSelection : public host::ItemSelection {
   public:
-    ItemSelection(const Script& script, Record& record) : script_(script), record_(record) {}
+    ItemSelection(const forms::Script& script, forms::Record& record) : script_(script), record_(record) {}
     [[nodiscard]] std::string choose(forms::WindowHandle owner, const std::string& current) override {
         const auto ask = script_.onItem;
         std::string chosen = ask ? ask(current) : std::string();
@@ -18,14 +18,14 @@ class ItemSelection : public host::ItemSelection {
     }
 
   private:
-    const Script& script_;
-    Record& record_;
+    const forms::Script& script_;
+    forms::Record& record_;
 };
 
 /// Folders that the script chooses.
 class PathSelection : public host::PathSelection {
   public:
-    PathSelection(const Script& script, Record& record) : script_(script), record_(record) {}
+    PathSelection(const forms::Script& script, forms::Record& record) : script_(script), record_(record) {}
     [[nodiscard]] std::string choose(forms::WindowHandle owner, const std::string& current) override {
         const auto ask = script_.onFolder;
         std::string chosen = ask ? ask(current) : current;
@@ -34,8 +34,8 @@ class PathSelection : public host::PathSelection {
     }
 
   private:
-    const Script& script_;
-    Record& record_;
+    const forms::Script& script_;
+    forms::Record& record_;
 };
 
 }  // namespace hx::headless

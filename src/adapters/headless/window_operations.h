@@ -4,7 +4,7 @@
 #include <memory>
 #include <string>
 
-#include "adapters/headless/script.h"
+#include "forms/script.h"
 #include "host/system_services.h"
 
 namespace hx::headless {
@@ -70,7 +70,7 @@ class WindowOperations : public host::WindowOperations {
 
     std::map<forms::WindowHandle, Window> windows_;
     std::map<host::window::ProcedureAddress, host::window::Procedure> procedures_;
-    std::map<std::string, std::uint32_t, IgnoringCase> messages_;
+    std::map<std::string, std::uint32_t, automation::IgnoringCase> messages_;
     std::string embeddingClass_ = "MDIEdit";
     forms::WindowHandle lastHandle_ = 0, active_ = 0, lastParentAsked_ = 0;
     host::window::ProcedureAddress lastProcedure_ = 0;

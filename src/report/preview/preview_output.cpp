@@ -9,7 +9,7 @@
 
 #include "adapters/qt/dialog_buttons.h"
 #include "adapters/qt/text.h"
-#include "recipe/mhxrcp_hirarch_func.h"
+#include "forms/wait_cursor.h"
 #include "report/preview/preview_window.h"
 
 /// How the preview's report leaves the window: on paper and in files.
@@ -36,7 +36,7 @@ void PreviewWindow::save(const FileKind& kind) {
     if (path.isEmpty()) return;
     QString problem;
     {
-        const recipe::WaitCursor wait(services_.screen);
+        const forms::WaitCursor wait(services_.screen);
         problem = kind.write(path);
     }
     saved(path, problem);
@@ -96,7 +96,7 @@ void PreviewWindow::print() {
 }
 
 void PreviewWindow::printTo(QPrinter& printer) {
-    std::optional<recipe::WaitCursor> wait(services_.screen);
+    std::optional<forms::WaitCursor> wait(services_.screen);
     const int current = view_.page();
     // The printer may have paper of another size.
     const QSizeF paper = printer.pageLayout().fullRect(QPageLayout::Point).size() * 20;

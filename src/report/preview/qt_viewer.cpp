@@ -3,7 +3,7 @@
 #include <QApplication>
 #include <memory>
 
-#include "recipe/mhxrcp_hirarch_func.h"
+#include "forms/wait_cursor.h"
 #include "report/preview/preview_window.h"
 
 namespace hx::report {
@@ -31,7 +31,7 @@ void QtViewer::show(const Report& report, forms::WindowHandle owner) {
     if (window == nullptr) window = windowAt(services_, owner);
     std::unique_ptr<PreviewWindow> preview;
     {
-        const recipe::WaitCursor wait(services_.screen);  // the pages are laid out
+        const forms::WaitCursor wait(services_.screen);  // the pages are laid out
         preview = std::make_unique<PreviewWindow>(report, services_, owner, window);
     }
     preview->exec();

@@ -4,11 +4,11 @@
 #include <map>
 #include <string>
 
-#include "adapters/headless/record.h"
-#include "adapters/headless/script.h"
+#include "automation/text.h"
+#include "forms/record.h"
 #include "host/system_services.h"
 
-namespace hx::headless {
+namespace hx::hosting {
 
 /// Components by program identifier, ignoring case: those that have been put in, and no others.
 class Components : public host::Components {
@@ -19,7 +19,7 @@ class Components : public host::Components {
     /// What a stand-in answers to a call of a member.
     using Answer = std::function<automation::Variant(std::string_view member, automation::Args arguments)>;
 
-    explicit Components(Record& record) : record_(record) {}
+    explicit Components(forms::Record& record) : record_(record) {}
     void provide(const std::string& programId, Factory factory) { factories_[programId] = std::move(factory); }
     /// Puts in an object that has every member that is called; each call is recorded. Without an answer it gives an
     /// empty value.
@@ -32,8 +32,8 @@ class Components : public host::Components {
     [[nodiscard]] automation::ObjectRef create(std::string_view programId) override;
 
   private:
-    Record& record_;
-    std::map<std::string, Factory, IgnoringCase> factories_;
+    forms::Record& record_;
+    std::map<std::string, Factory, automation::IgnoringCase> factories_;
 };
 
-}  // namespace hx::headless
+}  // namespace hx::hosting

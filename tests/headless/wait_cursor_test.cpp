@@ -1,10 +1,11 @@
+#include "forms/wait_cursor.h"
+
 #include <gtest/gtest.h>
 
 #include "adapters/headless/host.h"
-#include "recipe/mhxrcp_hirarch_func.h"
 #include "support/memory_provider.h"
 
-namespace hx::recipe {
+namespace hx::forms {
 namespace {
 
 TEST(WaitCursor, ShowsTheHourglassAndTheDefaultPointerAgain) {
@@ -29,4 +30,4 @@ TEST(WaitCursor, IsRestoredWhenTheWorkEndsWithAnError) {
 }
 
 }  // namespace
-}  // namespace hx::recipe
+}  // namespace hx::forms

@@ -1,29 +1,28 @@
-#include "adapters/headless/message_style.h"
+#include "forms/message_style.h"
 
-namespace hx::headless {
+#include <algorithm>
 
-namespace message = forms::message;
-using message::Answer;
+namespace hx::forms::message {
 
 namespace {
 
-constexpr std::int32_t buttonBits = 0xF;
+constexpr std::int32_t buttonBits = 0xF, defaultBits = 0xF00;
 
 }  // namespace
 
 std::vector<Answer> buttonsOf(std::int32_t style) {
     switch (style & buttonBits) {
-        case message::okCancel: return {Answer::ok, Answer::cancel};
-        case message::yesNoCancel: return {Answer::yes, Answer::no, Answer::cancel};
-        case message::yesNo: return {Answer::yes, Answer::no};
+        case okCancel: return {Answer::ok, Answer::cancel};
+        case yesNoCancel: return {Answer::yes, Answer::no, Answer::cancel};
+        case yesNo: return {Answer::yes, Answer::no};
         default: return {Answer::ok};
     }
 }
 
 Answer defaultButtonOf(std::int32_t style) {
     const auto buttons = buttonsOf(style);
-    const bool second = (style & message::defaultButton2) != 0 && buttons.size() > 1;
-    return buttons[second ? 1 : 0];
+    const auto number = static_cast<std::size_t>((style & defaultBits) / defaultButton2);
+    return buttons[std::min(number, buttons.size() - 1)];
 }
 
 // Cancel, no or ok, whichever there is, stands last.
@@ -38,4 +37,4 @@ std::string_view nameOf(Answer answer) noexcept {
     }
 }
 
-}  // namespace hx::headless
+}  // namespace hx::forms::message

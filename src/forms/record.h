@@ -8,22 +8,22 @@
 #include "forms/font.h"
 #include "forms/screen.h"
 
-namespace hx::headless {
+namespace hx::forms {
 
 /// A message box and how it was answered.
-struct Message {
+struct ShownMessage {
     std::string text, title;
     std::int32_t style = 0;
-    std::vector<forms::message::Answer> buttons;  ///< in the order in which they stand in the box
-    forms::message::Answer defaultButton = forms::message::Answer::ok;
-    forms::message::Answer answer = forms::message::Answer::ok;
+    std::vector<message::Answer> buttons;  ///< in the order in which they stand in the box
+    message::Answer defaultButton = message::Answer::ok;
+    message::Answer answer = message::Answer::ok;
     bool scripted = false;  ///< a function of the script was asked
 };
 
 /// A form that was shown modally.
 struct ModalForm {
     std::string form, caption;
-    forms::WindowHandle owner = 0;
+    WindowHandle owner = 0;
     bool scripted = false;       ///< a function of the script ran on it
     bool closedByFrame = false;  ///< it was still open then, or without one
 };
@@ -41,19 +41,19 @@ struct PopUp {
 };
 
 struct FontChoice {
-    forms::Font::Values before, after;
+    Font::Values before, after;
     bool accepted = false;
 };
 
 struct HelpCall {
-    forms::WindowHandle owner = 0;
+    WindowHandle owner = 0;
     std::string file;
     std::int32_t context = 0;
 };
 
 /// A choice of a variable or of a folder; `chosen` is what the caller got.
 struct Choice {
-    forms::WindowHandle owner = 0;
+    WindowHandle owner = 0;
     std::string current, chosen;
 };
 
@@ -67,14 +67,14 @@ struct SentKeys {
     std::string form, keys;
 };
 
-/// Everything that happened on a headless host, in order. A reader may take entries out.
+/// Everything that a user met on a host, in order. A reader may take entries out.
 struct Record {
-    std::vector<Message> messages;
+    std::vector<ShownMessage> messages;
     std::vector<ModalForm> modals;
     std::vector<PopUp> popUps;
     std::vector<FontChoice> fonts;
     std::int32_t beeps = 0;
-    std::vector<forms::Pointer> pointers;  ///< each pointer that was set
+    std::vector<Pointer> pointers;  ///< each pointer that was set
     std::vector<SentKeys> sentKeys;
     std::vector<std::string> broughtToFront;  ///< form names
     std::vector<HelpCall> help;
@@ -84,4 +84,4 @@ struct Record {
     std::vector<Choice> items, folders;
 };
 
-}  // namespace hx::headless
+}  // namespace hx::forms

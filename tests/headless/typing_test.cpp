@@ -1,37 +1,12 @@
-#include "adapters/headless/key_strokes.h"
-
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "adapters/headless/host.h"
-#include "automation/error.h"
 #include "support/memory_provider.h"
 #include "test_form.h"
 
 namespace hx::headless {
 namespace {
-
-using ::testing::ElementsAre;
-namespace shift = forms::shift;
-
-TEST(KeyStrokes, ReadsNamesInBraces) {
-    EXPECT_THAT(keyStrokes("{F1}{f12}"), ElementsAre(KeyStroke{112, 0, 0}, KeyStroke{123, 0, 0}));
-    EXPECT_THAT(keyStrokes("{ENTER}{Esc}{DEL}"),
-                ElementsAre(KeyStroke{13, 0, 13}, KeyStroke{27, 0, 27}, KeyStroke{46, 0, 0}));
-}
-
-TEST(KeyStrokes, ReadsShiftStatesForTheNextKeyOnly) {
-    EXPECT_THAT(keyStrokes("^{DEL}c"), ElementsAre(KeyStroke{46, shift::ctrl, 0}, KeyStroke{67, 0, 'c'}));
-    EXPECT_THAT(keyStrokes("%+{F6}"), ElementsAre(KeyStroke{117, shift::alt | shift::shift, 0}));
-    EXPECT_THAT(keyStrokes("^c"), ElementsAre(KeyStroke{67, shift::ctrl, 0}));
-    EXPECT_THAT(keyStrokes("A"), ElementsAre(KeyStroke{65, shift::shift, 'A'}));
-}
-
-TEST(KeyStrokes, RefusesAnUnknownName) {
-    EXPECT_THROW((void)keyStrokes("{F13}"), automation::Error);
-    EXPECT_THROW((void)keyStrokes("{}"), automation::Error);
-    EXPECT_THAT(keyStrokes(""), ElementsAre());
-}
 
 class TypingTest : public ::testing::Test {
   protected:

@@ -1,18 +1,18 @@
-#include "adapters/headless/components.h"
+#include "hosting/components.h"
 
 #include <memory>
 #include <utility>
 
 #include "automation/error.h"
 
-namespace hx::headless {
+namespace hx::hosting {
 
 namespace {
 
 /// Stands in for a component of which only the calls matter.
 class StandIn : public automation::Dispatch {
   public:
-    StandIn(std::string programId, Components::Answer answer, Record& record)
+    StandIn(std::string programId, Components::Answer answer, forms::Record& record)
         : programId_(std::move(programId)), answer_(std::move(answer)), record_(record) {}
 
     automation::Variant get(std::string_view name, automation::Args args) override {
@@ -28,7 +28,7 @@ class StandIn : public automation::Dispatch {
   private:
     std::string programId_;
     Components::Answer answer_;
-    Record& record_;
+    forms::Record& record_;
 };
 
 }  // namespace
@@ -49,4 +49,4 @@ automation::ObjectRef Components::create(std::string_view programId) {
     return factory();
 }
 
-}  // namespace hx::headless
+}  // namespace hx::hosting

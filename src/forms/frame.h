@@ -1,0 +1,13 @@
+#pragma once
+
+#include "forms/captioned.h"
+
+namespace hx::forms {
+
+class Frame : public Captioned {
+  public:
+    using Captioned::Captioned;
+    [[nodiscard]] const automation::MemberTable& members() const override;
+};
+
+}  // namespace hx::forms
