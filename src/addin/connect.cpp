@@ -7,6 +7,7 @@
 #include "addin/msurfing_tree.h"
 #include "addin/project_location.h"
 #include "addin/trap.h"
+#include "forms/wait_cursor.h"
 #include "recipe/node_key.h"
 
 namespace hx::addin {
@@ -76,7 +77,7 @@ automation::ObjectRef Connect::Explorer() const { return explorerObject_; }
 void Connect::OpenEditor() noexcept {
     if (editorOpened_ || explorer_ == nullptr) return;
     trap(services_.screen, "Connect: OpenEditor", [&] {
-        const recipe::WaitCursor wait(services_.screen);
+        const forms::WaitCursor wait(services_.screen);
         if (!editor_) createEditor();
         editor_->setPaths(projectPath_, projectPath_);
         bool connected = false;

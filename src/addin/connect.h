@@ -102,7 +102,6 @@ class Connect : public host::CHX4Extensibility, public editor::AddIn {
 
     // Node events.
     [[nodiscard]] std::shared_ptr<editor::frmtabgrid> openWindow() const;
-    void showNode(editor::frmtabgrid& window, const std::string& key);
     [[nodiscard]] bool reach(editor::frmtabgrid& window, const std::string& key);
 
     const host::Services& services_;

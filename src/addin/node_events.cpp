@@ -99,23 +99,15 @@ void Connect::NodeClick(const host::NodeEvent& node) {
         OpenEditor();
         const auto window = openWindow();
         if (!window) return;
-        showNode(*window, node.key);
+        window->chooseNode(node.key);
         window->explorerUsed();
     });
-}
-
-void Connect::showNode(editor::frmtabgrid& window, const std::string& nodeKey) {
-    window.MenuSwitcher(nodeKey, false);
-    if (menuOf(nodeKey) == nullptr) return;
-    window.finishOrDropEdit();
-    const bool root = recipe::KeyPrefix(nodeKey) == recipe::prefixRoot;
-    window.showNode(root ? std::string(recipe::prefixRoot) : nodeKey);
 }
 
 // What a key or button does with a node, it does with the node that the window shows. False when the window cannot show
 // it: nothing must happen to another one instead.
 bool Connect::reach(editor::frmtabgrid& window, const std::string& nodeKey) {
-    if (!isSameNode(window.nodeKey(), nodeKey)) showNode(window, nodeKey);
+    if (!isSameNode(window.nodeKey(), nodeKey)) window.chooseNode(nodeKey);
     return isSameNode(window.nodeKey(), nodeKey);
 }
 

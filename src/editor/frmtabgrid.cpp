@@ -1,5 +1,10 @@
 #include "editor/frmtabgrid.h"
 
+#include <algorithm>
+#include <limits>
+
+#include "automation/convert.h"
+#include "automation/member_rows.h"
 #include "editor/commands.h"
 #include "editor/database_work.h"
 #include "editor/function_bar.h"
@@ -10,11 +15,16 @@
 #include "editor/msurfing_grid.h"
 #include "editor/recipe_names.h"
 #include "editor/split_bar.h"
+#include "editor/tools.h"
+#include "forms/wait_cursor.h"
 #include "host/window_offset.h"
 #include "recipe/node_key.h"
 
 namespace hx::editor {
 
+using automation::Error;
+using automation::method;
+using automation::property;
 using automation::Variant;
 
 namespace {
@@ -117,8 +127,7 @@ void frmtabgrid::onKeyDown(forms::KeyEvent& event) {
 }
 
 void frmtabgrid::SwitchGrids(const std::string& key) {
-    const std::string_view type = recipe::KeyPrefix(key);
-    const bool ours = type == recipe::prefixSubRecipes || type == recipe::prefixRecipe || type == recipe::prefixRoot;
+    const bool ours = recipe::isRecipeKey(key);
     tdbRM->setVisible(ours);
     tdbRM->setTabStop(ours);
     pctrcpTabSplit->setVisible(ours);
@@ -159,6 +168,12 @@ void frmtabgrid::explorerUsed() { functionBar_->explorerUsed(); }
 
 bool frmtabgrid::finishEdit() { return memberGrid_->finishEdit(); }
 
+void frmtabgrid::chooseNode(const std::string& key) {
+    if (!recipe::isRecipeKey(key)) return MenuSwitcher(key, false);
+    finishOrDropEdit();
+    showNode(recipe::KeyPrefix(key) == recipe::prefixRoot ? std::string(recipe::prefixRoot) : key);
+}
+
 void frmtabgrid::showNode(const std::string& key) {
     if (!finishEdit()) return;
     try {
@@ -172,7 +187,7 @@ void frmtabgrid::showNode(const std::string& key) {
 
 void frmtabgrid::readNode(const std::string& key) {
     const bool root = recipe::KeyPrefix(key) == recipe::prefixRoot;
-    const recipe::WaitCursor wait(screen());
+    const forms::WaitCursor wait(screen());
     if (tdbRM->columns().empty()) bindGrid();
     SwitchGrids(key);
     tdbRM->setAllowUpdate(!root);
@@ -226,5 +241,126 @@ void frmtabgrid::setPosLeft(double twips) { setLeft(left() + twips - PosLeft());
 double frmtabgrid::PosTop() const { return hostOffset(&host::WindowTopOffset).value_or(top()); }
 
 void frmtabgrid::setPosTop(double twips) { setTop(top() + twips - PosTop()); }
+
+void frmtabgrid::abr_Resize() {
+    const double toolBar = tbrfunc->height();
+    const double menu = abr->band(automation::Variant(band::main)).height();
+    const double clientWidth = abr->clientAreaWidth(), clientHeight = abr->clientAreaHeight();
+    tbrfunc->move(tbrfunc->left(), menu, clientWidth, toolBar);
+    sb->move(sb->left(), menu + clientHeight - sb->height(), clientWidth, sb->height());
+    const double hidden = sb->visible() ? 0 : sb->height();
+    const double gridHeight = std::max(clientHeight - toolBar + hidden, 0.0);
+    if (windowState() == forms::WindowState::minimised) return;
+    tdbRM->move(0, menu + toolBar, scaleWidth(), gridHeight);
+    splitBar_->place();
+}
+
+namespace {
+
+constexpr std::string_view settingsName = "frmtabGridRCP", fileName = "HXEditors.ini", saveOnExit = "SaveOnExit";
+constexpr std::string_view windowEntry = "Me";
+
+// Properties are assigned as 16-bit numbers: a wider one could be stored, but never be applied again.
+void keepInReach(settings::CInitItem& item) {
+    using Limits = std::numeric_limits<std::int16_t>;
+    settings::visitLeaves(item.Name, item, [](const std::string&, settings::CInitItem& leaf) {
+        if (!leaf.val.isNumber()) return;
+        leaf.val = std::clamp<double>(automation::toDouble(leaf.val), Limits::min(), Limits::max());
+    });
+}
+
+}  // namespace
+
+settings::CInit& frmtabgrid::inits() {
+    if (inits_ == nullptr) {
+        const host::Services& services = addIn_.services();
+        inits_ = std::make_shared<settings::CInit>(services.iniFile, services.numberFormat);
+        inits_->Motherobject = this;
+    }
+    return *inits_;
+}
+
+std::string frmtabgrid::settingsFile() const {
+    return std::string(host::PathStyle::folderOf(path_)) + std::string(fileName);
+}
+
+void frmtabgrid::loadSettings() {
+    inits().LoadDefaultInit(std::string(settingsName));
+    inits().LoadInits(settingsFile());
+    applySettings(sb->name());
+    applySettings(std::string(windowEntry));
+}
+
+void frmtabgrid::applySettings(const std::string& name) {
+    settings::CInitItem* const item = inits().root().Item(std::string_view(name));
+    if (item == nullptr) return;
+    std::string refused;
+    std::int32_t number = 0;
+    settings::visitLeaves(name, *item, [&](const std::string& entry, const settings::CInitItem& leaf) {
+        try {
+            inits().SetInitToControl(entry);
+        } catch (const Error& error) {
+            number = error.number();
+            refused += "\r\n" + entry + "=" + automation::toText(leaf.val) + " (" +
+                       error.description(screen().language()) + ")";
+        }
+    });
+    if (refused.empty()) return;
+    guard(addIn_, "frmtabgrid: Load", [&] { throw Error(number, settingsFile() + refused); });
+}
+
+void frmtabgrid::saveSettings() {
+    if (inits().ReadAValueFromCInits(std::string(saveOnExit), Variant(true)) != Variant(true)) {
+        return inits().WriteToIni(std::string(saveOnExit), "False");
+    }
+    const auto capture = [this](const std::string& name) {
+        inits().GetInitFromControl(name);
+        keepInReach(*inits().root().Item(std::string_view(name)));
+    };
+    if (memberGrid_->arranged()) {
+        capture(tdbRM->name());
+        memberGrid_->saveColumnOrder();
+    }
+    capture(std::string(windowEntry));
+    inits().SaveInits(settingsFile());
+}
+
+namespace {
+
+automation::ObjectRef initsOf(frmtabgrid& window) { return window.inits().share(); }
+void clickTool(frmtabgrid& window, const std::string& tool) { window.abr->click(tool); }
+void runRecipeCommand(frmtabgrid& window, std::int16_t index) { window.commands().mnuRecipeFunc(index); }
+void runMemberCommand(frmtabgrid& window, std::int16_t index) { window.commands().mnuRecipeMember(index); }
+void runOptionCommand(frmtabgrid& window, std::int16_t index) { window.commands().mnuOption(index); }
+
+}  // namespace
+
+const automation::MemberTable& frmtabgrid::members() const {
+    static constexpr automation::Member rows[] = {
+        property<&frmtabgrid::PosLeft, &frmtabgrid::setPosLeft>("PosLeft", "Left edge in the studio's window, twips"),
+        property<&frmtabgrid::PosTop, &frmtabgrid::setPosTop>("PosTop", "Top edge in the studio's window, twips"),
+        property<&frmtabgrid::path>("Path", "The project file"),
+        property<&frmtabgrid::secondPath>("SecondPath", "The path that sibling add-ins get"),
+        property<&frmtabgrid::nodeKey, &frmtabgrid::setNodeKey>("NodeKey", "The key of the shown explorer node"),
+        property<&frmtabgrid::settingsFile>("SettingsFile", "Where layout and options are stored"),
+        property<&frmtabgrid::subRecipeView>("SubRecipeView", "Whether the grid shows sub-recipes"),
+        property<&initsOf>("inits", "Layout and options by their paths"),
+        method<&frmtabgrid::SwitchGrids>("SwitchGrids", "Shows or hides the grid for a node"),
+        method<&frmtabgrid::MakeMyCaption>("MakeMyCaption", "Sets the caption for a node and its recipe's name"),
+        method<&frmtabgrid::VerifyAdds>("VerifyAdds", "Writes or drops a pending edit of the grid"),
+        method<&frmtabgrid::MenuSwitcher>("MenuSwitcher", "Enables and shows the tools for a node: key, context menu"),
+        method<&frmtabgrid::abr_Resize>("abr_Resize", "Lays out tool bar, status line and grid"),
+        method<&clickTool>("abr_ToolClick", "Runs a tool by name; a disabled one beeps"),
+        method<&frmtabgrid::bindGrid>("BindGrid", "Builds the grid's columns and applies the stored layout"),
+        method<&frmtabgrid::refreshMembers>("RefreshMembers", "Reads the members of the node again"),
+        method<&frmtabgrid::refreshSubRecipeNames>("RefreshSubRecipeNames", "Reads the names of sub-recipes again"),
+        method<&frmtabgrid::recipeName>("RecipeName", "The name of a node's recipe"),
+        method<&runRecipeCommand>("mnuRecipeFunc", "Runs a recipe command by its number"),
+        method<&runMemberCommand>("mnuRecipeMember", "Runs a member command by its number"),
+        method<&runOptionCommand>("mnuOption", "Runs an option command by its number"),
+    };
+    static const automation::MemberTable table{"frmtabgrid", rows, &formMembers()};
+    return table;
+}
 
 }  // namespace hx::editor

@@ -10,7 +10,7 @@
 #include "forms/bar.h"
 #include "forms/form.h"
 #include "forms/grid.h"
-#include "forms/simple_controls.h"
+#include "forms/picture_box.h"
 #include "forms/status_bar.h"
 #include "forms/tool_bar.h"
 #include "recipe/data_environment.h"
@@ -82,6 +82,9 @@ class frmtabgrid : public forms::Form, public recipe::RecipeWindow, public dialo
     void explorerUsed();
     /// Writes a pending edit. False when that failed: the user has been told, and the edit waits to be corrected.
     [[nodiscard]] bool finishEdit();
+    /// Shows the node that the user has chosen in the explorer: one of the recipe branch as showNode, once a pending
+    /// edit is written or dropped; of another one the menus alone.
+    void chooseNode(const std::string& key);
     /// Shows a node of the recipe branch, whole: its members, caption and menus. While a pending edit is refused, the
     /// node that is shown stays. When the node cannot be read, the window shows none, and the error reaches the caller.
     void showNode(const std::string& key);

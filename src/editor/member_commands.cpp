@@ -13,6 +13,7 @@
 #include "editor/frmtabgrid.h"
 #include "editor/guard.h"
 #include "editor/recipe_names.h"
+#include "forms/wait_cursor.h"
 #include "recipe/mrecipe_member.h"
 #include "recipe/node_key.h"
 #include "recipe/schema.h"
@@ -90,7 +91,7 @@ void Commands::replaceVariables(std::int32_t recipe, Members known, const std::v
     for (;;) {
         std::optional<Members> now;
         {
-            const recipe::WaitCursor wait(window_.screen());
+            const forms::WaitCursor wait(window_.screen());
             now = replaceMembers(recipe, known, variables, connection, addIn_.texts());
         }
         if (!now) return;
@@ -110,7 +111,7 @@ void Commands::chooseVariables() {
     const auto dialog = std::make_shared<dialogs::FMultiSelectItems>(addIn_.services(), addIn_.help());
     dialog->hxMI->setItemFilter(itemFilter);
     {
-        const recipe::WaitCursor wait(window_.screen());
+        const forms::WaitCursor wait(window_.screen());
         dialog->hxMI->setSelectedItems(shownVariables());
     }
     bool stored = false, refused = false;
@@ -197,7 +198,7 @@ void Commands::deleteMembers() {
     const DatabaseWork work(window_.dataEnvironment());
     const ado::Bookmark row = rowLeftByDeletion();
     guard(addIn_, procedure, [&] {
-        const recipe::WaitCursor wait(window_.screen());
+        const forms::WaitCursor wait(window_.screen());
         deleteMembersOf(window_.nodeKey(), ids, work.connection());
     });
     // After an error too: rows may have gone before it.

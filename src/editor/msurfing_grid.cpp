@@ -10,6 +10,7 @@
 #include "editor/guard.h"
 #include "editor/pictures.h"
 #include "editor/recipe_names.h"
+#include "forms/wait_cursor.h"
 #include "recipe/schema.h"
 
 namespace hx::editor {
@@ -51,7 +52,7 @@ MSurfingGrid::MSurfingGrid(frmtabgrid& window, AddIn& addIn) : window_(window), 
 
 void MSurfingGrid::sorted() {
     guard(addIn_, "tdbRM_HeadClick", [this] {
-        const recipe::WaitCursor wait(window_.screen());
+        const forms::WaitCursor wait(window_.screen());
         window_.refreshMembers();
     });
 }

@@ -5,6 +5,7 @@
 #include "editor/frmtabgrid.h"
 #include "editor/guard.h"
 #include "editor/record_count.h"
+#include "forms/wait_cursor.h"
 
 namespace hx::editor {
 
@@ -43,7 +44,7 @@ void Commands::mnuOption(std::int16_t index) {
 void Commands::statistic() {
     const DatabaseWork work(window_.dataEnvironment());
     const recipe::DataEnvironment& data = *window_.dataEnvironment();
-    const recipe::WaitCursor wait(window_.screen());
+    const forms::WaitCursor wait(window_.screen());
     std::int32_t recipes = countRecords(*data.rsRecipes);
     std::int32_t members = countRecords(*data.rsRecipeMembers);
     addIn_.counters().UpdateStatusCounters(*window_.sb, addIn_.texts(), "Statistik", recipe::StatusCounters::Mode::set,

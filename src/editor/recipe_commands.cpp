@@ -9,6 +9,7 @@
 #include "editor/guard.h"
 #include "editor/recipe_names.h"
 #include "editor/recipe_rows.h"
+#include "forms/wait_cursor.h"
 #include "recipe/conflict.h"
 #include "recipe/mrecipe.h"
 #include "recipe/node_key.h"
@@ -46,7 +47,7 @@ recipe::RecipeNodes Commands::nodes(host::ProjectExplorer& explorer) const {
 
 // In one transaction: a recipe that cannot be finished is not there at all.
 void Commands::newRecipe() {
-    const recipe::WaitCursor wait(window_.screen());
+    const forms::WaitCursor wait(window_.screen());
     const DatabaseWork work(window_.dataEnvironment());
     ado::Transaction transaction(*work.connection());
     const std::string name = addRecipe(work.recipes());
@@ -113,7 +114,7 @@ void Commands::deleteRecipe() {
     if (!findRecipe(work.recipes(), "ID= " + std::to_string(id)) || !mayDelete(text::deleteRecipe)) return;
     bool deleted = false;
     guard(addIn_, procedure, [&] {
-        const recipe::WaitCursor wait(window_.screen());
+        const forms::WaitCursor wait(window_.screen());
         deleteRecipeWithMembers(work.recipes(), id, deleted);
     });
     // Also when its members could not be deleted: the recipe is gone, and the user was told what failed.

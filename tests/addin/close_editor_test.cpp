@@ -20,7 +20,7 @@ struct ClosingTheEditor : testing::Test {
     }
     std::string storedVariable() { return automation::toText((*studio.database.table("TrcpRecipeMember").row(1))[2]); }
     Studio studio;
-    const headless::Record& record = studio.host.record;
+    const forms::Record& record = studio.host.record;
 };
 
 TEST_F(ClosingTheEditor, TerminateRemovesTheBranchAndEndsTheWindow) {
@@ -197,7 +197,7 @@ TEST_F(ClosingTheEditor, AnEventInsideTheRefreshDoesNotReleaseTheWindowWhoseComm
     const std::weak_ptr<editor::frmtabgrid> before = studio.connect->editorWindow();
     bool checked = false;
     studio.faults.arm(1, support::FaultPlan::Kind::connect);
-    studio.host.script.onMessage = [&](const headless::Message&) {
+    studio.host.script.onMessage = [&](const forms::ShownMessage&) {
         studio.connect->NodeDblClick(Studio::node("RCPE0"));
         checked = !before.expired();
         return forms::message::Answer::ok;
@@ -239,9 +239,8 @@ TEST_F(ClosingTheEditor, AnAddInReleasedAfterTerminateHasNothingLeftToClose) {
 }
 
 TEST_F(ClosingTheEditor, TellsWhatCannotBeClosedAndGoesOn) {
-    const auto watched = studio.window().tdbRM->changed.subscribe([](std::string_view property) {
-        if (property == "Settle") throw automation::Error(automation::errFail, "No view.");
-    });
+    const auto watched =
+        studio.window().tdbRM->settleEvent.subscribe([] { throw automation::Error(automation::errFail, "No view."); });
     studio.host.help.failWith(automation::Error(automation::errFail, "No help."));
     studio.connect->Terminate();
     EXPECT_EQ(studio.boxes(),

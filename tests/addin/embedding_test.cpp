@@ -68,7 +68,7 @@ TEST_F(Activation, OtherMessagesArePassedOnAndDoNothing) {
 
 TEST_F(Activation, AFailingRefreshShowsOneBoxThoughTheBoxActivatesTheWindowAgain) {
     studio.faults.arm(1, support::FaultPlan::Kind::open, automation::Error(ado::dbErrUnspecified, "Locked."));
-    studio.host.script.onMessage = [this](const headless::Message&) {
+    studio.host.script.onMessage = [this](const forms::ShownMessage&) {
         EXPECT_TRUE(studio.connect->busy());
         studio.connect->busy() = false;
         studio.faults.arm(1, support::FaultPlan::Kind::open);

@@ -36,7 +36,7 @@ struct NodeEvents : testing::Test {
     }
     bool visible(std::string_view tool) { return studio.window().abr->mainBand().find(tool)->visible(); }
     Studio studio;
-    headless::Record& record = studio.host.record;
+    forms::Record& record = studio.host.record;
 };
 
 }  // namespace hx::addin

@@ -80,7 +80,7 @@ TEST_F(NodeEvents, ADisabledCommandBeeps) {
 
 TEST_F(NodeEvents, AKeyOfANodeThatIsNotShownShowsItFirst) {
     studio.click("RCPR1");
-    studio.host.script.onMessage = [this](const headless::Message&) {
+    studio.host.script.onMessage = [this](const forms::ShownMessage&) {
         EXPECT_EQ(studio.window().caption(), "HelvixStudio Rezepteditor: Sirup")
             << "the user sees what he is asked for";
         return forms::message::Answer::yes;
@@ -102,7 +102,7 @@ TEST_F(NodeEvents, NothingHappensWhileWhatIsTypedKeepsTheNodeBefore) {
         studio.faults.armFrom(1, support::FaultPlan::Kind::update);
         studio.window().tdbRM->setText(0, 2, "Tank8.Level");
         bool again = true;
-        studio.host.script.onMessage = [&](const headless::Message&) {
+        studio.host.script.onMessage = [&](const forms::ShownMessage&) {
             if (std::exchange(again, false))
                 studio.window().tdbRM->setText(0, 2, byKey ? "Tank9.Level" : "Tank7.Level");
             return forms::message::Answer::ok;

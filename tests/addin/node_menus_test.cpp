@@ -85,7 +85,7 @@ TEST_F(NodeEvents, ACommandOfTheMenuMayReplaceTheWindow) {
 TEST_F(NodeEvents, ACommandOfTheMenuMayDeleteTheNode) {
     studio.click("RCPR1");
     studio.host.script.onPopUp = [](forms::Band&) { return std::string("mnuRecipeDelete"); };
-    studio.host.script.onMessage = [](const headless::Message&) { return forms::message::Answer::yes; };
+    studio.host.script.onMessage = [](const forms::ShownMessage&) { return forms::message::Answer::yes; };
     studio.rightClick("RCPR1");
     EXPECT_EQ(record.messages.size(), 1u) << "the question";
     EXPECT_EQ(studio.nodes(), (Texts{"RCPE0", "RCPR2", "RCPU2"}));
@@ -99,7 +99,7 @@ TEST_F(NodeEvents, ARightClickOnANodeThatIsNotShownShowsItBeforeItsMenu) {
         EXPECT_EQ(studio.window().caption(), "HelvixStudio Rezepteditor: Sirup");
         return std::string("mnuRecipeDelete");
     };
-    studio.host.script.onMessage = [](const headless::Message&) { return forms::message::Answer::yes; };
+    studio.host.script.onMessage = [](const forms::ShownMessage&) { return forms::message::Answer::yes; };
     studio.rightClick("RCPR2");
     EXPECT_EQ(studio.nodes(), (Texts{"RCPE0", "RCPR1", "RCPU1"}));
 }

@@ -11,7 +11,7 @@ using Kind = support::FaultPlan::Kind;
 struct OpeningTheEditor : testing::Test {
     OpeningTheEditor() { studio.host.explorer.setProject("Plant"); }
     Studio studio;
-    const headless::Record& record = studio.host.record;
+    const forms::Record& record = studio.host.record;
     const hosting::NodeTree& tree = studio.host.explorer.tree();
 };
 
@@ -242,7 +242,7 @@ TEST_F(OpeningTheEditor, ShowsTheErrorOfAWindowThatCannotBePlaced) {
     } explorer(0, studio.host.clipboard, "Plant");
     studio.create();
     studio.connect->Initialize("Plant", "", &explorer, nullptr);
-    studio.host.script.onMessage = [&](const headless::Message&) {
+    studio.host.script.onMessage = [&](const forms::ShownMessage&) {
         if (record.messages.size() < 3) studio.connect->NodeExpand(Studio::node("RCPE0"));
         return forms::message::Answer::ok;
     };

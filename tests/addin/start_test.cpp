@@ -8,7 +8,7 @@ namespace {
 
 struct StartUp : testing::Test {
     Studio studio;
-    const headless::Record& record = studio.host.record;
+    const forms::Record& record = studio.host.record;
     const hosting::NodeTree& tree = studio.host.explorer.tree();
 };
 

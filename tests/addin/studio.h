@@ -70,7 +70,7 @@ struct Studio {
     /// The boxes since the last call, each as "title|text".
     [[nodiscard]] std::vector<std::string> boxes() {
         std::vector<std::string> shown;
-        for (const headless::Message& box : host.record.messages) {
+        for (const forms::ShownMessage& box : host.record.messages) {
             EXPECT_EQ(box.style, forms::message::ok) << box.text;
             shown.push_back(box.title + "|" + box.text);
         }

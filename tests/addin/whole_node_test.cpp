@@ -103,7 +103,7 @@ TEST_F(WholeNode, StaysWhileItsEditIsRefused) {
 
 TEST_F(WholeNode, ADeletedRecipeIsFollowedByNoneWhenTheNextCannotBeRead) {
     studio.host.explorer.select("RCPR2");
-    studio.host.script.onMessage = [this](const headless::Message& box) {
+    studio.host.script.onMessage = [this](const forms::ShownMessage& box) {
         const bool question = box.style != forms::message::ok;
         if (question) {
             studio.faults.instead = [this] {

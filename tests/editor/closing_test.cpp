@@ -21,17 +21,13 @@ struct Closing : EditorWindow {
 
 TEST_F(Closing, ByTheCloseBoxStoresWhatIsBeingTyped) {
     show(mixKey);
-    const auto view = grid().changed.subscribe([this](std::string_view property) {
-        if (property == "Settle") type(0, "Tank.Pressure");
-    });
+    const auto view = grid().settleEvent.subscribe([this] { type(0, "Tank.Pressure"); });
     window->closeByFrame();
     EXPECT_EQ(storedVariable(1), "Tank.Pressure");
 }
 
 TEST_F(Closing, ByTheCloseBoxTellsWhatItCannotSettleAndHidesTheWindow) {
-    const auto view = grid().changed.subscribe([](std::string_view property) {
-        if (property == "Settle") throw Error(automation::errFail, "No view.");
-    });
+    const auto view = grid().settleEvent.subscribe([] { throw Error(automation::errFail, "No view."); });
     window->closeByFrame();
     EXPECT_EQ(messages(), (Texts{"-2147467259: No view."}));
     EXPECT_EQ(host.record.messages[0].title, "frmtabgrid: QueryUnload");
@@ -208,9 +204,7 @@ TEST_F(Closing, ByTheCloseBoxStoresBeforeItShowsAndTellsWhatCannotBeShown) {
     host.windows.setEmbeddingClass("MDIEdit");
     window->hide();
     std::vector<bool> whenStored;
-    const auto view = grid().changed.subscribe([&](std::string_view property) {
-        if (property == "Settle") whenStored.push_back(window->visible());
-    });
+    const auto view = grid().settleEvent.subscribe([&] { whenStored.push_back(window->visible()); });
     const auto failing = window->changed.subscribe([this](std::string_view property) {
         if (property == "Visible" && window->visible()) throw Error(automation::errFail, "No display.");
     });
@@ -223,7 +217,7 @@ TEST_F(Closing, ByTheCloseBoxStoresBeforeItShowsAndTellsWhatCannotBeShown) {
 TEST_F(Closing, TellsWhatCannotBeSavedWhileTheWindowIsThere) {
     host.iniFile.failWritesWith(Error(automation::errFail, "The disk is full."));
     std::vector<bool> visible;
-    host.script.onMessage = [&](const headless::Message& message) {
+    host.script.onMessage = [&](const forms::ShownMessage& message) {
         visible.push_back(window->visible());
         return message.defaultButton;
     };

@@ -37,7 +37,7 @@ class CommandWindow : public EditorWindow {
         host.script.onModal[name] = [action = std::move(action)](forms::Form& form) { action(dynamic_cast<D&>(form)); };
     }
     void answer(forms::message::Answer answer) {
-        host.script.onMessage = [answer](const headless::Message&) { return answer; };
+        host.script.onMessage = [answer](const forms::ShownMessage&) { return answer; };
     }
     void turnQuestionsOff() { window->inits().WriteAValueToCInits("RequestOnDelete", automation::Variant(false)); }
 

@@ -20,14 +20,14 @@ struct DeleteMembers : CommandWindow {
 
 TEST_F(DeleteMembers, AsksWithNoAsTheDefault) {
     bool busy = false;
-    host.script.onMessage = [&](const headless::Message& message) {
+    host.script.onMessage = [&](const forms::ShownMessage& message) {
         busy = addIn.busyFlag;
         return message.defaultButton;
     };
     grid().setRow(1);
     deleteRows({0, 2});
     ASSERT_EQ(messages(), (Texts{question}));
-    const headless::Message& box = host.record.messages[0];
+    const forms::ShownMessage& box = host.record.messages[0];
     EXPECT_EQ(box.style, 260);
     EXPECT_EQ(box.buttons, (std::vector{Answer::yes, Answer::no}));
     EXPECT_EQ(box.defaultButton, Answer::no);
@@ -40,7 +40,7 @@ TEST_F(DeleteMembers, AsksWithNoAsTheDefault) {
 }
 
 TEST_F(DeleteMembers, ShowTheHourglassMeanwhile) {
-    host.script.onMessage = [this](const headless::Message&) {
+    host.script.onMessage = [this](const forms::ShownMessage&) {
         host.record.pointers.clear();
         return Answer::yes;
     };

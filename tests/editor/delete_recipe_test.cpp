@@ -31,14 +31,14 @@ TEST_F(DeleteRecipe, ShowsTheHourglassMeanwhile) {
 
 TEST_F(DeleteRecipe, AsksWithNoAsTheDefault) {
     bool busy = false;
-    host.script.onMessage = [&](const headless::Message& message) {
+    host.script.onMessage = [&](const forms::ShownMessage& message) {
         busy = addIn.busyFlag;
         return message.defaultButton;
     };
     const Texts recipes = storedRecipes(), stored = storedMembers();
     click("mnuRecipeDelete");
     ASSERT_EQ(messages(), (Texts{question}));
-    const headless::Message& box = host.record.messages[0];
+    const forms::ShownMessage& box = host.record.messages[0];
     EXPECT_EQ(box.style, 260);
     EXPECT_EQ(box.buttons, (std::vector{Answer::yes, Answer::no}));
     EXPECT_EQ(box.defaultButton, Answer::no);

@@ -101,7 +101,7 @@ TEST_F(EditRecipe, LetsNoOtherCommandRunWhileTheDialogIsOpen) {
 
 TEST_F(EditRecipe, KeepsTheWindowBusyWhileAMessageIsShown) {
     bool busy = false;
-    host.script.onMessage = [&](const headless::Message&) {
+    host.script.onMessage = [&](const forms::ShownMessage&) {
         busy = addIn.busyFlag;
         return forms::message::Answer::ok;
     };
@@ -166,7 +166,7 @@ TEST_F(EditRecipe, KeepsTheDialogWithAllThatWasEnteredWhileTheNameExists) {
 
 TEST_F(EditRecipe, KeepsTheDialogWhileTheFileIsLocked) {
     bool busy = false;
-    host.script.onMessage = [&](const headless::Message& message) {
+    host.script.onMessage = [&](const forms::ShownMessage& message) {
         busy = addIn.busyFlag;
         return message.defaultButton;
     };

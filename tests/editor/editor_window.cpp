@@ -48,11 +48,7 @@ void EditorWindow::useLanguage(std::int32_t code) {
 }
 
 void EditorWindow::show(const std::string& key) {
-    window->MenuSwitcher(key, false);
-    window->VerifyAdds();
-    window->SwitchGrids(key);
-    window->setNodeKey(key);
-    window->refreshMembers();
+    window->chooseNode(key);
 }
 
 std::int32_t EditorWindow::addRecipe(const std::string& name) {

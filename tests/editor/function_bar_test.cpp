@@ -93,6 +93,7 @@ TEST_F(ToolBarButtons, FollowTheRowsOfTheGridWithoutTouchingTheMenus) {
     show(mixSubRecipes);
     EXPECT_TRUE(button("Edit").enabled()) << "there is a current row";
     EXPECT_FALSE(button("Delete").enabled());
+    tool("mnuRecipeMemberEditSubRecipe").setEnabled(false);
     selectRows({1});
     EXPECT_TRUE(button("Delete").enabled());
     EXPECT_FALSE(tool("mnuRecipeMemberDelete").enabled());
@@ -148,7 +149,7 @@ struct BinButton : ToolBarButtons {
     BinButton() { window->showNode(mixKey); }
     [[nodiscard]] std::string tip() const { return button("Delete").toolTipText(); }
     void answer(forms::message::Answer answer) {
-        host.script.onMessage = [answer](const headless::Message&) { return answer; };
+        host.script.onMessage = [answer](const forms::ShownMessage&) { return answer; };
     }
 };
 

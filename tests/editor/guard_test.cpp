@@ -12,7 +12,7 @@ struct Guarded : EditorWindow {
     template <class Action>
     std::string told(Action&& action) {
         host.record.messages.clear();
-        host.script.onMessage = [this](const headless::Message& message) {
+        host.script.onMessage = [this](const forms::ShownMessage& message) {
             EXPECT_TRUE(addIn.busyFlag);
             return message.defaultButton;
         };

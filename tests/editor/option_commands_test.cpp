@@ -121,7 +121,7 @@ TEST_F(OptionCommands, TheServerConfigurationGetsTheSecondPathAndTheWindow) {
     host.components.standIn("HXRecipeServerConfig.Connect");
     window->abr->click("mnuOptionConfiguration");
     ASSERT_EQ(host.record.componentCalls.size(), 1U);
-    const headless::ComponentCall& call = host.record.componentCalls[0];
+    const forms::ComponentCall& call = host.record.componentCalls[0];
     EXPECT_EQ(call.component, "HXRecipeServerConfig.Connect");
     EXPECT_EQ(call.member, "Show");
     EXPECT_EQ(call.arguments, (std::vector<Variant>{Variant("/plant/second.hxs"), Variant(window->handle())}));
@@ -130,7 +130,7 @@ TEST_F(OptionCommands, TheServerConfigurationGetsTheSecondPathAndTheWindow) {
 
 TEST_F(OptionCommands, AServerConfigurationThatIsNotInstalledGivesNumberAndDescription) {
     bool busy = false;
-    host.script.onMessage = [&](const headless::Message& message) {
+    host.script.onMessage = [&](const forms::ShownMessage& message) {
         busy = addIn.busyFlag;
         return message.defaultButton;
     };
@@ -146,7 +146,7 @@ TEST_F(OptionCommands, TheReportGetsItsSubjectThePathAndTheWindow) {
     host.components.standIn("HXProjectReport.Connect");
     window->abr->click("mnuOptionReport");
     ASSERT_EQ(host.record.componentCalls.size(), 1U);
-    const headless::ComponentCall& call = host.record.componentCalls[0];
+    const forms::ComponentCall& call = host.record.componentCalls[0];
     EXPECT_EQ(call.member, "Show");
     EXPECT_EQ(call.arguments,
               (std::vector<Variant>{Variant("HXRecipe"), Variant("/plant/line.hxs"), Variant(window->handle())}));

@@ -262,7 +262,7 @@ TEST_F(ChooseBesideAnother, ReplacesThemWhenTheUserSaysSo) {
 
 TEST_F(ChooseBesideAnother, AsksAgainWhenTheyChangeWhileTheUserIsAsked) {
     int asked = 0;
-    host.script.onMessage = [&](const headless::Message&) {
+    host.script.onMessage = [&](const forms::ShownMessage&) {
         if (++asked == 1) addMember(mix, "Later");
         return forms::message::Answer::yes;
     };

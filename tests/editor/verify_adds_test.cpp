@@ -26,9 +26,7 @@ TEST_F(VerifyAdds, WritesAPendingEdit) {
 }
 
 TEST_F(VerifyAdds, WritesWhatIsBeingTyped) {
-    const auto editor = grid().changed.subscribe([this](std::string_view property) {
-        if (property == "Settle") type(0, "Tank.Pressure");
-    });
+    const auto editor = grid().settleEvent.subscribe([this] { type(0, "Tank.Pressure"); });
     window->VerifyAdds();
     EXPECT_EQ(storedVariable(1), "Tank.Pressure");
 }
@@ -143,7 +141,7 @@ TEST_F(VerifyAdds, NamesATextThatTheViewCouldNotHandOver) {
     EXPECT_THROW(data->rsRecipes->update(), automation::Error);
     grid().editorReported("Half.Typed", 4);
     bool busy = false;
-    host.script.onMessage = [&](const headless::Message& message) {
+    host.script.onMessage = [&](const forms::ShownMessage& message) {
         busy = addIn.busyFlag;
         return message.defaultButton;
     };
