@@ -60,7 +60,7 @@ void MacroDock::build(QAction& runAgain, QAction& stop) {
     for (const auto& [object, name] : names) object->setObjectName(QLatin1StringView(name));
     buildTools(runAgain, stop);
     buildText();
-    auto* const rows = std::make_unique<QVBoxLayout>(&panel_).release();  // the panel's own
+    auto* const rows = new QVBoxLayout(&panel_);
     rows->setContentsMargins(0, 0, 0, 0);
     rows->setSpacing(0);
     rows->addWidget(&tools_);

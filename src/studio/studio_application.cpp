@@ -2,7 +2,6 @@
 
 #include <QScopedValueRollback>
 #include <clocale>
-#include <memory>
 
 #include "adapters/qt/style.h"
 
@@ -11,7 +10,7 @@ namespace hx::studio {
 StudioApplication::StudioApplication(int& argc, char** argv) : QApplication(argc, argv) {
     // Macros write and read numbers with a point, as on the command line; what is shown goes by QLocale.
     std::setlocale(LC_NUMERIC, "C");
-    setStyle(std::make_unique<qt::Style>().release());  // the application owns it
+    setStyle(new qt::Style);  // the application owns it
     setApplicationName(QStringLiteral("HelvixStudio"));
     installEventFilter(&inputRules_);
 }

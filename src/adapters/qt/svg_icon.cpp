@@ -4,7 +4,6 @@
 #include <QPainter>
 #include <QSvgRenderer>
 #include <map>
-#include <memory>
 #include <tuple>
 
 namespace hx::qt {
@@ -29,7 +28,7 @@ class SvgIconEngine : public QIconEngine {
     QPixmap scaledPixmap(const QSize& size, QIcon::Mode mode, QIcon::State state, qreal) override {
         return pixmap(size, mode, state);
     }
-    [[nodiscard]] QIconEngine* clone() const override { return std::make_unique<SvgIconEngine>(svg_).release(); }
+    [[nodiscard]] QIconEngine* clone() const override { return new SvgIconEngine(svg_); }
     bool isNull() override { return false; }
 
   private:
@@ -51,7 +50,7 @@ class SvgIconEngine : public QIconEngine {
 
 QIcon svgIcon(const QByteArray& svg) {
     if (svg.isEmpty() || !QSvgRenderer(svg).isValid()) return {};
-    return QIcon(std::make_unique<SvgIconEngine>(svg).release());
+    return QIcon(new SvgIconEngine(svg));
 }
 
 QIcon svgIcon(const forms::Picture& picture) { return svgIcon(QByteArray::fromStdString(picture.svg)); }

@@ -128,9 +128,9 @@ void PreviewWindow::setUpTools() {
     addPageTools();
     bar_.addSeparator();
     addZoomTools();
-    auto* space = std::make_unique<QWidget>().release();
+    auto* space = new QWidget(&bar_);
     space->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
-    bar_.addWidget(space);  // owned by the bar
+    bar_.addWidget(space);
     addTool(
         close_, "reportClose", icons::close, PreviewText::close, QKeySequence(Qt::Key_Escape), [this] { close(); },
         true);
@@ -204,13 +204,12 @@ void PreviewWindow::setUpPanes() {
     splitter_.setHandleWidth(1);
     status_.setSizeGripEnabled(true);
     status_.setObjectName(QStringLiteral("reportStatus"));
-    auto layout = std::make_unique<QVBoxLayout>(this);
+    auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
     layout->addWidget(&bar_);
     layout->addWidget(&splitter_, 1);
     layout->addWidget(&status_);
-    (void)layout.release();  // owned by the window
 }
 
 void PreviewWindow::setUpKeys() {

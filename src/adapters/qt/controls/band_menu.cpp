@@ -17,10 +17,6 @@ QFont bold(QFont font) {
 
 }  // namespace
 
-BandMenuPointer makeBandMenu(forms::Bar& bar, BandMenu::Chosen chosen) {
-    return BandMenuPointer(std::make_unique<BandMenu>(bar, std::move(chosen)).release());
-}
-
 void BandMenu::open(forms::Tool& menuTool) {
     if (bar_ == nullptr) return;
     bar_->menuOpening(menuTool);
@@ -44,7 +40,7 @@ void BandMenu::add(forms::Tool& tool) {
     }
     QAction* action = nullptr;
     if (tool.kind() == forms::ToolKind::menu) {
-        auto& menu = *subMenus_.emplace_back(makeBandMenu(*bar_, chosen_));
+        auto& menu = *subMenus_.emplace_back(new BandMenu(*bar_, chosen_));
         connect(&menu, &QMenu::aboutToShow, &menu, [&menu, &tool] { menu.open(tool); });
         action = addMenu(&menu);
     } else {

@@ -38,6 +38,4 @@ class BandMenu : public QMenu {
     std::vector<BandMenuPointer> subMenus_;
 };
 
-[[nodiscard]] BandMenuPointer makeBandMenu(forms::Bar& bar, BandMenu::Chosen chosen);
-
 }  // namespace hx::qt

@@ -38,7 +38,7 @@ void BarView::rebuild() {
 
 void BarView::addMenu(forms::Tool& tool) {
     const auto click = [this](forms::Tool& chosen) { this->click(chosen); };
-    auto& menu = *menus_.emplace_back(makeBandMenu(*modelOf<forms::Bar>(*this), click));
+    auto& menu = *menus_.emplace_back(new BandMenu(*modelOf<forms::Bar>(*this), click));
     menu.setObjectName(toQt(tool.name()));
     menuBar_.addMenu(&menu);
     connect(&menu, &QMenu::aboutToShow, this, [this, &menu, &tool] {

@@ -2,7 +2,6 @@
 
 #include <QLineEdit>
 #include <algorithm>
-#include <memory>
 
 #include "adapters/qt/grid/grid_cell.h"
 #include "adapters/qt/text.h"
@@ -18,7 +17,7 @@ QSize GridDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelInd
 }
 
 QWidget* GridDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem&, const QModelIndex& index) const {
-    auto line = std::make_unique<QLineEdit>(parent);
+    auto* line = new QLineEdit(parent);
     line->setFrame(false);
     line->setTextMargins(cellMargin - 2, 0, 0, 0);
     line->setAccessibleName(model_.headerData(index.column(), Qt::Horizontal, Qt::DisplayRole).toString());
@@ -27,9 +26,9 @@ QWidget* GridDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem&
     // A longer text that is there already stays whole.
     if (const std::size_t longest = model_.grid()->longestText(index.column())) {
         const std::size_t present = automation::characterCount(fromQt(model_.text(index.row(), index.column())));
-        line->setValidator(std::make_unique<TextLimit>(std::max(longest, present), line.get()).release());
+        line->setValidator(new TextLimit(std::max(longest, present), line));
     }
-    return line.release();  // the view owns it
+    return line;
 }
 
 void GridDelegate::updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option,

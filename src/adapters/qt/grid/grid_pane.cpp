@@ -43,7 +43,7 @@ std::pair<std::string, Qt::SortOrder> parseSort(std::string_view sort) {
 GridPane::GridPane(GridView& owner, GridModel& model, QWidget* parent)
     : QTableView(parent), owner_(owner), model_(model), delegate_(model), painter_(model, *this) {
     setItemDelegate(&delegate_);
-    setVerticalHeader(std::make_unique<RecordSelector>(model, this).release());  // the table owns it
+    setVerticalHeader(new RecordSelector(model, this));
     setModel(&model);
     setSelectionBehavior(SelectRows);
     setSelectionMode(ExtendedSelection);

@@ -35,12 +35,11 @@ void HelpContents::setBook(const HelpBook& book) {
 
 void HelpContents::add(const std::vector<HelpEntry>& entries, QTreeWidgetItem* parent) {
     for (const HelpEntry& entry : entries) {
-        auto item = std::make_unique<QTreeWidgetItem>(QStringList(entry.title));
+        auto* item = new QTreeWidgetItem(parent, QStringList(entry.title));
         item->setData(0, pathRole, entry.path);
         item->setToolTip(0, plainToolTip(entry.title));
         item->setIcon(0, svgIcon(QByteArray(entry.children.empty() ? help_icons::topic : help_icons::book)));
-        parent->addChild(item.get());
-        add(entry.children, item.release());  // the tree owns it
+        add(entry.children, item);
     }
 }
 

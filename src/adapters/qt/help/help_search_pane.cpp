@@ -60,10 +60,9 @@ void HelpSearchPane::search() {
     if (query.isEmpty() || book_ == nullptr) return state_.setText(helpText(HelpText::searchHint, wording_));
     if (!index_) index_ = std::make_unique<HelpSearch>(*book_);
     for (const HelpHit& hit : index_->find(query)) {
-        auto item = std::make_unique<QListWidgetItem>(svgIcon(QByteArray(help_icons::topic)), hit.title);
+        auto* item = new QListWidgetItem(svgIcon(QByteArray(help_icons::topic)), hit.title, &list_);
         item->setData(pathRole, hit.path);
         item->setToolTip(titledToolTip(hit.title, hit.excerpt));
-        list_.addItem(item.release());  // the list owns it
     }
     const int count = list_.count();
     state_.setText(count == 0 ? helpText(HelpText::searchNone, wording_)
