@@ -39,10 +39,9 @@ constexpr auto toolCommands = std::to_array<ToolCommand>({
 
 }  // namespace
 
-void frmtabgrid::abr_ToolClick(forms::Tool& tool) {
-    if (!tool.enabled()) return screen().beep();
+void Commands::runTool(std::string_view name) {
     for (const ToolCommand& row : toolCommands) {
-        if (row.tool == tool.name()) return (commands().*row.procedure)(row.index);
+        if (row.tool == name) return (this->*row.procedure)(row.index);
     }
 }
 

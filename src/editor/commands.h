@@ -31,6 +31,8 @@ class Commands {
     Commands(const Commands&) = delete;
     Commands& operator=(const Commands&) = delete;
 
+    /// The command of a tool by its name; none for an unknown one.
+    void runTool(std::string_view name);
     /// 0 new, 1 edit, 2 delete recipe.
     virtual void mnuRecipeFunc(std::int16_t index);
     /// 0 add or delete variables, 1 new sub-recipe, 2 delete the selected members, 3 edit sub-recipe.

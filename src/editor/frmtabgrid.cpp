@@ -242,6 +242,11 @@ double frmtabgrid::PosTop() const { return hostOffset(&host::WindowTopOffset).va
 
 void frmtabgrid::setPosTop(double twips) { setTop(top() + twips - PosTop()); }
 
+void frmtabgrid::abr_ToolClick(forms::Tool& tool) {
+    if (!tool.enabled()) return screen().beep();
+    commands().runTool(tool.name());
+}
+
 void frmtabgrid::abr_Resize() {
     const double toolBar = tbrfunc->height();
     const double menu = abr->band(automation::Variant(band::main)).height();
