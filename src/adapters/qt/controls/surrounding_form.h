@@ -10,7 +10,7 @@ namespace hx::qt {
 
 class ControlView;
 
-/// The window of a form as the views of its controls see it.
+/// The window of a form, FormView, as its views see it: their rooms do not include the screen, which makes them.
 class SurroundingForm {
   public:
     virtual ~SurroundingForm() = default;
