@@ -8,14 +8,13 @@ EditorData::EditorData(const Project& project, std::shared_ptr<forms::Grid> grid
     data_.CnnRecipes->open(
         "Provider=Microsoft.Jet.OLEDB.4.0;Data Source=" + project.path + ";Mode=Read|Write|Share Deny None;", "", "",
         -1);
-    recipe::RefreshMemberView(*this, texts_);
+    select("RCPE0");
     for (const ado::Column& column : memberRecordset().columns()) grid_->addColumn(column.name);
     grid_->setDataSource(data_.rstabRecipeMembers);
 }
 
-void EditorData::select(std::string nodeKey) {
-    nodeKey_ = std::move(nodeKey);
-    recipe::RefreshMemberView(*this, texts_);
+void EditorData::select(const std::string& nodeKey) {
+    recipe::RefreshMemberView(*grid_, memberRecordset(), nodeKey, true, texts_);
 }
 
 }  // namespace hx::bench

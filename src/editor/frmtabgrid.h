@@ -123,8 +123,9 @@ class frmtabgrid : public forms::Form, public recipe::RecipeWindow, public dialo
     [[nodiscard]] ado::Recordset& recipeRecordset() override;
     [[nodiscard]] forms::Grid& memberGrid() override { return *tdbRM; }
     [[nodiscard]] ado::Recordset& memberRecordset() override;
-    [[nodiscard]] bool saveFirst() const override { return true; }
-    void setSubRecipeView(bool subRecipes) override { subRecipeView_ = subRecipes; }
+    /// Whether a pending edit is saved when the query changes.
+    [[nodiscard]] bool saveFirst() const { return true; }
+    void setSubRecipeView(bool subRecipes) { subRecipeView_ = subRecipes; }
     [[nodiscard]] bool subRecipeView() const noexcept { return subRecipeView_; }
 
     [[nodiscard]] const automation::MemberTable& members() const override;

@@ -125,7 +125,9 @@ void MSurfingGrid::refreshMembersAt(const ado::Bookmark& row) {
 
 void MSurfingGrid::readMembers(const ado::Bookmark& current, const std::vector<ado::Bookmark>& selected) {
     const automation::Restore reading(reading_, true);
-    recipe::RefreshMemberView(window_, addIn_.texts());
+    const bool subRecipes = recipe::RefreshMemberView(grid_, window_.memberRecordset(), window_.nodeKey(),
+                                                      window_.saveFirst(), addIn_.texts());
+    window_.setSubRecipeView(subRecipes);
     shownKey_ = window_.nodeKey();
     standOn(current);
     select(selected);

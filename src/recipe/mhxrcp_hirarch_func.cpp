@@ -1,7 +1,6 @@
 #include "recipe/mhxrcp_hirarch_func.h"
 
 #include "recipe/node_key.h"
-#include "recipe/recipe_window.h"
 #include "recipe/schema.h"
 
 namespace hx::recipe {
@@ -37,12 +36,11 @@ std::string memberQuery(std::string_view nodeKey) {
     return {};
 }
 
-void RefreshMemberView(RecipeWindow& view, const resources::ResourceTable& texts) {
-    forms::Grid& grid = view.memberGrid();
-    ado::Recordset& members = view.memberRecordset();
+bool RefreshMemberView(forms::Grid& grid, ado::Recordset& members, std::string_view nodeKey, bool saveFirst,
+                       const resources::ResourceTable& texts) {
     const std::string order = orderClause(grid.sortText());
-    CloseRecordset(members, view.saveFirst());
-    members.setSource(memberQuery(view.nodeKey()) + order);
+    CloseRecordset(members, saveFirst);
+    members.setSource(memberQuery(nodeKey) + order);
     members.setCommandType(ado::adCmdText);
     try {
         members.open();
@@ -51,9 +49,9 @@ void RefreshMemberView(RecipeWindow& view, const resources::ResourceTable& texts
         throw;
     }
     grid.reload();
-    const bool subRecipes = KeyPrefix(view.nodeKey()) == prefixSubRecipes;
-    view.setSubRecipeView(subRecipes);
+    const bool subRecipes = KeyPrefix(nodeKey) == prefixSubRecipes;
     setColumns(grid, texts, subRecipes);
+    return subRecipes;
 }
 
 }  // namespace hx::recipe

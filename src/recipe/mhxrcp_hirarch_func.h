@@ -4,14 +4,12 @@
 #include <string>
 
 #include "ado/recordset.h"
-#include "forms/screen.h"
+#include "forms/grid.h"
 #include "forms/status_bar.h"
 #include "resources/resource_table.h"
 
 /// Shared data-access routines of the editor: the module MHXRCPHirarchFunc.
 namespace hx::recipe {
-
-class RecipeWindow;
 
 /// The numbers of recipes and members that the status line shows; one for the whole add-in.
 class StatusCounters {
@@ -26,8 +24,10 @@ class StatusCounters {
     std::int32_t members_ = 0;
 };
 
-/// Shows the members of the window's node; database errors reach the caller.
-void RefreshMemberView(RecipeWindow& view, const resources::ResourceTable& texts);
+/// Shows the members of a node in the grid; `saveFirst` stores a pending edit before. Database errors reach the caller.
+/// True when the members are sub-recipes.
+bool RefreshMemberView(forms::Grid& grid, ado::Recordset& members, std::string_view nodeKey, bool saveFirst,
+                       const resources::ResourceTable& texts);
 /// "SELECT ..." for a node key without the order; empty for an unknown type.
 [[nodiscard]] std::string memberQuery(std::string_view nodeKey);
 

@@ -5,7 +5,6 @@
 
 #include "ado/recordset.h"
 #include "forms/form.h"
-#include "forms/grid.h"
 #include "host/services.h"
 #include "resources/help.h"
 #include "resources/resource_table.h"
@@ -19,12 +18,8 @@ class RecipeWindow {
     virtual ~RecipeWindow() = default;
     /// The window itself: the owner of the dialogs, which it outlives.
     [[nodiscard]] virtual forms::Form& editorWindow() = 0;
-    [[nodiscard]] virtual forms::Grid& memberGrid() = 0;
     [[nodiscard]] virtual ado::Recordset& memberRecordset() = 0;
     [[nodiscard]] virtual const std::string& nodeKey() const = 0;
-    /// Whether a pending edit is saved when the query changes.
-    [[nodiscard]] virtual bool saveFirst() const = 0;
-    virtual void setSubRecipeView(bool subRecipes) = 0;
     /// The table of the recipes; throws errFail while the window has no database.
     [[nodiscard]] virtual ado::Recordset& recipeRecordset() = 0;
     [[nodiscard]] virtual const host::Services& services() const = 0;

@@ -59,7 +59,7 @@ TEST_F(Frame, SavesAPendingEditWhenItsRowsAreReadAnew) {
     show(mixKey);
     type(0, "Tank.Pressure");
     EXPECT_TRUE(window->saveFirst());
-    recipe::RefreshMemberView(*window, addIn.texts());
+    recipe::RefreshMemberView(grid(), window->memberRecordset(), window->nodeKey(), window->saveFirst(), addIn.texts());
     EXPECT_EQ(storedVariable(1), "Tank.Pressure");
 }
 

@@ -27,19 +27,14 @@ struct FakeWindow : forms::Form, RecipeWindow {
     void tell(std::string_view text) override {
         screen().messageBox(text, forms::message::ok, forms::message::defaultTitle);
     }
-    forms::Grid& memberGrid() override { return *grid; }
     ado::Recordset& memberRecordset() override { return *data.rstabRecipeMembers; }
     const std::string& nodeKey() const override { return key; }
-    bool saveFirst() const override { return save; }
-    void setSubRecipeView(bool on) override { subRecipes = on; }
 
     const host::Services& hostServices;
     resources::ResourceTable resourceTexts;
     resources::Help onlineHelp;
     DataEnvironment& data;
-    std::shared_ptr<forms::Grid> grid = add<forms::Grid>("tdbRM");
     std::string key;
-    bool save = true, subRecipes = false;
 };
 
 /// A test of dialogs over an open plant.

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "dialog_window.h"
+#include "plant.h"
 
 namespace hx::recipe {
 namespace {
@@ -18,10 +18,19 @@ TEST(MemberQuery, FollowsTheTypeOfTheNode) {
     EXPECT_EQ(memberQuery(""), "");
 }
 
-struct RefreshingTheMembers : DialogTest {
+struct View {
+    explicit View(DataEnvironment& data) : recordset(data.rstabRecipeMembers) {
+        grid.setDataSource(recordset);
+        for (const char* field : {"ID", "ParentID", "VarRecipe", "ChildID"}) grid.addColumn(field);
+    }
+    std::shared_ptr<ado::Recordset> recordset;
+    forms::Grid grid{"tdbRM"};
+    bool save = true;
+    bool subRecipes = false;
+};
+
+struct RefreshingTheMembers : testing::Test {
     RefreshingTheMembers() {
-        view.grid->setDataSource(recordset);
-        for (const char* field : {"ID", "ParentID", "VarRecipe", "ChildID"}) view.grid->addColumn(field);
         texts.AddResource(301, {"Variable", "Variable"});
         texts.AddResource(303, {"Dateiname", "File Name"});
         mix = plant.addRecipe("Mix");
@@ -32,18 +41,17 @@ struct RefreshingTheMembers : DialogTest {
         plant.addMember(syrup, "C.Level");
     }
     void show(const std::string& key) {
-        view.key = key;
-        RefreshMemberView(view, texts);
+        view.subRecipes = RefreshMemberView(view.grid, *view.recordset, key, view.save, texts);
     }
     std::vector<std::string> variables() {
         std::vector<std::string> names;
-        for (std::int32_t row = 0; row < view.grid->rowCount(); ++row) names.push_back(view.grid->text(row, 2));
+        for (std::int32_t row = 0; row < view.grid.rowCount(); ++row) names.push_back(view.grid.text(row, 2));
         return names;
     }
 
+    Plant plant;
     resources::ResourceTable texts;
-    std::shared_ptr<ado::Recordset> recordset = plant.data.rstabRecipeMembers;
-    FakeWindow& view = *window;
+    View view{plant.data};
     std::int32_t mix = 0, syrup = 0;
 };
 
@@ -52,7 +60,8 @@ using Names = std::vector<std::string>;
 TEST_F(RefreshingTheMembers, ARecipeShowsItsVariablesInTheOrderOfInsertion) {
     show("RCPR1");
     EXPECT_EQ(variables(), (Names{"B.Level", "A.Level"}));
-    EXPECT_EQ(recordset->source(), "SELECT * FROM TrcpRecipeMember WHERE ParentID = 1 And ChildID = 0 ORDER BY ID");
+    EXPECT_EQ(view.recordset->source(),
+              "SELECT * FROM TrcpRecipeMember WHERE ParentID = 1 And ChildID = 0 ORDER BY ID");
     EXPECT_FALSE(view.subRecipes);
 }
 
@@ -65,41 +74,41 @@ TEST_F(RefreshingTheMembers, TheSubRecipesOfARecipeAreItsOtherMembers) {
 TEST_F(RefreshingTheMembers, TheRootShowsAnEmptyGridAndNoError) {
     show("RCPR1");
     show("RCPE");
-    EXPECT_EQ(view.grid->rowCount(), 0);
-    EXPECT_EQ(recordset->state(), ado::adStateOpen);
-    EXPECT_EQ(recordset->source(), "SELECT * FROM TrcpRecipeMember WHERE ParentID = -1 ORDER BY ID");
+    EXPECT_EQ(view.grid.rowCount(), 0);
+    EXPECT_EQ(view.recordset->state(), ado::adStateOpen);
+    EXPECT_EQ(view.recordset->source(), "SELECT * FROM TrcpRecipeMember WHERE ParentID = -1 ORDER BY ID");
 }
 
 TEST_F(RefreshingTheMembers, ASortTextIsAppendedAsItIs) {
-    view.grid->setSortText("VarRecipe");
+    view.grid.setSortText("VarRecipe");
     show("RCPR1");
     EXPECT_EQ(variables(), (Names{"A.Level", "B.Level"}));
-    view.grid->setSortText("VarRecipe DESC");
+    view.grid.setSortText("VarRecipe DESC");
     show("RCPR1");
     EXPECT_EQ(variables(), (Names{"B.Level", "A.Level"}));
-    EXPECT_EQ(recordset->source(),
+    EXPECT_EQ(view.recordset->source(),
               "SELECT * FROM TrcpRecipeMember WHERE ParentID = 1 And ChildID = 0 ORDER BY VarRecipe DESC");
 }
 
 TEST_F(RefreshingTheMembers, OnlyTheSubRecipeViewShowsTheColumnOfTheSubRecipe) {
     show("RCPU1");
-    EXPECT_TRUE(view.grid->findColumn("ChildID")->visible());
-    EXPECT_EQ(view.grid->findColumn("VarRecipe")->caption(), "Dateiname");
+    EXPECT_TRUE(view.grid.findColumn("ChildID")->visible());
+    EXPECT_EQ(view.grid.findColumn("VarRecipe")->caption(), "Dateiname");
     show("RCPR1");
-    EXPECT_FALSE(view.grid->findColumn("ChildID")->visible());
-    EXPECT_EQ(view.grid->findColumn("VarRecipe")->caption(), "Variable");
+    EXPECT_FALSE(view.grid.findColumn("ChildID")->visible());
+    EXPECT_EQ(view.grid.findColumn("VarRecipe")->caption(), "Variable");
 }
 
 TEST_F(RefreshingTheMembers, AGridWithoutColumnsIsReloadedAllTheSame) {
-    view.grid->clearColumns();
+    view.grid.clearColumns();
     show("RCPU1");
     EXPECT_TRUE(view.subRecipes);
-    EXPECT_EQ(view.grid->rowCount(), 1);
+    EXPECT_EQ(view.grid.rowCount(), 1);
 }
 
 TEST_F(RefreshingTheMembers, APendingEditIsSavedBeforeTheQueryChanges) {
     show("RCPR1");
-    recordset->field("VarRecipe").setValue("Z.Level");
+    view.recordset->field("VarRecipe").setValue("Z.Level");
     show("RCPR2");
     EXPECT_EQ(variables(), (Names{"C.Level"}));
     show("RCPR1");
@@ -109,7 +118,7 @@ TEST_F(RefreshingTheMembers, APendingEditIsSavedBeforeTheQueryChanges) {
 TEST_F(RefreshingTheMembers, APendingEditIsDroppedWhenTheEditorDoesNotSaveFirst) {
     view.save = false;
     show("RCPR1");
-    recordset->field("VarRecipe").setValue("Z.Level");
+    view.recordset->field("VarRecipe").setValue("Z.Level");
     show("RCPR1");
     EXPECT_EQ(variables(), (Names{"B.Level", "A.Level"}));
 }
@@ -122,7 +131,7 @@ TEST_F(RefreshingTheMembers, ADatabaseErrorReachesTheCaller) {
 TEST_F(RefreshingTheMembers, ANodeOfAnotherKindHasNoQueryToOpen) { EXPECT_THROW(show("VARS1"), automation::Error); }
 
 TEST_F(RefreshingTheMembers, FindsTheQueryAlsoAfterATableWasOpenedOnTheSameRecordset) {
-    recordset->open("TrcpRecipeMember", nullptr, ado::adOpenKeyset, ado::adLockOptimistic, ado::adCmdTableDirect);
+    view.recordset->open("TrcpRecipeMember", nullptr, ado::adOpenKeyset, ado::adLockOptimistic, ado::adCmdTableDirect);
     show("RCPR1");
     EXPECT_EQ(variables(), (Names{"B.Level", "A.Level"}));
 }
@@ -130,7 +139,7 @@ TEST_F(RefreshingTheMembers, FindsTheQueryAlsoAfterATableWasOpenedOnTheSameRecor
 TEST_F(RefreshingTheMembers, ReadsNoRow) {
     plant.faults.arm(1, support::FaultPlan::Kind::read);
     show("RCPR1");
-    EXPECT_EQ(recordset->recordCount(), 2);
+    EXPECT_EQ(view.recordset->recordCount(), 2);
     EXPECT_FALSE(plant.faults.fired());
 }
 
