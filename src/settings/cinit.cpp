@@ -161,8 +161,7 @@ void CInit::DeleteAValueInCInits(const std::string& entry) {
 }
 
 bool CInit::ParamExist(const std::string& entry) const {
-    const bool named = entry.find_first_not_of('.') != std::string::npos;
-    return !named || follow(*root_, entry, EmptyNames::leftOut).item != nullptr;
+    return follow(*root_, entry, EmptyNames::leftOut).items != nullptr;
 }
 
 void CInit::WriteToIni(const std::string& entry, const std::string& value) {

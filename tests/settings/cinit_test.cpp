@@ -15,6 +15,8 @@ TEST_F(CInitTest, GivesTheFallbackForAMissingEntry) {
     EXPECT_EQ(read("a.b.c"), Variant("missing"));
     EXPECT_EQ(read("a"), Variant(""));
     EXPECT_EQ(read(".a..b."), Variant(1.0)) << "empty names are left out";
+    EXPECT_TRUE(inits.ParamExist(".a..b."));
+    EXPECT_FALSE(inits.ParamExist(".a..c."));
 }
 
 TEST_F(CInitTest, AddressesEntriesIgnoringCase) {
