@@ -1,4 +1,5 @@
 #include "editor_window.h"
+#include "recipe/node_key.h"
 
 namespace hx::editor {
 namespace {
@@ -131,10 +132,12 @@ TEST_F(CellButton, ServesANewRow) {
 }
 
 TEST_F(CellButton, AsksNothingWithoutARowOrWhereNothingMayBeEdited) {
-    show("RCPE");
-    grid().setCol(columnNumber("VarRecipe"));
-    forms::KeyPress space{forms::key::space};
-    grid().keyPress(space);
+    for (const std::string& key : {std::string("RCPE"), recipe::makeKey(recipe::prefixRecipe, water)}) {
+        show(key);
+        grid().setCol(columnNumber("VarRecipe"));
+        forms::KeyPress space{forms::key::space};
+        grid().keyPress(space);
+    }
     show(mixKey);
     grid().setAllowUpdate(false);
     press(1);
