@@ -7,7 +7,7 @@
 #include "bench/limit_database.h"
 #include "bench/require.h"
 #include "bench/subjects.h"
-#include "cli/check.h"
+#include "cli/findings.h"
 #include "cli/generate.h"
 
 namespace hx::bench {

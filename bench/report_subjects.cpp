@@ -53,9 +53,10 @@ void addInclusions(const std::string& path) {
     connection->commitTrans();
 }
 
-report::ProjectData read(const std::string& path) {
+project::ProjectData read(const std::string& path) {
     sqlite::Provider provider;
-    report::ProjectData data = report::readProject(provider, path);
+    project::Reader reader(provider, path);
+    project::ProjectData data = project::readProject(reader);
     if (data.recipes().empty()) throw std::runtime_error("recipes are missing");
     return data;
 }
@@ -67,7 +68,7 @@ class Desk {
     void open(const std::string& path) {
         view_.reset();
         pages_.reset();
-        report::ProjectData data = read(path);
+        project::ProjectData data = read(path);
         recipes_ = data.recipes().size();
         report_ = std::make_unique<report::Report>(std::move(data), report::Texts(), path, report::Moment::now());
         pages_ = std::make_unique<report::Pages>(*report_, report::usualPaper());

@@ -4,10 +4,10 @@
 
 #include "addin/trap.h"
 #include "automation/convert.h"
+#include "project/schema.h"
 #include "recipe/mhxrcp_hirarch_func.h"
 #include "recipe/node_key.h"
 #include "recipe/recipe_nodes.h"
-#include "recipe/schema.h"
 
 namespace hx::addin {
 
@@ -59,7 +59,7 @@ void addRecipeNodes(ado::Recordset& recipes, host::ProjectExplorer& explorer, co
     const Closing closing(recipes);
     if (!recipe::OpenAndMoveFirst(recipes)) return;
     recipe::RecipeNodes nodes(explorer, texts.GetResource(text::subRecipes));
-    constexpr std::array fields = {recipe::schema::recipe::id, recipe::schema::recipe::name};
+    constexpr std::array fields = {project::schema::recipe::id, project::schema::recipe::name};
     recipes.getRows(ado::adGetRowsRest, fields, [&](std::span<const automation::Variant> row) {
         nodes.add(automation::toInt32(row[0]), row[1].isString() ? std::string_view(row[1].asString()) : "");
     });

@@ -1,14 +1,74 @@
 #include "ado/provider.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace hx::ado {
+
+namespace {
+
+constexpr std::size_t rowsReadTogether = 1024;
+
+StoredValue storedValue(const automation::Variant& value) {
+    using Kind = StoredValue::Kind;
+    using automation::VarType;
+    switch (value.type()) {
+        case VarType::boolean: return {Kind::integer, value.asBoolean(), value.asBoolean() ? 1.0 : 0.0, {}};
+        case VarType::int16: return {Kind::integer, value.asInt16(), static_cast<double>(value.asInt16()), {}};
+        case VarType::int32: return {Kind::integer, value.asInt32(), static_cast<double>(value.asInt32()), {}};
+        case VarType::real8: return {Kind::real, static_cast<std::int64_t>(value.asDouble()), value.asDouble(), {}};
+        case VarType::string: return {Kind::text, 0, 0, value.asString()};
+        default: return {};
+    }
+}
+
+/// Passes the rows that are read on.
+class Scan : public RowSink {
+  public:
+    Scan(std::span<const std::size_t> columns, const std::vector<Column>& all, const StoredRowReceiver& receive)
+        : columns_(columns), all_(all), receive_(receive), values_(columns.size()) {}
+
+    void start(std::span<const Key> keys) { keys_ = keys; }
+
+    void row(std::size_t index, std::span<automation::Variant> values) override {
+        const Key key = keys_[index];
+        for (std::size_t i = 0; i < columns_.size(); ++i) {
+            const bool isKey = all_[columns_[i]].isKey;
+            values_[i] = isKey ? StoredValue{StoredValue::Kind::integer, key, static_cast<double>(key), {}}
+                               : storedValue(values[columns_[i]]);
+        }
+        receive_(values_);
+    }
+
+  private:
+    std::span<const std::size_t> columns_;
+    const std::vector<Column>& all_;
+    const StoredRowReceiver& receive_;
+    std::vector<StoredValue> values_;
+    std::span<const Key> keys_;
+};
+
+}  // namespace
 
 bool sameValue(const automation::Variant& stored, const automation::Variant& read) {
     const auto notANumber = [](const automation::Variant& value) {
         return value.type() == automation::VarType::real8 && std::isnan(value.asDouble());
     };
     return stored == read || (notANumber(stored) && notANumber(read));
+}
+
+void Rowset::scan(std::span<const std::size_t> columns, const StoredRowReceiver& receive) {
+    ColumnMask mask = 0;
+    for (const std::size_t column : columns) mask |= columnBit(column);
+    const KeySet all = keys(nullptr);
+    Scan scan(columns, this->columns(), receive);
+    std::vector<Key> together;
+    for (std::size_t at = 0; at < all.size(); at += together.size()) {
+        together.resize(std::min(rowsReadTogether, all.size() - at));
+        for (std::size_t i = 0; i < together.size(); ++i) together[i] = all[at + i];
+        scan.start(together);
+        read(together, mask, scan);
+    }
 }
 
 void Rowset::insertAll(std::span<const std::size_t> columns, RowSource& rows) {

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "ado/row_keys.h"
+#include "ado/stored_value.h"
 #include "ado/types.h"
 #include "automation/variant.h"
 
@@ -75,6 +76,9 @@ class Rowset {
     /// a row is left out silently. Integer columns give a 32-bit integer (a double when the number is too large),
     /// adDouble a double, adBoolean a boolean, text a string, a missing value Null.
     virtual void read(std::span<const Key> keys, ColumnMask mask, RowSink& sink) = 0;
+    /// Gives these columns of all rows in the order of the command, in one pass; nothing is kept. `receive` must not
+    /// use the session. By keys() and read(), unless a provider has a faster way.
+    virtual void scan(std::span<const std::size_t> columns, const StoredRowReceiver& receive);
 
     // Each is durable when it returns, unless a transaction is open. A refused duplicate is dbErrDuplicate; a row
     // that is gone is dbErrDeletedRow. Columns that are not named keep their value, or get the table's default.
@@ -96,9 +100,18 @@ class Session {
     /// Opens a table (adCmdTable, adCmdTableDirect) or a SELECT in Jet SQL. Null when the command returns no rows
     /// (DELETE, UPDATE, INSERT): it has then been carried out, durably.
     [[nodiscard]] virtual std::unique_ptr<Rowset> open(std::string_view command, CommandType type) = 0;
+    /// In a session that only reads, all that it reads until the transaction ends is as of one moment: who writes
+    /// meanwhile is kept out, or is not seen.
     virtual void beginTransaction() = 0;
     virtual void commit() = 0;
     virtual void rollback() = 0;
+    /// Throws dbErrUnspecified when the database is seen to be damaged. Takes some hundredths of a second at most, so
+    /// it does not see everything.
+    virtual void requireUndamaged() {}
+    /// What is damaged in the whole database, a sentence without its full stop each, and at most so many. What takes
+    /// long in a large one is looked at only when it is asked for.
+    enum class Check { usual, thorough };
+    [[nodiscard]] virtual std::vector<std::string> damages(int /*most*/, Check /*check*/) { return {}; }
 };
 
 /// A kind of database.

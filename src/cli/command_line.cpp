@@ -6,12 +6,11 @@
 #include "adapters/sqlite/project_file.h"
 #include "automation/error.h"
 #include "cli/application.h"
-#include "cli/build_sample.h"
 #include "cli/generate.h"
 #include "cli/help_formatter.h"
-#include "cli/project_reader.h"
 #include "cli/run_macro.h"
 #include "cli/verbs.h"
+#include "hosting/visible.h"
 
 namespace hx::cli {
 
@@ -48,23 +47,9 @@ void addGenerate(CLI::App& app, Command& chosen, const Output& output) {
     });
 }
 
-void addBuildSample(CLI::App& app, Command& chosen, const Output& output) {
-    CLI::App* command = app.add_subcommand("build-sample", "Make a project of a sample that is kept as text.");
-    struct Arguments {
-        std::string folder;
-        std::string path;
-    };
-    const auto arguments = std::make_shared<Arguments>();
-    command->add_option("DIR", arguments->folder, "The folder with variables.csv and recipes.txt.")->required();
-    command->add_option("FILE", arguments->path, "The project file to make; it must not exist yet.")->required();
-    command->callback([arguments, &chosen, &output] {
-        chosen = Command::doing([arguments, &output] { buildSample(arguments->folder, arguments->path, output); });
-    });
-}
-
 // For a catch handler.
 void explain(const Output& output) {
-    output.problems << "hxrecipe: " << visibleLines(automation::caughtError().description()) << "\n";
+    output.problems << "hxrecipe: " << hosting::visibleLines(automation::caughtError().description()) << "\n";
 }
 
 int carryOut(const Command& command, const Output& output) {
@@ -93,7 +78,8 @@ int explainUsage(const CLI::App& app, const CLI::ParseError& error, const Output
     if (error.get_exit_code() == 0 || unknown.empty()) {
         return app.exit(error, output.results, output.problems) == 0 ? succeeded : wrongUsage;
     }
-    output.problems << "There is no command " << inQuotes(unknown) << ".\nRun with --help for more information.\n";
+    output.problems << "There is no command " << hosting::inQuotes(unknown)
+                    << ".\nRun with --help for more information.\n";
     return wrongUsage;
 }
 
@@ -108,7 +94,6 @@ std::unique_ptr<CLI::App> makeApplication(Command& chosen, const Output& output)
     app->footer("Exit status: 0 done, 1 failed, 2 wrong usage.");  // of every command that has none of its own
     addNew(*app, chosen, output);
     addGenerate(*app, chosen, output);
-    addBuildSample(*app, chosen, output);
     addVerbs(*app, chosen, output);
     addRunMacro(*app, chosen, output);
     app->footer(

@@ -1,8 +1,11 @@
-#include "cli/differences.h"
+#include "cli/differences_output.h"
+
 #include "cli/json_output.h"
 
 namespace hx::cli {
 
+using exchange::Difference;
+using exchange::jsonOf;
 using Kind = Difference::Kind;
 
 namespace {

@@ -3,10 +3,10 @@
 #include <filesystem>
 #include <system_error>
 
+#include "adapters/sqlite/provider.h"
 #include "automation/error.h"
-#include "cli/content.h"
-#include "cli/project_reader.h"
 #include "cli/unfinished_file.h"
+#include "exchange/content.h"
 #include "hosting/file_bytes.h"
 #include "hosting/file_replacement.h"
 
@@ -24,10 +24,10 @@ bool isExport(const std::string& path) {
 }
 
 // What is written is all that could be read.
-void sayWhatIsDamaged(sqlite::Database& database, const std::string& target) {
-    const auto damages = sqlite::damagesOf(database, 1);
+void sayWhatIsDamaged(project::Reader& reader, const std::string& target) {
+    const auto damages = reader.session().damages(1, ado::Session::Check::thorough);
     if (damages.empty()) return;
-    refuse("The file '" + database.path() + "' is damaged: " + damages.front() + ". Something may be missing in " +
+    refuse("The file '" + reader.path() + "' is damaged: " + damages.front() + ". Something may be missing in " +
            target + ".");
 }
 
@@ -38,17 +38,18 @@ void exportProject(const std::string& path, const std::string& target, const Out
     if (fs::exists(fs::symlink_status(target, ignored)) && !isExport(target)) {
         refuse("The file '" + target + "' exists already and is no export.");
     }
-    ProjectReader project(path, ProjectReader::Damage::read);
-    const Content content = readContent(project.database());
-    const std::string text = exportOf(content);
+    sqlite::Provider provider;
+    project::Reader reader(provider, path, project::Reader::Damage::read);
+    const exchange::Content content = exchange::readContent(reader);
+    const std::string text = exchange::exportOf(content);
     hosting::FileReplacement file(target);
     const UnfinishedFile unfinished(file.temporary());
     file.write(text);
     file.publish();
     std::size_t members = content.orphans.size();
-    for (const ContentRecipe& recipe : content.recipes) members += recipe.members.size();
+    for (const exchange::ContentRecipe& recipe : content.recipes) members += recipe.members.size();
     output.results << "Wrote " << target << ": " << content.recipes.size() << " recipes, " << members << " members.\n";
-    sayWhatIsDamaged(project.database(), target);
+    sayWhatIsDamaged(reader, target);
 }
 
 }  // namespace hx::cli

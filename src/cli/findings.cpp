@@ -1,14 +1,19 @@
 #include "cli/findings.h"
 
+#include "adapters/sqlite/provider.h"
 #include "cli/json_output.h"
 
 namespace hx::cli {
 
+using project::Severity;
+
 namespace {
+
+constexpr int mostDamages = 20;
 
 std::string_view nameOf(Severity severity) { return severity == Severity::error ? "error" : "warning"; }
 
-std::string placeOf(const Finding& finding) {
+std::string placeOf(const project::Finding& finding) {
     std::string place;
     if (finding.recipe != nullptr) place = "recipe " + inQuotes(finding.recipe->name);
     if (finding.member) place += (place.empty() ? "member " : ", member ") + std::to_string(*finding.member);
@@ -19,28 +24,37 @@ std::string counted(std::int64_t count, const std::string& what) {
     return std::to_string(count) + " " + what + (count == 1 ? "" : "s");
 }
 
+project::Finding damaged(std::string problem) {
+    return {Severity::error,
+            "damaged",
+            nullptr,
+            {},
+            std::move(problem),
+            "Go back to a copy of it; \"hxrecipe export\" saves what can still be read."};
+}
+
 }  // namespace
 
 FindingWriter::FindingWriter(bool json, const Output& output) : json_(json), output_(output) {
     if (json_) output_.results << "{\"findings\": [";
 }
 
-void FindingWriter::add(const Finding& finding) {
+void FindingWriter::add(const project::Finding& finding) {
     if (json_) addObject(finding);
     else addLine(finding);
     ++(finding.severity == Severity::error ? errors_ : warnings_);
 }
 
-void FindingWriter::addLine(const Finding& finding) {
-    output_.results << nameOf(finding.severity) << ": " << placeOf(finding) << ": " << finding.problem << " "
+void FindingWriter::addLine(const project::Finding& finding) {
+    output_.results << nameOf(finding.severity) << ": " << placeOf(finding) << ": " << visible(finding.problem) << " "
                     << finding.advice << "\n";
 }
 
-void FindingWriter::addObject(const Finding& finding) {
+void FindingWriter::addObject(const project::Finding& finding) {
     Json object = {{"severity", nameOf(finding.severity)}, {"kind", finding.kind}};
     if (finding.recipe != nullptr) object["recipe"] = recipeObject(*finding.recipe);
     if (finding.member) object["member"] = *finding.member;
-    object["problem"] = finding.problem;
+    object["problem"] = visible(finding.problem);
     object["advice"] = finding.advice;
     output_.results << (isEmpty() ? "\n" : ",\n") << jsonLine(object);
 }
@@ -54,6 +68,19 @@ void FindingWriter::finish() {
         output_.results << counted(errors_ + warnings_, "finding") << ": " << counted(errors_, "error") << ", "
                         << counted(warnings_, "warning") << ".\n";
     }
+}
+
+int check(const CheckOptions& options, const Output& output) {
+    sqlite::Provider provider;
+    project::Reader reader(provider, options.path, project::Reader::Damage::read);
+    FindingWriter findings(options.json, output);
+    using Check = ado::Session::Check;
+    const auto damages = reader.session().damages(mostDamages, options.thorough ? Check::thorough : Check::usual);
+    for (const std::string& damage : damages) findings.add(damaged("The file is damaged: " + damage + "."));
+    // What a damaged file seems to hold says nothing.
+    if (damages.empty()) project::Check(reader, [&](const auto& finding) { findings.add(finding); }).run();
+    findings.finish();
+    return findings.isEmpty() ? succeeded : found;
 }
 
 }  // namespace hx::cli

@@ -6,15 +6,6 @@ std::string jsonLine(const Json& value) {
     return visibleJson(value.dump(-1, ' ', false, Json::error_handler_t::replace));
 }
 
-Json recipeObject(const RecipeEntry& recipe) { return {{"id", recipe.id}, {"name", recipe.name}}; }
-
-Json jsonOf(const Value& value) {
-    if (const auto* flag = std::get_if<bool>(&value)) return *flag;
-    if (const auto* number = std::get_if<std::int64_t>(&value)) return *number;
-    if (const auto* number = std::get_if<double>(&value)) return *number;
-    if (const auto* text = std::get_if<std::string>(&value)) return *text;
-    if (const auto* blob = std::get_if<Blob>(&value)) return {{"hex", blob->digits}};
-    return nullptr;
-}
+Json recipeObject(const project::RecipeEntry& recipe) { return {{"id", recipe.id}, {"name", recipe.name}}; }
 
 }  // namespace hx::cli

@@ -1,21 +1,19 @@
 #pragma once
 
-#include <nlohmann/json.hpp>
-#include <string>
-
-#include "cli/content.h"
-#include "cli/project_reader.h"
+#include "exchange/json.h"
+#include "hosting/visible.h"
+#include "project/reader.h"
 
 namespace hx::cli {
 
-/// An object keeps the order in which its members were given.
-using Json = nlohmann::ordered_json;
+using exchange::Json;
+using hosting::inQuotes;
+using hosting::visible;
+using hosting::visibleJson;
 
 /// On one line. Bytes that are not UTF-8 become U+FFFD.
 [[nodiscard]] std::string jsonLine(const Json& value);
 /// {"id": ..., "name": ...}
-[[nodiscard]] Json recipeObject(const RecipeEntry& recipe);
-/// Bytes become {"hex": "00FF"}.
-[[nodiscard]] Json jsonOf(const Value& value);
+[[nodiscard]] Json recipeObject(const project::RecipeEntry& recipe);
 
 }  // namespace hx::cli

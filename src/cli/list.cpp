@@ -1,27 +1,40 @@
 #include "cli/list.h"
 
+#include <array>
 #include <iomanip>
+#include <unordered_map>
 
+#include "adapters/sqlite/provider.h"
 #include "cli/json_output.h"
+#include "project/schema.h"
 
 namespace hx::cli {
-
-using sqlite::Statement;
 
 namespace {
 
 struct Entry {
-    RecipeEntry recipe;
+    project::RecipeEntry recipe;
     bool enabled = false;
     std::int64_t variables = 0;
     std::int64_t subRecipes = 0;
 };
 
-// Both counts come from an index alone.
-constexpr const char* query =
-    "SELECT r.ID, r.Name, r.Enabled, coalesce(m.Variables, 0), coalesce(m.SubRecipes, 0) FROM TrcpRecipe AS r "
-    "LEFT JOIN (SELECT ParentID, sum(ChildID = 0) AS Variables, sum(ChildID <> 0) AS SubRecipes FROM TrcpRecipeMember "
-    "GROUP BY ParentID) AS m ON m.ParentID = r.ID ORDER BY r.ID";
+std::vector<Entry> readEntries(project::Reader& reader) {
+    using namespace project::schema;
+    std::vector<Entry> entries;
+    std::unordered_map<std::int64_t, std::size_t> numbers;
+    reader.read(recipeTable, std::array{recipe::id, recipe::name, recipe::enabled}, [&](const auto& row) {
+        numbers.emplace(row[0].integer, entries.size());
+        entries.push_back({{row[0].integer, std::string(row[1].text)}, row[2].isTrue()});
+    });
+    reader.read(memberTable, std::array{member::parentId, member::childId}, [&](const auto& row) {
+        const auto found = numbers.find(row[0].integer);
+        if (found == numbers.end()) return;
+        Entry& entry = entries[found->second];
+        ++(row[1].integer == 0 ? entry.variables : entry.subRecipes);
+    });
+    return entries;
+}
 
 void printLine(const Entry& entry, const Output& output) {
     output.results << std::setw(10) << entry.recipe.id << std::setw(9) << (entry.enabled ? "yes" : "no")
@@ -40,16 +53,13 @@ void printObject(const Entry& entry, bool first, const Output& output) {
 }  // namespace
 
 void list(const std::string& path, bool json, const Output& output) {
-    ProjectReader project(path);
-    Statement select(project.database(), query);
+    sqlite::Provider provider;
+    project::Reader reader(provider, path);
+    const auto entries = readEntries(reader);
     output.results << (json ? "{\"recipes\": [" : "        ID   Active  Variables  Sub-recipes  Name\n");
-    bool first = true;
-    while (select.step()) {
-        const bool enabled = select.value(2, ado::adBoolean) == automation::Variant(true);
-        const Entry entry{{select.key(0), select.text(1)}, enabled, select.key(3), select.key(4)};
-        if (json) printObject(entry, first, output);
+    for (const Entry& entry : entries) {
+        if (json) printObject(entry, &entry == entries.data(), output);
         else printLine(entry, output);
-        first = false;
     }
     if (json) output.results << "\n]}\n";
 }

@@ -7,10 +7,12 @@
 #include <iterator>
 
 #include "adapters/lua/engine.h"
+#include "adapters/sqlite/session.h"
 #include "automation/text.h"
 #include "cli/interruption.h"
-#include "cli/project_reader.h"
+#include "hosting/visible.h"
 #include "macros/globals.h"
+#include "project/reader.h"
 
 namespace hx::cli {
 
@@ -130,8 +132,8 @@ bool runToItsEnd(MacroSession& session, const MacroPlan& plan, const std::string
         session.run(plan, text);
         return true;
     } catch (const lua::MacroError& error) {
-        output.problems << "hxrecipe: " << visibleLines(error.what()) << "\n";
-        if (!error.traceback().empty()) output.problems << visibleLines(error.traceback()) << "\n";
+        output.problems << "hxrecipe: " << hosting::visibleLines(error.what()) << "\n";
+        if (!error.traceback().empty()) output.problems << hosting::visibleLines(error.traceback()) << "\n";
         return false;
     }
 }
@@ -141,14 +143,14 @@ bool runToItsEnd(MacroSession& session, const MacroPlan& plan, const std::string
 int runMacro(const MacroPlan& plan, const Output& output) {
     // Before the signals are the macro's: a pipe may keep this waiting.
     const std::string text = readMacro(plan.macro);
-    if (!plan.project.empty()) requireProject(plan.project);
+    if (!plan.project.empty()) (void)sqlite::Session(plan.project);
     if (!plan.studio.config.empty()) makeFolder(plan.studio.config);
     MacroSession session(plan, output);
     const bool ended = runToItsEnd(session, plan, text, output);
     session.close();
     const auto unread = session.unread();
     for (const forms::ShownMessage& box : unread)
-        output.problems << "hxrecipe: " << visibleLines(box.title + ": " + box.text) << "\n";
+        output.problems << "hxrecipe: " << hosting::visibleLines(box.title + ": " + box.text) << "\n";
     return ended && unread.empty() ? succeeded : failed;
 }
 

@@ -1,15 +1,18 @@
 #include "cli/show.h"
 
+#include <array>
+
+#include "adapters/sqlite/provider.h"
 #include "automation/error.h"
 #include "cli/json_output.h"
-#include "cli/recipe_graph.h"
+#include "project/schema.h"
 
 namespace hx::cli {
 
-using recipe::Branch;
-using recipe::BranchMark;
-using recipe::Use;
-using sqlite::Statement;
+using project::Branch;
+using project::BranchMark;
+using project::RecipeEntry;
+using project::Use;
 
 namespace {
 
@@ -38,38 +41,42 @@ std::string_view explanationOf(BranchMark mark) {
 /// Everything about one recipe.
 class Shown {
   public:
-    Shown(ProjectReader& project, const RecipeEntry& recipe)
-        : project_(project),
-          recipe_(recipe),
-          recipes_(project.recipes()),
-          inclusions_(project.inclusions()),
-          graph_(recipes_, inclusions_),
-          number_(graph_.numberOf(recipe.id).value()) {}
+    Shown(project::Reader& reader, const std::string& nameOrId)
+        : reader_(reader),
+          recipes_(reader.recipes()),
+          inclusions_(reader.inclusions()),
+          graph_(project::graphOf(recipes_, inclusions_)),
+          number_(requireRecipe(nameOrId)) {}
+
+    [[nodiscard]] const RecipeEntry& recipe() const { return recipes_[number_]; }
 
     [[nodiscard]] Json properties() {
-        Json result = {{"ID", recipe_.id}};
-        for (const Cell& cell : readRecipe(project_.database(), recipe_.id).cells) {
-            result[cell.column] = jsonOf(cell.value);
+        Json result = {{project::schema::recipe::id, recipe().id}};
+        for (const exchange::Cell& cell : exchange::readRecipe(reader_, recipe().id).cells) {
+            result[cell.column] = exchange::jsonOf(cell.value);
         }
         return result;
     }
 
     [[nodiscard]] Json variables() {
         Json result = Json::array();
-        Statement select(project_.database(),
-                         "SELECT ID, VarRecipe FROM TrcpRecipeMember WHERE ParentID = ?1 AND ChildID = 0 ORDER BY ID");
-        select.bind(1, recipe_.id);
-        while (select.step()) result.push_back({{"member", select.key(0)}, {"variable", select.text(1)}});
+        using namespace project::schema;
+        reader_.read(
+            memberTable, std::array{member::id, member::varRecipe},
+            [&](const auto& row) {
+                result.push_back({{"member", row[0].integer}, {"variable", std::string(row[1].text)}});
+            },
+            "ParentID = " + std::to_string(recipe().id) + " AND ChildID = 0");
         return result;
     }
 
     // Flat, each with its depth: a chain of recipes may be longer than programs like to nest.
     [[nodiscard]] Json tree() const {
         Json result = Json::array();
-        for (const Branch& branch : graph_.tree(number_)) {
-            const Inclusion& inclusion = inclusions_[branch.inclusion];
+        for (const Branch& branch : branches()) {
+            const project::Inclusion& inclusion = inclusions_[branch.inclusion];
             Json line = {{"depth", branch.depth}, {"member", inclusion.member}, {"id", inclusion.child}};
-            line["name"] = branch.recipe ? Json(graph_.recipe(*branch.recipe).name) : Json(nullptr);
+            line["name"] = branch.recipe ? Json(recipes_[*branch.recipe].name) : Json(nullptr);
             line["fileNameVariable"] = inclusion.fileVariable;
             line["mark"] = nameOf(branch.mark);
             result.push_back(std::move(line));
@@ -80,32 +87,40 @@ class Shown {
     // In the order of `tree`.
     [[nodiscard]] std::vector<std::string> treeLines() const {
         std::vector<std::string> lines;
-        for (const Branch& branch : graph_.tree(number_)) {
-            const Inclusion& inclusion = inclusions_[branch.inclusion];
+        for (const Branch& branch : branches()) {
+            const project::Inclusion& inclusion = inclusions_[branch.inclusion];
             std::string line(2 * branch.depth, ' ');
-            line +=
-                branch.recipe ? inQuotes(graph_.recipe(*branch.recipe).name) : "ID " + std::to_string(inclusion.child);
+            line += branch.recipe ? inQuotes(recipes_[*branch.recipe].name) : "ID " + std::to_string(inclusion.child);
             if (!inclusion.fileVariable.empty()) line += ", file name " + inQuotes(inclusion.fileVariable);
             lines.push_back(line.append(explanationOf(branch.mark)));
         }
         return lines;
     }
 
-    [[nodiscard]] std::vector<Use> uses() const { return graph_.uses({number_}); }
-    [[nodiscard]] const RecipeEntry& recipe(std::size_t number) const { return graph_.recipe(number); }
+    [[nodiscard]] std::vector<Use> uses() const { return graph_.uses({number_}).list; }
+    [[nodiscard]] const RecipeEntry& recipe(std::size_t number) const { return recipes_[number]; }
     [[nodiscard]] bool isDirect(const Use& use) const { return use.through == number_; }
 
   private:
-    ProjectReader& project_;
-    RecipeEntry recipe_;
+    static constexpr std::size_t deepest = 100;
+
+    [[nodiscard]] std::vector<Branch> branches() const { return graph_.tree(number_, {.depth = deepest}).branches; }
+
+    [[nodiscard]] std::size_t requireRecipe(const std::string& nameOrId) const {
+        if (const auto found = project::findRecipe(recipes_, nameOrId)) return *found;
+        throw automation::Error(automation::errFail,
+                                "There is no recipe " + inQuotes(nameOrId) + " in " + reader_.path());
+    }
+
+    project::Reader& reader_;
     std::vector<RecipeEntry> recipes_;
-    std::vector<Inclusion> inclusions_;
-    RecipeGraph graph_;
+    std::vector<project::Inclusion> inclusions_;
+    project::InclusionGraph graph_;
     std::size_t number_;
 };
 
-void printObject(Shown& shown, const RecipeEntry& recipe, const Output& output) {
-    Json object = recipeObject(recipe);
+void printObject(Shown& shown, const Output& output) {
+    Json object = recipeObject(shown.recipe());
     object["properties"] = shown.properties();
     object["variables"] = shown.variables();
     object["subRecipes"] = shown.tree();
@@ -129,8 +144,8 @@ std::string textOf(const Json& value) {
     return jsonLine(value);
 }
 
-void printText(Shown& shown, const RecipeEntry& recipe, const Output& output) {
-    output.results << "Recipe " << inQuotes(recipe.name) << "\n";
+void printText(Shown& shown, const Output& output) {
+    output.results << "Recipe " << inQuotes(shown.recipe().name) << "\n";
     const Json properties = shown.properties();
     for (const auto& [column, value] : properties.items()) {
         output.results << "  " << visible(column) << ": " << textOf(value) << "\n";
@@ -155,12 +170,11 @@ void printText(Shown& shown, const RecipeEntry& recipe, const Output& output) {
 }  // namespace
 
 void show(const std::string& path, const std::string& recipe, bool json, const Output& output) {
-    ProjectReader project(path);
-    const auto found = project.findRecipe(recipe);
-    if (!found) throw automation::Error(automation::errFail, "There is no recipe " + inQuotes(recipe) + " in " + path);
-    Shown shown(project, *found);
-    if (json) printObject(shown, *found, output);
-    else printText(shown, *found, output);
+    sqlite::Provider provider;
+    project::Reader reader(provider, path);
+    Shown shown(reader, recipe);
+    if (json) printObject(shown, output);
+    else printText(shown, output);
 }
 
 }  // namespace hx::cli

@@ -1,26 +1,43 @@
 #include "cli/variables.h"
 
-#include "cli/in_file.h"
+#include <algorithm>
+#include <array>
+
+#include "adapters/sqlite/provider.h"
+#include "automation/text.h"
 #include "cli/json_output.h"
-#include "cli/text_decoder.h"
 #include "cli/variables_import.h"
+#include "hosting/in_file.h"
+#include "lists/text_decoder.h"
+#include "project/schema.h"
 
 namespace hx::cli {
 
 namespace {
 
 void list(const std::string& path, bool json, const Output& output) {
-    ProjectReader project(path);
-    sqlite::Statement select(project.database(), "SELECT Name, Type, Comment FROM ThxVariable ORDER BY Name");
+    struct Variable {
+        std::string name, type, comment;
+    };
+    using namespace project::schema;
+    sqlite::Provider provider;
+    project::Reader reader(provider, path);
+    std::vector<Variable> variables;
+    reader.read(variableTable, std::array{variable::name, variable::type, variable::comment}, [&](const auto& row) {
+        variables.push_back({std::string(row[0].text), std::string(row[1].text), std::string(row[2].text)});
+    });
+    std::ranges::stable_sort(variables, [](const Variable& a, const Variable& b) {
+        return automation::compareIgnoreCase(a.name, b.name) < 0;
+    });
     const char* separator = "\n";
     if (json) output.results << "{\"variables\": [";
-    while (select.step()) {
+    for (const Variable& variable : variables) {
         if (json) {
-            const Json object = {{"name", select.text(0)}, {"type", select.text(1)}, {"comment", select.text(2)}};
+            const Json object = {{"name", variable.name}, {"type", variable.type}, {"comment", variable.comment}};
             output.results << separator << jsonLine(object);
             separator = ",\n";
         } else {
-            output.results << inQuotes(select.text(0)) << " " << visible(select.text(1)) << "\n";
+            output.results << inQuotes(variable.name) << " " << visible(variable.type) << "\n";
         }
     }
     if (json) output.results << "\n]}\n";
@@ -36,8 +53,9 @@ void addList(CLI::App& group, Command& chosen, const Output& output) {
     command->add_option("FILE", arguments->path, "The project file; it is only read.")->required();
     command->add_flag("--json", arguments->json, "Print JSON, for other programs.");
     command->callback([arguments, &chosen, &output] {
-        chosen = Command::doing(
-            [arguments, &output] { inFile(arguments->path, [&] { list(arguments->path, arguments->json, output); }); });
+        chosen = Command::doing([arguments, &output] {
+            hosting::inFile(arguments->path, [&] { list(arguments->path, arguments->json, output); });
+        });
     });
 }
 
@@ -57,7 +75,7 @@ void addImport(CLI::App& group, Command& chosen, const Output& output) {
                      "recognised.")
         ->type_name("NAME")
         ->check([](const std::string& name) {
-            return isKnownEncoding(name) ? std::string() : "\"" + name + "\" is not a known encoding";
+            return lists::isKnownEncoding(name) ? std::string() : "\"" + name + "\" is not a known encoding";
         });
     command->callback(
         [plan, &chosen, &output] { chosen = Command::doing([plan, &output] { importVariables(*plan, output); }); });

@@ -1,20 +1,20 @@
 #include "cli/variables_import.h"
 
-#include <filesystem>
-#include <fstream>
 #include <optional>
 
-#include "adapters/sqlite/transaction.h"
+#include "adapters/sqlite/session.h"
 #include "automation/error.h"
-#include "automation/text.h"
-#include "cli/csv_variables.h"
 #include "cli/json_output.h"
-#include "cli/plcopen_variables.h"
 #include "cli/progress.h"
-#include "cli/variable_writer.h"
+#include "lists/variable_writer.h"
+#include "lists/variables.h"
 
 namespace hx::cli {
 
+using lists::ListedVariable;
+using lists::VariableChange;
+using lists::VariableReceiver;
+using lists::VariableWriter;
 using Kind = VariableChange::Kind;
 
 namespace {
@@ -104,35 +104,10 @@ class Importer : public VariableReceiver {
     std::size_t moreNotes_ = 0;
 };
 
-bool isXml(const std::string& path) {
-    if (automation::equalIgnoreCase(std::string_view(path).substr(path.size() - std::min<std::size_t>(path.size(), 4)),
-                                    ".xml")) {
-        return true;
-    }
-    std::error_code ignored;
-    if (!std::filesystem::is_regular_file(path, ignored)) return false;
-    std::ifstream file(path, std::ios::binary);
-    constexpr std::string_view begins = "<?xml";
-    // Also behind a byte order mark, and in UTF-16.
-    std::string text;
-    for (char c = 0; text.size() < begins.size() && file.get(c);) {
-        if (c > ' ' && c < 0x7F) text += c;
-    }
-    return text == begins;
-}
-
-void readList(const VariablesImport& plan, const VariableLimits& limits, VariableReceiver& receiver) {
-    if (beginsLikeProject(plan.list)) {
-        throw automation::Error(automation::errFail, plan.list + " is a project, not a list of variables");
-    }
-    if (isXml(plan.list)) readPlcopenVariables(plan.list, limits, receiver);
-    else readCsvVariables(plan.list, plan.encoding, receiver);
-}
-
 void runImport(const VariablesImport& plan, VariableWriter& writer, const Output& output,
                const std::function<void()>& finish) {
     Importer importer(writer, plan, output);
-    readList(plan, writer.limits(), importer);
+    lists::readVariables(plan.list, plan.encoding, writer.limits(), importer);
     importer.requireSome();
     finish();
     importer.print();
@@ -141,18 +116,17 @@ void runImport(const VariablesImport& plan, VariableWriter& writer, const Output
 }  // namespace
 
 void importVariables(const VariablesImport& plan, const Output& output) {
-    requireProject(plan.project);
-    sqlite::Database database(plan.project);
-    database.useLargeCache(true);
+    sqlite::Session session(plan.project);
+    sqlite::Database& database = session.database();
     if (plan.dryRun) {
         VariableWriter writer(database, plan.list);
         writer.practise();
-        database.execute("BEGIN");
+        database.execute("BEGIN");  // reads alone: others may write meanwhile
         return runImport(plan, writer, output, [] {});
     }
-    sqlite::Transaction transaction(database);
+    session.beginTransaction();
     VariableWriter writer(database, plan.list);
-    runImport(plan, writer, output, [&] { transaction.commit(); });
+    runImport(plan, writer, output, [&] { session.commit(); });
 }
 
 }  // namespace hx::cli

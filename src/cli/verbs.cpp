@@ -1,14 +1,18 @@
 #include "cli/verbs.h"
 
-#include "cli/check.h"
-#include "cli/differences.h"
+#include <optional>
+
+#include "adapters/sqlite/provider.h"
+#include "cli/differences_output.h"
 #include "cli/export.h"
-#include "cli/import.h"
-#include "cli/in_file.h"
+#include "cli/findings.h"
 #include "cli/list.h"
+#include "cli/progress.h"
 #include "cli/show.h"
 #include "cli/variables.h"
 #include "cli/where.h"
+#include "exchange/import.h"
+#include "hosting/in_file.h"
 
 namespace hx::cli {
 
@@ -32,8 +36,9 @@ void addList(CLI::App& app, Command& chosen, const Output& output) {
     CLI::App* command = app.add_subcommand("list", "List the recipes of a project.");
     const auto arguments = readingArguments(*command);
     command->callback([arguments, &chosen, &output] {
-        chosen = Command::doing(
-            [arguments, &output] { inFile(arguments->path, [&] { list(arguments->path, arguments->json, output); }); });
+        chosen = Command::doing([arguments, &output] {
+            hosting::inFile(arguments->path, [&] { list(arguments->path, arguments->json, output); });
+        });
     });
 }
 
@@ -44,7 +49,8 @@ void addShow(CLI::App& app, Command& chosen, const Output& output) {
     command->add_option("RECIPE", arguments->subject, "The recipe's name in any case, or its ID.")->required();
     command->callback([arguments, &chosen, &output] {
         chosen = Command::doing([arguments, &output] {
-            inFile(arguments->path, [&] { show(arguments->path, arguments->subject, arguments->json, output); });
+            hosting::inFile(arguments->path,
+                            [&] { show(arguments->path, arguments->subject, arguments->json, output); });
         });
     });
 }
@@ -59,7 +65,7 @@ void addCheck(CLI::App& app, Command& chosen, const Output& output) {
     command->footer("Exit status: 0 nothing found, 1 findings, 2 the project could not be checked.");
     command->callback([options, &chosen, &output] {
         chosen = Command::asking(
-            [options, &output] { return inFile(options->path, [&] { return check(*options, output); }); });
+            [options, &output] { return hosting::inFile(options->path, [&] { return check(*options, output); }); });
     });
 }
 
@@ -70,7 +76,8 @@ void addWhere(CLI::App& app, Command& chosen, const Output& output) {
     command->add_option("NAME", arguments->subject, "A variable's name, or a recipe's name or ID.")->required();
     command->callback([arguments, &chosen, &output] {
         chosen = Command::doing([arguments, &output] {
-            inFile(arguments->path, [&] { where(arguments->path, arguments->subject, arguments->json, output); });
+            hosting::inFile(arguments->path,
+                            [&] { where(arguments->path, arguments->subject, arguments->json, output); });
         });
     });
 }
@@ -86,12 +93,34 @@ void addExport(CLI::App& app, Command& chosen, const Output& output) {
     });
 }
 
+struct ImportArguments {
+    std::string project, file, mode = "add";
+    bool dryRun = false, json = false;
+};
+
+void import(const ImportArguments& arguments, const Output& output) {
+    using exchange::ImportMode;
+    const ImportMode mode = arguments.mode == "add"      ? ImportMode::add
+                            : arguments.mode == "update" ? ImportMode::update
+                                                         : ImportMode::replace;
+    std::optional<Progress> bar;
+    const auto progress = [&](std::int64_t done, std::int64_t total) {
+        if (!bar) bar.emplace(output, total);
+        bar->reach(done);
+    };
+    if (arguments.dryRun) {
+        const auto differences = exchange::previewImport(arguments.project, arguments.file, mode, progress);
+        bar.reset();
+        return print(differences, arguments.json, output);
+    }
+    const auto counts = exchange::importContent(arguments.project, arguments.file, mode, progress);
+    bar.reset();
+    output.results << "Imported " << arguments.file << ": " << counts.added << " recipes added, " << counts.changed
+                   << " changed, " << counts.removed << " removed.\n";
+}
+
 void addImport(CLI::App& app, Command& chosen, const Output& output) {
     CLI::App* command = app.add_subcommand("import", "Bring the recipes of an export into a project.");
-    struct ImportArguments {
-        std::string project, file, mode = "add";
-        bool dryRun = false, json = false;
-    };
     const auto arguments = std::make_shared<ImportArguments>();
     command->add_option("FILE", arguments->project, "The project file.")->required();
     command->add_option("IN.json", arguments->file, "The export.")->required();
@@ -104,13 +133,7 @@ void addImport(CLI::App& app, Command& chosen, const Output& output) {
                      "also delete all others.")
         ->check(CLI::IsMember({"add", "update", "replace"}));
     command->callback([arguments, &chosen, &output] {
-        chosen = Command::doing([arguments, &output] {
-            const ImportMode mode = arguments->mode == "add"      ? ImportMode::add
-                                    : arguments->mode == "update" ? ImportMode::update
-                                                                  : ImportMode::replace;
-            if (arguments->dryRun) previewImport(arguments->project, arguments->file, mode, arguments->json, output);
-            else importContent(arguments->project, arguments->file, mode, output);
-        });
+        chosen = Command::doing([arguments, &output] { import(*arguments, output); });
     });
 }
 
@@ -123,7 +146,9 @@ void addDiff(CLI::App& app, Command& chosen, const Output& output) {
     command->footer("Exit status: 0 no differences, 1 differences, 2 the files could not be compared.");
     command->callback([arguments, &chosen, &output] {
         chosen = Command::asking([arguments, &output] {
-            const auto differences = compare(loadContent(arguments->path), loadContent(arguments->subject), {});
+            sqlite::Provider provider;
+            const auto load = [&](const std::string& path) { return exchange::loadContent(provider, path); };
+            const auto differences = exchange::compare(load(arguments->path), load(arguments->subject), {});
             print(differences, arguments->json, output);
             return static_cast<int>(differences.empty() ? succeeded : found);
         });

@@ -3,11 +3,11 @@
 #include "editor/frmtabgrid.h"
 #include "editor/menus.h"
 #include "editor/tools.h"
-#include "recipe/schema.h"
+#include "project/schema.h"
 
 namespace hx::editor {
 
-namespace member = recipe::schema::member;
+namespace member = project::schema::member;
 
 namespace {
 

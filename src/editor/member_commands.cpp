@@ -14,14 +14,14 @@
 #include "editor/guard.h"
 #include "editor/recipe_names.h"
 #include "forms/wait_cursor.h"
+#include "project/schema.h"
 #include "recipe/mrecipe_member.h"
 #include "recipe/node_key.h"
-#include "recipe/schema.h"
 
 namespace hx::editor {
 
 using automation::Variant;
-namespace member = recipe::schema::member;
+namespace member = project::schema::member;
 
 namespace {
 

@@ -9,8 +9,8 @@
 #include "editor/menus.h"
 #include "editor/msurfing_grid.h"
 #include "editor/tools.h"
+#include "project/schema.h"
 #include "recipe/node_key.h"
-#include "recipe/schema.h"
 
 namespace hx::editor {
 
@@ -90,7 +90,7 @@ void MemberGridKeys::run(std::span<const Row> rows, forms::KeyEvent& event) {
 void MemberGridKeys::keyPress(forms::KeyPress& event) {
     const auto& columns = grid_.columns();
     const auto column = static_cast<std::size_t>(grid_.col());
-    const bool variable = column < columns.size() && columns[column]->dataField() == recipe::schema::member::varRecipe;
+    const bool variable = column < columns.size() && columns[column]->dataField() == project::schema::member::varRecipe;
     if (event.character != key::space || !variable || !grid_.caretAtEnd()) return;
     event.swallow();
     guard(addIn_, "tdbRM_KeyPress", [this] { members_.chooseVariable(); });

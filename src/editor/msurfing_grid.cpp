@@ -11,12 +11,12 @@
 #include "editor/pictures.h"
 #include "editor/recipe_names.h"
 #include "forms/wait_cursor.h"
-#include "recipe/schema.h"
+#include "project/schema.h"
 
 namespace hx::editor {
 
 using automation::Variant;
-namespace member = recipe::schema::member;
+namespace member = project::schema::member;
 
 namespace {
 

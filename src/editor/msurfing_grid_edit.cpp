@@ -3,15 +3,15 @@
 #include "editor/frmtabgrid.h"
 #include "editor/guard.h"
 #include "editor/msurfing_grid.h"
+#include "project/schema.h"
 #include "recipe/conflict.h"
 #include "recipe/node_key.h"
-#include "recipe/schema.h"
 
 namespace hx::editor {
 
 using automation::Error;
 using automation::Variant;
-namespace member = recipe::schema::member;
+namespace member = project::schema::member;
 
 namespace {
 

@@ -10,15 +10,15 @@
 #include "editor/recipe_names.h"
 #include "editor/recipe_rows.h"
 #include "forms/wait_cursor.h"
+#include "project/schema.h"
 #include "recipe/conflict.h"
 #include "recipe/mrecipe.h"
 #include "recipe/node_key.h"
 #include "recipe/recipe_nodes.h"
-#include "recipe/schema.h"
 
 namespace hx::editor {
 
-namespace schema = recipe::schema;
+namespace schema = project::schema;
 
 namespace {
 

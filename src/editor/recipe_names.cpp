@@ -2,11 +2,11 @@
 
 #include "ado/recordset.h"
 #include "automation/convert.h"
-#include "recipe/schema.h"
+#include "project/schema.h"
 
 namespace hx::editor {
 
-namespace schema = recipe::schema;
+namespace schema = project::schema;
 
 std::optional<std::string> nameOfRecipe(const std::shared_ptr<ado::Connection>& connection, std::int32_t id) {
     if (connection->state() != ado::adStateOpen) return {};

@@ -5,15 +5,15 @@
 
 #include "ado/transaction.h"
 #include "automation/convert.h"
+#include "project/schema.h"
 #include "recipe/existing_recipe.h"
 #include "recipe/mhxrcp_hirarch_func.h"
-#include "recipe/schema.h"
 
 namespace hx::editor {
 
 using automation::Error;
 using automation::Variant;
-namespace schema = recipe::schema;
+namespace schema = project::schema;
 
 namespace {
 

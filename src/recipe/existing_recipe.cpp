@@ -1,9 +1,11 @@
 #include "recipe/existing_recipe.h"
 
 #include "ado/recordset.h"
-#include "recipe/schema.h"
+#include "project/schema.h"
 
 namespace hx::recipe {
+
+namespace schema = project::schema;
 
 namespace {
 

@@ -1,9 +1,11 @@
 #include "recipe/field_text.h"
 
 #include "automation/text.h"
-#include "recipe/schema.h"
+#include "project/schema.h"
 
 namespace hx::recipe {
+
+namespace schema = project::schema;
 
 using automation::Variant;
 

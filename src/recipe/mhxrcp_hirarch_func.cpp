@@ -1,9 +1,12 @@
 #include "recipe/mhxrcp_hirarch_func.h"
 
+#include "project/schema.h"
 #include "recipe/node_key.h"
-#include "recipe/schema.h"
+#include "recipe/recipe_window.h"
 
 namespace hx::recipe {
+
+namespace schema = project::schema;
 
 namespace {
 

@@ -4,11 +4,13 @@
 #include <array>
 
 #include "automation/text.h"
+#include "project/schema.h"
 #include "recipe/field_text.h"
-#include "recipe/schema.h"
 #include "recipe/stored_row.h"
 
 namespace hx::recipe {
+
+namespace schema = project::schema;
 
 using automation::Error;
 using automation::NumberFormat;

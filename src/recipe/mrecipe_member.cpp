@@ -4,15 +4,17 @@
 
 #include "ado/transaction.h"
 #include "automation/text.h"
+#include "project/schema.h"
 #include "recipe/existing_recipe.h"
 #include "recipe/field_text.h"
 #include "recipe/mhxrcp_hirarch_func.h"
 #include "recipe/node_key.h"
-#include "recipe/schema.h"
 #include "recipe/stored_row.h"
 #include "resources/mdialogs.h"
 
 namespace hx::recipe {
+
+namespace schema = project::schema;
 
 using automation::Null;
 using automation::Variant;

@@ -3,9 +3,11 @@
 #include <array>
 #include <charconv>
 
-#include "recipe/schema.h"
+#include "project/schema.h"
 
 namespace hx::recipe {
+
+namespace schema = project::schema;
 
 namespace {
 

@@ -1,8 +1,10 @@
 #include "automation/error.h"
+#include "project/schema.h"
 #include "recipe/mhxrcp_hirarch_func.h"
-#include "recipe/schema.h"
 
 namespace hx::recipe {
+
+namespace schema = project::schema;
 
 namespace {
 

@@ -10,9 +10,10 @@ namespace hx::report {
 
 namespace {
 
-ProjectData read(const host::Services& services, const std::string& path) {
+project::ProjectData read(const host::Services& services, const std::string& path) {
     const forms::WaitCursor wait(services.screen);
-    return readProject(services.database, path);
+    project::Reader reader(services.database, path, project::Reader::Damage::read);
+    return project::readProject(reader);
 }
 
 }  // namespace

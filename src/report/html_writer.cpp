@@ -80,10 +80,10 @@ class Writer {
     void writeSection(std::size_t recipe);
     void writeProperties(const std::vector<Property>& properties);
     void writeSwitches(const Section& section);
-    void writeVariables(const RecipeData& recipe);
-    void writeTree(const recipe::Tree& tree);
-    void writeBranch(const recipe::Branch& branch);
-    void writeUses(const recipe::Uses& uses, std::size_t self);
+    void writeVariables(const project::RecipeData& recipe);
+    void writeTree(const project::Tree& tree);
+    void writeBranch(const project::Branch& branch);
+    void writeUses(const project::Uses& uses, std::size_t self);
     void markSelf(std::size_t user, std::size_t self);
 
     const Report& report_;
@@ -178,7 +178,7 @@ void Writer::writeSwitches(const Section& section) {
     out("</ul>\n");
 }
 
-void Writer::writeVariables(const RecipeData& recipe) {
+void Writer::writeVariables(const project::RecipeData& recipe) {
     heading(texts_.text(Text::variables), recipe.variables.size());
     if (recipe.variables.empty()) return none(Text::noVariables);
     out("<ul class=\"variables\">\n");
@@ -189,14 +189,14 @@ void Writer::writeVariables(const RecipeData& recipe) {
     out("</ul>\n");
 }
 
-void Writer::writeTree(const recipe::Tree& tree) {
+void Writer::writeTree(const project::Tree& tree) {
     std::size_t own = 0;
-    for (const recipe::Branch& branch : tree.branches) own += branch.depth == 0 ? 1 : 0;
+    for (const project::Branch& branch : tree.branches) own += branch.depth == 0 ? 1 : 0;
     heading(texts_.caption(captionSubRecipes), own);
     if (tree.branches.empty()) return none(Text::noSubRecipes);
     out("<div class=\"tree\">\n");
     std::size_t open = 0;  // lists that are open: one more than the depth of the line before
-    for (const recipe::Branch& branch : tree.branches) {
+    for (const project::Branch& branch : tree.branches) {
         const std::size_t wanted = branch.depth + 1;
         if (open < wanted) out("<ul>\n");
         else out("</li>\n");
@@ -210,12 +210,12 @@ void Writer::writeTree(const recipe::Tree& tree) {
     if (tree.cut) none(Text::subRecipesCut);
 }
 
-void Writer::writeBranch(const recipe::Branch& branch) {
+void Writer::writeBranch(const project::Branch& branch) {
     if (branch.recipe) link(*branch.recipe);
     else span("missing-name", report_.branchName(branch));
-    if (branch.mark != recipe::BranchMark::none) {
-        const bool cycle = branch.mark == recipe::BranchMark::cycle,
-                   missing = branch.mark == recipe::BranchMark::missing;
+    if (branch.mark != project::BranchMark::none) {
+        const bool cycle = branch.mark == project::BranchMark::cycle,
+                   missing = branch.mark == project::BranchMark::missing;
         remark(cycle ? "mark cycle" : missing ? "mark missing" : "mark", report_.branchNote(branch));
     }
     if (const std::string& file = report_.branchFile(branch); !file.empty()) remark("file", file);
@@ -227,17 +227,17 @@ void Writer::markSelf(std::size_t user, std::size_t self) {
     if (user == self) remark("mark cycle", texts_.text(Text::branchCycle));
 }
 
-void Writer::writeUses(const recipe::Uses& uses, std::size_t self) {
+void Writer::writeUses(const project::Uses& uses, std::size_t self) {
     heading(texts_.text(Text::usedIn), uses.list.size());
     if (uses.list.empty()) return none(Text::notUsed);
     out("<ul class=\"uses\">\n");
-    for (const recipe::Use& use : uses.direct()) {
+    for (const project::Use& use : uses.direct()) {
         out("<li>");
         link(use.recipe);
         markSelf(use.recipe, self);
         out("</li>\n");
     }
-    for (const recipe::Use& use : uses.indirect()) {
+    for (const project::Use& use : uses.indirect()) {
         out("<li>");
         link(use.recipe);
         markSelf(use.recipe, self);

@@ -8,9 +8,9 @@
 
 namespace hx::report {
 
-using recipe::Branch;
-using recipe::BranchMark;
-using recipe::InclusionGraph;
+using project::Branch;
+using project::BranchMark;
+using project::InclusionGraph;
 
 namespace {
 
@@ -31,19 +31,19 @@ std::string nameOfFile(std::string_view path) {
 
 std::string withoutDots(const std::string& text) { return text.substr(0, text.find_last_not_of('.') + 1); }
 
-std::vector<const Inclusion*> inclusionsOf(const ProjectData& data) {
-    std::vector<const Inclusion*> inclusions;
-    for (const RecipeData& recipe : data.recipes()) {
-        for (const Inclusion& inclusion : recipe.subRecipes) inclusions.push_back(&inclusion);
+std::vector<const project::SubRecipe*> inclusionsOf(const project::ProjectData& data) {
+    std::vector<const project::SubRecipe*> inclusions;
+    for (const project::RecipeData& recipe : data.recipes()) {
+        for (const project::SubRecipe& inclusion : recipe.subRecipes) inclusions.push_back(&inclusion);
     }
     return inclusions;
 }
 
 // The inclusions in the order of inclusionsOf().
-InclusionGraph graphOf(const ProjectData& data) {
+InclusionGraph graphOf(const project::ProjectData& data) {
     std::vector<InclusionGraph::Inclusion> inclusions;
     for (std::size_t parent = 0; parent < data.recipes().size(); ++parent) {
-        for (const Inclusion& inclusion : data.recipes()[parent].subRecipes) {
+        for (const project::SubRecipe& inclusion : data.recipes()[parent].subRecipes) {
             inclusions.push_back({parent, data.find(inclusion.child).value_or(InclusionGraph::noRecipe)});
         }
     }
@@ -52,7 +52,7 @@ InclusionGraph graphOf(const ProjectData& data) {
 
 }  // namespace
 
-Report::Report(ProjectData data, Texts texts, std::string projectFile, const Moment& created)
+Report::Report(project::ProjectData data, Texts texts, std::string projectFile, const Moment& created)
     : data_(std::move(data)),
       inclusions_(inclusionsOf(data_)),
       graph_(graphOf(data_)),
@@ -67,7 +67,7 @@ std::string Report::fullTitle() const { return texts_.text(Text::title) + " – 
 
 std::vector<Property> Report::summary() const {
     std::size_t variables = 0, subRecipes = 0;
-    for (const RecipeData& recipe : recipes()) {
+    for (const project::RecipeData& recipe : recipes()) {
         variables += recipe.variables.size();
         subRecipes += recipe.subRecipes.size();
     }
@@ -89,7 +89,7 @@ void Report::find() {
     if (data_.orphans() > 0) add(texts_.text(Text::findingOrphans, {texts_.number(data_.orphans())}));
     for (std::size_t i = 0; i < recipes().size(); ++i) {
         if (inCycle[i]) add(texts_.text(Text::findingCycle, {nameOf(i)}));
-        for (const Inclusion& inclusion : recipes()[i].subRecipes) {
+        for (const project::SubRecipe& inclusion : recipes()[i].subRecipes) {
             if (data_.find(inclusion.child)) continue;
             add(texts_.text(Text::findingMissing, {nameOf(i), std::to_string(inclusion.child)}));
         }
@@ -103,7 +103,7 @@ std::string Report::nameOf(std::size_t recipe) const {
 }
 
 Section Report::section(std::size_t recipe) const {
-    const RecipeData& data = recipes()[recipe];
+    const project::RecipeData& data = recipes()[recipe];
     return {&data,
             groupsOf(data),
             texts_.caption(caption::options),
@@ -112,13 +112,13 @@ Section Report::section(std::size_t recipe) const {
             usesOf(recipe)};
 }
 
-recipe::Uses Report::usesOf(std::size_t recipe) const {
-    recipe::Uses uses = graph_.uses({recipe}, mostIndirect);
-    std::ranges::sort(std::span(uses.list).subspan(uses.directCount), {}, &recipe::Use::recipe);
+project::Uses Report::usesOf(std::size_t recipe) const {
+    project::Uses uses = graph_.uses({recipe}, mostIndirect);
+    std::ranges::sort(std::span(uses.list).subspan(uses.directCount), {}, &project::Use::recipe);
     return uses;
 }
 
-std::vector<PropertyGroup> Report::groupsOf(const RecipeData& recipe) const {
+std::vector<PropertyGroup> Report::groupsOf(const project::RecipeData& recipe) const {
     const auto named = [this](std::int32_t number, std::string value) {
         return Property{withoutDots(texts_.caption(number)), std::move(value)};
     };
@@ -140,7 +140,7 @@ std::vector<PropertyGroup> Report::groupsOf(const RecipeData& recipe) const {
     return {std::move(standard), std::move(extended)};
 }
 
-std::vector<Switch> Report::switchesOf(const RecipeData& recipe) const {
+std::vector<Switch> Report::switchesOf(const project::RecipeData& recipe) const {
     return {{texts_.caption(caption::writeThrough), recipe.writeThrough},
             {texts_.caption(caption::saveThrough), recipe.saveThrough},
             {texts_.caption(caption::saveSubRecipes), recipe.saveSubRecipes},

@@ -5,8 +5,8 @@
 #include <string_view>
 #include <vector>
 
-#include "recipe/inclusion_graph.h"
-#include "report/project_data.h"
+#include "project/inclusion_graph.h"
+#include "project/project_data.h"
 #include "report/report_texts.h"
 
 namespace hx::report {
@@ -30,12 +30,12 @@ struct Switch {
 
 /// What the report says of one recipe.
 struct Section {
-    const RecipeData* recipe;  ///< lent by the report
+    const project::RecipeData* recipe;  ///< lent by the report
     std::vector<PropertyGroup> groups;
     std::string switchesCaption;
     std::vector<Switch> switches;
-    recipe::Tree tree;
-    recipe::Uses uses;  ///< the indirect ones in the order of the recipes
+    project::Tree tree;
+    project::Uses uses;  ///< the indirect ones in the order of the recipes
 };
 
 /// The report on a project: what it says, in one language, without a form. Sections are made when they are asked for.
@@ -46,7 +46,7 @@ class Report {
     /// So far goes a section; what is cut off stands with the sub-recipes themselves.
     static constexpr std::size_t mostBranches = 1000, mostIndirect = 1000, deepest = 24;
 
-    Report(ProjectData data, Texts texts, std::string projectFile, const Moment& created);
+    Report(project::ProjectData data, Texts texts, std::string projectFile, const Moment& created);
     Report(const Report&) = delete;
     Report& operator=(const Report&) = delete;
 
@@ -62,25 +62,25 @@ class Report {
     [[nodiscard]] const std::vector<std::string>& findings() const noexcept { return findings_; }
 
     /// The recipes in the order of the report; a recipe's number in it is one more than its index.
-    [[nodiscard]] const std::vector<RecipeData>& recipes() const noexcept { return data_.recipes(); }
+    [[nodiscard]] const std::vector<project::RecipeData>& recipes() const noexcept { return data_.recipes(); }
     /// The name, or a text that says that there is none.
     [[nodiscard]] std::string nameOf(std::size_t recipe) const;
     [[nodiscard]] Section section(std::size_t recipe) const;
     /// What a branch of a tree is called, the variable that names its file, and what its mark says; empty without a
     /// mark.
-    [[nodiscard]] std::string branchName(const recipe::Branch& branch) const;
-    [[nodiscard]] const std::string& branchFile(const recipe::Branch& branch) const;
-    [[nodiscard]] std::string branchNote(const recipe::Branch& branch) const;
+    [[nodiscard]] std::string branchName(const project::Branch& branch) const;
+    [[nodiscard]] const std::string& branchFile(const project::Branch& branch) const;
+    [[nodiscard]] std::string branchNote(const project::Branch& branch) const;
 
   private:
     void find();
-    [[nodiscard]] recipe::Uses usesOf(std::size_t recipe) const;
-    [[nodiscard]] std::vector<PropertyGroup> groupsOf(const RecipeData& recipe) const;
-    [[nodiscard]] std::vector<Switch> switchesOf(const RecipeData& recipe) const;
+    [[nodiscard]] project::Uses usesOf(std::size_t recipe) const;
+    [[nodiscard]] std::vector<PropertyGroup> groupsOf(const project::RecipeData& recipe) const;
+    [[nodiscard]] std::vector<Switch> switchesOf(const project::RecipeData& recipe) const;
 
-    ProjectData data_;
-    std::vector<const Inclusion*> inclusions_;  // of all recipes, as the graph numbers them
-    recipe::InclusionGraph graph_;
+    project::ProjectData data_;
+    std::vector<const project::SubRecipe*> inclusions_;  // of all recipes, as the graph numbers them
+    project::InclusionGraph graph_;
     Texts texts_;
     std::string projectFile_, projectName_;
     Moment created_;

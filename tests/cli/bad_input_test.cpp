@@ -171,7 +171,6 @@ TEST_F(BadInput, APathThatIsTakenStaysAsItIs) {
         const std::string problem = "hxrecipe: The file '" + path + "' exists already";
         for (const auto& arguments : {std::vector<const char*>{"new", path.c_str()},
                                       {"generate", "--recipes", "1", "--members", "1", "--big", "0", path.c_str()},
-                                      {"build-sample", HX_SAMPLES_FOLDER "/getraenkelinie", path.c_str()},
                                       {"export", file_.c_str(), path.c_str()}}) {
             const Result result = hxrecipe(arguments);
             EXPECT_EQ(result.status, 1);
@@ -185,7 +184,6 @@ TEST_F(BadInput, APathThatCannotBeMadeIsNamed) {
     for (const std::string& path : {std::string(), folder_.file("none/x"), list_ + "/x"}) {
         for (const auto& arguments : {std::vector<const char*>{"new", path.c_str()},
                                       {"generate", "--recipes", "1", "--members", "1", "--big", "0", path.c_str()},
-                                      {"build-sample", HX_SAMPLES_FOLDER "/getraenkelinie", path.c_str()},
                                       {"export", file_.c_str(), path.c_str()}}) {
             const Result result = hxrecipe(arguments);
             EXPECT_EQ(result.status, 1);
@@ -247,8 +245,7 @@ TEST_F(BadInput, AFullDiskLeavesAllFilesAsTheyWere) {
          {std::pair{std::vector<const char*>{"import", file_.c_str(), in.c_str()}, file_},
           {{"variables", "import", file_.c_str(), list.c_str()}, file_},
           {{"export", large.c_str(), made.c_str()}, made},
-          {{"generate", "--recipes", "5000", "--members", "5000", "--big", "0", made.c_str()}, made},
-          {{"build-sample", HX_SAMPLES_FOLDER "/getraenkelinie", made.c_str()}, made}}) {
+          {{"generate", "--recipes", "5000", "--members", "5000", "--big", "0", made.c_str()}, made}}) {
         const Result result = hxrecipe(arguments);
         EXPECT_EQ(result.status, 1) << testing::PrintToString(arguments);
         EXPECT_EQ(result.results, "");
@@ -273,7 +270,6 @@ TEST_F(BadInput, WrongUseIsExplained) {
                                   {"import", "a", "b", "--mode", "add", "--mode", "add"},
                                   {"diff", "a"},
                                   {"new"},
-                                  {"build-sample", "a"},
                                   {"generate", "--recipes", "-1", "--members", "0", "--big", "0", "a"},
                                   {"generate", "--recipes", "x", "--members", "0", "--big", "0", "a"},
                                   {"generate", "--recipes", "0", "--members", "5", "--big", "0", "a"}}) {

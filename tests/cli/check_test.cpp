@@ -1,7 +1,3 @@
-#include <limits>
-
-#include "cli/name_set.h"
-#include "cli/project_reader.h"
 #include "run_cli.h"
 
 namespace hx::cli {
@@ -139,39 +135,6 @@ TEST_F(Check, LooksAtEveryOneOfManyMembers) {
                     "\" is not in the variable list. Add the variable to the list or choose another one.\n";
     }
     EXPECT_EQ(result.results, expected + "10 findings: 0 errors, 10 warnings.\n");
-}
-
-TEST(RecipeNumbers, AreFoundByIdHoweverManyAreMissing) {
-    constexpr std::int64_t least = std::numeric_limits<std::int64_t>::min();
-    constexpr std::int64_t most = std::numeric_limits<std::int64_t>::max();
-    for (const std::vector<std::int64_t>& ids :
-         {std::vector<std::int64_t>{}, {1}, {1, 2, 3}, {5, 9, 10, 11, 400}, {least, -1, 0, 7, most}}) {
-        std::vector<RecipeEntry> recipes;
-        for (const std::int64_t id : ids) recipes.push_back({id, ""});
-        for (std::size_t i = 0; i < ids.size(); ++i) EXPECT_EQ(numberOf(recipes, ids[i]), i) << ids[i];
-        for (const std::int64_t id : {least + 1, std::int64_t{-2}, std::int64_t{4}, std::int64_t{12}, most - 1}) {
-            EXPECT_EQ(numberOf(recipes, id), std::nullopt) << id;
-        }
-    }
-}
-
-TEST(Names, HaveTheNumberOfTheirFirstAppearance) {
-    NameSet names;
-    EXPECT_EQ(names.add("a"), 0U);
-    EXPECT_EQ(names.add("Ö"), 1U);
-    EXPECT_EQ(names.add("A"), 0U);
-    EXPECT_EQ(names.add(""), 2U);
-    for (std::size_t i = 0; i < 5000; ++i) EXPECT_EQ(names.add("name " + std::to_string(i)), 3 + i);
-    EXPECT_EQ(names.add("ö"), 1U);
-}
-
-TEST(Names, AreFoundIgnoringCaseAmongMany) {
-    NameSet names;
-    for (int i = 0; i < 5000; ++i) names.add("Größe" + std::to_string(i));
-    names.add("GRÖßE7");
-    for (int i = 0; i < 5000; ++i) EXPECT_TRUE(names.contains("gRÖßE" + std::to_string(i))) << i;
-    EXPECT_FALSE(names.contains("Größe5000"));
-    EXPECT_FALSE(names.contains(""));
 }
 
 }  // namespace

@@ -35,6 +35,17 @@ class CliTest : public testing::Test {
         return {status, results.str(), problems.str()};
     }
 
+    /// A project of a sample in `folder`, as its README says.
+    static void makeSample(const std::string& folder, const std::string& path) {
+        const std::string variables = folder + "/variables.csv", recipes = folder + "/recipes.json";
+        for (const auto& arguments : {std::vector<const char*>{"new", path.c_str()},
+                                      {"variables", "import", path.c_str(), variables.c_str()},
+                                      {"import", path.c_str(), recipes.c_str()}}) {
+            const Result result = hxrecipe(arguments);
+            EXPECT_EQ(result.status, 0) << result.problems;
+        }
+    }
+
     std::string write(const std::string& name, const std::string& text) {
         std::filesystem::create_directories(std::filesystem::path(folder_.file(name)).parent_path());
         std::ofstream(folder_.file(name), std::ios::binary) << text;

@@ -10,9 +10,9 @@
 namespace hx::gui {
 namespace {
 
+using project::ProjectData;
+using project::RecipeData;
 using report::Pages;
-using report::ProjectData;
-using report::RecipeData;
 using report::Report;
 
 RecipeData recipe(std::int32_t id, const std::string& name) {

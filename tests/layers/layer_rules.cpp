@@ -34,6 +34,7 @@ constexpr std::size_t programLevel = 13;
 constexpr auto layers = std::to_array<Layer>({
     {"automation", Ground::StandardLibrary, 0},
     {"ado", Ground::StandardLibrary, 1},
+    {"project", Ground::StandardLibrary, 2},
     {"forms", Ground::StandardLibrary, 2},
     {"host", Ground::StandardLibrary, 3},
     {"resources", Ground::StandardLibrary, 4},
@@ -46,6 +47,8 @@ constexpr auto layers = std::to_array<Layer>({
     {"adapters/", Ground::Anything, adapterLevel},
     {"report", Ground::StandardLibrary, adapterLevel},
     {"macros", Ground::Anything, macroLevel, "adapters/qt"},
+    {"exchange", Ground::Anything, macroLevel, "adapters/qt"},
+    {"lists", Ground::Anything, macroLevel, "adapters/qt"},
     {"report/program", Ground::Anything, programLevel},
     {"report/", Ground::Anything, macroLevel},
     {"studio", Ground::Anything, programLevel},

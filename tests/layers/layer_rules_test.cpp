@@ -10,7 +10,7 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 
 TEST(LayerRules, AFolderIncludesItselfAndTheFoldersBelowIt) {
-    EXPECT_THAT(wrongIncludes("recipe/schema.cpp", "#include \"recipe/schema.h\"\n#include \"ado/recordset.h\"\n"),
+    EXPECT_THAT(wrongIncludes("recipe/schema.cpp", "#include \"project/schema.h\"\n#include \"ado/recordset.h\"\n"),
                 IsEmpty());
 }
 
@@ -128,7 +128,7 @@ TEST(LayerRules, AProgramIncludesWhatIsInstalledAndWhatLiesBelow) {
 }
 
 TEST(LayerRules, WhatTheReportSaysStandsOnTheStandardLibraryAndTheEditorsFolders) {
-    EXPECT_THAT(wrongIncludes("report/report.cpp", "#include \"report/report.h\"\n#include \"recipe/schema.h\"\n"),
+    EXPECT_THAT(wrongIncludes("report/report.cpp", "#include \"report/report.h\"\n#include \"project/schema.h\"\n"),
                 IsEmpty());
     EXPECT_THAT(
         wrongIncludes("report/report.cpp",

@@ -1,5 +1,7 @@
 #include "store.h"
 
+#include <chrono>
+
 #include "adapters/sqlite/project_file.h"
 #include "adapters/sqlite/provider.h"
 #include "automation/convert.h"
@@ -31,8 +33,15 @@ class SqliteStore : public Store {
     std::string path() const override { return folder_.file("plant.hxs"); }
 
   private:
+    // One connection after the other: whoever waits would wait for ever.
+    static sqlite::OpenOptions withoutWaiting() {
+        sqlite::OpenOptions options;
+        options.lockWait = std::chrono::milliseconds(0);
+        return options;
+    }
+
     support::TemporaryFolder folder_;
-    sqlite::Provider provider_;
+    sqlite::Provider provider_{withoutWaiting};
 };
 
 /// A store whose faults never fire: passing everything on must change nothing.

@@ -5,7 +5,7 @@
 #include <limits>
 
 #include "plant.h"
-#include "recipe/schema.h"
+#include "project/schema.h"
 
 namespace hx::recipe {
 namespace {

@@ -56,8 +56,8 @@ std::string withoutStyle(const std::string& html) {
 }
 
 /// Two recipes in a cycle, one that is missing, and one with everything set.
-ProjectData smallProject() {
-    RecipeData juice = recipe(3, "Saft <\"Süß\" & 'sauer'>", {7, 7, 99});
+project::ProjectData smallProject() {
+    project::RecipeData juice = recipe(3, "Saft <\"Süß\" & 'sauer'>", {7, 7, 99});
     juice.subRecipes[0].fileVariable = "Datei.Mix";
     juice.fileNameVariable = "Saft.Datei";
     juice.descriptionVariable = "Saft.Beschreibung";
@@ -69,8 +69,8 @@ ProjectData smallProject() {
     juice.factorVariable = "Saft.Faktor";
     juice.saveSubRecipes = juice.writeThrough = true;
     juice.variables = {"Mischer.Ein", "Füller.<Menge>", ""};
-    RecipeData mix = recipe(7, "Mix", {8});
-    RecipeData base = recipe(8, "Basis", {7});
+    project::RecipeData mix = recipe(7, "Mix", {8});
+    project::RecipeData base = recipe(8, "Basis", {7});
     base.enabled = false;
     return {{juice, mix, base}, 1};
 }
@@ -129,7 +129,7 @@ TEST(HtmlReport, NeedsNoOtherFile) {
 }
 
 TEST(HtmlReport, TreesOfAnyShapeAreNestedWell) {
-    std::vector<RecipeData> recipes;
+    std::vector<project::RecipeData> recipes;
     for (std::int32_t id = 1; id <= 60; ++id)
         recipes.push_back(recipe(id, std::to_string(id), {id + 1, id / 2 + 1, 1, 900}));
     const std::string html = htmlOf(Report({std::move(recipes), 0}, textsIn(german), "Anlage.hxs", someDay));
@@ -138,11 +138,11 @@ TEST(HtmlReport, TreesOfAnyShapeAreNestedWell) {
 }
 
 TEST(HtmlReport, NothingThatAUserTypedBecomesMarkup) {
-    RecipeData bad = recipe(1, "<script>alert(1)</script>", {2});
+    project::RecipeData bad = recipe(1, "<script>alert(1)</script>", {2});
     bad.subRecipes[0].fileVariable = "<b>";
     bad.comment = bad.filePath = bad.loadTrigger = bad.factorVariable = "\"><img>";
     bad.variables = {"</ul><h1>"};
-    RecipeData other = recipe(2, "&amp;</title>");
+    project::RecipeData other = recipe(2, "&amp;</title>");
     const std::string html = htmlOf(Report({{bad, other}, 0}, textsIn(german), "</title>.hxs", someDay));
     for (const char* markup : {"<script", "<b>", "<img", "</ul><h1>", "&amp;</title>"}) {
         EXPECT_EQ(html.find(markup), std::string::npos) << markup;

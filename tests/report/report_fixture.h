@@ -22,8 +22,8 @@ inline Texts textsIn(std::int32_t language) {
 }
 
 /// A recipe that includes those with these IDs.
-inline RecipeData recipe(std::int32_t id, std::string name, const std::vector<std::int32_t>& children = {}) {
-    RecipeData data;
+inline project::RecipeData recipe(std::int32_t id, std::string name, const std::vector<std::int32_t>& children = {}) {
+    project::RecipeData data;
     data.id = id;
     data.name = std::move(name);
     data.enabled = true;

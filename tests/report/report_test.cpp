@@ -9,7 +9,7 @@ namespace {
 
 using Lines = std::vector<std::string>;
 
-ProjectData one(const RecipeData& data, std::size_t orphans = 0) { return {{data}, orphans}; }
+project::ProjectData one(const project::RecipeData& data, std::size_t orphans = 0) { return {{data}, orphans}; }
 
 Lines propertiesOf(const PropertyGroup& group) {
     Lines lines = {"[" + group.caption + "]"};
@@ -17,8 +17,8 @@ Lines propertiesOf(const PropertyGroup& group) {
     return lines;
 }
 
-RecipeData relativeRecipe() {
-    RecipeData data = recipe(1, "Cola");
+project::RecipeData relativeRecipe() {
+    project::RecipeData data = recipe(1, "Cola");
     data.fileNameVariable = "Rezept.Name";
     data.filePath = "<ProjectDir>\\Rezepte";
     data.enabled = false;
@@ -67,11 +67,11 @@ TEST(ReportSection, OptionsAreSwitches) {
 }
 
 TEST(ReportSection, BranchesHaveTheNameFileAndNoteOfTheirSubRecipe) {
-    RecipeData mix = recipe(7, "Mix", {3, 99, 7});
+    project::RecipeData mix = recipe(7, "Mix", {3, 99, 7});
     mix.subRecipes[0].fileVariable = "Datei";
     const Report report({{recipe(3, "Basis", {99}), mix}, 0}, textsIn(german), "Anlage.hxs", someDay);
     Lines lines;
-    for (const recipe::Branch& branch : report.section(1).tree.branches) {
+    for (const project::Branch& branch : report.section(1).tree.branches) {
         lines.push_back(std::to_string(branch.depth) + " " + report.branchName(branch) + "|" +
                         report.branchFile(branch) + "|" + report.branchNote(branch));
     }
@@ -84,18 +84,18 @@ TEST(ReportSection, IndirectUsesStandInTheOrderOfTheReport) {
     const Report report(
         {{recipe(1, "A", {2}), recipe(2, "B", {4}), recipe(3, "C", {5}), recipe(4, "D", {3}), recipe(5, "E")}, 0},
         textsIn(german), "Anlage.hxs", someDay);
-    const recipe::Uses uses = report.section(4).uses;
+    const project::Uses uses = report.section(4).uses;
     ASSERT_EQ(uses.direct().size(), 1U);
     EXPECT_EQ(report.nameOf(uses.direct()[0].recipe), "C");
     Lines lines;
-    for (const recipe::Use& use : uses.indirect()) {
+    for (const project::Use& use : uses.indirect()) {
         lines.push_back(report.nameOf(use.recipe) + " through " + report.nameOf(use.through));
     }
     EXPECT_EQ(lines, (Lines{"A through B", "B through D", "D through C"}));
 }
 
 TEST(ReportSection, EndsWhereItWouldBecomeTooLong) {
-    std::vector<RecipeData> recipes;
+    std::vector<project::RecipeData> recipes;
     const auto last = static_cast<std::int32_t>(Report::mostIndirect) + 5;
     for (std::int32_t id = 1; id < last; ++id) recipes.push_back(recipe(id, std::to_string(id), {id + 1}));
     recipes.push_back(recipe(last, "last", std::vector<std::int32_t>(Report::mostBranches + 1, 9999)));
@@ -113,7 +113,7 @@ TEST(ReportSection, EndsWhereItWouldBecomeTooLong) {
 }
 
 TEST(ReportFront, NamesProjectFileDateAndContent) {
-    RecipeData mix = recipe(1, "Mix", {2});
+    project::RecipeData mix = recipe(1, "Mix", {2});
     mix.variables.assign(1234, "x");
     for (const auto& [language, summary] :
          {std::pair{german,

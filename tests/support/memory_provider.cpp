@@ -11,34 +11,36 @@ namespace {
 
 class MemorySession : public ado::Session {
   public:
-    explicit MemorySession(MemoryDatabase& database) : database_(database) {}
-    ~MemorySession() override {
-        if (before_) database_ = std::move(*before_);
-    }
+    MemorySession(MemoryDatabase& stored, bool readOnly) : stored_(stored), readOnly_(readOnly) {}
+    ~MemorySession() override { MemorySession::rollback(); }
 
     std::unique_ptr<ado::Rowset> open(std::string_view command, ado::CommandType type) override {
         if (type != ado::adCmdText) {
             MemoryCommand whole;
             whole.table = command;
-            return std::make_unique<MemoryRowset>(database_, whole);
+            return std::make_unique<MemoryRowset>(database(), whole);
         }
         const MemoryCommand parsed = MemoryCommand::parse(command);
-        auto rowset = std::make_unique<MemoryRowset>(database_, parsed);
+        auto rowset = std::make_unique<MemoryRowset>(database(), parsed);
         if (!parsed.deletes) return rowset;
         const ado::RowKeys doomed = rowset->keys(nullptr);
         for (std::size_t i = 0; i < doomed.size(); ++i) rowset->remove(doomed[i]);
         return nullptr;
     }
-    void beginTransaction() override { before_ = database_; }
-    void commit() override { before_.reset(); }
+    void beginTransaction() override { kept_ = stored_; }
+    void commit() override { kept_.reset(); }
     void rollback() override {
-        if (before_) database_ = std::move(*before_);
-        before_.reset();
+        if (kept_ && !readOnly_) stored_ = std::move(*kept_);
+        kept_.reset();
     }
 
   private:
-    MemoryDatabase& database_;
-    std::optional<MemoryDatabase> before_;  // what a rollback restores
+    MemoryDatabase& database() { return readOnly_ && kept_ ? *kept_ : stored_; }
+
+    MemoryDatabase& stored_;
+    bool readOnly_;
+    std::optional<MemoryDatabase>
+        kept_;  // as of the transaction's beginning: what is read, or what a rollback restores
 };
 
 }  // namespace
@@ -53,7 +55,8 @@ std::unique_ptr<ado::Session> MemoryProvider::connect(std::string_view connectio
     const std::string path = ado::connectionStringValue(connectionString, "Data Source");
     const auto found = databases_.find(path);
     if (found == databases_.end()) throw Error(ado::dbErrUnspecified, "Could not find file '" + path + "'.");
-    return std::make_unique<MemorySession>(*found->second);
+    const bool readOnly = ado::connectionStringValue(connectionString, "Mode") == "Read";
+    return std::make_unique<MemorySession>(*found->second, readOnly);
 }
 
 }  // namespace hx::support

@@ -91,7 +91,7 @@ const std::vector<Operation>& operations() {
     static const std::vector<Operation> all = {
         making("new", {"new", "~/plant.hxs"}),
         making("generate", {"generate", "--recipes", "5", "--members", "50", "--big", "30", "~/plant.hxs"}),
-        making("build-sample", {"build-sample", programs::sample, "~/plant.hxs"}),
+        commandLine("import update", {"import", "~/plant.hxs", file("more.json"), "--mode", "update"}),
         commandLine("import add", {"import", "~/plant.hxs", file("more.json")}),
         commandLine("import replace", {"import", "~/plant.hxs", file("more.json"), "--mode", "replace"}),
         commandLine("variables import", {"variables", "import", "~/plant.hxs", file("more.csv")}),

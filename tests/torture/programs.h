@@ -8,6 +8,5 @@ inline constexpr const char* studio = HX_STUDIO_PROGRAM;
 inline constexpr const char* faults = HX_FAULTS_LIBRARY;
 inline constexpr const char* driver = HX_DRIVER_LIBRARY;
 inline constexpr const char* files = HX_TORTURE_FILES;
-inline constexpr const char* sample = HX_SAMPLE_FOLDER;
 
 }  // namespace hx::torture::programs

@@ -7,8 +7,14 @@
 #include "adapters/sqlite/project_schema.h"
 #include "adapters/sqlite/sentences.h"
 #include "ado/types.h"
+#include "hosting/file_bytes.h"
 
 namespace hx::sqlite {
+
+bool beginsLikeProject(const std::string& path) {
+    constexpr std::string_view mark = "SQLite format 3";
+    return hosting::startOf(path, mark.size()) == mark;
+}
 
 namespace {
 

@@ -8,6 +8,9 @@
 
 namespace hx::sqlite {
 
+/// Whether it is a file that begins as a project does.
+[[nodiscard]] bool beginsLikeProject(const std::string& path);
+
 /// Makes an empty project. Throws dbErrUnspecified when the path is taken (the file there stays as it is) or cannot be
 /// written. The project appears whole or not at all.
 void createProject(const std::string& path);

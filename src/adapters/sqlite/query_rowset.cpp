@@ -75,6 +75,10 @@ void QueryRowset::read(std::span<const Key> keys, ado::ColumnMask, ado::RowSink&
     }
 }
 
+void QueryRowset::scan(std::span<const std::size_t> columns, const ado::StoredRowReceiver& receive) {
+    Statement(writes_->database(), sql_).giveRows(columns, receive);
+}
+
 Key QueryRowset::insert(std::span<const ado::ColumnValue>) { refuse(); }
 void QueryRowset::update(Key, std::span<const ado::ColumnValue>, std::span<const ado::ColumnValue>) { refuse(); }
 void QueryRowset::remove(Key) { refuse(); }

@@ -17,6 +17,7 @@ class QueryRowset : public ado::Rowset {
     [[nodiscard]] const std::vector<ado::Column>& columns() const override { return columns_; }
     [[nodiscard]] ado::RowKeys keys(const ado::Criterion* criterion) override;
     void read(std::span<const ado::Key> keys, ado::ColumnMask mask, ado::RowSink& sink) override;
+    void scan(std::span<const std::size_t> columns, const ado::StoredRowReceiver& receive) override;
     ado::Key insert(std::span<const ado::ColumnValue> values) override;
     void update(ado::Key key, std::span<const ado::ColumnValue> values,
                 std::span<const ado::ColumnValue> read) override;

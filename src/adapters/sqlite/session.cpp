@@ -1,5 +1,8 @@
 #include "adapters/sqlite/session.h"
 
+#include <filesystem>
+#include <fstream>
+
 #include "adapters/sqlite/project_check.h"
 #include "adapters/sqlite/query_rowset.h"
 #include "adapters/sqlite/sentences.h"
@@ -8,6 +11,22 @@
 namespace hx::sqlite {
 
 namespace {
+
+// Throws before SQLite says less about it.
+void requireFile(const std::string& path, automation::Language language) {
+    const auto refuse = [&](const automation::Sentence& problem, std::string_view reason = {}) {
+        throw automation::Error(ado::dbErrUnspecified, automation::say(language, problem, {path, reason}));
+    };
+    std::error_code error;
+    const std::filesystem::file_status status =
+        path.empty() ? std::filesystem::file_status(std::filesystem::file_type::not_found)
+                     : std::filesystem::status(path, error);
+    if (status.type() == std::filesystem::file_type::not_found) refuse(sentence::missing);
+    if (error) refuse(sentence::unreachable, error.message());
+    if (std::filesystem::is_directory(status)) refuse(sentence::folder);
+    if (!std::filesystem::is_regular_file(status)) refuse(sentence::noFile);
+    if (!std::ifstream(path).is_open()) refuse(sentence::noReadPermission);
+}
 
 // Refuses a text with letters beyond ASCII that equals another row's ignoring case; the rest the table's own index
 // refuses. Only rows with the same ASCII letters in front are looked at, by way of that index.
@@ -22,18 +41,31 @@ std::string uniquenessTrigger(const TableInfo& table, const std::string& column,
            quotedName(table.key) + " <> NEW." + quotedName(table.key) + "); END;";
 }
 
+std::shared_ptr<Writes> writesTo(const std::string& path, const OpenOptions& options) {
+    requireFile(path, options.language);
+    return std::make_shared<Writes>(path, options);
+}
+
 }  // namespace
 
 Session::Session(const std::string& path, bool readOnly, const OpenOptions& options)
-    : writes_(std::make_shared<Writes>(path, options)) {
+    : writes_(writesTo(path, options)), readOnly_(readOnly) {
     Database& database = writes_->database();
     requireProject(database);
     if (readOnly) {
         database.execute("PRAGMA query_only=ON");
     } else {
-        requireUndamaged(database);
+        requireUndamaged();
         compareNamesBeyondAscii();
     }
+}
+
+void Session::requireUndamaged() { sqlite::requireUndamaged(writes_->database()); }
+
+std::vector<std::string> Session::damages(int most, Check check) {
+    constexpr std::int64_t comparedWhole = 32 << 20;  // some half a second
+    Database& database = writes_->database();
+    return check == Check::thorough ? damagesOf(database, most) : damagesOf(database, most, comparedWhole);
 }
 
 void Session::compareNamesBeyondAscii() {

@@ -12,13 +12,18 @@ namespace hx::sqlite {
 /// An open project file.
 class Session : public ado::Session {
   public:
-    /// Opens the file and makes sure that it is a project; throws dbErrUnspecified.
-    Session(const std::string& path, bool readOnly, const OpenOptions& options);
+    /// Opens the file and makes sure that it is a project; throws dbErrUnspecified, also when there is no such file or
+    /// it cannot be one (a folder, a pipe).
+    explicit Session(const std::string& path, bool readOnly = false, const OpenOptions& options = {});
 
     [[nodiscard]] std::unique_ptr<ado::Rowset> open(std::string_view command, ado::CommandType type) override;
-    void beginTransaction() override { writes_->begin(); }
+    void beginTransaction() override { writes_->begin(readOnly_); }
     void commit() override { writes_->commit(); }
     void rollback() override { writes_->rollback(); }
+    void requireUndamaged() override;
+    [[nodiscard]] std::vector<std::string> damages(int most, Check check) override;
+
+    [[nodiscard]] Database& database() { return writes_->database(); }
 
   private:
     void compareNamesBeyondAscii();
@@ -27,6 +32,7 @@ class Session : public ado::Session {
     [[nodiscard]] std::unique_ptr<ado::Rowset> openTable(const TableSelect& select);
 
     std::shared_ptr<Writes> writes_;
+    bool readOnly_;
     std::map<std::string, std::optional<TableInfo>, std::less<>> tables_;  // as of schemaVersion_
     std::int64_t schemaVersion_ = -1;
 };

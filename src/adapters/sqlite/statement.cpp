@@ -2,6 +2,7 @@
 
 #include <limits>
 #include <sqlite3.h>
+#include <vector>
 
 #include "adapters/sqlite/database.h"
 #include "automation/convert.h"
@@ -99,6 +100,32 @@ Variant Statement::value(int column, ado::DataType type) const {
         case ado::adDouble: return sqlite3_column_double(statement_.get(), column);
         case ado::adBoolean: return sqlite3_column_double(statement_.get(), column) != 0;
         default: return text(column);
+    }
+}
+
+void Statement::giveRows(std::span<const std::size_t> columns, const ado::StoredRowReceiver& receive) {
+    std::vector<ado::StoredValue> row(columns.size());
+    while (step()) {
+        for (std::size_t i = 0; i < row.size(); ++i) row[i] = stored(static_cast<int>(columns[i]));
+        receive(row);
+    }
+}
+
+ado::StoredValue Statement::stored(int column) const {
+    using Kind = ado::StoredValue::Kind;
+    sqlite3_stmt* statement = statement_.get();
+    switch (sqlite3_column_type(statement, column)) {
+        case SQLITE_INTEGER: {
+            const std::int64_t number = sqlite3_column_int64(statement, column);
+            return {Kind::integer, number, static_cast<double>(number), {}};
+        }
+        case SQLITE_FLOAT: {
+            const double number = sqlite3_column_double(statement, column);
+            return {Kind::real, sqlite3_column_int64(statement, column), number, {}};
+        }
+        case SQLITE_TEXT: return {Kind::text, 0, 0, textView(column)};
+        case SQLITE_BLOB: return {Kind::bytes, 0, 0, textView(column)};
+        default: return {};
     }
 }
 

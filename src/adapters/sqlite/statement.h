@@ -1,10 +1,13 @@
 #pragma once
 
+#include <cstddef>
 #include <memory>
+#include <span>
 #include <string>
 #include <string_view>
 
 #include "ado/row_keys.h"
+#include "ado/stored_value.h"
 #include "ado/types.h"
 #include "automation/variant.h"
 
@@ -34,6 +37,9 @@ class Statement {
     /// The part of the text that is this statement: it begins the text and ends with its semicolon.
     [[nodiscard]] std::string_view sql() const noexcept;
 
+    /// Runs to the end and gives these columns of every row.
+    void giveRows(std::span<const std::size_t> columns, const ado::StoredRowReceiver& receive);
+
     // Of the current row.
     [[nodiscard]] ado::Key key(int column) const noexcept;
     /// The value as ADO gives it for a column of the type. What another program stored in another type is converted as
@@ -46,6 +52,8 @@ class Statement {
     [[nodiscard]] ado::DataType storedType(int column) const noexcept;
 
   private:
+    [[nodiscard]] ado::StoredValue stored(int column) const;
+
     struct Finalizer {
         void operator()(sqlite3_stmt* statement) const noexcept;
     };

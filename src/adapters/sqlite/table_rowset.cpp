@@ -57,10 +57,7 @@ std::string TableRowset::orderClause() const {
     return clause + quotedName(table_.key);
 }
 
-// The keys come as they are found when the order is the key's own: what is not in order then is sorted afterwards,
-// which takes less time than SQLite's sorter. An aggregate that runs inside SQLite saves a call and a row for every
-// key.
-BoundSql TableRowset::keysQuery(const ado::Criterion* criterion) const {
+BoundSql TableRowset::conditionWith(const ado::Criterion* criterion) const {
     BoundSql query = condition_;
     if (!query.sql.empty()) query.sql = "(" + query.sql + ")";
     if (criterion != nullptr) {
@@ -68,6 +65,14 @@ BoundSql TableRowset::keysQuery(const ado::Criterion* criterion) const {
         appendCriterion(query, *criterion, columns_);
     }
     if (!query.sql.empty()) query.sql = " WHERE " + query.sql;
+    return query;
+}
+
+// The keys come as they are found when the order is the key's own: what is not in order then is sorted afterwards,
+// which takes less time than SQLite's sorter. An aggregate that runs inside SQLite saves a call and a row for every
+// key.
+BoundSql TableRowset::keysQuery(const ado::Criterion* criterion) const {
+    BoundSql query = conditionWith(criterion);
     const std::string key = quotedName(table_.key);
     const bool byKey = order() != Order::other;
     query.sql = "SELECT " + (byKey ? "hx_keys(" + key + ")" : key) + " FROM " + quotedName(table_.name) + query.sql;
@@ -107,6 +112,20 @@ void TableRowset::read(std::span<const Key> keys, ColumnMask mask, ado::RowSink&
     const bool dense = ascending && distance(keys.front(), keys.back()) / readAlong <= keys.size();
     if (dense) readRange(readQuery(), keys, sink);
     else readEach(readQuery(), keys, sink);
+}
+
+void TableRowset::scan(std::span<const std::size_t> columns, const ado::StoredRowReceiver& receive) {
+    const BoundSql condition = conditionWith(nullptr);
+    std::string wanted;
+    std::vector<std::size_t> places;
+    for (const std::size_t column : columns) {
+        wanted += (places.empty() ? "" : ", ") + quotedName(columns_[column].name);
+        places.push_back(places.size());
+    }
+    Statement statement(writes_->database(),
+                        "SELECT " + wanted + " FROM " + quotedName(table_.name) + condition.sql + orderClause());
+    bindAll(statement, condition.parameters);
+    statement.giveRows(places, receive);
 }
 
 void TableRowset::giveRow(Statement& statement, std::size_t index, ado::RowSink& sink) {

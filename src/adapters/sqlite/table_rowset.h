@@ -17,6 +17,7 @@ class TableRowset : public ado::Rowset {
     [[nodiscard]] const std::vector<ado::Column>& columns() const override { return columns_; }
     [[nodiscard]] ado::RowKeys keys(const ado::Criterion* criterion) override;
     void read(std::span<const ado::Key> keys, ado::ColumnMask mask, ado::RowSink& sink) override;
+    void scan(std::span<const std::size_t> columns, const ado::StoredRowReceiver& receive) override;
     ado::Key insert(std::span<const ado::ColumnValue> values) override;
     void insertAll(std::span<const std::size_t> columns, ado::RowSource& rows) override;
     void update(ado::Key key, std::span<const ado::ColumnValue> values,
@@ -28,6 +29,7 @@ class TableRowset : public ado::Rowset {
 
     [[nodiscard]] Order order() const;
     [[nodiscard]] std::string orderClause() const;
+    [[nodiscard]] BoundSql conditionWith(const ado::Criterion* criterion) const;
     [[nodiscard]] BoundSql keysQuery(const ado::Criterion* criterion) const;
     [[nodiscard]] std::string readQuery() const;
     void giveRow(Statement& statement, std::size_t index, ado::RowSink& sink);

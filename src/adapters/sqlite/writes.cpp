@@ -168,10 +168,10 @@ void Writes::execute(const std::string& sql) {
     while (statement.step()) continue;
 }
 
-void Writes::begin() {
+void Writes::begin(bool readOnly) {
     requireTransaction();
     // IMMEDIATE takes the lock now, while nothing has been written that a refusal would undo.
-    database_.execute("BEGIN IMMEDIATE");
+    database_.execute(readOnly ? "BEGIN" : "BEGIN IMMEDIATE");
     database_.expectTransaction(true);
     database_.useLargeCache(true);
 }

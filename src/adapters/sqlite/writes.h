@@ -25,7 +25,7 @@ class Writes {
     void remove(const TableInfo& table, ado::Key key);
     void execute(const std::string& sql);
 
-    void begin();
+    void begin(bool readOnly = false);
     void commit();
     void rollback();
 

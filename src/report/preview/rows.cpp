@@ -189,7 +189,7 @@ void RowMaker::addSwitches(Rows& rows, const Section& section) const {
     }
 }
 
-void RowMaker::addVariables(Rows& rows, const RecipeData& recipe) const {
+void RowMaker::addVariables(Rows& rows, const project::RecipeData& recipe) const {
     const auto count = recipe.variables.size();
     const QString heading = toQt(texts_.text(Text::variables));
     addHeading(rows, count == 0 ? heading : heading + QStringLiteral(" (%1)").arg(toQt(texts_.number(count))));
@@ -208,13 +208,13 @@ void RowMaker::addVariables(Rows& rows, const RecipeData& recipe) const {
     }
 }
 
-void RowMaker::addTree(Rows& rows, const recipe::Tree& tree) const {
-    const auto own = std::ranges::count(tree.branches, std::size_t{0}, &recipe::Branch::depth);
+void RowMaker::addTree(Rows& rows, const project::Tree& tree) const {
+    const auto own = std::ranges::count(tree.branches, std::size_t{0}, &project::Branch::depth);
     const QString heading = toQt(texts_.caption(captionSubRecipes));
     addHeading(rows, own == 0 ? heading : heading + QStringLiteral(" (%1)").arg(own));
     if (own == 0) return addNote(rows, Text::noSubRecipes);
     std::vector<bool> goesOn;
-    for (const recipe::Branch& branch : tree.branches) {
+    for (const project::Branch& branch : tree.branches) {
         goesOn.resize(branch.depth);
         rows.push_back(branchRow(branch, goesOn));
         goesOn.push_back(!branch.last);
@@ -223,10 +223,10 @@ void RowMaker::addTree(Rows& rows, const recipe::Tree& tree) const {
 }
 
 // `goesOn` tells of each depth above whether more comes below this line.
-Row RowMaker::branchRow(const recipe::Branch& branch, const std::vector<bool>& goesOn) const {
+Row RowMaker::branchRow(const project::Branch& branch, const std::vector<bool>& goesOn) const {
     const double depth = static_cast<double>(branch.depth), start = (depth + 1) * indent;
     const double fileAt = std::max(start + 2400, width_ * 0.56), fileWidth = width_ - pageWidth - fileAt - gap;
-    const bool bad = branch.mark == recipe::BranchMark::cycle || branch.mark == recipe::BranchMark::missing;
+    const bool bad = branch.mark == project::BranchMark::cycle || branch.mark == project::BranchMark::missing;
     const QString name = toQt(report_.branchName(branch)), note = toQt(report_.branchNote(branch));
     const double room = fileAt - start - gap;
     Row row;
@@ -257,7 +257,7 @@ Row RowMaker::branchRow(const recipe::Branch& branch, const std::vector<bool>& g
     return row;
 }
 
-void RowMaker::addUses(Rows& rows, const recipe::Uses& uses, std::size_t self) const {
+void RowMaker::addUses(Rows& rows, const project::Uses& uses, std::size_t self) const {
     const auto count = uses.list.size();
     const QString heading = toQt(texts_.text(Text::usedIn));
     addHeading(rows, count == 0 ? heading : heading + QStringLiteral(" (%1)").arg(toQt(texts_.number(count))));
@@ -268,7 +268,7 @@ void RowMaker::addUses(Rows& rows, const recipe::Uses& uses, std::size_t self) c
         if (i % columns == 0) rows.push_back({});
         addUse(rows.back(), (column + between) * static_cast<double>(i % columns), column, uses.list[i].recipe, self);
     }
-    for (const recipe::Use& use : uses.indirect()) {
+    for (const project::Use& use : uses.indirect()) {
         rows.push_back({});
         const std::string through = texts_.text(Text::usedThrough, {report_.nameOf(use.through)});
         addUse(rows.back(), 0, column, use.recipe, self);

@@ -26,10 +26,10 @@ class RowMaker {
     void addFindings(Rows& rows) const;
     void addContents(Rows& rows) const;
     void addSwitches(Rows& rows, const Section& section) const;
-    void addVariables(Rows& rows, const RecipeData& recipe) const;
-    void addTree(Rows& rows, const recipe::Tree& tree) const;
-    [[nodiscard]] Row branchRow(const recipe::Branch& branch, const std::vector<bool>& goesOn) const;
-    void addUses(Rows& rows, const recipe::Uses& uses, std::size_t self) const;
+    void addVariables(Rows& rows, const project::RecipeData& recipe) const;
+    void addTree(Rows& rows, const project::Tree& tree) const;
+    [[nodiscard]] Row branchRow(const project::Branch& branch, const std::vector<bool>& goesOn) const;
+    void addUses(Rows& rows, const project::Uses& uses, std::size_t self) const;
     void addUse(Row& row, double x, double width, std::size_t user, std::size_t self) const;
     [[nodiscard]] Cell text(double x, double width, const QString& text, const Face& face, Tone tone = Tone::ink) const;
     /// The page of a recipe at the right edge, or at the end of another place.

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <span>
+#include <string_view>
+
+namespace hx::ado {
+
+/// A value as the database holds it, whatever the type of its column.
+struct StoredValue {
+    enum class Kind : std::uint8_t { null, integer, real, text, bytes };
+
+    Kind kind = Kind::null;
+    std::int64_t integer = 0;  ///< of a number, that of a real one without its fraction; else 0
+    double real = 0;           ///< of a number; else 0
+    std::string_view text;     ///< the UTF-8 of a text, the bytes of bytes; else empty. Lent until the next row
+
+    [[nodiscard]] bool isTrue() const noexcept { return real != 0; }  ///< as a yes/no column means it
+};
+
+/// Receives one row, its values in the order in which their columns were asked for.
+using StoredRowReceiver = std::function<void(std::span<const StoredValue> values)>;
+
+}  // namespace hx::ado

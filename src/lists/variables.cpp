@@ -1,0 +1,45 @@
+#include "lists/variables.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+
+#include "adapters/sqlite/project_file.h"
+#include "automation/error.h"
+#include "automation/text.h"
+#include "lists/csv_variables.h"
+#include "lists/plcopen_variables.h"
+
+namespace hx::lists {
+
+namespace {
+
+bool isXml(const std::string& path) {
+    if (automation::equalIgnoreCase(std::string_view(path).substr(path.size() - std::min<std::size_t>(path.size(), 4)),
+                                    ".xml")) {
+        return true;
+    }
+    std::error_code ignored;
+    if (!std::filesystem::is_regular_file(path, ignored)) return false;
+    std::ifstream file(path, std::ios::binary);
+    constexpr std::string_view begins = "<?xml";
+    // Also behind a byte order mark, and in UTF-16.
+    std::string text;
+    for (char c = 0; text.size() < begins.size() && file.get(c);) {
+        if (c > ' ' && c < 0x7F) text += c;
+    }
+    return text == begins;
+}
+
+}  // namespace
+
+void readVariables(const std::string& path, const std::string& encoding, const VariableLimits& limits,
+                   VariableReceiver& receiver) {
+    if (sqlite::beginsLikeProject(path)) {
+        throw automation::Error(automation::errFail, path + " is a project, not a list of variables");
+    }
+    if (isXml(path)) readPlcopenVariables(path, limits, receiver);
+    else readCsvVariables(path, encoding, receiver);
+}
+
+}  // namespace hx::lists

@@ -1,0 +1,110 @@
+#include "project/reader.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+
+#include "automation/text.h"
+#include "project/schema.h"
+
+namespace hx::project {
+
+using Row = std::span<const ado::StoredValue>;
+
+namespace {
+
+std::optional<std::int64_t> wholeId(const std::string& text) {
+    std::int64_t id = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), id);
+    if (error != std::errc() || end != text.data() + text.size()) return std::nullopt;
+    return id;
+}
+
+std::size_t columnOf(const std::vector<ado::Column>& columns, std::string_view name, std::string_view table) {
+    const auto found = std::ranges::find_if(
+        columns, [&](const ado::Column& column) { return automation::equalIgnoreCase(column.name, name); });
+    if (found != columns.end()) return static_cast<std::size_t>(found - columns.begin());
+    throw automation::Error(ado::dbErrBadCommand,
+                            "The table \"" + std::string(table) + "\" has no column \"" + std::string(name) + "\".");
+}
+
+}  // namespace
+
+// The IDs ascend, so the first and the last one tell how far off this one can be: most projects have few gaps.
+std::optional<std::size_t> numberOf(const std::vector<RecipeEntry>& recipes, std::int64_t id) {
+    if (recipes.empty() || id < recipes.front().id || id > recipes.back().id) return std::nullopt;
+    const auto distance = [](std::int64_t from, std::int64_t to) {
+        return static_cast<std::uint64_t>(to) - static_cast<std::uint64_t>(from);
+    };
+    const std::uint64_t last = recipes.size() - 1;
+    const std::uint64_t fromFront = std::min(last, distance(recipes.front().id, id));
+    const std::uint64_t fromBack = std::min(last, distance(id, recipes.back().id));
+    const auto first = recipes.begin() + static_cast<std::ptrdiff_t>(last - fromBack);
+    const auto end = recipes.begin() + static_cast<std::ptrdiff_t>(fromFront) + 1;
+    const auto found = std::ranges::lower_bound(first, end, id, {}, &RecipeEntry::id);
+    if (found == end || found->id != id) return std::nullopt;
+    return static_cast<std::size_t>(found - recipes.begin());
+}
+
+std::optional<std::size_t> findRecipe(const std::vector<RecipeEntry>& recipes, const std::string& nameOrId) {
+    const auto found = std::ranges::find_if(
+        recipes, [&](const RecipeEntry& recipe) { return automation::equalIgnoreCase(recipe.name, nameOrId); });
+    if (found != recipes.end()) return static_cast<std::size_t>(found - recipes.begin());
+    const auto id = wholeId(nameOrId);
+    return id ? numberOf(recipes, *id) : std::nullopt;
+}
+
+InclusionGraph graphOf(const std::vector<RecipeEntry>& recipes, const std::vector<Inclusion>& inclusions) {
+    std::vector<InclusionGraph::Inclusion> numbered;
+    numbered.reserve(inclusions.size());
+    for (const Inclusion& inclusion : inclusions) {
+        numbered.push_back({numberOf(recipes, inclusion.parent).value_or(InclusionGraph::noRecipe),
+                            numberOf(recipes, inclusion.child).value_or(InclusionGraph::noRecipe)});
+    }
+    return {recipes.size(), std::move(numbered)};
+}
+
+Reader::Reader(ado::Provider& provider, std::string path, Damage damage)
+    : session_(provider.connect("Data Source=\"" + path + "\";Mode=Read;")), path_(std::move(path)) {
+    if (damage == Damage::refuse) session_->requireUndamaged();
+    session_->beginTransaction();
+}
+
+Reader::Reader(std::shared_ptr<ado::Session> session, std::string path)
+    : session_(std::move(session)), path_(std::move(path)) {}
+
+std::vector<ado::Column> Reader::columns(std::string_view table) {
+    return session_->open(table, ado::adCmdTable)->columns();
+}
+
+void Reader::read(std::string_view table, std::span<const std::string_view> columns,
+                  const ado::StoredRowReceiver& receive, const std::string& condition) {
+    const std::string where = condition.empty() ? "" : " WHERE " + condition;
+    const auto rows = session_->open("SELECT * FROM " + std::string(table) + where + " ORDER BY ID", ado::adCmdText);
+    std::vector<std::size_t> numbers;
+    for (const std::string_view column : columns) numbers.push_back(columnOf(rows->columns(), column, table));
+    rows->scan(numbers, receive);
+}
+
+std::vector<RecipeEntry> Reader::recipes() {
+    std::vector<RecipeEntry> recipes;
+    read(schema::recipeTable, std::array{schema::recipe::id, schema::recipe::name}, [&](Row row) {
+        recipes.push_back({row[0].integer, std::string(row[1].text)});
+    });
+    return recipes;
+}
+
+std::vector<Inclusion> Reader::inclusions() {
+    std::vector<Inclusion> inclusions;
+    using namespace schema::member;
+    // Two ranges, as an index answers each of them at once.
+    read(
+        schema::memberTable, std::array{id, parentId, childId, varRecipe},
+        [&](Row row) {
+            inclusions.push_back({row[0].integer, row[1].integer, row[2].integer, std::string(row[3].text)});
+        },
+        "ChildID > 0 OR ChildID < 0");
+    return inclusions;
+}
+
+}  // namespace hx::project
