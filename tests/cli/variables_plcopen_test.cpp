@@ -205,15 +205,6 @@ TEST_F(VariablesInPlcopen, TypesThatUnfoldWithoutEndAreRefused) {
     std::string deep = "<INT/>";
     for (int i = 0; i < 300; ++i) deep = array("1", "1", deep);
     EXPECT_EQ(refused(tc6("", "", variable("X", deep))), "line 5: the types are nested too deeply\n");
-    // Nothing of it is a variable, yet the structures double with each level.
-    std::string types = dataType("T0", "<struct/>");
-    for (int i = 1; i < 22; ++i) {
-        const std::string type = derived("T" + std::to_string(i - 1));
-        types +=
-            dataType("T" + std::to_string(i), "<struct>" + variable("a", type) + variable("b", type) + "</struct>");
-    }
-    EXPECT_EQ(refused(tc6(types, "", variable("X", derived("T21")))),
-              "line 3: the variables up to here have more than 2000000 parts\n");
 }
 
 TEST_F(VariablesInPlcopen, BadInputIsNamedWithLineAndField) {
