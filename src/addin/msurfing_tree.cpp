@@ -8,14 +8,13 @@
 #include "recipe/mhxrcp_hirarch_func.h"
 #include "recipe/node_key.h"
 #include "recipe/recipe_nodes.h"
+#include "resources/text_ids.h"
 
 namespace hx::addin {
 
-namespace {
+namespace text = resources::text_id;
 
-namespace text {
-constexpr std::int32_t recipes = 102, subRecipes = 103;
-}
+namespace {
 
 void publishImages(host::Clipboard& clipboard, host::ProjectExplorer& explorer, const FImageList& list) {
     for (const auto& [key, picture] : list.images()) {

@@ -60,7 +60,7 @@ bool sameValue(const automation::Variant& stored, const automation::Variant& rea
 void Rowset::scan(std::span<const std::size_t> columns, const StoredRowReceiver& receive) {
     ColumnMask mask = 0;
     for (const std::size_t column : columns) mask |= columnBit(column);
-    const KeySet all = keys(nullptr);
+    const RowKeys all = keys(nullptr);
     Scan scan(columns, this->columns(), receive);
     std::vector<Key> together;
     for (std::size_t at = 0; at < all.size(); at += together.size()) {

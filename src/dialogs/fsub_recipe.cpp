@@ -3,16 +3,13 @@
 #include "automation/member_rows.h"
 #include "automation/text.h"
 #include "resources/mdialogs.h"
+#include "resources/text_ids.h"
 
 namespace hx::dialogs {
 
-namespace {
+namespace text = resources::text_id;
 
-namespace text {
-constexpr std::int32_t variableMissing = 510, recipeMissing = 511;
-}
-
-}  // namespace
+namespace {}  // namespace
 
 FSubRecipe::FSubRecipe(const host::Services& services, const resources::ResourceTable& texts, resources::Help& help)
     : Dialog("FSubRecipe", services, help, resources::help_context::subRecipeDialog),

@@ -4,16 +4,13 @@
 #include "editor/menus.h"
 #include "editor/tools.h"
 #include "project/schema.h"
+#include "resources/text_ids.h"
 
 namespace hx::editor {
 
 namespace member = project::schema::member;
 
 namespace {
-
-namespace text_number {
-constexpr std::int32_t recipe = 203, member = 211, subRecipe = 302, members = 423;
-}
 
 std::string named(const std::string& kind, const std::string& name) { return name.empty() ? kind : kind + " " + name; }
 
@@ -37,10 +34,10 @@ std::string_view Bin::tool() const {
 }
 
 std::string Bin::target() const {
-    if (!meansRows_) return named(text(text_number::recipe), window_.shownName());
+    if (!meansRows_) return named(text(resources::text_id::recipe), window_.shownName());
     const std::int32_t selected = window_.tdbRM->selectedRows().count();
-    if (selected > 1) return std::to_string(selected) + " " + text(text_number::members);
-    return named(text(window_.subRecipeView() ? text_number::subRecipe : text_number::member), rowName());
+    if (selected > 1) return std::to_string(selected) + " " + text(resources::text_id::panelMembers);
+    return named(text(window_.subRecipeView() ? resources::text_id::subRecipe : resources::text_id::member), rowName());
 }
 
 // Of the selected row, which need not be the current one.

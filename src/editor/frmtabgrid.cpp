@@ -19,8 +19,11 @@
 #include "forms/wait_cursor.h"
 #include "host/window_offset.h"
 #include "recipe/node_key.h"
+#include "resources/text_ids.h"
 
 namespace hx::editor {
+
+namespace text = resources::text_id;
 
 using automation::Error;
 using automation::method;
@@ -28,10 +31,6 @@ using automation::property;
 using automation::Variant;
 
 namespace {
-
-namespace text {
-constexpr std::int32_t openCaption = 310, title = 401, titleSeparator = 402, panels = 420;
-}
 
 constexpr std::size_t statusPanels = 3;
 constexpr double toolBarHeight = 420, statusBarHeight = 330;  // twips

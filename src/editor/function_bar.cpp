@@ -10,12 +10,12 @@
 #include "editor/menus.h"
 #include "editor/pictures.h"
 #include "editor/tools.h"
+#include "resources/text_ids.h"
 
 namespace hx::editor {
 
 namespace {
 
-constexpr std::int32_t separatorText = 402;
 constexpr std::string_view binKey = "Delete";
 constexpr std::array newTools = {tool::recipeNew, tool::memberNewVariable, tool::memberNewRecipe};
 constexpr std::array editTools = {tool::recipeEdit, tool::memberEditSubRecipe};
@@ -82,7 +82,7 @@ void FunctionBar::refresh() {
         const std::string_view runs = toolOf(row.key);
         std::string tip = plainCaption(menus_.tool(runs.empty() ? row.tools.front() : runs).caption());
         if (row.key == binKey && !runs.empty() && window_.loaded())
-            tip += addIn_.texts().GetResource(separatorText) + bin_.target();
+            tip += addIn_.texts().GetResource(resources::text_id::titleSeparator) + bin_.target();
         button.setEnabled(!runs.empty());
         button.setToolTipText(tip);
     }

@@ -17,6 +17,7 @@
 #include "project/schema.h"
 #include "recipe/mrecipe_member.h"
 #include "recipe/node_key.h"
+#include "resources/text_ids.h"
 
 namespace hx::editor {
 
@@ -25,7 +26,6 @@ namespace member = project::schema::member;
 
 namespace {
 
-constexpr std::int32_t deleteMembersText = 411;
 constexpr std::string_view procedure = "mnuRecipeMember";
 constexpr std::int32_t itemFilter = 256;
 constexpr std::size_t mostNames = 5;
@@ -194,7 +194,7 @@ ado::Bookmark Commands::rowLeftByDeletion() const {
 void Commands::deleteMembers() {
     window_.finishOrDropEdit();
     const std::vector<std::int32_t> ids = selectedMembers();
-    if (ids.empty() || !mayDelete(deleteMembersText)) return;
+    if (ids.empty() || !mayDelete(resources::text_id::deleteMembers)) return;
     const DatabaseWork work(window_.dataEnvironment());
     const ado::Bookmark row = rowLeftByDeletion();
     guard(addIn_, procedure, [&] {

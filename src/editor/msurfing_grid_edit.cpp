@@ -6,6 +6,7 @@
 #include "project/schema.h"
 #include "recipe/conflict.h"
 #include "recipe/node_key.h"
+#include "resources/text_ids.h"
 
 namespace hx::editor {
 
@@ -15,7 +16,6 @@ namespace member = project::schema::member;
 
 namespace {
 
-constexpr std::int32_t staleRowText = 407;
 constexpr automation::Sentence dropped{"The entry \"%1\" could not be stored and was dropped. %2",
                                        "Die Eingabe \"%1\" konnte nicht gespeichert werden und wurde verworfen. %2"};
 
@@ -122,7 +122,7 @@ void MSurfingGrid::viewFailed(forms::GridError& error) {
 }
 
 void MSurfingGrid::resetStaleRows(std::int32_t code) {
-    const std::string text = addIn_.texts().GetResource(staleRowText);
+    const std::string text = addIn_.texts().GetResource(resources::text_id::staleRow);
     window_.screen().messageBox(automation::replaceAll(text, "<DataError>", std::to_string(code)), forms::message::ok,
                                 forms::message::defaultTitle);
     dropEdit();

@@ -15,16 +15,14 @@
 #include "recipe/mrecipe.h"
 #include "recipe/node_key.h"
 #include "recipe/recipe_nodes.h"
+#include "resources/text_ids.h"
 
 namespace hx::editor {
 
 namespace schema = project::schema;
+namespace text = resources::text_id;
 
 namespace {
-
-namespace text {
-constexpr std::int32_t subRecipes = 103, deleteRecipe = 410;
-}
 
 constexpr std::string_view procedure = "mnuRecipeFunc";
 

@@ -3,16 +3,14 @@
 #include "project/schema.h"
 #include "recipe/node_key.h"
 #include "recipe/recipe_window.h"
+#include "resources/text_ids.h"
 
 namespace hx::recipe {
 
 namespace schema = project::schema;
+namespace text = resources::text_id;
 
 namespace {
-
-namespace text {
-constexpr std::int32_t variable = 301, fileName = 303;
-}
 
 std::string orderClause(const std::string& sortText) {
     return " ORDER BY " + (sortText.empty() ? std::string(schema::member::id) : sortText);

@@ -11,10 +11,12 @@
 #include "recipe/node_key.h"
 #include "recipe/stored_row.h"
 #include "resources/mdialogs.h"
+#include "resources/text_ids.h"
 
 namespace hx::recipe {
 
 namespace schema = project::schema;
+namespace text = resources::text_id;
 
 using automation::Null;
 using automation::Variant;
@@ -23,10 +25,6 @@ using dialogs::FSubRecipe;
 namespace {
 
 namespace column = schema::member;
-
-namespace text {
-constexpr std::int32_t subRecipe = 302, fileName = 303, notRead = 550, notWritten = 551;
-}
 
 bool is(const ado::Field& field, std::string_view name) { return automation::equalIgnoreCase(field.name(), name); }
 

@@ -1,14 +1,13 @@
 #include <limits>
 
 #include "recipe/mhxrcp_hirarch_func.h"
+#include "resources/text_ids.h"
 
 namespace hx::recipe {
 
-namespace {
+namespace text = resources::text_id;
 
-namespace text {
-constexpr std::int32_t function = 421, recipes = 422, members = 423;
-}
+namespace {
 
 std::int32_t sum(std::int32_t a, std::int32_t b) {
     using Limits = std::numeric_limits<std::int32_t>;
@@ -39,9 +38,9 @@ void StatusCounters::UpdateStatusCounters(forms::StatusBar& bar, const resources
             members = members_;
             break;
     }
-    bar.panel(1).setText(texts.GetResource(text::function) + function);
-    bar.panel(2).setText(texts.GetResource(text::recipes) + std::to_string(recipes_));
-    bar.panel(3).setText(texts.GetResource(text::members) + std::to_string(members_));
+    bar.panel(1).setText(texts.GetResource(text::panelFunction) + function);
+    bar.panel(2).setText(texts.GetResource(text::panelRecipes) + std::to_string(recipes_));
+    bar.panel(3).setText(texts.GetResource(text::panelMembers) + std::to_string(members_));
 }
 
 }  // namespace hx::recipe

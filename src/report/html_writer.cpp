@@ -4,12 +4,12 @@
 
 #include "report/html_style.h"
 #include "report/html_text.h"
+#include "resources/text_ids.h"
 
 namespace hx::report {
 
 namespace {
 
-constexpr std::int32_t captionSubRecipes = 103;
 constexpr std::string_view unset = "–";
 
 /// Makes the parts of one file.
@@ -192,7 +192,7 @@ void Writer::writeVariables(const project::RecipeData& recipe) {
 void Writer::writeTree(const project::Tree& tree) {
     std::size_t own = 0;
     for (const project::Branch& branch : tree.branches) own += branch.depth == 0 ? 1 : 0;
-    heading(texts_.caption(captionSubRecipes), own);
+    heading(texts_.caption(resources::text_id::subRecipes), own);
     if (tree.branches.empty()) return none(Text::noSubRecipes);
     out("<div class=\"tree\">\n");
     std::size_t open = 0;  // lists that are open: one more than the depth of the line before

@@ -5,6 +5,7 @@
 
 #include "automation/convert.h"
 #include "host/paths.h"
+#include "resources/text_ids.h"
 
 namespace hx::report {
 
@@ -12,17 +13,9 @@ using project::Branch;
 using project::BranchMark;
 using project::InclusionGraph;
 
-namespace {
+namespace caption = resources::text_id::recipe_dialog;
 
-/// Captions of the editor's recipe dialog.
-namespace caption {
-constexpr std::int32_t standard = 601, extended = 602, options = 640;
-constexpr std::int32_t fileName = 604, description = 608, filePath = 622, fileExtension = 605, comment = 606,
-                       active = 615;
-constexpr std::int32_t loadTrigger = 609, saveTrigger = 611, readTrigger = 612, writeTrigger = 613;
-constexpr std::int32_t values = 630, absolute = 631, relative = 632, normFactor = 633, factorVariable = 634;
-constexpr std::int32_t writeThrough = 643, saveThrough = 644, saveSubRecipes = 635, saveChanges = 623, crypted = 624;
-}  // namespace caption
+namespace {
 
 std::string nameOfFile(std::string_view path) {
     const std::string_view file = host::PathStyle::fileOf(path);

@@ -5,6 +5,7 @@
 
 #include "adapters/qt/text.h"
 #include "report/preview/preview_texts.h"
+#include "resources/text_ids.h"
 
 namespace hx::report {
 
@@ -12,7 +13,6 @@ using qt::toQt;
 
 namespace {
 
-constexpr std::int32_t captionSubRecipes = 103;
 constexpr double captionWidth = 3000, gap = 160, pageWidth = 900, useWidth = 620, padding = 60;
 constexpr double indent = 200, checkWidth = 280;
 constexpr qsizetype mostLines = 24;  // a text with more goes on in a row of its own, so that every row fits on a page
@@ -210,7 +210,7 @@ void RowMaker::addVariables(Rows& rows, const project::RecipeData& recipe) const
 
 void RowMaker::addTree(Rows& rows, const project::Tree& tree) const {
     const auto own = std::ranges::count(tree.branches, std::size_t{0}, &project::Branch::depth);
-    const QString heading = toQt(texts_.caption(captionSubRecipes));
+    const QString heading = toQt(texts_.caption(resources::text_id::subRecipes));
     addHeading(rows, own == 0 ? heading : heading + QStringLiteral(" (%1)").arg(own));
     if (own == 0) return addNote(rows, Text::noSubRecipes);
     std::vector<bool> goesOn;
