@@ -54,7 +54,7 @@ function(hx_qt_headers name)
 endfunction()
 
 # hx_test(NAME [DEPENDS target...] [LABELS label]): the folder's sources as one GoogleTest program, a CTest test for each
-# case. The label "gui" is for programs that open Qt's windows. The tests themselves are not optimised: they compile in half the
+# case. The label "gui" is for programs that open Qt's windows: they have a CTest test for each suite. The tests themselves are not optimised: they compile in half the
 # time, and what they test is the shipped code all the same.
 function(hx_test name)
   cmake_parse_arguments(ARG "" "LABELS" "DEPENDS" ${ARGN})
@@ -71,9 +71,13 @@ function(hx_test name)
   elseif(NOT "hx_studio" IN_LIST ARG_DEPENDS)  # Qt asks for other options than the headers were compiled with
     target_precompile_headers(${name} REUSE_FROM hx_test_headers)
   endif()
-  set(properties TIMEOUT 300)
-  if(ARG_LABELS)
-    list(APPEND properties LABELS ${ARG_LABELS})
+  if(ARG_LABELS STREQUAL "gui")  # where starting the program takes as long as a test
+    set(suites ${CMAKE_CURRENT_BINARY_DIR}/${name}_suites.cmake)
+    add_custom_command(TARGET ${name} POST_BUILD BYPRODUCTS ${suites}
+        COMMAND ${CMAKE_COMMAND} -D PROGRAM=$<TARGET_FILE:${name}> -D OUTPUT=${suites} -D LABEL=gui
+                -P ${CMAKE_SOURCE_DIR}/cmake/list_suites.cmake)
+    set_property(DIRECTORY APPEND PROPERTY TEST_INCLUDE_FILES ${suites})
+  else()
+    gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 300)
   endif()
-  gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60 PROPERTIES ${properties})
 endfunction()
