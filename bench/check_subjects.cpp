@@ -52,7 +52,7 @@ Project check_project::plant(const Project& beside) {
     const Project project{path, beside.recipes, 0};
     if (std::filesystem::exists(path)) return project;
     const cli::Output output{std::cout, std::cerr, false};
-    cli::generate({project.recipes, project.recipes * variablesEach, 0, path}, output);
+    cli::generate({project.recipes, project.recipes * variablesEach, 0}, path, output);
     LimitDatabase database(project);
     database.execute(links);
     database.execute(damage);

@@ -9,8 +9,8 @@
 #include "bench/require.h"
 #include "bench/subjects.h"
 #include "bench/work_copy.h"
-#include "cli/generated_names.h"
 #include "dialogs/fmulti_select_items.h"
+#include "project/generated_names.h"
 
 namespace hx::bench {
 
@@ -23,7 +23,7 @@ const std::string membersOfBig = "FROM TrcpRecipeMember WHERE ParentID = " + std
 // The variables of the big recipe in another order.
 Names otherOrder(const Project& project) {
     Names names;
-    for (std::int64_t i = 0; i < project.big; ++i) names.push_back(cli::variableName(i));
+    for (std::int64_t i = 0; i < project.big; ++i) names.push_back(project::variableName(i));
     std::ranges::rotate(names, names.begin() + project.big / 3);
     return names;
 }

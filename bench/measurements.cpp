@@ -6,7 +6,7 @@
 #include <filesystem>
 
 #include "bench/subjects.h"
-#include "cli/generated_names.h"
+#include "project/generated_names.h"
 
 namespace hx::bench {
 
@@ -165,7 +165,7 @@ Row findLastByNumber(const Project& project, int rounds) {
 
 Row findLastByName(const Project& project, int rounds) {
     return findRecipe(project, rounds, "open the recipes and find the last by name",
-                      "Name='" + cli::recipeName(project.recipes - 1) + "'");
+                      "Name='" + project::recipeName(project.recipes - 1) + "'");
 }
 
 constexpr auto table = std::to_array<Measurement>({

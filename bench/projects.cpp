@@ -13,7 +13,7 @@ Project makeProject(const std::string& folder, std::int64_t recipes, std::int64_
     const Project project{folder + "/" + std::to_string(recipes) + "-" + std::to_string(big) + ".hxs", recipes, big};
     if (std::filesystem::exists(project.path)) return project;
     const cli::Output output{std::cout, std::cerr, isatty(STDERR_FILENO) != 0};
-    cli::generate({recipes, recipes * membersEach, big, project.path}, output);
+    cli::generate({recipes, recipes * membersEach, big}, project.path, output);
     return project;
 }
 

@@ -102,7 +102,7 @@ std::string make_report::plant(const Project& beside) {
     const std::string path = std::filesystem::path(beside.path).replace_filename("report.hxs").string();
     if (std::filesystem::exists(path)) return path;
     const cli::Output output{std::cout, std::cerr, false};
-    cli::generate({recipes, members - inclusions, 0, path}, output);
+    cli::generate({recipes, members - inclusions, 0}, path, output);
     addInclusions(path);
     return path;
 }

@@ -12,8 +12,8 @@
 #include "bench/desktop.h"
 #include "bench/require.h"
 #include "bench/subjects.h"
-#include "cli/generated_names.h"
 #include "dialogs/fmulti_select_items.h"
+#include "project/generated_names.h"
 #include "resources/help.h"
 #include "studio/project_variables.h"
 
@@ -49,7 +49,7 @@ host::Services onScreen(const host::Services& services, forms::Screen& screen) {
 std::vector<std::string> someNames(std::int64_t variables) {
     constexpr std::int64_t count = 1000;
     std::vector<std::string> names;
-    for (std::int64_t i = 0; i < count; ++i) names.push_back(cli::variableName(i * variables / count));
+    for (std::int64_t i = 0; i < count; ++i) names.push_back(project::variableName(i * variables / count));
     return names;
 }
 

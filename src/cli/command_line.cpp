@@ -32,18 +32,23 @@ void addNew(CLI::App& app, Command& chosen, const Output& output) {
 
 void addGenerate(CLI::App& app, Command& chosen, const Output& output) {
     CLI::App* command = app.add_subcommand("generate", "Make a project of any size, to try and to measure with.");
-    const auto plan = std::make_shared<GeneratePlan>();
+    struct Arguments {
+        project::GeneratorPlan plan;
+        std::string path;
+    };
+    const auto arguments = std::make_shared<Arguments>();
     const auto count = [&](const char* option, std::int64_t& target, const char* help) {
         command->add_option(option, target, help)->required()->type_name("N")->check(CLI::Range(std::int64_t{0}, most));
     };
-    count("--recipes", plan->recipes, "How many recipes.");
-    count("--members", plan->members, "How many variables, spread evenly over them.");
-    count("--big", plan->bigMembers, "How many variables one further recipe has; with 0 there is no such recipe.");
-    command->add_option("FILE", plan->path, "The project file to make; it must not exist yet.")->required();
-    command->callback([plan, &chosen, &output] {
-        if (plan->recipes == 0 && plan->members > 0)
-            throw CLI::ValidationError("--members needs recipes to spread over");
-        chosen = Command::doing([plan, &output] { generate(*plan, output); });
+    count("--recipes", arguments->plan.recipes, "How many recipes.");
+    count("--members", arguments->plan.members, "How many variables, spread evenly over them.");
+    count("--big", arguments->plan.bigMembers,
+          "How many variables one further recipe has; with 0 there is no such recipe.");
+    command->add_option("FILE", arguments->path, "The project file to make; it must not exist yet.")->required();
+    command->callback([arguments, &chosen, &output] {
+        const auto& plan = arguments->plan;
+        if (plan.recipes == 0 && plan.members > 0) throw CLI::ValidationError("--members needs recipes to spread over");
+        chosen = Command::doing([arguments, &output] { generate(arguments->plan, arguments->path, output); });
     });
 }
 

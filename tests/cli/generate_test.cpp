@@ -1,6 +1,6 @@
 #include <set>
 
-#include "cli/generated_names.h"
+#include "project/generated_names.h"
 #include "cli/progress.h"
 #include "run_cli.h"
 
@@ -55,13 +55,13 @@ TEST_F(Generate, NamesAreDifferent) {
     std::set<std::string> recipes;
     std::set<std::string> variables;
     for (int i = 0; i < 5000; ++i) {
-        recipes.insert(recipeName(i));
-        variables.insert(variableName(i));
+        recipes.insert(project::recipeName(i));
+        variables.insert(project::variableName(i));
     }
     EXPECT_EQ(recipes.size(), 5000U);
     EXPECT_EQ(variables.size(), 5000U);
-    EXPECT_EQ(recipeName(0), "Apfelsaft naturtrüb 0,33 l Nr. 1");
-    EXPECT_EQ(variableName(0), "Sirupraum1.Temperatur.Soll");
+    EXPECT_EQ(project::recipeName(0), "Apfelsaft naturtrüb 0,33 l Nr. 1");
+    EXPECT_EQ(project::variableName(0), "Sirupraum1.Temperatur.Soll");
 }
 
 TEST_F(Generate, AProgressBarAppearsOnLongWorkOnATerminalOnly) {

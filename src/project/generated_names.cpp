@@ -1,9 +1,9 @@
-#include "cli/generated_names.h"
+#include "project/generated_names.h"
 
 #include <array>
 #include <string_view>
 
-namespace hx::cli {
+namespace hx::project {
 
 namespace {
 
@@ -49,4 +49,4 @@ std::string variableName(std::int64_t number) {
 
 std::string variableType(std::int64_t number) { return std::string(pick(roles, number).type); }
 
-}  // namespace hx::cli
+}  // namespace hx::project
