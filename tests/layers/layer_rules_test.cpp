@@ -10,13 +10,13 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 
 TEST(LayerRules, AFolderIncludesItselfAndTheFoldersBelowIt) {
-    EXPECT_THAT(wrongIncludes("recipe/schema.cpp", "#include \"project/schema.h\"\n#include \"ado/recordset.h\"\n"),
+    EXPECT_THAT(wrongIncludes("recipe/node_key.cpp", "#include \"project/schema.h\"\n#include \"ado/recordset.h\"\n"),
                 IsEmpty());
 }
 
 TEST(LayerRules, AFolderThatIncludesALaterOneIsNamedWithFileAndLine) {
-    EXPECT_THAT(wrongIncludes("recipe/schema.cpp", "#include <string>\n\n#include \"editor/frmtabgrid.h\"\n"),
-                ElementsAre("recipe/schema.cpp:3: includes editor/frmtabgrid.h: recipe may not include editor"));
+    EXPECT_THAT(wrongIncludes("recipe/node_key.cpp", "#include <string>\n\n#include \"editor/frmtabgrid.h\"\n"),
+                ElementsAre("recipe/node_key.cpp:3: includes editor/frmtabgrid.h: recipe may not include editor"));
 }
 
 TEST(LayerRules, AngleBracketsDoNotHideALaterFolder) {
@@ -118,6 +118,22 @@ TEST(LayerRules, NoProgramIncludesTheOtherNorItsToolkit) {
 TEST(LayerRules, TheEditorSeesTheContractAndNotWhatHostsAreMadeOf) {
     EXPECT_THAT(wrongIncludes("addin/connect.cpp", "#include \"host/services.h\"\n#include \"hosting/node_tree.h\"\n"),
                 ElementsAre("addin/connect.cpp:2: includes hosting/node_tree.h: addin may not include hosting"));
+}
+
+TEST(LayerRules, WhatIsSaidOfAWholeProjectSeesItsTablesAndNoDialog) {
+    EXPECT_THAT(wrongIncludes("project/reader.cpp", "#include \"ado/provider.h\"\n#include \"forms/form.h\"\n"),
+                ElementsAre("project/reader.cpp:2: includes forms/form.h: project may not include forms"));
+    EXPECT_THAT(wrongIncludes("forms/form.cpp", "#include \"project/reader.h\"\n"),
+                ElementsAre("forms/form.cpp:1: includes project/reader.h: forms may not include project"));
+}
+
+TEST(LayerRules, ExchangeAndListsSeeStoresAndNeitherEachOtherNorAWindow) {
+    EXPECT_THAT(wrongIncludes("lists/variables.cpp",
+                              "#include \"adapters/sqlite/session.h\"\n#include \"exchange/content.h\"\n"),
+                ElementsAre("lists/variables.cpp:2: includes exchange/content.h: lists may not include exchange"));
+    EXPECT_THAT(
+        wrongIncludes("exchange/content.cpp", "#include \"adapters/qt/text.h\"\n"),
+        ElementsAre("exchange/content.cpp:1: includes adapters/qt/text.h: exchange may not include adapters/qt"));
 }
 
 TEST(LayerRules, AProgramIncludesWhatIsInstalledAndWhatLiesBelow) {
