@@ -20,7 +20,7 @@ void generate(const project::GeneratorPlan& plan, const std::string& path, const
     draft.createTables(false);
     {
         Progress progress(output, plan.rows());
-        sqlite::Session session(draft.temporaryPath());
+        sqlite::Session session(draft.temporaryPath(), false, {.comparesNames = false});
         session.database().execute(fast);
         project::generate(session, plan, [&](std::int64_t done) { progress.reach(done); });
     }

@@ -9,10 +9,19 @@
 
 namespace hx::exchange {
 
+namespace {
+
+// Names are compared with those of the project before anything is written.
+std::shared_ptr<sqlite::Session> openProject(const std::string& path) {
+    return std::make_shared<sqlite::Session>(path, false, sqlite::OpenOptions{.comparesNames = false});
+}
+
+}  // namespace
+
 ImportCounts importContent(const std::string& project, const std::string& file, ImportMode mode,
                            const ImportProgress& progress) {
     const Content content = parseContent(file);
-    const auto session = std::make_shared<sqlite::Session>(project);
+    const auto session = openProject(project);
     project::Reader reader(session, project);
     session->beginTransaction();
     const Content before = readContent(reader);
@@ -24,7 +33,7 @@ ImportCounts importContent(const std::string& project, const std::string& file, 
 std::vector<Difference> previewImport(const std::string& project, const std::string& file, ImportMode mode,
                                       const ImportProgress& progress) {
     const Content content = parseContent(file);
-    const auto session = std::make_shared<sqlite::Session>(project);
+    const auto session = openProject(project);
     project::Reader reader(session, project);
     session->database().execute("PRAGMA cache_spill=OFF");  // nothing of it reaches the file
     session->beginTransaction();

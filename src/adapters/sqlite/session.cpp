@@ -56,7 +56,7 @@ Session::Session(const std::string& path, bool readOnly, const OpenOptions& opti
         database.execute("PRAGMA query_only=ON");
     } else {
         requireUndamaged();
-        compareNamesBeyondAscii();
+        if (options.comparesNames) compareNamesBeyondAscii();
     }
 }
 
