@@ -2,7 +2,6 @@
 
 #include "project/schema.h"
 #include "recipe/node_key.h"
-#include "recipe/recipe_window.h"
 #include "resources/text_ids.h"
 
 namespace hx::recipe {

@@ -2,8 +2,8 @@
 
 #include <cstdint>
 
-/// Numbers of texts in the resource table that the code fetches by name. Captions of dialogs are fetched by the numbers in
-/// the controls' Tags instead.
+/// Numbers of texts in the resource table that the code fetches by name. Captions of dialogs are fetched by the numbers
+/// in the controls' Tags instead.
 namespace hx::resources::text_id {
 
 // explorer

@@ -1,7 +1,7 @@
 #include <set>
 
-#include "project/generated_names.h"
 #include "cli/progress.h"
+#include "project/generated_names.h"
 #include "run_cli.h"
 
 namespace hx::cli {

@@ -47,9 +47,7 @@ void EditorWindow::useLanguage(std::int32_t code) {
     addIn.resourceTexts.InitResources(host.registry);
 }
 
-void EditorWindow::show(const std::string& key) {
-    window->chooseNode(key);
-}
+void EditorWindow::show(const std::string& key) { window->chooseNode(key); }
 
 std::int32_t EditorWindow::addRecipe(const std::string& name) {
     const std::vector<ado::ColumnValue> values = {{1, Variant(name)}};

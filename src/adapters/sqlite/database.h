@@ -24,8 +24,8 @@ struct OpenOptions {
     automation::Language language = automation::Language::english;  ///< of the errors' descriptions
     LockWait::Milliseconds lockWait{2000};                          ///< for a lock that another program holds
     LockWait::Sleep sleep = {};                                     ///< none: the thread sleeps
-    /// Whether a session refuses a name that differs from another's only in the case of letters beyond ASCII. It looks at
-    /// all names with the same beginning: who writes very many compares them himself.
+    /// Whether a session refuses a name that differs from another's only in the case of letters beyond ASCII. It looks
+    /// at all names with the same beginning: who writes very many compares them himself.
     bool comparesNames = true;
 };
 
