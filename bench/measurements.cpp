@@ -108,6 +108,40 @@ Row filterVariables(const Project& project, int rounds) {
     return {"type another filter there", costs[0], {}, {}, {.atMostMilliseconds = 100.0, .worstCounts = true}};
 }
 
+Row sortMembers(const Project& project, int rounds) {
+    namespace subject = sort_members;
+    const auto costs = compare({subject::ours(project), {}, subject::limit(project)}, rounds, fewRuns);
+    return {"sort the big recipe by its variables", costs[0], {}, costs[2], {.atMostOfLimit = 1.5}};
+}
+
+Row timeRow(const std::string& name, const Subject& subject, int rounds, double milliseconds) {
+    return {name, compare({subject}, rounds, fewRuns)[0], {}, {}, {.atMostMilliseconds = milliseconds}};
+}
+
+Row deleteMember(const Project& project, int rounds) {
+    return timeRow("delete one of its variables", delete_member::ours(project, false), rounds, 50);
+}
+
+Row deleteSortedMember(const Project& project, int rounds) {
+    return timeRow("delete one of them, sorted", delete_member::ours(project, true), rounds, 50);
+}
+
+Row selectAll(const Project& project, int rounds) {
+    return timeRow("select all of them", select_all::ours(project), rounds, 100);
+}
+
+Row openMany(const Project& project, int rounds) {
+    return timeRow("open the choice of them, all checked", choose_many::open(project), rounds, 1000);
+}
+
+Row searchMany(const Project& project, int rounds) {
+    return timeRow("search in it", choose_many::search(project), rounds, 150);
+}
+
+Row cancelMany(const Project& project, int rounds) {
+    return timeRow("cancel it", choose_many::cancel(project), rounds, 200);
+}
+
 Row checkAllVariables(const Project& project, int rounds) {
     const auto costs = compare({choose_variables::checkAll(plant(project))}, rounds, fewRuns);
     return {"check or uncheck all variables there", costs[0], {}, {}, {}};
@@ -179,6 +213,13 @@ constexpr auto table = std::to_array<Measurement>({
     {"find-number", &findLastByNumber},
     {"find-name", &findLastByName},
     {"statistic", &countAll},
+    {"sort", &sortMembers},
+    {"delete-member", &deleteMember},
+    {"delete-sorted", &deleteSortedMember},
+    {"select-all", &selectAll},
+    {"open-many", &openMany},
+    {"search-many", &searchMany},
+    {"cancel-many", &cancelMany},
     {"replace-variables", &replaceVariables},
     {"delete-recipe", &deleteRecipe},
     {"open-variables", &openVariables},

@@ -75,6 +75,31 @@ namespace choose_variables {
 [[nodiscard]] Subject checkAll(const Project& project);
 }  // namespace choose_variables
 
+/// In the studio: clicks the header of the variables of the big recipe, until they are shown in their order. The limit
+/// reads the numbers of the rows in the same order.
+namespace sort_members {
+[[nodiscard]] Subject ours(const Project& project);
+[[nodiscard]] Subject limit(const Project& project);
+}  // namespace sort_members
+
+/// In the studio: deletes one variable of the big recipe, sorted by them or not.
+namespace delete_member {
+[[nodiscard]] Subject ours(const Project& project, bool sorted);
+}
+
+/// In the studio: selects all variables of the big recipe.
+namespace select_all {
+[[nodiscard]] Subject ours(const Project& project);
+}
+
+/// In the studio: opens the choice of the variables of the big recipe, in which all are checked; searches in it;
+/// cancels it, until the grid shows the variables again.
+namespace choose_many {
+[[nodiscard]] Subject open(const Project& project);
+[[nodiscard]] Subject search(const Project& project);
+[[nodiscard]] Subject cancel(const Project& project);
+}  // namespace choose_many
+
 /// Checks a project for what is wrong in it, as on the command line. The peer finds the same with queries, but for the
 /// cycles; the limit reads the tables once.
 namespace check_project {

@@ -20,7 +20,7 @@ void writeToDisk(const std::string& path) {
 }  // namespace
 
 WorkCopy::WorkCopy(const Project& original) : original_(original), copy_(original) {
-    copy_.path += ".run-" + std::to_string(::getpid());
+    copy_.path += ".run-" + std::to_string(::getpid()) + ".hxs";
 }
 
 WorkCopy::~WorkCopy() {

@@ -1,0 +1,112 @@
+#include "bench/studio_window.h"
+
+#include <QKeyEvent>
+#include <QMessageBox>
+#include <QMouseEvent>
+#include <filesystem>
+#include <iostream>
+
+#include "bench/require.h"
+#include "hosting/ini_text_file.h"
+
+namespace hx::bench {
+
+namespace {
+
+void sendMouse(QWidget& widget, QEvent::Type type, const QPoint& point) {
+    const Qt::MouseButtons held = type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton;
+    QMouseEvent event(type, point, widget.mapToGlobal(point), Qt::LeftButton, held, Qt::NoModifier);
+    QCoreApplication::sendEvent(&widget, &event);
+}
+
+void clickAt(QWidget& widget, const QPoint& point) {
+    sendMouse(widget, QEvent::MouseButtonPress, point);
+    sendMouse(widget, QEvent::MouseButtonRelease, point);
+}
+
+void askNothing(const std::string& project) {
+    const std::string file = std::filesystem::path(project).replace_filename("HXEditors.ini").string();
+    hosting::IniTextFile().write("frmtabGridRCP", "RequestOnDelete", "False", file);
+}
+
+// A message would wait for its answer for ever.
+void endOnMessage() {
+    const QWidget* modal = QApplication::activeModalWidget();
+    const auto* box = qobject_cast<const QMessageBox*>(modal);
+    if (box == nullptr) return;
+    std::cerr << "hx_bench: " << box->text().toStdString() << std::endl;
+    std::_Exit(EXIT_FAILURE);
+}
+
+}  // namespace
+
+StudioWindow::StudioWindow(const Project& project) : host_(folder_.path(), {QStringLiteral(HX_MODULE_FOLDER)}) {
+    askNothing(project.path);
+    constexpr int interval = 100;
+    QObject::connect(&watch_, &QTimer::timeout, endOnMessage);
+    watch_.start(interval);
+    window_.show();
+    window_.activateWindow();
+    require(window_.openProject(QString::fromStdString(project.path)), "the studio does not open the project");
+    click("Rezepte");
+    click("Gesamtanlage");
+    grid_ = window_.findChild<QTableView*>("tdbRM.Splits(1)");
+    require(grid_ != nullptr && rows() == project.big, "the editor does not show the recipe");
+    grid_->setFocus();
+    settle();
+}
+
+StudioWindow::~StudioWindow() = default;
+
+void StudioWindow::settle() {
+    QPointer<QWidget> viewport = grid_ == nullptr ? nullptr : grid_->viewport();
+    if (viewport) viewport->update();
+    for (int i = 0; i < 3; ++i) {
+        QCoreApplication::processEvents();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+}
+
+void StudioWindow::click(const QString& caption) {
+    auto& tree = *window_.findChild<QTreeView*>("projectExplorer");
+    settle();
+    QModelIndex at = tree.model()->index(0, 0);
+    while (at.isValid() && at.data().toString() != caption) {
+        tree.expand(at);
+        at = tree.model()->index(0, 0, at);
+    }
+    require(at.isValid(), "a node of the explorer is missing");
+    tree.scrollTo(at);
+    clickAt(*tree.viewport(), tree.visualRect(at).center());
+    settle();
+}
+
+int StudioWindow::column(const QString& caption) const {
+    const QAbstractItemModel& model = *grid_->model();
+    for (int i = 0; i < model.columnCount(); ++i) {
+        if (model.headerData(i, Qt::Horizontal).toString() == caption) return i;
+    }
+    throw std::runtime_error("a column is missing");
+}
+
+void StudioWindow::press(Qt::Key key, Qt::KeyboardModifiers modifiers) {
+    for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+        QKeyEvent event(type, key, modifiers);
+        QCoreApplication::sendEvent(grid_, &event);
+    }
+    settle();
+}
+
+void StudioWindow::clickHeader(const QString& caption) {
+    QHeaderView& header = *grid_->horizontalHeader();
+    constexpr int inside = 20;
+    clickAt(*header.viewport(), {header.sectionViewportPosition(column(caption)) + inside, header.height() / 2});
+    settle();
+}
+
+void StudioWindow::sortByNothing(const QString& caption) {
+    const QHeaderView& header = *grid_->horizontalHeader();
+    while (header.isSortIndicatorShown()) clickHeader(caption);
+}
+
+}  // namespace hx::bench
