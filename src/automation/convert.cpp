@@ -135,7 +135,9 @@ bool toBoolean(const Variant& value) {
 }
 
 std::int16_t toInt16(const Variant& value) { return roundToInt16(toDouble(value)); }
-std::int32_t toInt32(const Variant& value) { return roundToInt32(toDouble(value)); }
+std::int32_t toInt32(const Variant& value) {
+    return value.type() == VarType::int32 ? value.asInt32() : roundToInt32(toDouble(value));
+}
 
 double toDouble(const Variant& value) {
     switch (value.type()) {

@@ -75,14 +75,14 @@ std::string foldCase(std::string_view text) {
 void appendFolded(std::string& to, std::string_view text) {
     const std::size_t start = to.size();
     to.resize(start + text.size());
-    bool ascii = true;
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        ascii = ascii && isAscii(text[i]);
-        to[start + i] = foldAscii(text[i]);
+    std::size_t at = 0;
+    for (; at < text.size() && isAscii(text[at]); ++at) to[start + at] = foldAscii(text[at]);
+    if (at == text.size()) return;
+    to.resize(start + at);
+    while (at < text.size()) {
+        if (isAscii(text[at])) to += foldAscii(text[at++]);
+        else append(to, fold(nextCodePoint(text, at)));
     }
-    if (ascii) return;
-    to.resize(start);
-    for (std::size_t at = 0; at < text.size();) append(to, fold(nextCodePoint(text, at)));
 }
 
 std::strong_ordering compareIgnoreCase(std::string_view a, std::string_view b) {

@@ -30,6 +30,27 @@ class Query : public ProjectTest {
     RawFile file_;
 };
 
+// Sorted here or by SQLite, which is told by a second term.
+TEST_F(Query, TextsAreSortedAsTheirCollationSays) {
+    file_.run(
+        "INSERT INTO TrcpRecipeMember(ParentID,VarRecipe,ChildID) VALUES(1,'Behälter.Füllstand',5),(1,'b',4),"
+        "(1,'BEHÄLTER.FÜLLSTAND',3),(1,NULL,2),(1,'behälter',1),(1,'',9),(1,'behälter.füllstand.soll.lang',8),"
+        "(1,NULL,7),(1,'Ä',6),(1,'B',5),(1,'behälter.',4)");
+    for (const std::string where : {"", " WHERE ParentID = 1", " WHERE ParentID = 1 AND ChildID <> 0"}) {
+        for (const std::string order : {"", " DESC"}) {
+            const std::string sql = "SELECT ID FROM TrcpRecipeMember" + where + " ORDER BY VarRecipe" + order;
+            EXPECT_EQ(single(sql), single(sql + ", ID")) << sql;
+        }
+    }
+    EXPECT_EQ(single("SELECT VarRecipe FROM TrcpRecipeMember WHERE ChildID < 6 ORDER BY VarRecipe DESC"),
+              "Behälter.Füllstand,BEHÄLTER.FÜLLSTAND,behälter.,behälter,b,B,");
+}
+
+TEST_F(Query, WhatIsNoTextIsSortedAmongTexts) {
+    file_.run("INSERT INTO TrcpRecipeMember(ParentID,VarRecipe,ChildID) VALUES(1,'b',1),(1,x'41',1),(1,'a',1)");
+    EXPECT_EQ(single("SELECT ID FROM TrcpRecipeMember ORDER BY VarRecipe"), "3,1,2");
+}
+
 TEST_F(Query, AggregatesAndJoinsAreReadOnly) {
     addMembers();
     EXPECT_EQ(single("SELECT COUNT(*) AS N FROM TrcpRecipeMember WHERE ParentID = 1"), "3");

@@ -3,7 +3,6 @@
 #include <filesystem>
 #include <sqlite3.h>
 
-#include "adapters/sqlite/functions.h"
 #include "adapters/sqlite/project_schema.h"
 #include "adapters/sqlite/sqlite_error.h"
 #include "automation/restore.h"
@@ -43,7 +42,7 @@ Database::Database(const std::string& path, const OpenOptions& options)
       language_(options.language),
       work_(std::make_unique<Work>()),
       lockWait_(std::make_unique<LockWait>(options.lockWait, options.sleep)),
-      collecting_(std::make_unique<ado::RowKeys*>(nullptr)) {
+      collecting_(std::make_unique<Collection*>(nullptr)) {
     sqlite3* handle = nullptr;
     // An absolute name is never taken for a URI or for a database in memory.
     const std::string absolute = std::filesystem::absolute(path).string();
@@ -109,11 +108,11 @@ void Database::useLargeCache(bool large) noexcept {
     (void)sqlite3_exec(handle(), large ? largeCache : smallCache, nullptr, nullptr, nullptr);
 }
 
-ado::RowKeys Database::collect(Statement& statement) {
-    ado::RowKeys keys;
-    const automation::Restore collecting(*collecting_, &keys);
+Collection Database::collect(Statement& statement) {
+    Collection collection;
+    const automation::Restore collecting(*collecting_, &collection);
     statement.step();
-    return keys;
+    return collection;
 }
 
 bool Database::inTransaction() const noexcept { return sqlite3_get_autocommit(handle()) == 0; }

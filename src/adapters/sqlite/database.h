@@ -9,9 +9,9 @@
 #include <string_view>
 #include <unordered_map>
 
+#include "adapters/sqlite/functions.h"
 #include "adapters/sqlite/lock_wait.h"
 #include "adapters/sqlite/statement.h"
-#include "ado/row_keys.h"
 #include "automation/error.h"
 #include "automation/sentence.h"
 
@@ -59,8 +59,8 @@ class Database {
     /// Lets the connection keep more pages of the file in memory, or as few as before, the rest being given back.
     void useLargeCache(bool large) noexcept;
 
-    /// Runs a statement that hands its keys to the function hx_keys.
-    [[nodiscard]] ado::RowKeys collect(Statement& statement);
+    /// Runs a statement that hands its rows to the function hx_keys.
+    [[nodiscard]] Collection collect(Statement& statement);
 
     [[nodiscard]] bool inTransaction() const noexcept;
     /// Whether a transaction is meant to be open from now on: SQLite takes it back by itself after some errors.
@@ -95,8 +95,8 @@ class Database {
     std::unique_ptr<Work> work_;  // SQLite holds its address
     std::unique_ptr<LockWait> lockWait_;
     std::unique_ptr<sqlite3, Closer> handle_;
-    std::unique_ptr<ado::RowKeys*> collecting_;  // where hx_keys appends to
-    Statements statements_;                      // the last used one first
+    std::unique_ptr<Collection*> collecting_;  // where hx_keys appends to
+    Statements statements_;                    // the last used one first
     std::unordered_map<std::string_view, Statements::iterator> bySql_;
     bool expectsTransaction_ = false;
     mutable std::optional<std::string> lostBy_;

@@ -33,10 +33,21 @@ void giveText(sqlite3_context* context, const std::string& text) {
     sqlite3_result_text64(context, text.data(), text.size(), SQLITE_TRANSIENT, SQLITE_UTF8);
 }
 
-void keysStep(sqlite3_context* context, int, sqlite3_value** arguments) {
-    auto* keys = *static_cast<ado::RowKeys**>(sqlite3_user_data(context));
-    if (keys == nullptr) return sqlite3_result_error(context, "hx_keys is used by the provider alone", -1);
-    guarded(context, [&] { keys->append(sqlite3_value_int64(arguments[0])); });
+void addText(Collection& to, ado::Key key, sqlite3_value* value) {
+    switch (sqlite3_value_type(value)) {
+        case SQLITE_NULL: return to.textless.append(key);
+        case SQLITE_TEXT: break;
+        default: to.onlyTexts = false; return;
+    }
+    to.keys.append(key);
+    to.texts.appendFolded(textOf(value));
+}
+
+void keysStep(sqlite3_context* context, int count, sqlite3_value** arguments) {
+    auto* to = *static_cast<Collection**>(sqlite3_user_data(context));
+    if (to == nullptr) return sqlite3_result_error(context, "hx_keys is used by the provider alone", -1);
+    const ado::Key key = sqlite3_value_int64(arguments[0]);
+    guarded(context, [&] { count == 1 ? to->keys.append(key) : addText(*to, key, arguments[1]); });
 }
 
 void keysFinal(sqlite3_context* context) { sqlite3_result_null(context); }
@@ -71,7 +82,7 @@ int collate(void*, int lengthA, const void* textA, int lengthB, const void* text
 
 }  // namespace
 
-int registerFunctions(sqlite3* handle, ado::RowKeys** target) {
+int registerFunctions(sqlite3* handle, Collection** target) {
     constexpr int pure = SQLITE_UTF8 | SQLITE_DETERMINISTIC | SQLITE_INNOCUOUS;
     using Call = void (*)(sqlite3_context*, int, sqlite3_value**);
     struct Scalar {
@@ -85,9 +96,11 @@ int registerFunctions(sqlite3* handle, ado::RowKeys** target) {
                                                     nullptr, nullptr, nullptr);
         if (code != SQLITE_OK) return code;
     }
-    const int code =
-        sqlite3_create_function_v2(handle, "hx_keys", 1, SQLITE_UTF8, target, nullptr, keysStep, keysFinal, nullptr);
-    if (code != SQLITE_OK) return code;
+    for (const int arguments : {1, 2}) {
+        const int code = sqlite3_create_function_v2(handle, "hx_keys", arguments, SQLITE_UTF8, target, nullptr,
+                                                    keysStep, keysFinal, nullptr);
+        if (code != SQLITE_OK) return code;
+    }
     return sqlite3_create_collation_v2(handle, textCollation, SQLITE_UTF8, nullptr, collate, nullptr);
 }
 

@@ -27,6 +27,24 @@ void bindAll(Statement& statement, const std::vector<automation::Variant>& param
     for (std::size_t i = 0; i < parameters.size(); ++i) statement.bind(static_cast<int>(i + 1), parameters[i]);
 }
 
+// Rows of the same text stand in the order of their keys, those without a text before all others.
+ado::RowKeys byText(Collection& found, bool descending) {
+    std::vector<std::uint32_t> numbers = automation::inOrder(found.texts, descending);
+    const auto key = [&](std::uint32_t number) { return found.keys[number]; };
+    const auto text = [&](std::uint32_t number) { return found.texts[number]; };
+    if (!found.keys.ascending()) {
+        for (auto first = numbers.begin(), end = first; first != numbers.end(); first = end) {
+            end = std::find_if(first, numbers.end(), [&](std::uint32_t next) { return text(next) != text(*first); });
+            std::ranges::sort(first, end, {}, key);
+        }
+    }
+    found.textless.sort(false);
+    ado::RowKeys keys = descending ? ado::RowKeys() : found.textless;
+    for (const std::uint32_t number : numbers) keys.append(key(number));
+    for (std::size_t i = 0; descending && i < found.textless.size(); ++i) keys.append(found.textless[i]);
+    return keys;
+}
+
 }  // namespace
 
 TableRowset::TableRowset(std::shared_ptr<Writes> writes, TableInfo table, const TableSelect& select)
@@ -36,13 +54,17 @@ TableRowset::TableRowset(std::shared_ptr<Writes> writes, TableInfo table, const 
     for (const OrderTerm& term : order_) (void)table_.requireColumn(term.column);
     condition_ = translateCondition(select.condition, table_);
     row_.resize(columns_.size());
-    if (!select.condition.empty()) (void)writes_->database().prepared(keysQuery(nullptr).sql);
+    if (!select.condition.empty()) (void)writes_->database().prepared(keysQuery(nullptr, order()).sql);
 }
 
 TableRowset::Order TableRowset::order() const {
     if (order_.empty()) return Order::ascendingKey;
-    if (!automation::equalIgnoreCase(order_.front().column, table_.key)) return Order::other;
-    return order_.front().descending ? Order::descendingKey : Order::ascendingKey;
+    const OrderTerm& first = order_.front();
+    if (automation::equalIgnoreCase(first.column, table_.key)) {
+        return first.descending ? Order::descendingKey : Order::ascendingKey;
+    }
+    const bool text = order_.size() == 1 && isText(table_.columns[table_.requireColumn(first.column)]);
+    return text ? Order::text : Order::other;
 }
 
 std::string TableRowset::orderClause() const {
@@ -68,31 +90,37 @@ BoundSql TableRowset::conditionWith(const ado::Criterion* criterion) const {
     return query;
 }
 
-// The keys come as they are found when the order is the key's own: what is not in order then is sorted afterwards,
-// which takes less time than SQLite's sorter. An aggregate that runs inside SQLite saves a call and a row for every
-// key.
-BoundSql TableRowset::keysQuery(const ado::Criterion* criterion) const {
+// The keys come as they are found when the order is the key's own or that of one text: what is not in order then is
+// sorted afterwards, which takes less time than SQLite's sorter. An aggregate that runs inside SQLite saves a call and
+// a row for every key.
+BoundSql TableRowset::keysQuery(const ado::Criterion* criterion, Order order) const {
     BoundSql query = conditionWith(criterion);
-    const std::string key = quotedName(table_.key);
-    const bool byKey = order() != Order::other;
-    query.sql = "SELECT " + (byKey ? "hx_keys(" + key + ")" : key) + " FROM " + quotedName(table_.name) + query.sql;
-    if (!byKey) query.sql += orderClause();
+    std::string result = quotedName(table_.key);
+    if (order == Order::text) result += ", " + quotedName(order_.front().column);
+    if (order != Order::other) result = "hx_keys(" + result + ")";
+    query.sql = "SELECT " + result + " FROM " + quotedName(table_.name) + query.sql;
+    if (order == Order::other) query.sql += orderClause();
     return query;
 }
 
-ado::RowKeys TableRowset::keys(const ado::Criterion* criterion) {
-    const BoundSql query = keysQuery(criterion);
+ado::RowKeys TableRowset::keys(const ado::Criterion* criterion) { return keys(criterion, order()); }
+
+ado::RowKeys TableRowset::keys(const ado::Criterion* criterion, Order order) {
+    const BoundSql query = keysQuery(criterion, order);
     Statement& statement = writes_->database().prepared(query.sql);
     const ResetGuard guard(statement);
     bindAll(statement, query.parameters);
     ado::RowKeys keys;
-    if (order() == Order::other) {
+    if (order == Order::other) {
         while (statement.step()) keys.append(statement.key(0));
         return keys;
     }
-    keys = writes_->database().collect(statement);
-    keys.sort(order() == Order::descendingKey);
-    return keys;
+    Collection found = writes_->database().collect(statement);
+    if (order == Order::text) {
+        return found.onlyTexts ? byText(found, order_.front().descending) : this->keys(criterion, Order::other);
+    }
+    found.keys.sort(order == Order::descendingKey);
+    return std::move(found.keys);
 }
 
 std::string TableRowset::readQuery() const {

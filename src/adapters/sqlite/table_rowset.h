@@ -25,12 +25,13 @@ class TableRowset : public ado::Rowset {
     void remove(ado::Key key) override;
 
   private:
-    enum class Order { ascendingKey, descendingKey, other };
+    enum class Order { ascendingKey, descendingKey, text, other };
 
     [[nodiscard]] Order order() const;
     [[nodiscard]] std::string orderClause() const;
     [[nodiscard]] BoundSql conditionWith(const ado::Criterion* criterion) const;
-    [[nodiscard]] BoundSql keysQuery(const ado::Criterion* criterion) const;
+    [[nodiscard]] BoundSql keysQuery(const ado::Criterion* criterion, Order order) const;
+    [[nodiscard]] ado::RowKeys keys(const ado::Criterion* criterion, Order order);
     [[nodiscard]] std::string readQuery() const;
     void giveRow(Statement& statement, std::size_t index, ado::RowSink& sink);
     void readRange(const std::string& query, std::span<const ado::Key> keys, ado::RowSink& sink);

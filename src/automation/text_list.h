@@ -1,0 +1,44 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "automation/text.h"
+
+namespace hx::automation {
+
+/// Many texts in one piece of memory, numbered from 0.
+class TextList {
+  public:
+    void append(std::string_view text) {
+        bytes_ += text;
+        ends_.push_back(bytes_.size());
+    }
+    /// The text without case.
+    void appendFolded(std::string_view text) {
+        automation::appendFolded(bytes_, text);
+        ends_.push_back(bytes_.size());
+    }
+    void reserve(std::size_t texts, std::size_t bytes = 0) {
+        ends_.reserve(texts);
+        bytes_.reserve(bytes);
+    }
+    [[nodiscard]] std::size_t bytes() const noexcept { return bytes_.size(); }
+    [[nodiscard]] std::size_t size() const noexcept { return ends_.size(); }
+    [[nodiscard]] std::string_view operator[](std::size_t number) const {
+        const std::size_t start = number == 0 ? 0 : ends_[number - 1];
+        return std::string_view(bytes_).substr(start, ends_[number] - start);
+    }
+
+  private:
+    std::string bytes_;
+    std::vector<std::size_t> ends_;
+};
+
+/// The numbers of all texts in ascending or descending order of their bytes. Equal ones keep their order.
+[[nodiscard]] std::vector<std::uint32_t> inOrder(const TextList& texts, bool descending = false);
+
+}  // namespace hx::automation
