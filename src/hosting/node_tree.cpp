@@ -20,7 +20,7 @@ constexpr int nearAncestors = 3;
 NodeTree::NodeTree() { clear(); }
 
 NodeTree::Id NodeTree::add(const host::NewNode& node) {
-    const Id parentId = findParent(node.parent);
+    const Id parentId = findNear(node.parent);
     if (parentId == none) automation::throwBadIndex("Explorer", automation::Variant(node.parent));
     if (node.key.empty()) throw Error(errBadIndex, "A node of the explorer needs a key");
     const Id id = free_.empty() ? static_cast<Id>(nodes_.size()) : free_.back();
@@ -52,7 +52,7 @@ NodeTree::Id NodeTree::find(std::string_view key) const noexcept {
     return index_.find(automation::KeyIndex::hashOf(key), [&](Id id) { return nodes_[id].key == key; });
 }
 
-NodeTree::Id NodeTree::findParent(std::string_view key) const noexcept {
+NodeTree::Id NodeTree::findNear(std::string_view key) const noexcept {
     if (key.empty()) return root;
     Id near = last_;
     for (int i = 0; i < nearAncestors && near != root; ++i, near = nodes_[near].parent) {

@@ -30,6 +30,9 @@ class NodeTree {
     void remove(Id id);                 ///< with everything below it; the root keeps itself
     [[nodiscard]] Id find(std::string_view key) const noexcept;  ///< none when unknown; keys are case-sensitive
 
+    /// The same for a node that is likely to be the one added last or one above it; an empty key is the root.
+    [[nodiscard]] Id findNear(std::string_view key) const noexcept;
+
     [[nodiscard]] Id parent(Id id) const noexcept;  ///< none for the root
     [[nodiscard]] std::size_t childCount(Id id) const noexcept;
     [[nodiscard]] Id child(Id id, std::size_t row) const noexcept;
@@ -63,7 +66,6 @@ class NodeTree {
         std::int32_t number = 0;
         std::array<bool, 3> options{};
     };
-    [[nodiscard]] Id findParent(std::string_view key) const noexcept;
     void takeSlot();
     [[nodiscard]] std::uint32_t takeList();
     void attach(Id id, Id parentId);

@@ -75,7 +75,7 @@ const hosting::NodeTree& ExplorerModel::nodes() {
 
 int ExplorerModel::depth(std::string_view key) const {
     int depth = 0;
-    for (Id id = tree_.find(key); id != hosting::NodeTree::none && id != hosting::NodeTree::root;
+    for (Id id = tree_.findNear(key); id != hosting::NodeTree::none && id != hosting::NodeTree::root;
          id = tree_.parent(id)) {
         ++depth;
     }
