@@ -1,5 +1,7 @@
 #include "automation/key_index.h"
 
+#include <algorithm>
+#include <bit>
 #include <utility>
 
 namespace hx::automation {
@@ -47,8 +49,10 @@ void KeyIndex::place(Slot slot) noexcept {
     slots_[at] = slot;
 }
 
-void KeyIndex::grow() {
-    std::vector<Slot> old(slots_.empty() ? firstSize : slots_.size() * 2);
+void KeyIndex::reserve(std::size_t count) {
+    const std::size_t size = std::max(firstSize, std::bit_ceil(count * 2));
+    if (size <= slots_.size()) return;
+    std::vector<Slot> old(size);
     old.swap(slots_);
     for (const Slot& slot : old) {
         if (slot.id != none) place(slot);

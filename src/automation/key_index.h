@@ -29,7 +29,7 @@ class KeyIndex {
     /// Adds a number, unless there is one for which `matches` holds: gives that one, else none.
     template <class Matches>
     Id insert(std::uint32_t hash, Id id, Matches matches) {
-        if ((count_ + 1) * 2 > slots_.size()) grow();
+        if ((count_ + 1) * 2 > slots_.size()) reserve(count_ + 1);
         std::size_t at = hash & mask();
         for (; slots_[at].id != none; at = (at + 1) & mask()) {
             if (slots_[at].hash == hash && matches(slots_[at].id)) return slots_[at].id;
@@ -38,6 +38,8 @@ class KeyIndex {
         ++count_;
         return none;
     }
+    /// Makes room for so many numbers.
+    void reserve(std::size_t count);
     /// Fetches the memory that looking for this hash soon will need.
     void prefetch(std::uint32_t hash) const noexcept {
         if (!slots_.empty()) __builtin_prefetch(&slots_[hash & mask()]);
@@ -55,7 +57,6 @@ class KeyIndex {
     };
     [[nodiscard]] std::size_t mask() const noexcept { return slots_.size() - 1; }
     void place(Slot slot) noexcept;
-    void grow();
 
     std::vector<Slot> slots_;  ///< a power of two, at most half full
     std::size_t count_ = 0;

@@ -1,6 +1,6 @@
 #include "forms/multi_items.h"
 
-#include <algorithm>
+#include <array>
 
 #include "automation/member_rows.h"
 #include "automation/text.h"
@@ -9,38 +9,109 @@ namespace hx::forms {
 
 using automation::Args;
 using automation::Error;
+using automation::KeyIndex;
 using automation::ObjectRef;
 using automation::Variant;
 
 std::optional<std::vector<std::string>> HXMultiItems::selectedItems() const {
-    if (selected_.empty()) return {};
-    std::vector<const Selected*> inOrder;
-    inOrder.reserve(selected_.size());
-    for (const auto& [key, entry] : selected_) inOrder.push_back(&entry);
-    std::ranges::sort(inOrder, {}, &Selected::order);
+    if (count_ == 0) return {};
     std::vector<std::string> names;
-    names.reserve(inOrder.size());
-    for (const Selected* entry : inOrder) names.push_back(entry->name);
+    names.reserve(count_);
+    for (std::size_t number = 0; number < names_.size(); ++number) {
+        if (checked_[number]) names.emplace_back(names_[number]);
+    }
     return names;
 }
 
-// A name that is given twice stands in the selection twice: what the caller stored is not thinned out here.
 void HXMultiItems::setSelectedItems(const std::optional<std::vector<std::string>>& names) {
-    selected_.clear();
-    nextOrder_ = 0;
-    for (const std::string& name : names.value_or(std::vector<std::string>())) {
-        selected_.emplace(automation::foldCase(name), Selected{nextOrder_++, name});
+    automation::TextList list;
+    for (const std::string& name : names.value_or(std::vector<std::string>())) list.append(name);
+    setSelectedNames(std::move(list));
+}
+
+// Calls `use` with the number and the hash of each name. What the index keeps of it is fetched before, of several at
+// the same time.
+template <class Name, class Use>
+void HXMultiItems::forEachHashed(std::size_t count, const Name& name, Use use) const {
+    constexpr std::size_t ahead = 16;
+    std::array<std::uint32_t, ahead> hashes{};
+    for (std::size_t i = 0; i < count + ahead; ++i) {
+        std::uint32_t& hash = hashes[i % ahead];
+        if (i >= ahead) use(i - ahead, hash);
+        if (i >= count) continue;
+        hash = KeyIndex::hashOf(name(i));
+        index_.prefetch(hash);
     }
+}
+
+// A name that is given twice stands in the selection twice: what the caller stored is not thinned out here.
+void HXMultiItems::setSelectedNames(automation::TextList names) {
+    names_ = std::move(names);
+    folded_ = {};
+    folded_.reserve(names_.size());
+    checked_.assign(names_.size(), true);
+    count_ = names_.size();
+    repeated_.clear();
+    index_.clear();
+    index_.reserve(count_);
+    for (std::size_t number = 0; number < count_; ++number) folded_.appendFolded(names_[number]);
+    forEachHashed(
+        count_, [this](std::size_t number) { return folded_[number]; },
+        [this](std::size_t number, std::uint32_t hash) { index(static_cast<Id>(number), hash); });
     changed.raise("SelectedItems");
 }
 
-bool HXMultiItems::isSelected(std::string_view name) const { return selected_.contains(automation::foldCase(name)); }
+void HXMultiItems::index(Id number, std::uint32_t hash) {
+    const std::string_view name = folded_[number];
+    const auto same = [&](Id other) { return folded_[other] == name; };
+    const Id first = index_.insert(hash, number, same);
+    if (first != KeyIndex::none) repeated_.emplace(first, number);
+}
+
+HXMultiItems::Id HXMultiItems::find(std::string_view folded) const {
+    return index_.find(KeyIndex::hashOf(folded), [&](Id other) { return folded_[other] == folded; });
+}
+
+bool HXMultiItems::isSelected(std::string_view name) const { return isSelectedFolded(automation::foldCase(name)); }
+
+std::vector<std::string> HXMultiItems::selectedBeside(std::size_t others, const FoldedName& other) const {
+    std::vector<bool> beside = checked_;
+    forEachHashed(others, other, [&](std::size_t i, std::uint32_t hash) {
+        const std::string_view name = other(i);
+        const Id found = index_.find(hash, [&](Id number) { return folded_[number] == name; });
+        if (found != KeyIndex::none) beside[found] = false;
+    });
+    for (const auto& [first, number] : repeated_) beside[number] = false;
+    std::vector<std::string> names;
+    for (std::size_t number = 0; number < beside.size(); ++number) {
+        if (beside[number]) names.emplace_back(names_[number]);
+    }
+    return names;
+}
+
+void HXMultiItems::drop(Id number) {
+    checked_[number] = false;
+    --count_;
+}
 
 bool HXMultiItems::put(std::string_view name, bool selected) {
-    const std::string key = automation::foldCase(name);
-    if (!selected) return selected_.erase(key) > 0;
-    if (selected_.contains(key)) return false;
-    selected_.emplace(key, Selected{nextOrder_++, std::string(name)});
+    const std::string folded = automation::foldCase(name);
+    const Id known = find(folded);
+    if (selected == (known != KeyIndex::none)) return false;
+    if (selected) {
+        const auto number = static_cast<Id>(names_.size());
+        names_.append(name);
+        folded_.append(folded);
+        checked_.push_back(true);
+        ++count_;
+        index(number, KeyIndex::hashOf(folded));
+        return true;
+    }
+    index_.erase(KeyIndex::hashOf(folded), known);
+    drop(known);
+    const auto [first, end] = repeated_.equal_range(known);
+    for (auto again = first; again != end; ++again) drop(again->second);
+    repeated_.erase(first, end);
     return true;
 }
 

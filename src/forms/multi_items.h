@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <span>
 #include <string>
@@ -8,6 +9,8 @@
 #include <unordered_map>
 #include <vector>
 
+#include "automation/key_index.h"
+#include "automation/text_list.h"
 #include "forms/control.h"
 
 namespace hx::forms {
@@ -28,10 +31,19 @@ class HXMultiItems : public Control {
     [[nodiscard]] std::optional<std::vector<std::string>> selectedItems() const;
     /// Replaces the selection, also when the same names are given. Raises `changed` with "SelectedItems".
     void setSelectedItems(const std::optional<std::vector<std::string>>& names);
+    /// The same, fit for many names.
+    void setSelectedNames(automation::TextList names);
 
     // --- what a view shows and reports; each change raises `changed` with "SelectedItems" once
     [[nodiscard]] bool isSelected(std::string_view name) const;
-    [[nodiscard]] std::size_t selectedCount() const noexcept { return selected_.size(); }
+    /// The same for a name that is folded already (automation::foldCase).
+    [[nodiscard]] bool isSelectedFolded(std::string_view name) const {
+        return find(name) != automation::KeyIndex::none;
+    }
+    [[nodiscard]] std::size_t selectedCount() const noexcept { return count_; }
+    /// The checked names that are not among so many others, which are asked for by number and folded; each once.
+    using FoldedName = std::function<std::string_view(std::size_t number)>;
+    [[nodiscard]] std::vector<std::string> selectedBeside(std::size_t others, const FoldedName& other) const;
     /// Checks or unchecks a name; what is so already stays.
     void select(std::string_view name, bool selected);
     void select(std::span<const std::string> names, bool selected);
@@ -42,15 +54,21 @@ class HXMultiItems : public Control {
     [[nodiscard]] const automation::MemberTable& members() const override;
 
   private:
-    struct Selected {
-        std::size_t order;
-        std::string name;
-    };
+    using Id = automation::KeyIndex::Id;
+    [[nodiscard]] Id find(std::string_view folded) const;
     bool put(std::string_view name, bool selected);
+    template <class Name, class Use>
+    void forEachHashed(std::size_t count, const Name& name, Use use) const;
+    void index(Id number, std::uint32_t hash);
+    void drop(Id number);
 
     std::int32_t itemFilter_ = 0;
-    std::unordered_multimap<std::string, Selected> selected_;  // by the name without case
-    std::size_t nextOrder_ = 0;
+    // By number, in the order in which they were checked; what was unchecked since is still there.
+    automation::TextList names_, folded_;
+    std::vector<bool> checked_;
+    automation::KeyIndex index_;                // of what is checked, the first of equal names
+    std::unordered_multimap<Id, Id> repeated_;  // the others, by the first
+    std::size_t count_ = 0;
 };
 
 }  // namespace hx::forms

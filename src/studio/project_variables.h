@@ -14,7 +14,7 @@ class ProjectVariables : public qt::VariableSource {
         : options_(std::move(options)) {}
     /// Empty while no project is open.
     void setFile(const std::string& path) { file_ = path; }
-    [[nodiscard]] std::vector<qt::Variable> variables() const override;
+    [[nodiscard]] qt::VariableList variables() const override;
 
   private:
     sqlite::Provider::Options options_;

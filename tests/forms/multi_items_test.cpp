@@ -167,5 +167,35 @@ TEST_F(MultiItemsByName, AreCheckedAndUncheckedByMethods) {
     EXPECT_EQ(items.get("IsSelected", name), Variant(false));
 }
 
+TEST(MultiItems, TellsWhichCheckedNamesAreNotAmongOthers) {
+    HXMultiItems items("hxMI");
+    items.setSelectedItems(std::vector<std::string>{"Tank.Ein", "B", "ÜBERLAST", "tank.ein", "b"});
+    const std::vector<std::string> others = {"überlast", "c", "tank.ein"};
+    const auto other = [&](std::size_t number) -> std::string_view { return others[number]; };
+    EXPECT_EQ(items.selectedBeside(others.size(), other), std::vector<std::string>{"B"});
+    items.select("B", false);
+    EXPECT_EQ(items.selectedBeside(others.size(), other), std::vector<std::string>());
+    EXPECT_EQ(items.selectedCount(), 3U);
+    EXPECT_TRUE(items.isSelectedFolded("überlast"));
+    EXPECT_FALSE(items.isSelectedFolded("b"));
+}
+
+// More than are looked for at the same time.
+TEST(MultiItems, KeepsManyNamesInTheirOrder) {
+    HXMultiItems items("hxMI");
+    automation::TextList names;
+    std::vector<std::string> expected;
+    for (int i = 0; i < 1000; ++i) {
+        names.append("V" + std::to_string(i * 7 % 1000));
+        expected.push_back("V" + std::to_string(i * 7 % 1000));
+    }
+    items.setSelectedNames(names);
+    EXPECT_EQ(items.selectedItems(), expected);
+    for (const std::string& name : expected) EXPECT_TRUE(items.isSelected(name)) << name;
+    EXPECT_EQ(items.selectedBeside(0, {}), expected);
+    items.setSelectedNames({});
+    EXPECT_EQ(items.selectedItems(), std::nullopt);
+}
+
 }  // namespace
 }  // namespace hx::forms

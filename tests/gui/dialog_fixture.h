@@ -24,7 +24,7 @@ class ListedVariables : public qt::VariableSource {
   public:
     std::vector<qt::Variable> list;
     std::optional<automation::Error> error;
-    [[nodiscard]] std::vector<qt::Variable> variables() const override {
+    [[nodiscard]] qt::VariableList variables() const override {
         if (error) throw automation::Error(*error);
         return list;
     }

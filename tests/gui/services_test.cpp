@@ -21,8 +21,8 @@ namespace {
 
 class FewVariables : public qt::VariableSource {
   public:
-    [[nodiscard]] std::vector<qt::Variable> variables() const override {
-        return {
+    [[nodiscard]] qt::VariableList variables() const override {
+        return std::vector<qt::Variable>{
             {"Mischer.Drehzahl", "REAL", "1/min"}, {"Mischer.Ein", "BOOL", "läuft"}, {"Tank.Füllstand", "REAL", ""}};
     }
 };

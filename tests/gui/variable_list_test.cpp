@@ -1,4 +1,4 @@
-#include "adapters/qt/choosers/variable_list.h"
+#include "adapters/qt/variable_list.h"
 
 #include <gtest/gtest.h>
 
@@ -12,7 +12,7 @@ std::vector<std::string> found(const VariableList& list, const char* text) {
     const VariableFilter filter(text);
     std::vector<std::string> names;
     for (std::size_t row = 0; row < list.size(); ++row) {
-        if (filter.matches(list.folded(row))) names.push_back(list[row].name);
+        if (filter.matches(list.folded(row))) names.emplace_back(list.text(row, VariableField::name));
     }
     return names;
 }

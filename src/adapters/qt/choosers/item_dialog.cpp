@@ -7,10 +7,10 @@
 
 namespace hx::qt {
 
-ItemDialog::ItemDialog(const Wording& wording, std::vector<Variable> variables, QWidget* owner)
+ItemDialog::ItemDialog(const Wording& wording, VariableList variables, QWidget* owner)
     : QDialog(owner == nullptr ? QApplication::activeWindow() : owner->window()),
       wording_(wording),
-      model_(std::make_unique<const VariableList>(std::move(variables)), wording),
+      model_(std::move(variables), wording),
       table_(model_, searchField_) {
     setObjectName(QStringLiteral("itemDialog"));
     searchLabel_.setText(wording.text(Word::searchVariable));

@@ -15,7 +15,7 @@ namespace hx::qt {
 /// Chooses one variable: a search field over a list.
 class ItemDialog : public QDialog {
   public:
-    ItemDialog(const Wording& wording, std::vector<Variable> variables, QWidget* owner);
+    ItemDialog(const Wording& wording, VariableList variables, QWidget* owner);
     /// Selects the variable of this name, when there is one.
     void select(const QString& name);
     [[nodiscard]] QString selected() const;

@@ -4,35 +4,14 @@
 #include <QFont>
 #include <QPalette>
 #include <QScopedValueRollback>
-#include <unordered_set>
+#include <array>
 
 #include "adapters/qt/text.h"
-#include "automation/text.h"
 
 namespace hx::qt {
 
-namespace {
-
-/// The checked names that a list does not have, each once.
-std::vector<Variable> missingIn(const VariableList& list, const forms::HXMultiItems& items, const QString& comment) {
-    std::vector<Variable> missing;
-    std::unordered_set<std::string> seen;
-    for (const std::string& name : items.selectedItems().value_or(std::vector<std::string>())) {
-        if (list.find(name) || !seen.insert(automation::foldCase(name)).second) continue;
-        missing.push_back({name, {}, fromQt(comment)});
-    }
-    return missing;
-}
-
-std::unique_ptr<const VariableList> joined(std::vector<Variable> first, std::vector<Variable> rest) {
-    first.insert(first.end(), std::make_move_iterator(rest.begin()), std::make_move_iterator(rest.end()));
-    return std::make_unique<const VariableList>(std::move(first));
-}
-
-}  // namespace
-
-MultiItemsModel::MultiItemsModel(forms::HXMultiItems& items, std::vector<Variable> variables, const Wording& wording)
-    : VariableModel(std::make_unique<const VariableList>(std::move(variables)), wording),
+MultiItemsModel::MultiItemsModel(forms::HXMultiItems& items, VariableList variables, const Wording& wording)
+    : VariableModel(std::move(variables), wording),
       items_(&items),
       missingText_(wording.text(Word::missingVariable)),
       missing_(0) {
@@ -44,22 +23,21 @@ void MultiItemsModel::refresh() {
     if (items_ == nullptr) return;
     if (rowCount() > 0) emit dataChanged(index(0, 0), index(rowCount() - 1, 0), {Qt::CheckStateRole});
     if (checking_) return;
-    auto missing = missingIn(list(), *items_, missingText_);
+    std::vector<Variable> missing;
+    const auto known = [this](std::size_t number) { return list().foldedName(number); };
+    for (std::string& name : items_->selectedBeside(list().size(), known)) {
+        missing.push_back({std::move(name), {}, fromQt(missingText_)});
+    }
     if (missing.empty()) return;
     missing_ += missing.size();
-    std::vector<Variable> known;
-    known.reserve(list().size());
-    for (std::size_t number = 0; number < list().size(); ++number) known.push_back(list()[number]);
-    replaceList(joined(std::move(missing), std::move(known)));
+    prepend(missing);
 }
 
-bool MultiItemsModel::offers(std::size_t number) const { return !onlyChecked_ || isChecked(list()[number].name); }
-
-bool MultiItemsModel::isChecked(int row) const { return isChecked(nameOf(row)); }
+bool MultiItemsModel::offers(std::size_t number) const { return !onlyChecked_ || isNumberChecked(number); }
 
 std::size_t MultiItemsModel::missingCount() const {
     std::size_t count = 0;
-    for (std::size_t number = 0; number < missing_; ++number) count += isChecked(list()[number].name) ? 1U : 0U;
+    for (std::size_t number = 0; number < missing_; ++number) count += isNumberChecked(number) ? 1U : 0U;
     return count;
 }
 
@@ -81,7 +59,7 @@ QVariant MultiItemsModel::data(const QModelIndex& index, int role) const {
 
 bool MultiItemsModel::setData(const QModelIndex& index, const QVariant& value, int role) {
     if (role != Qt::CheckStateRole || !index.isValid() || items_ == nullptr) return false;
-    check(std::span(&nameOf(index.row()), 1), value.toInt() == Qt::Checked);
+    check(std::array{std::string(nameOf(index.row()))}, value.toInt() == Qt::Checked);
     return true;
 }
 

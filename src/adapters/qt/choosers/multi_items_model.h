@@ -14,13 +14,13 @@ namespace hx::qt {
 class MultiItemsModel : public VariableModel {
   public:
     /// `items` is lent until forget().
-    MultiItemsModel(forms::HXMultiItems& items, std::vector<Variable> variables, const Wording& wording);
+    MultiItemsModel(forms::HXMultiItems& items, VariableList variables, const Wording& wording);
     [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
     bool setData(const QModelIndex& index, const QVariant& value, int role) override;
     [[nodiscard]] Qt::ItemFlags flags(const QModelIndex& index) const override;
 
-    [[nodiscard]] bool isChecked(int row) const;
-    [[nodiscard]] const std::string& nameOf(int row) const { return list()[numberOf(row)].name; }
+    [[nodiscard]] bool isChecked(int row) const { return isNumberChecked(numberOf(row)); }
+    [[nodiscard]] std::string_view nameOf(int row) const { return list().text(numberOf(row), VariableField::name); }
     /// Checks or unchecks names.
     void check(std::span<const std::string> names, bool checked);
     /// How many of the checked names are missing.
@@ -35,8 +35,8 @@ class MultiItemsModel : public VariableModel {
     [[nodiscard]] bool offers(std::size_t number) const override;
 
   private:
-    [[nodiscard]] bool isChecked(const std::string& name) const {
-        return items_ != nullptr && items_->isSelected(name);
+    [[nodiscard]] bool isNumberChecked(std::size_t number) const {
+        return items_ != nullptr && items_->isSelectedFolded(list().foldedName(number));
     }
     forms::HXMultiItems* items_;
     const QString missingText_;

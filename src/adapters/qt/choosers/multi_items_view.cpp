@@ -10,8 +10,8 @@ namespace hx::qt {
 
 namespace {
 
-std::vector<Variable> variablesOf(const VariableSource* source) {
-    return source == nullptr ? std::vector<Variable>() : source->variables();
+VariableList variablesOf(const VariableSource* source) {
+    return source == nullptr ? VariableList() : source->variables();
 }
 
 }  // namespace
@@ -82,10 +82,10 @@ void MultiItemsView::toggle() {
     const bool check = !model_.isChecked(current.row());
     const QItemSelectionModel& selection = *table_.selectionModel();
     if (!selection.isRowSelected(current.row(), {}))
-        return model_.check(std::array{model_.nameOf(current.row())}, check);
+        return model_.check(std::array{std::string(model_.nameOf(current.row()))}, check);
     std::vector<std::string> names;
     for (const QItemSelectionRange& range : selection.selection()) {
-        for (int row = range.top(); row <= range.bottom(); ++row) names.push_back(model_.nameOf(row));
+        for (int row = range.top(); row <= range.bottom(); ++row) names.emplace_back(model_.nameOf(row));
     }
     model_.check(names, check);
 }

@@ -10,13 +10,13 @@ namespace hx::qt {
 
 namespace {
 
-constexpr std::array<std::string Variable::*, 3> fields = {&Variable::name, &Variable::type, &Variable::comment};
+constexpr std::array fields = {VariableField::name, VariableField::type, VariableField::comment};
 
 }  // namespace
 
-VariableModel::VariableModel(std::unique_ptr<const VariableList> list, const Wording& wording)
+VariableModel::VariableModel(VariableList list, const Wording& wording)
     : list_(std::move(list)),
-      shown_(list_->size()),
+      shown_(list_.size()),
       headers_{wording.text(Word::variableName), wording.text(Word::variableType),
                wording.text(Word::variableComment)} {
     std::iota(shown_.begin(), shown_.end(), std::size_t{0});
@@ -32,7 +32,7 @@ int VariableModel::columnCount(const QModelIndex& parent) const {
 
 QVariant VariableModel::data(const QModelIndex& index, int role) const {
     if (role != Qt::DisplayRole || !index.isValid()) return {};
-    return toQt((*list_)[numberOf(index.row())].*fields[static_cast<std::size_t>(index.column())]);
+    return toQt(list_.text(numberOf(index.row()), fields[static_cast<std::size_t>(index.column())]));
 }
 
 QVariant VariableModel::headerData(int section, Qt::Orientation orientation, int role) const {
@@ -47,9 +47,9 @@ void VariableModel::search(const QString& text) {
     endResetModel();
 }
 
-void VariableModel::replaceList(std::unique_ptr<const VariableList> list) {
+void VariableModel::prepend(const std::vector<Variable>& variables) {
     beginResetModel();
-    list_ = std::move(list);
+    list_.prepend(variables);
     collect();
     endResetModel();
 }
@@ -57,19 +57,13 @@ void VariableModel::replaceList(std::unique_ptr<const VariableList> list) {
 void VariableModel::collect() {
     const VariableFilter filter(fromQt(text_));
     shown_.clear();
-    for (std::size_t number = 0; number < list_->size(); ++number) {
-        if (offers(number) && filter.matches(list_->folded(number))) shown_.push_back(number);
+    for (std::size_t number = 0; number < list_.size(); ++number) {
+        if (offers(number) && filter.matches(list_.folded(number))) shown_.push_back(number);
     }
 }
 
 QString VariableModel::longest(int column) const {
-    const auto field = fields[static_cast<std::size_t>(column)];
-    const std::string* found = nullptr;
-    for (std::size_t number = 0; number < list_->size(); ++number) {
-        const std::string& text = (*list_)[number].*field;
-        if (found == nullptr || text.size() > found->size()) found = &text;
-    }
-    return found == nullptr ? QString() : toQt(*found);
+    return toQt(list_.longest(fields[static_cast<std::size_t>(column)]));
 }
 
 int VariableModel::rowOf(std::size_t number) const {
@@ -78,7 +72,7 @@ int VariableModel::rowOf(std::size_t number) const {
 }
 
 int VariableModel::find(const QString& name) const {
-    const auto number = list_->find(fromQt(name));
+    const auto number = list_.find(fromQt(name));
     return number ? rowOf(*number) : -1;
 }
 

@@ -2,10 +2,9 @@
 
 #include <QAbstractTableModel>
 #include <array>
-#include <memory>
 #include <vector>
 
-#include "adapters/qt/choosers/variable_list.h"
+#include "adapters/qt/variable_list.h"
 #include "adapters/qt/wording.h"
 
 namespace hx::qt {
@@ -16,13 +15,13 @@ class VariableModel : public QAbstractTableModel {
   public:
     static constexpr int nameColumn = 0, typeColumn = 1, commentColumn = 2;
 
-    VariableModel(std::unique_ptr<const VariableList> list, const Wording& wording);
+    VariableModel(VariableList list, const Wording& wording);
     [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
     [[nodiscard]] int columnCount(const QModelIndex& parent = {}) const override;
     [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
     [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
-    [[nodiscard]] const VariableList& list() const noexcept { return *list_; }
+    [[nodiscard]] const VariableList& list() const noexcept { return list_; }
     /// Shows what matches; all rows are new.
     void search(const QString& text);
     [[nodiscard]] std::size_t numberOf(int row) const { return shown_[static_cast<std::size_t>(row)]; }
@@ -37,11 +36,12 @@ class VariableModel : public QAbstractTableModel {
   protected:
     /// What a derived list lets through beside the words.
     [[nodiscard]] virtual bool offers(std::size_t) const { return true; }
-    void replaceList(std::unique_ptr<const VariableList> list);
+    /// Puts variables before all others.
+    void prepend(const std::vector<Variable>& variables);
 
   private:
     void collect();
-    std::unique_ptr<const VariableList> list_;
+    VariableList list_;
     QString text_;
     std::vector<std::size_t> shown_;  // ascending
     std::array<QString, 3> headers_;

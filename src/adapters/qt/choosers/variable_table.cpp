@@ -7,6 +7,8 @@
 #include <algorithm>
 #include <array>
 
+#include "adapters/qt/header_selection.h"
+
 namespace hx::qt {
 
 namespace {
@@ -32,6 +34,11 @@ bool isText(const QKeyEvent& event) {
 }  // namespace
 
 VariableTable::VariableTable(VariableModel& model, QLineEdit& search) : search_(search) {
+    // Before there are rows, each of which it would be done for.
+    verticalHeader()->setMinimumSectionSize(1);
+    verticalHeader()->setDefaultSectionSize(fontMetrics().height() * 4 / 3);
+    verticalHeader()->hide();
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     setModel(&model);
     setSelectionBehavior(QAbstractItemView::SelectRows);
     setEditTriggers(QAbstractItemView::NoEditTriggers);
@@ -40,8 +47,7 @@ VariableTable::VariableTable(VariableModel& model, QLineEdit& search) : search_(
     setWordWrap(false);
     setAlternatingRowColors(true);
     setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
-    verticalHeader()->hide();
-    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    ignoreSelection(*this);
     horizontalHeader()->setHighlightSections(false);
     horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     horizontalHeader()->setStretchLastSection(true);
@@ -52,8 +58,6 @@ VariableTable::VariableTable(VariableModel& model, QLineEdit& search) : search_(
 // The longest text decides; measuring each of many thousands would take its time.
 void VariableTable::fitColumns(const VariableModel& model) {
     const QFontMetrics font = fontMetrics();
-    verticalHeader()->setMinimumSectionSize(1);
-    verticalHeader()->setDefaultSectionSize(font.height() * 4 / 3);
     width_ = verticalScrollBar()->sizeHint().width() + font.height();
     for (int column = 0; column < static_cast<int>(bounds.size()); ++column) {
         const auto [least, most] = bounds[static_cast<std::size_t>(column)];
