@@ -121,6 +121,7 @@ Subject delete_member::ours(const Project& project, bool sorted) {
             studio->grid().selectRow(*rows / 2);
             studio->settle();
         };
+        // The copy stays as long as the work.
         const auto check = [=, copy = copy] { require(studio->rows() == *rows - 1, "no member was deleted"); };
         return {select, [=] { studio->press(Qt::Key_Delete, Qt::ControlModifier); }, check};
     };

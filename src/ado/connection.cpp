@@ -72,6 +72,12 @@ void Connection::rollbackTrans() {
     ++rollbacks_;
 }
 
+std::optional<Connection::State> Connection::databaseState() {
+    const auto changes = withSession([](Session& open) { return open.othersChanges(); });
+    if (!changes) return {};
+    return State{*changes, writes_, rollbacks_};
+}
+
 Session& Connection::session() {
     if (!session_) throwObjectClosed();
     return *session_;

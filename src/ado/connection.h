@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -55,6 +56,16 @@ class Connection : public automation::Dispatch {
     void noteWrite() noexcept { ++writes_; }
     /// Counts the transactions that were rolled back: rows may have come and gone.
     [[nodiscard]] std::uint64_t rollbacks() const noexcept { return rollbacks_; }
+
+    /// A state of the database, as far as this connection can see it.
+    struct State {
+        std::int64_t othersChanges;
+        std::uint64_t writes, rollbacks;
+        friend bool operator==(const State&, const State&) = default;
+    };
+    /// The present one, equal to an earlier one only when nothing has been changed since; nothing when that cannot be
+    /// told.
+    [[nodiscard]] std::optional<State> databaseState();
 
     void attach(ConnectionClient& client) { clients_.push_back(&client); }
     void detach(ConnectionClient& client) noexcept { std::erase(clients_, &client); }

@@ -4,6 +4,7 @@
 #include <limits>
 #include <utility>
 
+#include "ado/key_marks.h"
 #include "ado/keyset.h"
 
 namespace hx::ado {
@@ -33,6 +34,7 @@ automation::Variant keyValue(Key key) {
 const RowKeys& KeyList::keys() {
     owner_.refresh();
     if (!keys_) {
+        readAt_ = owner_.databaseState();
         keys_ = owner_.readKeys(filter_ ? &*filter_ : nullptr);
         for (const Key key : std::exchange(addedBefore_, {})) {
             if (!keys_->find(key)) keys_->append(key);
@@ -142,8 +144,23 @@ void KeyList::erased(Key key) {
     }
 }
 
+void KeyList::erased(const KeyMarks& keys) {
+    std::erase_if(addedBefore_, [&](Key key) { return keys.contains(key); });
+    pages_.clear();
+    if (!keys_) return;
+    for (Cursor* cursor : cursors_) {
+        if (cursor->place != Cursor::Place::row) continue;
+        std::size_t before = 0;
+        for (std::size_t i = 0; i < cursor->position; ++i) before += keys.contains((*keys_)[i]) ? 1U : 0U;
+        cursor->position -= before;
+        cursor->deleted = cursor->deleted || keys.contains(cursor->key);
+    }
+    keys_->erase(keys);
+}
+
 void KeyList::dropKeys() {
     keys_.reset();
+    readAt_.reset();
     addedBefore_.clear();
     pages_.clear();
     for (Cursor* cursor : cursors_) {

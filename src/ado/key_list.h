@@ -4,12 +4,14 @@
 #include <span>
 #include <vector>
 
+#include "ado/connection.h"
 #include "ado/criterion.h"
 #include "ado/cursor.h"
 #include "ado/page_cache.h"
 
 namespace hx::ado {
 
+class KeyMarks;
 class Keyset;
 
 /// A key as the value of its column.
@@ -20,6 +22,11 @@ class Keyset;
 class KeyList {
   public:
     KeyList(Keyset& owner, std::optional<Criterion> filter) : owner_(owner), filter_(std::move(filter)) {}
+
+    /// Whether reading the keys again in this state of the database would give the same.
+    [[nodiscard]] bool holdsAt(const std::optional<Connection::State>& state) const {
+        return state && readAt_ == state;
+    }
 
     [[nodiscard]] std::size_t size() { return keys().size(); }
     [[nodiscard]] Key key(std::size_t position) { return keys()[position]; }
@@ -47,6 +54,11 @@ class KeyList {
     void added(Key key);
     void changed(Key key);
     void erased(Key key);
+    void erased(const KeyMarks& keys);
+    /// All that was changed between two states of the database is known here.
+    void knows(const std::optional<Connection::State>& before, const std::optional<Connection::State>& after) {
+        if (readAt_ && readAt_ == before) readAt_ = after;
+    }
     void dropPages() noexcept { pages_.clear(); }
     void dropKeys();
 
@@ -61,7 +73,8 @@ class KeyList {
     Keyset& owner_;
     std::optional<Criterion> filter_;
     std::optional<RowKeys> keys_;
-    std::vector<Key> addedBefore_;  // rows stored while the keys had not been read
+    std::optional<Connection::State> readAt_;  // the state of the database that the keys are of
+    std::vector<Key> addedBefore_;             // rows stored while the keys had not been read
     PageCache pages_;
     std::vector<Cursor*> cursors_;
     std::size_t hint_ = 0;

@@ -1,6 +1,10 @@
 #include "ado/keyset.h"
 
+#include <algorithm>
+
 #include "ado/errors.h"
+#include "ado/key_marks.h"
+#include "automation/text_list.h"
 
 namespace hx::ado {
 
@@ -68,10 +72,10 @@ void Keyset::insertAll(std::span<const std::size_t> columns, RowSource& rows) {
         write([&](Rowset& open) { open.insertAll(columns, rows); });
     } catch (...) {
         connection_->noteWrite();  // rows before the failing one may be stored
-        requery();
+        dropKeys();
         throw;
     }
-    requery();
+    dropKeys();
 }
 
 void Keyset::update(Key key, std::span<const ColumnValue> values, std::span<const ColumnValue> read) {
@@ -84,7 +88,37 @@ void Keyset::remove(Key key) {
     forEachList([&](KeyList& list) { list.erased(key); });
 }
 
-void Keyset::requery() {
+void Keyset::remove(std::span<const Key> keys) {
+    KeyMarks wanted, gone;
+    for (const Key key : keys) wanted.insert(key);
+    std::vector<Key> rows;
+    const std::size_t size = all_->size();
+    for (std::size_t i = 0; i < size; ++i) {
+        if (wanted.contains(all_->key(i))) rows.push_back(all_->key(i));
+    }
+    std::ranges::sort(rows);  // as they lie in the database
+    const auto before = databaseState();
+    const auto forget = [&] {
+        auto after = before;
+        if (after) after->writes = connection_->writes();
+        forEachList([&](KeyList& list) {
+            list.erased(gone);
+            list.knows(before, after);
+        });
+    };
+    try {
+        for (const Key key : rows) {
+            write([&](Rowset& open) { open.remove(key); });
+            gone.insert(key);
+        }
+    } catch (...) {
+        forget();
+        throw;
+    }
+    forget();
+}
+
+void Keyset::dropKeys() {
     forEachList([](KeyList& list) { list.dropKeys(); });
 }
 
@@ -96,12 +130,51 @@ void Keyset::forgetOld() {
     seenWrites_ = connection_->writes();
     if (seenRollbacks_ == connection_->rollbacks()) return dropPages();
     seenRollbacks_ = connection_->rollbacks();
-    requery();
+    dropKeys();
 }
 
 RowKeys Keyset::readKeys(const Criterion* filter) {
     Rowset& open = rowset();
-    return connection_->withSession([&](Session&) { return open.keys(filter); });
+    RowKeys keys = connection_->withSession([&](Session&) { return open.keys(filter); });
+    return sorting_ ? sorted(std::move(keys)) : keys;
+}
+
+void Keyset::sortBy(Sorting sorting) {
+    sorting_ = std::move(sorting);
+    dropKeys();
+}
+
+namespace {
+
+/// One column of some rows; empty where a row is gone.
+class OneColumn : public RowSink {
+  public:
+    OneColumn(std::size_t column, std::size_t rows) : values(rows), column_(column) {}
+    void row(std::size_t index, std::span<automation::Variant> read) override {
+        values[index] = std::move(read[column_]);
+    }
+    std::vector<automation::Variant> values;
+
+  private:
+    std::size_t column_;
+};
+
+}  // namespace
+
+RowKeys Keyset::sorted(RowKeys keys) {
+    constexpr std::size_t rowsTogether = 1024;
+    keys.sort(false);  // as they lie in the database, and where they show the same
+    automation::TextList shown;
+    for (std::size_t first = 0; first < keys.size(); first += rowsTogether) {
+        std::vector<Key> asked(std::min(rowsTogether, keys.size() - first));
+        for (std::size_t i = 0; i < asked.size(); ++i) asked[i] = keys[first + i];
+        OneColumn read(sorting_->column, asked.size());
+        readRows(asked, columnBit(sorting_->column), read);
+        for (const automation::Variant& value : read.values) shown.appendFolded(sorting_->display(value));
+    }
+    RowKeys result;
+    for (const std::uint32_t number : automation::inOrder(shown, sorting_->descending)) result.append(keys[number]);
+    return result;
 }
 
 void Keyset::readRows(std::span<const Key> keys, ColumnMask mask, RowSink& sink) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <span>
@@ -32,9 +33,21 @@ class Keyset : public ConnectionClient {
     void insertAll(std::span<const std::size_t> columns, RowSource& rows);
     void update(Key key, std::span<const ColumnValue> values, std::span<const ColumnValue> read);
     void remove(Key key);
+    /// Those of them that are rows here; what is gone already is passed over. After an error the rest is left.
+    void remove(std::span<const Key> keys);
 
     /// Keys and rows are read afresh when next needed.
-    void requery();
+    void dropKeys();
+    /// An order other than the command's: by what a column shows.
+    struct Sorting {
+        std::size_t column;
+        std::function<std::string(const automation::Variant& value)> display;
+        bool descending;
+    };
+    void sortBy(Sorting sorting);
+    /// Whether they would be the same then.
+    [[nodiscard]] bool isUpToDate() { return all_->holdsAt(databaseState()); }
+    [[nodiscard]] std::optional<Connection::State> databaseState() { return connection_->databaseState(); }
     /// Rows are read afresh when next needed.
     void dropPages() noexcept;
 
@@ -53,6 +66,7 @@ class Keyset : public ConnectionClient {
 
   private:
     Rowset& rowset();
+    [[nodiscard]] RowKeys sorted(RowKeys keys);
     void forgetOld();
     template <class Action>
     void write(Action&& action);
@@ -64,6 +78,7 @@ class Keyset : public ConnectionClient {
     std::vector<Column> columns_;
     std::shared_ptr<KeyList> all_;
     std::vector<std::weak_ptr<KeyList>> filtered_;
+    std::optional<Sorting> sorting_;
     ColumnMask wanted_ = 0;
     int timesWidened_ = 0;
     std::uint64_t seenWrites_;

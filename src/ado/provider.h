@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <deque>
 #include <memory>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -100,6 +101,8 @@ class Session {
     /// Opens a table (adCmdTable, adCmdTableDirect) or a SELECT in Jet SQL. Null when the command returns no rows
     /// (DELETE, UPDATE, INSERT): it has then been carried out, durably.
     [[nodiscard]] virtual std::unique_ptr<Rowset> open(std::string_view command, CommandType type) = 0;
+    /// A number that is another one once anybody else has changed the database; nothing when that cannot be told.
+    [[nodiscard]] virtual std::optional<std::int64_t> othersChanges() { return {}; }
     /// In a session that only reads, all that it reads until the transaction ends is as of one moment: who writes
     /// meanwhile is kept out, or is not seen.
     virtual void beginTransaction() = 0;

@@ -104,9 +104,11 @@ void Recordset::close() {
 
 void Recordset::requery() {
     leaveRow();
-    keyset_->requery();
+    if (!isUpToDate()) keyset_->dropKeys();
     cursor_->set(Cursor::Place::first);
 }
+
+bool Recordset::isUpToDate() const { return requireOpen().isUpToDate(); }
 
 std::shared_ptr<Recordset> Recordset::clone() const {
     requireOpen();
@@ -341,6 +343,13 @@ void Recordset::setFilter(const std::string& filter) {
     leaveRow();
     useList(condition ? keyset_->filtered(std::move(*condition)) : keyset_->all());
     filter_ = filter;
+}
+
+void Recordset::sortBy(std::size_t column, Display display, bool descending) {
+    if (column >= columns().size()) throwItemNotFound();
+    leaveRow();
+    keyset_->sortBy({column, std::move(display), descending});
+    cursor_->set(Place::first);
 }
 
 Bookmark Recordset::bookmarkAt(std::size_t index) const {

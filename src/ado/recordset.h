@@ -46,7 +46,9 @@ class Recordset : public automation::Dispatch {
     void open(const std::string& source, std::shared_ptr<Connection> connection = nullptr,
               CursorType cursor = adOpenKeyset, LockType lock = adLockOptimistic, CommandType type = adCmdUnknown);
     void close();
-    void requery();  ///< runs the source again; first row
+    void requery();  ///< runs the source again, unless that would give the same; first row
+    /// Whether nobody has changed the database since the keys were read, but for what was removed here.
+    [[nodiscard]] bool isUpToDate() const;
     [[nodiscard]] ObjectState state() const noexcept;
 
     // --- position
@@ -72,6 +74,11 @@ class Recordset : public automation::Dispatch {
     /// A condition with comparisons joined by AND and OR, or "" for none; first matching row becomes current.
     void setFilter(const std::string& filter);
     [[nodiscard]] const std::string& filter() const noexcept { return filter_; }
+    /// What a value of a column shows.
+    using Display = std::function<std::string(const automation::Variant& value)>;
+    /// Orders the rows by what a column shows, ignoring case, and rows that show the same by their keys, until the
+    /// recordset is closed; first row. Clones, too.
+    void sortBy(std::size_t column, Display display, bool descending);
 
     // --- rows
     [[nodiscard]] std::size_t fieldCount() const;
@@ -104,6 +111,8 @@ class Recordset : public automation::Dispatch {
     void update();
     void cancelUpdate();
     void remove();  ///< ADO's Delete: the current row; it stays "current but deleted" until a move
+    /// Deletes those of the keys' rows that the recordset has, whatever its filter. After an error some may be deleted.
+    void removeRows(std::span<const Key> keys);
     /// Reads the current row, or all rows, again; a pending edit is dropped for the affected rows.
     void resync(Affect affect = adAffectAll);
 

@@ -183,6 +183,12 @@ void Recordset::remove() {
     keyset_->remove(cursor_->key);
 }
 
+void Recordset::removeRows(std::span<const Key> keys) {
+    requireWritable();
+    leaveRow();
+    keyset_->remove(keys);
+}
+
 void Recordset::resync(Affect affect) {
     requireOpen();
     if (affect == adAffectCurrent) requireRow();

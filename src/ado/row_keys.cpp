@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <vector>
 
+#include "ado/key_marks.h"
+
 namespace hx::ado {
 
 void RowKeys::appendWide(Key key) {
@@ -22,6 +24,12 @@ void RowKeys::erase(std::size_t position) {
     } else {
         wide_.erase(wide_.begin() + offset);
     }
+    if (!empty()) last_ = (*this)[size() - 1];
+}
+
+void RowKeys::erase(const KeyMarks& keys) {
+    std::erase_if(narrow_, [&](Key key) { return keys.contains(key); });
+    std::erase_if(wide_, [&](Key key) { return keys.contains(key); });
     if (!empty()) last_ = (*this)[size() - 1];
 }
 
@@ -66,6 +74,11 @@ void RowKeys::sort(bool descending) {
 }
 
 std::size_t RowKeys::lowerBound(Key key) const {
+    // Without gaps between the keys it stands as far behind the first as it is greater.
+    if (!empty() && key >= (*this)[0]) {
+        const auto guess = static_cast<std::uint64_t>(key) - static_cast<std::uint64_t>((*this)[0]);
+        if (guess < size() && (*this)[guess] == key) return guess;
+    }
     const auto below = [&](const auto& keys) {
         return static_cast<std::size_t>(std::lower_bound(keys.begin(), keys.end(), key) - keys.begin());
     };

@@ -8,6 +8,8 @@
 
 namespace hx::ado {
 
+class KeyMarks;
+
 /// Identifies a row of a table for as long as the row exists.
 using Key = std::int64_t;
 
@@ -23,6 +25,8 @@ class RowKeys {
         narrow_.push_back(value);
     }
     void erase(std::size_t position);
+    /// Leaves these keys out.
+    void erase(const KeyMarks& keys);
     /// Puts the keys into ascending or descending order.
     void sort(bool descending);
     [[nodiscard]] std::size_t size() const noexcept { return narrow_.size() + wide_.size(); }

@@ -75,8 +75,6 @@ class Commands {
     void newSubRecipe();
     void deleteMembers();
     void editSubRecipe();
-    [[nodiscard]] std::vector<std::string> shownVariables() const;
-    [[nodiscard]] std::vector<std::int32_t> selectedMembers() const;
     [[nodiscard]] ado::Bookmark rowLeftByDeletion() const;
 
     /// The user's answer to the question, which is not asked when the option "RequestOnDelete" is off.

@@ -57,29 +57,18 @@ bool Commands::saysYes(const std::string& question) {
     return window_.screen().messageBox(question, style, forms::message::defaultTitle) == forms::message::Answer::yes;
 }
 
-// On a clone: the current row stays.
-std::vector<std::string> Commands::shownVariables() const {
-    ado::Recordset& members = window_.memberRecordset();
-    const auto shown = members.clone();
-    if (shown->recordCount() == 0) return {};
-    std::vector<std::string> names;
-    shown->getRows(ado::adGetRowsRest, std::array{member::varRecipe},
-                   [&](std::span<Variant> values) { names.push_back(automation::toText(values[0])); });
-    return names;
-}
-
 namespace {
 
-// Those of `members` that `others` has not; both are in the order of their IDs.
+// Those of `members` that `others` has not.
 std::string namesMissing(const Members& members, const Members& others,
                          const std::shared_ptr<ado::Connection>& connection) {
-    Members missing;
-    std::ranges::set_difference(members, others, std::back_inserter(missing));
+    const std::vector<Member> those = members.sorted(), these = others.sorted();
+    std::vector<Member> missing;
+    std::ranges::set_difference(those, these, std::back_inserter(missing));
     std::string names;
     for (const Member& member : missing | std::views::take(mostNames)) {
-        const bool variable = member.child == 0;
-        names += (names.empty() ? "" : ", ") +
-                 (variable ? member.variable : nameOfRecipe(connection, member.child).value_or(member.variable));
+        const auto recipe = member.child == 0 ? std::nullopt : nameOfRecipe(connection, member.child);
+        names += (names.empty() ? "" : ", ") + recipe.value_or(std::string(member.variable));
     }
     return missing.empty() ? "-" : missing.size() > mostNames ? names + ", ..." : names;
 }
@@ -105,14 +94,15 @@ void Commands::chooseVariables() {
     const DatabaseWork work(window_.dataEnvironment());
     if (!window_.finishEdit()) return;
     const std::int32_t recipe = recipe::KeyId(window_.nodeKey());
-    // What the recipe has now is what the user starts from. Read in this order: nobody adds a member in between unseen.
-    Members known = membersOf(recipe, work.connection());
     window_.refreshMembers();
     const auto dialog = std::make_shared<dialogs::FMultiSelectItems>(addIn_.services(), addIn_.help());
     dialog->hxMI->setItemFilter(itemFilter);
+    Members known;
     {
         const forms::WaitCursor wait(window_.screen());
-        dialog->hxMI->setSelectedItems(shownVariables());
+        known.add(window_.memberRecordset());
+        dialog->hxMI->setSelectedNames(known.variables());
+        addSubRecipes(known, recipe, work.connection());
     }
     bool stored = false, refused = false;
     const auto store = [&] {
@@ -155,26 +145,6 @@ void Commands::editSubRecipe() {
     if (stale || !done) window_.refreshMembers();
 }
 
-// A bookmark of a row whose ID is its key says it already; else the row is asked.
-std::vector<std::int32_t> Commands::selectedMembers() const {
-    const auto rows = window_.memberRecordset().clone();
-    const auto isKey = [](const ado::Column& column) {
-        return column.isKey && automation::equalIgnoreCase(column.name, member::id);
-    };
-    const bool known = std::ranges::any_of(rows->columns(), isKey);
-    const ado::Field& id = rows->field(member::id);
-    std::vector<std::int32_t> ids;
-    for (const ado::Bookmark& row : window_.tdbRM->selectedRows().bookmarks()) {
-        if (known) {
-            ids.push_back(static_cast<std::int32_t>(row.key()));
-        } else {
-            rows->setBookmark(row);
-            ids.push_back(automation::toInt32(id.value()));
-        }
-    }
-    return ids;
-}
-
 // The current row, or the one that takes its place when it goes: the next that is not selected, else the one before.
 ado::Bookmark Commands::rowLeftByDeletion() const {
     const ado::Recordset& members = window_.memberRecordset();
@@ -193,13 +163,14 @@ ado::Bookmark Commands::rowLeftByDeletion() const {
 
 void Commands::deleteMembers() {
     window_.finishOrDropEdit();
-    const std::vector<std::int32_t> ids = selectedMembers();
-    if (ids.empty() || !mayDelete(resources::text_id::deleteMembers)) return;
     const DatabaseWork work(window_.dataEnvironment());
+    std::vector<ado::Key> rows;
+    for (const ado::Bookmark& row : window_.tdbRM->selectedRows().bookmarks()) rows.push_back(row.key());
+    if (rows.empty() || !mayDelete(resources::text_id::deleteMembers)) return;
     const ado::Bookmark row = rowLeftByDeletion();
     guard(addIn_, procedure, [&] {
         const forms::WaitCursor wait(window_.screen());
-        deleteMembersOf(window_.nodeKey(), ids, work.connection());
+        editor::deleteMembers(window_.memberRecordset(), rows);
     });
     // After an error too: rows may have gone before it.
     window_.refreshMembersAt(row);

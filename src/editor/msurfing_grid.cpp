@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <unordered_set>
 
 #include "automation/restore.h"
 #include "editor/column_order.h"
@@ -83,11 +82,15 @@ void MSurfingGrid::addColumn(const std::string& field) {
         column.setButtonPicture(pictures::choose());
     }
     if (field == member::childId) {
-        column.valueItems().setSource([this](const Variant& id) -> std::optional<std::string> {
-            const auto& data = window_.dataEnvironment();
-            if (data == nullptr || !id.isNumber()) return {};
-            return nameOfRecipe(data->CnnRecipes, automation::toInt32(id));
-        });
+        // The column can live on in the rows that are sorted by it.
+        column.valueItems().setSource(
+            [this, weak = std::weak_ptr(window_.share())](const Variant& id) -> std::optional<std::string> {
+                const auto window = weak.lock();
+                if (window == nullptr) return {};
+                const auto& data = window_.dataEnvironment();
+                if (data == nullptr || !id.isNumber()) return {};
+                return nameOfRecipe(data->CnnRecipes, automation::toInt32(id));
+            });
     }
 }
 
@@ -147,7 +150,7 @@ void MSurfingGrid::standOn(const ado::Bookmark& row) {
 void MSurfingGrid::select(std::vector<ado::Bookmark> rows) {
     if (rows.empty()) return;
     const ado::Recordset& members = window_.memberRecordset();
-    std::unordered_set<ado::Key> present;
+    ado::KeyMarks present;
     const auto count = static_cast<std::size_t>(members.recordCount());
     for (std::size_t i = 0; i < count; ++i) present.insert(members.bookmarkAt(i).key());
     std::erase_if(rows, [&](const ado::Bookmark& row) { return !present.contains(row.key()); });

@@ -54,11 +54,6 @@ void deleting(ado::Connection& connection, Steps&& steps) {
     transaction.commit();
 }
 
-// Only the rows between the first and the last of them: however many others the recipe has, little moves when one goes.
-std::string between(const std::string& query, const std::vector<std::int32_t>& ids) {
-    return query + " And ID >= " + std::to_string(ids.front()) + " And ID <= " + std::to_string(ids.back());
-}
-
 /// The members of one recipe, made from names.
 class NewVariables : public ado::RowSource {
   public:
@@ -114,35 +109,58 @@ void deleteRecipeWithMembers(ado::Recordset& recipes, std::int32_t id, bool& del
     deleted = true;
 }
 
-void deleteMembersOf(const std::string& nodeKey, std::vector<std::int32_t> ids,
-                     const std::shared_ptr<ado::Connection>& connection) {
-    std::ranges::sort(ids);
-    deleting(*connection, [&] {
-        ado::Recordset members;
-        members.open(between(recipe::memberQuery(nodeKey), ids), connection);
-        for (const std::int32_t id : ids) {
-            if (members.recordCount() == 0) return;
-            members.moveFirst();
-            members.find("ID=" + std::to_string(id));
-            if (members.eof()) continue;
-            members.remove();
-        }
+void deleteMembers(ado::Recordset& members, std::span<const ado::Key> rows) {
+    deleting(*members.activeConnection(), [&] {
+        members.requery();
+        members.removeRows(rows);
     });
 }
 
-Members membersOf(std::int32_t recipe, const std::shared_ptr<ado::Connection>& connection) {
-    ado::Recordset rows;
-    rows.open("SELECT * FROM " + std::string(schema::memberTable) + " WHERE ParentID = " + std::to_string(recipe) +
-                  " ORDER BY ID",
-              connection);
-    if (rows.eof()) return {};
-    Members members;
+void Members::add(const ado::Recordset& rows) {
+    const auto walked = rows.clone();
+    const auto count = static_cast<std::size_t>(walked->recordCount());
+    if (count == 0) return;
+    numbers_.reserve(size() + count);
+    variables_.reserve(size() + count);
     const auto fields = {schema::member::id, schema::member::childId, schema::member::varRecipe};
-    rows.getRows(ado::adGetRowsRest, fields, [&](std::span<Variant> values) {
-        members.push_back(
-            {automation::toInt32(values[0]), automation::toInt32(values[1]), automation::toText(values[2])});
+    walked->getRows(ado::adGetRowsRest, fields, [this](std::span<Variant> values) {
+        numbers_.emplace_back(automation::toInt32(values[0]), automation::toInt32(values[1]));
+        if (values[2].isString()) variables_.append(values[2].asString());
+        else variables_.append(automation::toText(values[2]));
     });
+}
+
+std::vector<Member> Members::sorted() const {
+    std::vector<Member> all;
+    all.reserve(size());
+    for (std::size_t i = 0; i < size(); ++i) all.push_back({numbers_[i].first, numbers_[i].second, variables_[i]});
+    std::ranges::sort(all);
+    return all;
+}
+
+namespace {
+
+void addWhere(Members& to, const std::string& condition, const std::shared_ptr<ado::Connection>& connection) {
+    ado::Recordset rows;
+    rows.open("SELECT * FROM " + std::string(schema::memberTable) + " WHERE " + condition + " ORDER BY ID", connection);
+    to.add(rows);
+}
+
+std::string inRecipe(std::int32_t recipe) { return "ParentID = " + std::to_string(recipe); }
+
+}  // namespace
+
+Members membersOf(std::int32_t recipe, const std::shared_ptr<ado::Connection>& connection) {
+    Members members;
+    addWhere(members, inRecipe(recipe), connection);
     return members;
+}
+
+void addSubRecipes(Members& to, std::int32_t recipe, const std::shared_ptr<ado::Connection>& connection) {
+    // Found by way of an index, which "<> 0" is not.
+    for (const char* child : {" AND ChildID < 0", " AND ChildID > 0"}) {
+        addWhere(to, inRecipe(recipe) + child, connection);
+    }
 }
 
 std::optional<Members> replaceMembers(std::int32_t recipe, const Members& known,
@@ -151,7 +169,8 @@ std::optional<Members> replaceMembers(std::int32_t recipe, const Members& known,
                                       const resources::ResourceTable& texts) {
     ado::Transaction transaction(*connection);
     recipe::requireRecipe(connection, recipe, texts);
-    if (Members now = membersOf(recipe, connection); now != known) return now;
+    Members now = membersOf(recipe, connection);
+    if (now.sorted() != known.sorted()) return now;
     deleteAllMembers(recipe, connection);
     ado::Recordset members;
     members.open(std::string(schema::memberTable), connection, ado::adOpenKeyset, ado::adLockOptimistic,

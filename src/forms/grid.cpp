@@ -263,6 +263,15 @@ void Grid::columnMoved(std::int32_t column, std::int16_t newOrder) {
     columnsChanged.raise();
 }
 
+std::pair<Column*, bool> Grid::sortColumn() const {
+    std::string_view field = sortText_;
+    const bool down = field.size() > descending.size() &&
+                      automation::equalIgnoreCase(field.substr(field.size() - descending.size()), descending);
+    if (down) field.remove_suffix(descending.size());
+    if (field.starts_with('[') && field.ends_with(']')) field = field.substr(1, field.size() - 2);
+    return {findColumn(field), down};
+}
+
 void Grid::headClick(std::int32_t column) {
     requireColumn(column);
     const auto keep = share();

@@ -5,6 +5,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "ado/recordset.h"
@@ -130,6 +131,8 @@ class Grid : public Control {
     // --- sorting: the text is appended to ORDER BY
     [[nodiscard]] const std::string& sortText() const noexcept { return sortText_; }
     void setSortText(const std::string& text) { assign(sortText_, text, "SortText"); }
+    /// The column that the sort text names, null when it is none of the grid's, and whether it is descending.
+    [[nodiscard]] std::pair<Column*, bool> sortColumn() const;
     /// The user's click on a column's header: the sort text becomes its field, then field + " DESC", then empty; raises
     /// headClickEvent. A field whose name is not a plain word stands in [brackets]. A current row that cannot be left
     /// keeps the order as it is.

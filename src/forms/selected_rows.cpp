@@ -13,22 +13,21 @@ bool SelectedRows::contains(const Bookmark& bookmark) const {
 }
 
 void SelectedRows::add(const Bookmark& bookmark) {
-    if (bookmark.isNull() || !keys_.insert(bookmark.key()).second) return;
+    if (bookmark.isNull() || !keys_.insert(bookmark.key())) return;
     bookmarks_.push_back(bookmark);
     changed.raise();
 }
 
 void SelectedRows::remove(const Bookmark& bookmark) {
-    if (bookmark.isNull() || keys_.erase(bookmark.key()) == 0) return;
+    if (bookmark.isNull() || !keys_.erase(bookmark.key())) return;
     bookmarks_.erase(std::ranges::find(bookmarks_, bookmark));
     changed.raise();
 }
 
 void SelectedRows::set(std::vector<Bookmark> bookmarks) {
-    std::unordered_set<ado::Key> keys;
-    keys.reserve(bookmarks.size());
+    ado::KeyMarks keys;
     std::erase_if(bookmarks,
-                  [&](const Bookmark& bookmark) { return bookmark.isNull() || !keys.insert(bookmark.key()).second; });
+                  [&](const Bookmark& bookmark) { return bookmark.isNull() || !keys.insert(bookmark.key()); });
     if (bookmarks == bookmarks_) return;
     bookmarks_ = std::move(bookmarks);
     keys_ = std::move(keys);

@@ -1,10 +1,9 @@
 #pragma once
 
-#include <unordered_set>
 #include <vector>
 
 #include "ado/bookmark.h"
-#include "ado/row_keys.h"
+#include "ado/key_marks.h"
 #include "automation/dispatch.h"
 #include "forms/event.h"
 
@@ -26,7 +25,7 @@ class SelectedRows : public automation::Dispatch {
 
   private:
     std::vector<ado::Bookmark> bookmarks_;
-    std::unordered_set<ado::Key> keys_;
+    ado::KeyMarks keys_;
 };
 
 }  // namespace hx::forms

@@ -1,5 +1,7 @@
 #include "recipe/mhxrcp_hirarch_func.h"
 
+#include <algorithm>
+
 #include "project/schema.h"
 #include "recipe/node_key.h"
 #include "resources/text_ids.h"
@@ -23,6 +25,30 @@ void setColumns(forms::Grid& grid, const resources::ResourceTable& texts, bool s
     }
 }
 
+// A column that shows other values than are stored is sorted by what it shows.
+void sortAsShown(ado::Recordset& members, const forms::Grid& grid) {
+    const auto [column, descending] = grid.sortColumn();
+    if (column == nullptr || !column->valueItems().translates()) return;
+    const auto& fields = members.columns();
+    const auto field = std::ranges::find(fields, column->dataField(), &ado::Column::name);
+    if (field == fields.end()) return;
+    const auto shown = [column = std::static_pointer_cast<forms::Column>(column->share())](
+                           const automation::Variant& value) { return column->valueItems().display(value); };
+    members.sortBy(static_cast<std::size_t>(field - fields.begin()), shown, descending);
+}
+
+// Rows that would be the same are not read again.
+void open(ado::Recordset& members, const forms::Grid& grid, const std::string& source, bool saveFirst) {
+    FinishEdit(members, saveFirst);
+    const bool shown = members.state() == ado::adStateOpen && members.source() == source && members.filter().empty();
+    if (shown && members.isUpToDate()) return members.requery();
+    CloseRecordset(members, saveFirst);
+    members.setSource(source);
+    members.setCommandType(ado::adCmdText);
+    members.open();
+    sortAsShown(members, grid);
+}
+
 }  // namespace
 
 std::string memberQuery(std::string_view nodeKey) {
@@ -38,12 +64,9 @@ std::string memberQuery(std::string_view nodeKey) {
 
 bool RefreshMemberView(forms::Grid& grid, ado::Recordset& members, std::string_view nodeKey, bool saveFirst,
                        const resources::ResourceTable& texts) {
-    const std::string order = orderClause(grid.sortText());
-    CloseRecordset(members, saveFirst);
-    members.setSource(memberQuery(nodeKey) + order);
-    members.setCommandType(ado::adCmdText);
+    const std::string source = memberQuery(nodeKey) + orderClause(grid.sortText());
     try {
-        members.open();
+        open(members, grid, source, saveFirst);
     } catch (...) {
         grid.reload();  // the rows that it showed are gone
         throw;

@@ -33,6 +33,8 @@ bool RefreshMemberView(forms::Grid& grid, ado::Recordset& members, std::string_v
 
 bool OpenAndMoveFirst(ado::Recordset& recordset);
 bool OpenAndMoveLast(ado::Recordset& recordset);
+/// Stores a pending edit where that is wanted and possible, else drops it.
+void FinishEdit(ado::Recordset& recordset, bool saveFirst) noexcept;
 /// Never throws. True when the recordset is closed at the end.
 bool CloseRecordset(ado::Recordset& recordset, bool saveFirst) noexcept;
 void RenameRecipe(ado::Recordset& recipes, const std::string& oldName, const std::string& newName);

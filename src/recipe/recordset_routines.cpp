@@ -36,10 +36,14 @@ bool OpenAndMoveLast(ado::Recordset& recordset) {
     return true;
 }
 
-bool CloseRecordset(ado::Recordset& recordset, bool saveFirst) noexcept {
-    // A recordset with a pending edit cannot be closed.
+void FinishEdit(ado::Recordset& recordset, bool saveFirst) noexcept {
     if (saveFirst) skippingErrors([&] { recordset.update(); });
     skippingErrors([&] { recordset.cancelUpdate(); });
+}
+
+bool CloseRecordset(ado::Recordset& recordset, bool saveFirst) noexcept {
+    // A recordset with a pending edit cannot be closed.
+    FinishEdit(recordset, saveFirst);
     skippingErrors([&] { recordset.close(); });
     return recordset.state() == ado::adStateClosed;
 }

@@ -39,7 +39,8 @@ struct StoredOtherwise : testing::Test {
     [[nodiscard]] Texts stored() const {
         Texts variables;
         for (const char* recipe : {"RCPR1", "RCPR2"}) {
-            for (const Member& each : membersOf(recipe[4] - '0', data->CnnRecipes)) variables.push_back(each.variable);
+            const Members members = membersOf(recipe[4] - '0', data->CnnRecipes);
+            for (const Member& each : members.sorted()) variables.emplace_back(each.variable);
         }
         return variables;
     }

@@ -1,4 +1,6 @@
 // Changing, adding and deleting rows, and reading them again.
+#include <array>
+
 #include "store.h"
 
 namespace hx::contract {
@@ -379,6 +381,71 @@ TEST_P(Edit, AnotherRecordsetOfTheConnectionSeesAChangeAtOnce) {
     one->remove();
     two->moveNext();
     EXPECT_EQ(two->field("Name").value(), Variant("C"));
+}
+
+TEST_P(Edit, RowsAreDeletedTogetherWhereverTheyStand) {
+    const auto recordset = open("SELECT * FROM TrcpRecipe ORDER BY Name DESC");
+    const auto clone = recordset->clone();
+    clone->moveLast();
+    const std::vector<ado::Key> keys = {recordset->bookmarkAt(2).key(), recordset->bookmarkAt(0).key(), 4711};
+    recordset->removeRows(keys);
+    EXPECT_EQ(column(*recordset, "Name"), "B");
+    EXPECT_EQ(clone->editMode(), ado::adEditDelete);
+    EXPECT_EQ(clone->recordCount(), 1);
+    EXPECT_EQ(stored("TrcpRecipe", "Name"), "B");
+}
+
+TEST_P(Edit, RowsOfOthersAreNotDeletedTogether) {
+    const ado::Key other = recipes()->bookmarkAt(1).key();
+    const auto recordset = open("SELECT * FROM TrcpRecipe WHERE Name = 'A'");
+    recordset->removeRows(std::array{other});
+    EXPECT_EQ(stored("TrcpRecipe", "Name"), "A,B,C");
+}
+
+TEST_P(Edit, ARefusedDeletionOfSeveralRowsLeavesThoseBeforeItOut) {
+    const auto recordset = recipes();
+    const std::vector<ado::Key> keys = {recordset->bookmarkAt(0).key(), recordset->bookmarkAt(2).key()};
+    recipes()->removeRows(std::array{keys[1]});
+    EXPECT_EQ(errorNumber([&] { recordset->removeRows(keys); }), ado::dbErrDeletedRow);
+    EXPECT_EQ(stored("TrcpRecipe", "Name"), "B");
+    EXPECT_EQ(recordset->indexOf(ado::Bookmark(keys[0])), -1);
+}
+
+// A store that cannot tell is never up to date.
+TEST_P(Edit, RowsStayUpToDateWhileNobodyElseWrites) {
+    const auto recordset = recipes();
+    ASSERT_EQ(recordset->recordCount(), 3);
+    const bool tells = recordset->isUpToDate();
+    recordset->removeRows(std::array{recordset->bookmarkAt(1).key()});
+    EXPECT_EQ(recordset->isUpToDate(), tells);
+    recordset->requery();
+    EXPECT_EQ(column(*recordset, "Name"), "A,C");
+    recordset->moveFirst();
+    recordset->field("Name").setValue("A2");
+    recordset->update();
+    EXPECT_FALSE(recordset->isUpToDate());
+    recordset->requery();
+    EXPECT_EQ(column(*recordset, "Name"), "A2,C");
+}
+
+TEST_P(Edit, RowsAreNotUpToDateWhenAnybodyElseHasWritten) {
+    const auto recordset = recipes();
+    ASSERT_EQ(recordset->recordCount(), 3);
+    addRecipes({"D"});
+    EXPECT_FALSE(recordset->isUpToDate());
+    recordset->requery();
+    EXPECT_EQ(column(*recordset, "Name"), "A,B,C,D");
+    ado::Recordset other;
+    other.open("TrcpRecipe", connect());
+    other.remove();
+    EXPECT_FALSE(recordset->isUpToDate());
+    recordset->requery();
+    EXPECT_EQ(column(*recordset, "Name"), "B,C,D");
+    connection_->beginTrans();
+    recordset->removeRows(std::array{recordset->bookmarkAt(0).key()});
+    connection_->rollbackTrans();
+    EXPECT_FALSE(recordset->isUpToDate());
+    EXPECT_EQ(recordset->recordCount(), 3);
 }
 
 INSTANTIATE_TEST_SUITE_P(Provider, Edit, testing::ValuesIn(storeKinds()),

@@ -296,6 +296,28 @@ TEST_P(Position, FieldsAreReachedByNameAndNumber) {
     EXPECT_EQ(errorNumber([&] { (void)recordset->field(99); }), ado::adErrItemNotFound);
 }
 
+TEST_P(Position, RowsAreSortedByWhatAColumnShows) {
+    const auto shown = [](const Variant& value) {
+        const std::string& name = value.asString();
+        return name == "Cola" ? "three" : name == "Banane" ? "Two" : "one";
+    };
+    const std::string ascending = "Apfelsaft,Überdruck,D'Or,Cola,Banane";
+    const auto recordset = recipes();
+    const auto clone = recordset->clone();
+    recordset->sortBy(1, shown, false);
+    EXPECT_EQ(column(*recordset, "Name"), ascending);
+    EXPECT_EQ(column(*clone, "Name"), ascending);
+    recordset->sortBy(1, shown, true);
+    EXPECT_EQ(column(*recordset, "Name"), "Banane,Cola,Apfelsaft,Überdruck,D'Or");
+    addRecipes({"Zimt"});
+    recordset->requery();
+    EXPECT_EQ(column(*recordset, "Name"), "Banane,Cola,Apfelsaft,Überdruck,D'Or,Zimt");
+    recordset->close();
+    recordset->open();
+    EXPECT_EQ(column(*recordset, "Name"), "Cola,Apfelsaft,Überdruck,Banane,D'Or,Zimt");
+    EXPECT_EQ(errorNumber([&] { recordset->sortBy(99, shown, false); }), ado::adErrItemNotFound);
+}
+
 INSTANTIATE_TEST_SUITE_P(Provider, Position, testing::ValuesIn(storeKinds()),
                          [](const auto& kind) { return kind.param.name; });
 

@@ -90,6 +90,21 @@ TEST_F(RefreshingTheMembers, ASortTextIsAppendedAsItIs) {
               "SELECT * FROM TrcpRecipeMember WHERE ParentID = 1 And ChildID = 0 ORDER BY VarRecipe DESC");
 }
 
+TEST_F(RefreshingTheMembers, ATranslatedColumnIsSortedByWhatItShows) {
+    plant.addMember(mix, "Z.File", mix);
+    plant.addMember(mix, "Y.File", syrup);
+    view.grid.findColumn("ChildID")->valueItems().setSource(
+        [&](const Variant& id) -> std::optional<std::string> { return id.asInt32() == mix ? "zwei" : "Eins"; });
+    view.grid.setSortText("ChildID");
+    show("RCPU1");
+    EXPECT_EQ(variables(), (Names{"File.Name", "Y.File", "Z.File"}));
+    EXPECT_EQ(view.recordset->source(),
+              "SELECT * FROM TrcpRecipeMember WHERE ParentID = 1 And ChildID <> 0 ORDER BY ChildID");
+    view.grid.setSortText("[ChildID] desc");
+    show("RCPU1");
+    EXPECT_EQ(variables(), (Names{"Z.File", "File.Name", "Y.File"}));
+}
+
 TEST_F(RefreshingTheMembers, OnlyTheSubRecipeViewShowsTheColumnOfTheSubRecipe) {
     show("RCPU1");
     EXPECT_TRUE(view.grid.findColumn("ChildID")->visible());

@@ -73,6 +73,7 @@ class FaultySession : public ado::Session {
         if (!rowset) return nullptr;
         return std::make_unique<FaultyRowset>(std::move(rowset), plan_);
     }
+    [[nodiscard]] std::optional<std::int64_t> othersChanges() override { return inner_->othersChanges(); }
     void beginTransaction() override {
         plan_.pass(Kind::begin);
         inner_->beginTransaction();

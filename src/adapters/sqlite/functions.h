@@ -14,7 +14,7 @@ inline constexpr const char* textCollation = "HXTEXT";
 struct Collection {
     ado::RowKeys keys;
     automation::TextList texts;  ///< without case, one for each of the keys
-    ado::RowKeys textless;        ///< of rows that have no text
+    ado::RowKeys textless;       ///< of rows that have no text
     bool onlyTexts = true;       ///< false when a value was neither text nor missing: it is left out
 };
 

@@ -14,7 +14,6 @@
 #include "adapters/qt/grid/grid_view.h"
 #include "adapters/qt/grid/record_selector.h"
 #include "adapters/qt/text.h"
-#include "automation/text.h"
 
 namespace hx::qt {
 
@@ -26,16 +25,6 @@ bool extends(const QKeyEvent& key) {
     const bool vertical = key.key() == Qt::Key_Up || key.key() == Qt::Key_Down || key.key() == Qt::Key_PageUp ||
                           key.key() == Qt::Key_PageDown || key.key() == Qt::Key_Home || key.key() == Qt::Key_End;
     return vertical && key.modifiers().testFlag(Qt::ShiftModifier);
-}
-
-/// The field of a sort text, and whether it is descending.
-std::pair<std::string, Qt::SortOrder> parseSort(std::string_view sort) {
-    constexpr std::string_view descending = " DESC";
-    const bool down = sort.size() > descending.size() &&
-                      automation::equalIgnoreCase(sort.substr(sort.size() - descending.size()), descending);
-    if (down) sort.remove_suffix(descending.size());
-    if (sort.starts_with('[') && sort.ends_with(']')) sort = sort.substr(1, sort.size() - 2);
-    return {std::string(sort), down ? Qt::DescendingOrder : Qt::AscendingOrder};
 }
 
 }  // namespace
@@ -111,14 +100,14 @@ void GridPane::layOutColumns(bool fill) {
 
 void GridPane::showSort() {
     const forms::Grid* grid = model_.grid();
-    const auto [field, order] = parseSort(grid->sortText());
-    const forms::Column* sorted = field.empty() ? nullptr : grid->findColumn(field);
+    const auto [sorted, descending] = grid->sortColumn();
     QHeaderView& header = *horizontalHeader();
     header.setSortIndicatorShown(sorted != nullptr);
     if (sorted == nullptr) return;
     const auto& columns = grid->columns();
     const auto found = std::ranges::find(columns, sorted, [](const auto& owned) { return owned.get(); });
-    header.setSortIndicator(static_cast<int>(found - columns.begin()), order);
+    header.setSortIndicator(static_cast<int>(found - columns.begin()),
+                            descending ? Qt::DescendingOrder : Qt::AscendingOrder);
 }
 
 void GridPane::sectionMoved(int column, int newVisual) {

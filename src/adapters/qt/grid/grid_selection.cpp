@@ -2,7 +2,6 @@
 
 #include <QScopedValueRollback>
 #include <algorithm>
-#include <unordered_set>
 #include <vector>
 
 namespace hx::qt {
@@ -11,23 +10,22 @@ namespace {
 
 /// The rows of a selection as bookmarks: those that were selected before keep their place, the new ones follow.
 std::vector<ado::Bookmark> bookmarksOf(const QItemSelection& selection, const ado::Recordset& rows,
-                                       const std::vector<ado::Bookmark>& before) {
-    std::vector<ado::Bookmark> selected;
-    std::unordered_set<ado::Key> keys;
+                                       const forms::SelectedRows& before) {
+    std::vector<ado::Bookmark> added, result;
+    ado::KeyMarks selected;
     for (const QItemSelectionRange& range : selection) {
         for (int row = range.top(); row <= range.bottom(); ++row) {
             const ado::Bookmark bookmark = rows.bookmarkAt(static_cast<std::size_t>(row));
-            if (!bookmark.isNull() && keys.insert(bookmark.key()).second) selected.push_back(bookmark);
+            if (bookmark.isNull()) continue;
+            if (before.count() > 0) selected.insert(bookmark.key());
+            if (!before.contains(bookmark)) added.push_back(bookmark);
         }
     }
-    std::vector<ado::Bookmark> result;
-    result.reserve(selected.size());
-    for (const ado::Bookmark& bookmark : before) {
-        if (!bookmark.isNull() && keys.erase(bookmark.key()) > 0) result.push_back(bookmark);
+    for (const ado::Bookmark& bookmark : before.bookmarks()) {
+        if (selected.contains(bookmark.key())) result.push_back(bookmark);
     }
-    for (const ado::Bookmark& bookmark : selected) {
-        if (keys.contains(bookmark.key())) result.push_back(bookmark);
-    }
+    if (result.empty()) return added;
+    result.insert(result.end(), added.begin(), added.end());
     return result;
 }
 
@@ -47,8 +45,7 @@ std::vector<int> rowsOfFew(const std::vector<ado::Bookmark>& bookmarks, const ad
 /// The rows of bookmarks, in their order in the recordset.
 std::vector<int> rowsOf(const std::vector<ado::Bookmark>& bookmarks, const ado::Recordset& recordset) {
     if (bookmarks.size() <= few) return rowsOfFew(bookmarks, recordset);
-    std::unordered_set<ado::Key> keys;
-    keys.reserve(bookmarks.size());
+    ado::KeyMarks keys;
     for (const ado::Bookmark& bookmark : bookmarks) {
         if (!bookmark.isNull()) keys.insert(bookmark.key());
     }
@@ -137,7 +134,7 @@ void GridSelection::report() {
     if (!recordset || recordset->state() != ado::adStateOpen) return;
     const bool told = model_.errors().run([&] {
         const QScopedValueRollback reporting(reporting_, true);
-        grid->selectedRows().set(bookmarksOf(selection(), *recordset, grid->selectedRows().bookmarks()));
+        grid->selectedRows().set(bookmarksOf(selection(), *recordset, grid->selectedRows()));
     });
     if (!told) followSelectedRows();
 }

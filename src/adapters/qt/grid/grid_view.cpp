@@ -10,6 +10,7 @@
 #include <ranges>
 
 #include "adapters/qt/controls/surrounding_form.h"
+#include "adapters/qt/header_selection.h"
 #include "adapters/qt/keys.h"
 #include "adapters/qt/text.h"
 
@@ -55,6 +56,7 @@ void GridView::addPane(std::unique_ptr<GridPane>& pane, int split) {
     pane->setObjectName(QStringLiteral("%1.Splits(%2)").arg(objectNameOf(*model())).arg(split));
     pane->setAccessibleName(accessibleName());
     pane->setSelectionModel(&selection_);
+    ignoreSelection(*pane);
     pane->setFocusPolicy(focusPolicy(*pane));
     pane->fitRows();
     watch(*pane);
