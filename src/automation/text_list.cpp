@@ -65,7 +65,7 @@ class Sorter {
     void goOn(const Alike& alike) {
         const auto ends = [&](const Entry& entry) { return texts_[entry.number].size() <= alike.bytes; };
         const auto early = [&](const Entry& entry) { return ends(entry) != descending_; };
-        const auto middle = std::ranges::stable_partition(alike.entries, early).begin();
+        const auto middle = std::stable_partition(alike.entries.begin(), alike.entries.end(), early);
         const auto place = static_cast<std::size_t>(middle - alike.entries.begin());
         std::span<Entry> ended = alike.entries.first(place), others = alike.entries.subspan(place);
         if (descending_) std::swap(ended, others);
