@@ -6,7 +6,7 @@
 #include "adapters/sqlite/provider.h"
 #include "automation/error.h"
 #include "cli/unfinished_file.h"
-#include "exchange/content.h"
+#include "exchange/content_writer.h"
 #include "hosting/file_bytes.h"
 #include "hosting/file_replacement.h"
 

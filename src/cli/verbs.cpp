@@ -11,6 +11,7 @@
 #include "cli/show.h"
 #include "cli/variables.h"
 #include "cli/where.h"
+#include "exchange/content_file.h"
 #include "exchange/import.h"
 #include "hosting/in_file.h"
 

@@ -1,13 +1,10 @@
 #include "exchange/content.h"
 
 #include <algorithm>
-#include <filesystem>
-#include <fstream>
 #include <functional>
 #include <initializer_list>
 #include <unordered_map>
 
-#include "adapters/sqlite/project_file.h"
 #include "automation/error.h"
 #include "automation/text.h"
 #include "hosting/in_file.h"
@@ -126,16 +123,6 @@ Content contentOf(project::Reader& reader) {
     return content;
 }
 
-// What cannot be opened, too, is better explained where projects are. A pipe gives its text only once.
-bool isForProjects(const std::string& path) {
-    std::error_code ignored;
-    const auto status = std::filesystem::status(path, ignored);
-    if (std::filesystem::exists(status) && !std::filesystem::is_regular_file(status)) {
-        return std::filesystem::is_directory(status);
-    }
-    return !std::ifstream(path).is_open() || sqlite::beginsLikeProject(path);
-}
-
 }  // namespace
 
 bool isSame(const Value& a, const Value& b) {
@@ -169,12 +156,6 @@ ContentRecipe readRecipe(project::Reader& reader, std::int64_t id) {
 
 Content readContent(project::Reader& reader) {
     return hosting::inFile(reader.path(), [&] { return contentOf(reader); });
-}
-
-Content loadContent(ado::Provider& provider, const std::string& path) {
-    if (!isForProjects(path)) return parseContent(path);
-    project::Reader reader(provider, path);
-    return readContent(reader);
 }
 
 }  // namespace hx::exchange

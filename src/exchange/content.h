@@ -64,11 +64,5 @@ struct Content {
 [[nodiscard]] ContentRecipe readRecipe(project::Reader& reader, std::int64_t id);
 /// Reads a project; recipes and members by ID. Errors name the file.
 [[nodiscard]] Content readContent(project::Reader& reader);
-/// Reads an export file. Throws automation::Error with the line and the field of what is wrong.
-[[nodiscard]] Content parseContent(const std::string& path);
-/// Reads the one or the other, whichever the file is.
-[[nodiscard]] Content loadContent(ado::Provider& provider, const std::string& path);
-/// The text of an export. Throws automation::Error when a value cannot be written as JSON.
-[[nodiscard]] std::string exportOf(const Content& content);
 
 }  // namespace hx::exchange

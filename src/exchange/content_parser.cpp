@@ -1,10 +1,8 @@
 #include "exchange/content_parser.h"
 
 #include <algorithm>
-#include <iterator>
 #include <limits>
 
-#include "adapters/sqlite/project_file.h"
 #include "automation/error.h"
 #include "automation/text.h"
 #include "hosting/visible.h"
@@ -18,35 +16,6 @@ namespace schema = project::schema;
 namespace {
 
 constexpr std::size_t mostFields = 2000;  // more columns no table can have
-
-/// Reads a text and counts its lines.
-class CountingIterator {
-  public:
-    using iterator_category = std::input_iterator_tag;
-    using value_type = char;
-    using difference_type = std::ptrdiff_t;
-    using pointer = const char*;
-    using reference = const char&;
-
-    CountingIterator(const char* at, Place* place) : at_(at), place_(place) {}
-    reference operator*() const { return *at_; }
-    CountingIterator& operator++() {
-        place_->atLineEnd = *at_ == '\n';
-        if (place_->atLineEnd) ++place_->line;
-        ++at_;
-        return *this;
-    }
-    CountingIterator operator++(int) {
-        CountingIterator before = *this;
-        ++*this;
-        return before;
-    }
-    friend bool operator==(const CountingIterator& a, const CountingIterator& b) { return a.at_ == b.at_; }
-
-  private:
-    const char* at_;
-    Place* place_;
-};
 
 }  // namespace
 
@@ -233,21 +202,6 @@ void ContentParser::finishMember() const {
     if (hasSubRecipe_ && !member.isSubRecipe()) {
         fail(member.line, "\"subRecipe\": a name, or null with the \"ChildID\" of a missing recipe, is expected");
     }
-}
-
-Content parseContent(const std::string& path) {
-    if (sqlite::beginsLikeProject(path)) {
-        throw automation::Error(automation::errFail, path + " is a project, not an export");
-    }
-    const std::string text = hosting::readText(path);
-    if (text.find_first_not_of(" \t\r\n") == std::string::npos) {
-        hosting::Line{path, 1, {}}.fail("the file is empty");
-    }
-    Place place;
-    ContentParser parser(path, place);
-    Json::sax_parse(CountingIterator(text.data(), &place), CountingIterator(text.data() + text.size(), &place),
-                    &parser);
-    return parser.finish();
 }
 
 }  // namespace hx::exchange

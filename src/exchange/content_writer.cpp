@@ -1,10 +1,11 @@
+#include "exchange/content_writer.h"
+
 #include <cmath>
 #include <string>
 #include <utility>
 
 #include "automation/error.h"
 #include "automation/text.h"
-#include "exchange/content.h"
 #include "exchange/json.h"
 #include "hosting/visible.h"
 

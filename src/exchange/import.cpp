@@ -3,7 +3,7 @@
 #include <memory>
 
 #include "adapters/sqlite/session.h"
-#include "exchange/content.h"
+#include "exchange/content_file.h"
 #include "exchange/importer.h"
 #include "project/reader.h"
 

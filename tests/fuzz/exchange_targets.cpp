@@ -1,6 +1,7 @@
 #include <sstream>
 
-#include "exchange/content.h"
+#include "exchange/content_file.h"
+#include "exchange/content_writer.h"
 #include "exchange/differences.h"
 #include "fuzz/targets.h"
 #include "lists/csv_variables.h"
