@@ -2,7 +2,6 @@
 
 #include "automation/member_rows.h"
 #include "automation/text.h"
-#include "dialogs/place_rows.h"
 
 namespace hx::dialogs {
 
@@ -40,8 +39,6 @@ void Dialog::captionDialogButtons() {
     cmdCancel->setCaption("Abbrechen");
     cmdHelp->setCaption("&Hilfe");
 }
-
-void Dialog::placeControls() { placeRows(*this); }
 
 void Dialog::onKeyDown(forms::KeyEvent& event) {
     if (event.code != forms::key::f1 || event.shift != forms::shift::none) return;

@@ -51,8 +51,6 @@ class Dialog : public forms::Form {
     void addDialogButtons();
     void tagDialogButtons();
     void captionDialogButtons();
-    /// Gives all controls of the rows their place; a view with a layout of its own does not use it.
-    void placeControls();
 
     /// Calls the method of the dialog for as long as the dialog lives. What fails in it is shown under the dialog's
     /// name and goes no further: whoever reports a click or a key cannot do anything about it.

@@ -55,7 +55,6 @@ FConfigEditor::FConfigEditor(const host::Services& services, resources::Help& he
     for (const auto& box : {chkDelQuestion, chkShowStatusBar, chkSaveOnExit}) addRow({.field = box.get()});
     addDialogButtons();
     captionDialogButtons();
-    placeControls();
     hear(loadEvent, [this] { setCancelled(true); });
     on(cmdEditorFont->clickEvent, &FConfigEditor::onChooseFont);
     hear(cmdOk->clickEvent, [this] { closeWith(false); });

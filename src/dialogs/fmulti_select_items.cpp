@@ -9,7 +9,6 @@ FMultiSelectItems::FMultiSelectItems(const host::Services& services, resources::
     addRow({.field = hxMI.get(), .grows = true});
     addDialogButtons();
     captionDialogButtons();
-    placeControls();
     hear(cmdOk->clickEvent, [this] { closeWith(false); });
     hear(cmdCancel->clickEvent, [this] { closeWith(true); });
     on(queryUnloadEvent, &FMultiSelectItems::onQueryUnload);

@@ -40,7 +40,6 @@ FRecipe::FRecipe(const host::Services& services, const resources::ResourceTable&
     addOptionsPage();
     addDialogButtons();
     tagDialogButtons();
-    placeControls();
     connectControls();
 }
 

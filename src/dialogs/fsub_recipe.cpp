@@ -27,7 +27,6 @@ FSubRecipe::FSubRecipe(const host::Services& services, const resources::Resource
     addRow({.container = frame, .label = Label1.get(), .field = txtVarRecipe.get(), .button = cmdChooseItem.get()});
     addDialogButtons();
     tagDialogButtons();
-    placeControls();
     on(loadEvent, &FSubRecipe::onLoad);
     hear(cmdChooseItem->clickEvent, [this] { chooseItem(*txtVarRecipe); });
     on(cmdOk->clickEvent, &FSubRecipe::onOk);
