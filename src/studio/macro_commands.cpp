@@ -11,7 +11,6 @@
 
 #include "adapters/qt/svg_icon.h"
 #include "adapters/qt/text.h"
-#include "studio/icons.h"
 
 namespace hx::studio {
 
@@ -37,8 +36,8 @@ MacroCommands::MacroCommands(QMainWindow& window, ProjectWindow& projects, Studi
       runner_(projects, host, explorer, dock_, stopKey) {
     runAgain_.setObjectName(QStringLiteral("actionRunAgain"));
     stop_.setObjectName(QStringLiteral("actionStopMacro"));
-    runAgain_.setIcon(qt::svgIcon(icons::runMacro));
-    stop_.setIcon(qt::svgIcon(icons::stopMacro));
+    runAgain_.setIcon(qt::namedIcon("studio/run-macro"));
+    stop_.setIcon(qt::namedIcon("studio/stop-macro"));
     runAgain_.setShortcut(againKey);
     stop_.setShortcut(stopKey);
     connect(&runAgain_, &QAction::triggered, this, [this] { runChosen(); });

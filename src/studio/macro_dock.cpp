@@ -13,7 +13,6 @@
 
 #include "adapters/qt/svg_icon.h"
 #include "adapters/qt/text.h"
-#include "studio/icons.h"
 
 namespace hx::studio {
 
@@ -70,8 +69,8 @@ void MacroDock::build(QAction& runAgain, QAction& stop) {
 }
 
 void MacroDock::buildTools(QAction& runAgain, QAction& stop) {
-    clear_.setIcon(qt::svgIcon(icons::clearOutput));
-    copy_.setIcon(qt::svgIcon(icons::copyOutput));
+    clear_.setIcon(qt::namedIcon("studio/clear-output"));
+    copy_.setIcon(qt::namedIcon("studio/copy-output"));
     tools_.setIconSize(QSize(iconSize, iconSize));
     tools_.setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     tools_.addActions({&runAgain, &stop});

@@ -2,7 +2,6 @@
 
 #include "adapters/qt/svg_icon.h"
 #include "adapters/qt/text.h"
-#include "studio/icons.h"
 #include "studio/studio_texts.h"
 
 namespace hx::studio {
@@ -69,7 +68,7 @@ void MacroMenu::fill() {
 void MacroMenu::addMacros(const MacroFolder& folder, QMenu& menu) {
     menu.setToolTipsVisible(true);
     for (const MacroFile& macro : folder.macros) {
-        QAction* action = menu.addAction(qt::svgIcon(icons::runMacro), asEntry(macro.name));
+        QAction* action = menu.addAction(qt::namedIcon("studio/run-macro"), asEntry(macro.name));
         const QString hint = macro.hint.isEmpty() ? studioText(Text::macroHint, wording_).arg(macro.name) : macro.hint;
         action->setToolTip(qt::plainToolTip(hint));
         action->setStatusTip(hint);

@@ -16,7 +16,6 @@
 #include "adapters/sqlite/project_file.h"
 #include "host/project_file.h"
 #include "resources/help.h"
-#include "studio/icons.h"
 #include "studio/options.h"
 
 namespace hx::studio {
@@ -55,7 +54,7 @@ MainWindow::~MainWindow() {
 
 void MainWindow::setUp() {
     setObjectName(QStringLiteral("mainWindow"));
-    setWindowIcon(qt::svgIcon(icons::studio));
+    setWindowIcon(qt::namedIcon("studio/studio"));
     tree_.setObjectName(QStringLiteral("projectExplorer"));
     tree_.setFrameShape(QFrame::NoFrame);
     explorerDock_.setObjectName(QStringLiteral("explorerDock"));

@@ -5,7 +5,6 @@
 #include "adapters/qt/svg_icon.h"
 #include "adapters/qt/text.h"
 #include "studio/clipboard_keeper.h"
-#include "studio/icons.h"
 #include "studio/studio_texts.h"
 
 namespace hx::studio {
@@ -22,7 +21,7 @@ Project::Project(const QString& file, StudioHost& host, qt::QtExplorer& explorer
       explorer_(explorer),
       open_(qt::fromQt(file_), host.registry()) {
     host_.setProjectFile(file_);
-    explorer_.openProject(open_.name(), qt::svgIcon(icons::project));
+    explorer_.openProject(open_.name(), qt::namedIcon("studio/project"));
 }
 
 Project::~Project() {

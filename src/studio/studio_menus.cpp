@@ -4,7 +4,6 @@
 #include <QMenuBar>
 
 #include "adapters/qt/svg_icon.h"
-#include "studio/icons.h"
 #include "studio/studio_texts.h"
 
 namespace hx::studio {
@@ -49,9 +48,9 @@ void StudioMenus::build(QMainWindow& window, const QList<QAction*>& views) {
         {&showHelp_, "actionHelp"}};
     for (const auto& [object, name] : names) object->setObjectName(QLatin1StringView(name));
     new_.setShortcut(QKeySequence::New);
-    new_.setIcon(qt::svgIcon(icons::newProject));
+    new_.setIcon(qt::namedIcon("studio/new-project"));
     open_.setShortcut(QKeySequence::Open);
-    open_.setIcon(qt::svgIcon(icons::openProject));
+    open_.setIcon(qt::namedIcon("studio/open-project"));
     exit_.setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q));
     for (QAction* action : {&german_, &english_}) {
         action->setCheckable(true);
@@ -65,7 +64,7 @@ void StudioMenus::build(QMainWindow& window, const QList<QAction*>& views) {
     file_.addAction(&exit_);
     view_.addActions(views);
     language_.addActions({&german_, &english_});
-    showHelp_.setIcon(qt::svgIcon(icons::help));
+    showHelp_.setIcon(qt::namedIcon("studio/help"));
     help_.addAction(&showHelp_);
     help_.addSeparator();
     help_.addAction(&about_);

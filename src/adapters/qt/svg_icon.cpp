@@ -1,5 +1,6 @@
 #include "adapters/qt/svg_icon.h"
 
+#include <QFile>
 #include <QIconEngine>
 #include <QPainter>
 #include <QSvgRenderer>
@@ -51,6 +52,11 @@ class SvgIconEngine : public QIconEngine {
 QIcon svgIcon(const QByteArray& svg) {
     if (svg.isEmpty() || !QSvgRenderer(svg).isValid()) return {};
     return QIcon(new SvgIconEngine(svg));
+}
+
+QIcon namedIcon(const char* name) {
+    QFile file(QStringLiteral(":/pictures/") + QLatin1StringView(name) + QStringLiteral(".svg"));
+    return file.open(QIODevice::ReadOnly) ? svgIcon(file.readAll()) : QIcon();
 }
 
 QIcon svgIcon(const forms::Picture& picture) { return svgIcon(QByteArray::fromStdString(picture.svg)); }

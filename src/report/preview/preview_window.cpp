@@ -10,7 +10,6 @@
 
 #include "adapters/qt/svg_icon.h"
 #include "adapters/qt/text.h"
-#include "report/preview/preview_icons.h"
 #include "resources/help.h"
 
 namespace hx::report {
@@ -73,7 +72,7 @@ PreviewWindow::PreviewWindow(const Report& report, const host::Services& service
       view_(pages_, &splitter_) {
     setObjectName(QStringLiteral("reportPreview"));
     setWindowTitle(qt::toQt(report.fullTitle()));
-    setWindowIcon(qt::svgIcon(QByteArray(icons::report)));
+    setWindowIcon(qt::namedIcon("report/report"));
     setAttribute(Qt::WA_QuitOnClose, false);  // the studio ends with its own windows
     setUpTools();
     setUpPanes();
@@ -88,7 +87,7 @@ void PreviewWindow::addTool(QAction& action, const char* name, const char* icon,
                             const QKeySequence& key, const std::function<void()>& run, bool withText) {
     action.setObjectName(QLatin1StringView(name));
     action.setText(text(caption));
-    action.setIcon(qt::svgIcon(QByteArray(icon)));
+    action.setIcon(qt::namedIcon(icon));
     action.setShortcut(key);
     const PreviewText hint = caption == PreviewText::savePdf    ? PreviewText::savePdfHint
                              : caption == PreviewText::saveHtml ? PreviewText::saveHtmlHint
@@ -108,9 +107,9 @@ void PreviewWindow::setUpTools() {
     bar_.setAccessibleName(text(PreviewText::tools));
     bar_.setIconSize(QSize(iconSize, iconSize));
     addTool(
-        print_, "reportPrint", icons::print, PreviewText::print, QKeySequence::Print, [this] { print(); }, true);
+        print_, "reportPrint", "report/print", PreviewText::print, QKeySequence::Print, [this] { print(); }, true);
     addTool(
-        pdf_, "reportPdf", icons::pdf, PreviewText::savePdf, QKeySequence(Qt::CTRL | Qt::Key_S),
+        pdf_, "reportPdf", "report/pdf", PreviewText::savePdf, QKeySequence(Qt::CTRL | Qt::Key_S),
         [this] {
             save({PreviewText::savePdfHint, PreviewText::fileKindPdf, "pdf", [this](const QString& path) {
                       return savePdf(report_, pages_, {0, pages_.count() - 1}, path);
@@ -118,7 +117,7 @@ void PreviewWindow::setUpTools() {
         },
         true);
     addTool(
-        html_, "reportHtml", icons::html, PreviewText::saveHtml, QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S),
+        html_, "reportHtml", "report/html", PreviewText::saveHtml, QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S),
         [this] {
             save({PreviewText::saveHtmlHint, PreviewText::fileKindHtml, "html",
                   [this](const QString& path) { return saveHtml(report_, path); }});
@@ -132,14 +131,14 @@ void PreviewWindow::setUpTools() {
     space->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     bar_.addWidget(space);
     addTool(
-        close_, "reportClose", icons::close, PreviewText::close, QKeySequence(Qt::Key_Escape), [this] { close(); },
+        close_, "reportClose", "report/close", PreviewText::close, QKeySequence(Qt::Key_Escape), [this] { close(); },
         true);
 }
 
 void PreviewWindow::addPageTools() {
-    addTool(first_, "reportFirst", icons::firstPage, PreviewText::firstPage, QKeySequence(Qt::CTRL | Qt::Key_Home),
+    addTool(first_, "reportFirst", "report/first-page", PreviewText::firstPage, QKeySequence(Qt::CTRL | Qt::Key_Home),
             [this] { view_.showPage(0); });
-    addTool(previous_, "reportPrevious", icons::previousPage, PreviewText::previousPage,
+    addTool(previous_, "reportPrevious", "report/previous-page", PreviewText::previousPage,
             QKeySequence(Qt::CTRL | Qt::Key_PageUp), [this] { view_.showPage(view_.page() - 1); });
     pageLabel_.setText(text(PreviewText::page));
     pageLabel_.setContentsMargins(4, 0, 4, 0);
@@ -157,14 +156,14 @@ void PreviewWindow::addPageTools() {
         bar_.addWidget(widget);
     }
     connect(&page_, &QSpinBox::valueChanged, this, [this](int page) { view_.showPage(page - 1); });
-    addTool(next_, "reportNext", icons::nextPage, PreviewText::nextPage, QKeySequence(Qt::CTRL | Qt::Key_PageDown),
+    addTool(next_, "reportNext", "report/next-page", PreviewText::nextPage, QKeySequence(Qt::CTRL | Qt::Key_PageDown),
             [this] { view_.showPage(view_.page() + 1); });
-    addTool(last_, "reportLast", icons::lastPage, PreviewText::lastPage, QKeySequence(Qt::CTRL | Qt::Key_End),
+    addTool(last_, "reportLast", "report/last-page", PreviewText::lastPage, QKeySequence(Qt::CTRL | Qt::Key_End),
             [this] { view_.showPage(pages_.count() - 1); });
 }
 
 void PreviewWindow::addZoomTools() {
-    addTool(zoomOut_, "reportZoomOut", icons::zoomOut, PreviewText::zoomOut, QKeySequence(Qt::CTRL | Qt::Key_Minus),
+    addTool(zoomOut_, "reportZoomOut", "report/zoom-out", PreviewText::zoomOut, QKeySequence(Qt::CTRL | Qt::Key_Minus),
             [this] { view_.zoomStep(-1); });
     zoom_.setObjectName(QStringLiteral("reportZoom"));
     zoom_.setAccessibleName(text(PreviewText::zoom));
@@ -176,11 +175,11 @@ void PreviewWindow::addZoomTools() {
     }
     connect(&zoom_, &QComboBox::activated, this, [this](int index) { chooseZoom(index); });
     bar_.addWidget(&zoom_);
-    addTool(zoomIn_, "reportZoomIn", icons::zoomIn, PreviewText::zoomIn, QKeySequence(Qt::CTRL | Qt::Key_Plus),
+    addTool(zoomIn_, "reportZoomIn", "report/zoom-in", PreviewText::zoomIn, QKeySequence(Qt::CTRL | Qt::Key_Plus),
             [this] { view_.zoomStep(1); });
-    addTool(width_, "reportFitWidth", icons::fitWidth, PreviewText::fitWidth, QKeySequence(Qt::CTRL | Qt::Key_0),
+    addTool(width_, "reportFitWidth", "report/fit-width", PreviewText::fitWidth, QKeySequence(Qt::CTRL | Qt::Key_0),
             [this] { view_.setFit(PageView::Fit::width); });
-    addTool(whole_, "reportFitPage", icons::fitPage, PreviewText::fitPage, QKeySequence(Qt::CTRL | Qt::Key_1),
+    addTool(whole_, "reportFitPage", "report/fit-page", PreviewText::fitPage, QKeySequence(Qt::CTRL | Qt::Key_1),
             [this] { view_.setFit(PageView::Fit::page); });
 }
 

@@ -6,7 +6,6 @@
 #include <algorithm>
 
 #include "adapters/qt/grid/grid_cell.h"
-#include "adapters/qt/icons.h"
 #include "adapters/qt/svg_icon.h"
 
 namespace hx::qt {
@@ -134,7 +133,7 @@ void GridPainter::paintButton(QPainter& painter, const QRect& cell, int row, int
 QIcon GridPainter::pictureOf(const forms::Column& column) {
     QIcon& known = pictures_[column.buttonPicture().svg];
     if (known.isNull()) known = svgIcon(column.buttonPicture());
-    if (known.isNull()) known = svgIcon(icons::choose);
+    if (known.isNull()) known = namedIcon("choose");
     return known;
 }
 

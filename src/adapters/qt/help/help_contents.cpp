@@ -3,7 +3,6 @@
 #include <QScopedValueRollback>
 #include <QTreeWidgetItemIterator>
 
-#include "adapters/qt/help/help_icons.h"
 #include "adapters/qt/svg_icon.h"
 #include "adapters/qt/text.h"
 
@@ -38,7 +37,7 @@ void HelpContents::add(const std::vector<HelpEntry>& entries, QTreeWidgetItem* p
         auto* item = new QTreeWidgetItem(parent, QStringList(entry.title));
         item->setData(0, pathRole, entry.path);
         item->setToolTip(0, plainToolTip(entry.title));
-        item->setIcon(0, svgIcon(QByteArray(entry.children.empty() ? help_icons::topic : help_icons::book)));
+        item->setIcon(0, namedIcon(entry.children.empty() ? "help/topic" : "help/book"));
         add(entry.children, item);
     }
 }

@@ -4,7 +4,6 @@
 #include <QTextCursor>
 #include <QTextDocument>
 
-#include "adapters/qt/help/help_icons.h"
 #include "adapters/qt/help/help_texts.h"
 #include "adapters/qt/svg_icon.h"
 #include "adapters/qt/text.h"
@@ -25,9 +24,9 @@ HelpFindBar::HelpFindBar(QTextBrowser& page, const Wording& wording, QWidget* pa
     field_.setClearButtonEnabled(true);
     field_.setMaximumWidth(320);
     field_.installEventFilter(this);
-    setUpButton(previous_, "helpFindPrevious", help_icons::up);
-    setUpButton(next_, "helpFindNext", help_icons::down);
-    setUpButton(close_, "helpFindClose", help_icons::close);
+    setUpButton(previous_, "helpFindPrevious", "help/up");
+    setUpButton(next_, "helpFindNext", "help/down");
+    setUpButton(close_, "helpFindClose", "help/close");
     state_.setObjectName(QStringLiteral("helpFindState"));
     row_.setContentsMargins(8, 4, 8, 4);
     for (QWidget* widget : {static_cast<QWidget*>(&field_), static_cast<QWidget*>(&previous_),
@@ -46,7 +45,7 @@ HelpFindBar::HelpFindBar(QTextBrowser& page, const Wording& wording, QWidget* pa
 
 void HelpFindBar::setUpButton(QToolButton& button, const char* name, const char* icon) {
     button.setObjectName(QLatin1StringView(name));
-    button.setIcon(svgIcon(QByteArray(icon)));
+    button.setIcon(namedIcon(icon));
     button.setAutoRaise(true);
 }
 

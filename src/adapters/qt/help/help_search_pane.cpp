@@ -2,7 +2,6 @@
 
 #include <QKeyEvent>
 
-#include "adapters/qt/help/help_icons.h"
 #include "adapters/qt/help/help_texts.h"
 #include "adapters/qt/svg_icon.h"
 #include "adapters/qt/text.h"
@@ -60,7 +59,7 @@ void HelpSearchPane::search() {
     if (query.isEmpty() || book_ == nullptr) return state_.setText(helpText(HelpText::searchHint, wording_));
     if (!index_) index_ = std::make_unique<HelpSearch>(*book_);
     for (const HelpHit& hit : index_->find(query)) {
-        auto* item = new QListWidgetItem(svgIcon(QByteArray(help_icons::topic)), hit.title, &list_);
+        auto* item = new QListWidgetItem(namedIcon("help/topic"), hit.title, &list_);
         item->setData(pathRole, hit.path);
         item->setToolTip(titledToolTip(hit.title, hit.excerpt));
     }

@@ -4,7 +4,6 @@
 #include <QScreen>
 #include <QStatusBar>
 
-#include "adapters/qt/help/help_icons.h"
 #include "adapters/qt/help/help_texts.h"
 #include "adapters/qt/svg_icon.h"
 #include "adapters/qt/text.h"
@@ -50,7 +49,7 @@ HelpWindow::HelpWindow(const Wording& wording)
       page_(&right_),
       findBar_(page_, wording, &right_) {
     setObjectName(QStringLiteral("helpWindow"));
-    setWindowIcon(svgIcon(QByteArray(help_icons::viewer)));
+    setWindowIcon(namedIcon("help/viewer"));
     setAttribute(Qt::WA_QuitOnClose, false);  // the studio ends with its own windows
     setUpActions();
     setUpPanes();
@@ -66,16 +65,16 @@ HelpWindow::~HelpWindow() {
 void HelpWindow::addAction(QAction& action, const char* name, const char* icon, const QList<QKeySequence>& keys) {
     action.setObjectName(QLatin1StringView(name));
     action.setShortcuts(keys);
-    if (icon != nullptr) action.setIcon(svgIcon(QByteArray(icon)));
+    if (icon != nullptr) action.setIcon(namedIcon(icon));
     QMainWindow::addAction(&action);
 }
 
 void HelpWindow::setUpActions() {
-    addAction(back_, "helpBack", help_icons::back, {QKeySequence(Qt::ALT | Qt::Key_Left), QKeySequence(Qt::Key_Back)});
-    addAction(forward_, "helpForward", help_icons::forward,
+    addAction(back_, "helpBack", "help/back", {QKeySequence(Qt::ALT | Qt::Key_Left), QKeySequence(Qt::Key_Back)});
+    addAction(forward_, "helpForward", "help/forward",
               {QKeySequence(Qt::ALT | Qt::Key_Right), QKeySequence(Qt::Key_Forward)});
-    addAction(home_, "helpHome", help_icons::home, {QKeySequence(Qt::ALT | Qt::Key_Home)});
-    addAction(find_, "helpFindOnPage", help_icons::find, {QKeySequence(Qt::CTRL | Qt::Key_F)});
+    addAction(home_, "helpHome", "help/home", {QKeySequence(Qt::ALT | Qt::Key_Home)});
+    addAction(find_, "helpFindOnPage", "help/find", {QKeySequence(Qt::CTRL | Qt::Key_F)});
     addAction(findNext_, "helpNextMatch", nullptr, {QKeySequence(Qt::Key_F3)});
     addAction(findPrevious_, "helpPreviousMatch", nullptr, {QKeySequence(Qt::SHIFT | Qt::Key_F3)});
     addAction(escape_, "helpEscape", nullptr, {QKeySequence(Qt::Key_Escape)});
