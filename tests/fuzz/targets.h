@@ -1,5 +1,6 @@
 #pragma once
 
+#include <ostream>
 #include <span>
 #include <string>
 #include <string_view>
@@ -13,6 +14,8 @@ namespace hx::fuzz {
 struct Target {
     std::string_view name;
     void (*run)(std::string_view bytes);
+
+    friend void PrintTo(const Target& target, std::ostream* stream) { *stream << target.name; }
 };
 
 /// All of them. Each has a folder of its name in corpus/.

@@ -101,19 +101,19 @@ TEST(HtmlText, WhatHtmlCannotHoldIsReplaced) {
     EXPECT_EQ(escapeHtml("\xF4\x90\x80\x80"), "\uFFFD\uFFFD\uFFFD\uFFFD");
 }
 
-class GoldenReport : public testing::TestWithParam<std::pair<std::int32_t, const char*>> {};
+class GoldenReport : public testing::TestWithParam<std::string> {};
 
 TEST_P(GoldenReport, IsWrittenAsItWasAgreed) {
-    const auto [language, file] = GetParam();
-    const Report report(smallProject(), textsIn(language), "/plant/Anlage <Süd>.hxs", someDay);
+    const bool inEnglish = GetParam() == "English";
+    const std::string file = inEnglish ? "report_en.html" : "report_de.html";
+    const Report report(smallProject(), textsIn(inEnglish ? english : german), "/plant/Anlage <Süd>.hxs", someDay);
     const std::string html = withoutStyle(htmlOf(report));
-    if (html != golden(file)) std::ofstream(std::string(file) + ".actual", std::ios::binary) << html;
+    if (html != golden(file)) std::ofstream(file + ".actual", std::ios::binary) << html;
     EXPECT_EQ(html, golden(file)) << "what was written is in " << file << ".actual";
 }
 
-INSTANTIATE_TEST_SUITE_P(Languages, GoldenReport,
-                         testing::Values(std::pair{german, "report_de.html"}, std::pair{english, "report_en.html"}),
-                         [](const auto& language) { return language.param.first == english ? "English" : "German"; });
+INSTANTIATE_TEST_SUITE_P(Languages, GoldenReport, testing::Values("German", "English"),
+                         [](const auto& language) { return language.param; });
 
 TEST(HtmlReport, IsNestedWellAndLinksOnlyToWhatIsThere) {
     const std::string html = htmlOf(Report(smallProject(), textsIn(german), "/plant/Anlage.hxs", someDay));

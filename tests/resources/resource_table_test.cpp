@@ -27,6 +27,8 @@ ResourceTable tableFor(std::int32_t language) {
 struct Texts {
     std::int32_t id;
     std::string_view german, english;
+
+    friend void PrintTo(const Texts& texts, std::ostream* stream) { *stream << texts.id; }
 };
 
 constexpr auto allTexts = std::to_array<Texts>({

@@ -131,16 +131,8 @@ TEST_P(DurabilityOf, ADelete) {
     });
 }
 
-std::string nameOf(const testing::TestParamInfo<Fault>& fault) {
-    switch (fault.param) {
-        case Fault::full: return "Full";
-        case Fault::broken: return "Broken";
-        case Fault::powerCut: return "PowerCut";
-    }
-    return {};
-}
-
-INSTANTIATE_TEST_SUITE_P(Disk, DurabilityOf, testing::Values(Fault::full, Fault::broken, Fault::powerCut), nameOf);
+INSTANTIATE_TEST_SUITE_P(Disk, DurabilityOf, testing::Values(Fault::full, Fault::broken, Fault::powerCut),
+                         testing::PrintToStringParamName());
 
 TEST_F(Durability, AFullDiskIsNamed) {
     const Outcome outcome = tryWith(Fault::full, 1, replaceMembers);

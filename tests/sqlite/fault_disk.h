@@ -1,5 +1,6 @@
 #pragma once
 
+#include <ostream>
 #include <sqlite3.h>
 
 namespace hx::sqlite {
@@ -13,6 +14,10 @@ class FaultDisk {
         broken,   ///< the n-th operation reports an input/output error
         powerCut  ///< the n-th operation and all after it do nothing: what stands on the disk then is all there is
     };
+
+    friend void PrintTo(Fault fault, std::ostream* stream) {
+        *stream << (fault == Fault::full ? "Full" : fault == Fault::broken ? "Broken" : "PowerCut");
+    }
 
     FaultDisk(Fault fault, int nth);
     ~FaultDisk();
