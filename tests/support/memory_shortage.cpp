@@ -24,5 +24,8 @@ void* operator new(std::size_t bytes) {
     void* block = hx::support::grants() ? std::malloc(bytes == 0 ? 1 : bytes) : nullptr;
     return block != nullptr ? block : throw std::bad_alloc();
 }
+void* operator new(std::size_t bytes, const std::nothrow_t&) noexcept {
+    return hx::support::grants() ? std::malloc(bytes == 0 ? 1 : bytes) : nullptr;
+}
 void operator delete(void* block) noexcept { std::free(block); }
 void operator delete(void* block, std::size_t) noexcept { std::free(block); }
