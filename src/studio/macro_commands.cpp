@@ -28,6 +28,7 @@ MacroCommands::MacroCommands(QMainWindow& window, ProjectWindow& projects, Studi
     : window_(window),
       projects_(projects),
       host_(host),
+      wording_(host.wording()),
       library_(host.configFolder() + QStringLiteral("/macros"), host.moduleFolders()),
       runAgain_(&window),
       stop_(&window),
@@ -55,10 +56,12 @@ void MacroCommands::addTo(QMainWindow& window) {
 }
 
 void MacroCommands::retranslate() {
-    runAgain_.setText(say(Text::runMacroAgain));
-    runAgain_.setToolTip(qt::plainToolTip(say(Text::runMacroAgainTip).arg(shown(againKey))));
-    stop_.setText(say(Text::stopMacro));
-    stop_.setToolTip(qt::plainToolTip(say(Text::stopMacroTip).arg(shown(stopKey))));
+    runAgain_.setText(wording_.translate("studio", "Run &Again"));
+    runAgain_.setToolTip(
+        qt::plainToolTip(wording_.translate("studio", "Run the last macro again (%1)").arg(shown(againKey))));
+    stop_.setText(wording_.translate("studio", "&Stop"));
+    stop_.setToolTip(qt::plainToolTip(
+        wording_.translate("studio", "Stop the running macro (%1), also while it shows a dialog").arg(shown(stopKey))));
     dock_.setStopKey(shown(stopKey));
     dock_.retranslate();
     menu_.retranslate();
@@ -95,24 +98,27 @@ void MacroCommands::stopAndClose() {
 
 void MacroCommands::chooseMacro() {
     const QString start = QDir(library_.folder()).exists() ? library_.folder() : projects_.projectFolder();
-    QFileDialog dialog(&window_, say(Text::runMacroFileTitle), start);
+    QFileDialog dialog(&window_, wording_.translate("studio", "Run Macro File"), start);
     dialog.setObjectName(QStringLiteral("macroFileDialog"));
-    dialog.setNameFilters({say(Text::macroFiles), say(Text::allFiles)});
+    dialog.setNameFilters(
+        {wording_.translate("studio", "Macros in Lua (*.lua)"), wording_.translate("studio", "All files (*)")});
     dialog.setFileMode(QFileDialog::ExistingFile);
     if (dialog.exec() == QDialog::Accepted) runMacro(dialog.selectedFiles().constFirst());
 }
 
 bool MacroCommands::makeFolder() {
     if (library_.makeFolder()) return true;
-    host_.screen().messageBox(qt::fromQt(say(Text::macroFolderNotWritten).arg(library_.folder())),
-                              forms::message::ok | forms::message::exclamation, qt::fromQt(say(Text::macroOutput)));
+    host_.screen().messageBox(
+        qt::fromQt(wording_.translate("studio", "The macros folder cannot be written:\n%1").arg(library_.folder())),
+        forms::message::ok | forms::message::exclamation, qt::fromQt(wording_.translate("studio", "Macro output")));
     return false;
 }
 
 void MacroCommands::openMacroFolder() {
     if (!makeFolder()) return;
     if (!QDesktopServices::openUrl(QUrl::fromLocalFile(library_.folder()))) {
-        report(say(Text::macroFolderNotOpened).arg(QDir::toNativeSeparators(library_.folder())));
+        report(wording_.translate("studio", "The folder could not be opened: %1")
+                   .arg(QDir::toNativeSeparators(library_.folder())));
     }
 }
 
@@ -120,12 +126,12 @@ void MacroCommands::copySampleMacros() {
     if (!makeFolder()) return;
     const int copied = library_.copySamples();
     const QString place = QDir::toNativeSeparators(library_.sampleFolder());
-    if (copied > 0) report(say(Text::sampleMacrosCopied).arg(copied).arg(place));
-    else if (copied == 0) report(say(Text::sampleMacrosThere).arg(place));
+    if (copied > 0) report(wording_.translate("studio", "%1 sample macros copied to %2").arg(copied).arg(place));
+    else if (copied == 0) report(wording_.translate("studio", "The sample macros are there already: %1").arg(place));
     else
-        (void)host_.screen().messageBox(qt::fromQt(say(Text::macroFolderNotWritten).arg(place)),
-                                        forms::message::ok | forms::message::exclamation,
-                                        qt::fromQt(say(Text::macroOutput)));
+        (void)host_.screen().messageBox(
+            qt::fromQt(wording_.translate("studio", "The macros folder cannot be written:\n%1").arg(place)),
+            forms::message::ok | forms::message::exclamation, qt::fromQt(wording_.translate("studio", "Macro output")));
 }
 
 void MacroCommands::report(const QString& text) { window_.statusBar()->showMessage(text, messageTime); }

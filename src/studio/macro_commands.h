@@ -36,11 +36,11 @@ class MacroCommands : public QObject, private MacroMenuCommands {
     void showRunning();
     void report(const QString& text);
     [[nodiscard]] bool makeFolder();
-    [[nodiscard]] QString say(Text text) const { return studioText(text, host_.wording()); }
 
     QMainWindow& window_;
     ProjectWindow& projects_;
     StudioHost& host_;
+    const qt::Wording& wording_;
     MacroLibrary library_;
     QAction runAgain_, stop_;
     MacroDock dock_;

@@ -116,7 +116,8 @@ void MacroDock::flush() {
     if (buffer_.isEmpty()) return;
     std::size_t leftOut = 0;
     const QString text = buffer_.take(leftOut);
-    if (leftOut > 0) append(say(Text::macroLinesLeftOut).arg(wording_.number(leftOut)) + '\n', {});
+    if (leftOut > 0)
+        append(wording_.translate("studio", "[%1 lines left out]").arg(wording_.number(leftOut)) + '\n', {});
     append(text, {});
 }
 
@@ -190,26 +191,27 @@ QString MacroDock::stateText() const {
     const QLocale locale(wording_.isEnglish() ? QLocale::English : QLocale::German);
     const QString seconds = locale.toString(seconds_, 'f', 1);
     switch (state_) {
-        case State::running: return say(Text::macroRunning).arg(name_, stopKey_);
-        case State::done: return say(Text::macroDone).arg(name_, seconds);
-        case State::stopped: return say(Text::macroStopped).arg(name_, seconds);
+        case State::running: return wording_.translate("studio", "%1 is running… (%2 stops it)").arg(name_, stopKey_);
+        case State::done: return wording_.translate("studio", "%1: done in %2 s").arg(name_, seconds);
+        case State::stopped: return wording_.translate("studio", "%1: stopped after %2 s").arg(name_, seconds);
         case State::failed:
-            if (line_.isEmpty()) return say(Text::macroFailed).arg(name_);
-            return say(Text::macroFailedInLine).arg(name_, line_);
-        case State::notRead: return say(Text::macroNotRead).arg(name_);
+            if (line_.isEmpty()) return wording_.translate("studio", "%1: failed").arg(name_);
+            return wording_.translate("studio", "%1: failed in line %2").arg(name_, line_);
+        case State::notRead: return wording_.translate("studio", "The file cannot be read: %1").arg(name_);
         default: return {};
     }
 }
 
 void MacroDock::retranslate() {
-    setWindowTitle(say(Text::macroOutput));
-    tools_.setWindowTitle(say(Text::macroOutput));
-    text_.setAccessibleName(say(Text::macroOutput));
-    clear_.setText(say(Text::clearOutput));
-    copy_.setText(say(Text::copyOutput));
-    argumentsLabel_.setText(say(Text::macroArguments));
-    arguments_.setAccessibleName(say(Text::macroArguments).remove('&').remove(':'));
-    arguments_.setToolTip(qt::plainToolTip(say(Text::macroArgumentsTip)));
+    setWindowTitle(wording_.translate("studio", "Macro output"));
+    tools_.setWindowTitle(wording_.translate("studio", "Macro output"));
+    text_.setAccessibleName(wording_.translate("studio", "Macro output"));
+    clear_.setText(wording_.translate("studio", "Cl&ear"));
+    copy_.setText(wording_.translate("studio", "Cop&y"));
+    argumentsLabel_.setText(wording_.translate("studio", "Ar&guments:"));
+    arguments_.setAccessibleName(wording_.translate("studio", "Ar&guments:").remove('&').remove(':'));
+    arguments_.setToolTip(qt::plainToolTip(
+        wording_.translate("studio", "What the macro is given, separated by spaces; text with spaces in \"\"")));
     status_.setText(stateText());
 }
 

@@ -10,7 +10,6 @@
 #include "adapters/qt/controls/plain_label.h"
 #include "adapters/qt/wording.h"
 #include "studio/output_buffer.h"
-#include "studio/studio_texts.h"
 
 namespace hx::studio {
 
@@ -50,7 +49,6 @@ class MacroDock : public QDockWidget {
     void copyText();
     void setState(State state);
     [[nodiscard]] QString stateText() const;
-    [[nodiscard]] QString say(Text text) const { return studioText(text, wording_); }
 
     const qt::Wording& wording_;
     QWidget panel_;

@@ -2,7 +2,7 @@
 
 #include "adapters/qt/svg_icon.h"
 #include "adapters/qt/text.h"
-#include "studio/studio_texts.h"
+#include "adapters/qt/wording.h"
 
 namespace hx::studio {
 
@@ -38,10 +38,10 @@ MacroMenu::MacroMenu(QWidget& window, const MacroLibrary& library, MacroMenuComm
 }
 
 void MacroMenu::retranslate() {
-    setTitle(studioText(Text::macrosMenu, wording_));
-    runFile_.setText(studioText(Text::runMacroFile, wording_));
-    openFolder_.setText(studioText(Text::openMacroFolder, wording_));
-    copySamples_.setText(studioText(Text::copySampleMacros, wording_));
+    setTitle(wording_.translate("studio", "M&acros"));
+    runFile_.setText(wording_.translate("studio", "Run Macro &File…"));
+    openFolder_.setText(wording_.translate("studio", "&Open Macros Folder"));
+    copySamples_.setText(wording_.translate("studio", "&Copy Sample Macros"));
 }
 
 void MacroMenu::setRunning(bool running) {
@@ -57,7 +57,7 @@ void MacroMenu::fill() {
         any = any || !folder.macros.isEmpty();
         addMacros(folder, folder.name.isEmpty() ? *this : *addMenu(asEntry(folder.name)));
     }
-    if (!any) addAction(studioText(Text::noMacros, wording_))->setEnabled(false);
+    if (!any) addAction(wording_.translate("studio", "(no macros yet)"))->setEnabled(false);
     addSeparator();
     addActions({&runFile_, &runAgain_, &stop_});
     addSeparator();
@@ -69,7 +69,8 @@ void MacroMenu::addMacros(const MacroFolder& folder, QMenu& menu) {
     menu.setToolTipsVisible(true);
     for (const MacroFile& macro : folder.macros) {
         QAction* action = menu.addAction(qt::namedIcon("studio/run-macro"), asEntry(macro.name));
-        const QString hint = macro.hint.isEmpty() ? studioText(Text::macroHint, wording_).arg(macro.name) : macro.hint;
+        const QString hint =
+            macro.hint.isEmpty() ? wording_.translate("studio", "Run the macro %1").arg(macro.name) : macro.hint;
         action->setToolTip(qt::plainToolTip(hint));
         action->setStatusTip(hint);
         action->setEnabled(!running_);

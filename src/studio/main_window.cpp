@@ -36,6 +36,7 @@ bool isProjectFile(const QString& path) { return host::isProjectFile(qt::fromQt(
 MainWindow::MainWindow(StudioHost& host, Preferences& preferences)
     : host_(host),
       preferences_(preferences),
+      wording_(host.wording()),
       documentsHandle_(host.windows().add(documents_)),
       explorer_(tree_, documentsHandle_, host.clipboard(), host.screen()),
       macros_(*this, *this, host, explorer_),
@@ -84,7 +85,8 @@ void MainWindow::readLanguage() {
     } catch (const automation::Error& error) {
         const QString reason = told(error);
         QMetaObject::invokeMethod(
-            this, [this, reason] { warn(Text::registryNotRead, reason); }, Qt::QueuedConnection);
+            this, [this, reason] { warn(wording_.translate("studio", "The settings could not be read.\n%1"), reason); },
+            Qt::QueuedConnection);
     }
     useLanguage(lcid);
 }
@@ -93,15 +95,16 @@ void MainWindow::useLanguage(std::int32_t lcid) {
     host_.wording().setLanguage(lcid);
     QCoreApplication::removeTranslator(&translator_);
     const bool translated =
-        !host_.wording().isEnglish() &&
+        !wording_.isEnglish() &&
         translator_.load(QStringLiteral("qtbase_de"), QLibraryInfo::path(QLibraryInfo::TranslationsPath));
     if (translated) QCoreApplication::installTranslator(&translator_);
-    explorerDock_.setWindowTitle(say(Text::explorer));
+    explorerDock_.setWindowTitle(wording_.translate("studio", "Project Explorer"));
     macros_.retranslate();
     menus_.retranslate();
-    tree_.setAccessibleName(say(Text::explorer));
-    documents_.setAccessibleName(say(Text::documents));
-    documents_.setHint(project_ ? QString() : say(Text::hint));
+    tree_.setAccessibleName(wording_.translate("studio", "Project Explorer"));
+    documents_.setAccessibleName(wording_.translate("studio", "Documents"));
+    documents_.setHint(
+        project_ ? QString() : wording_.translate("studio", "No project is open\n\nFile → Open or File → New Project"));
 }
 
 void MainWindow::chooseLanguage(std::int32_t lcid) {
@@ -109,10 +112,14 @@ void MainWindow::chooseLanguage(std::int32_t lcid) {
         host_.registry().writeNumber(host::registry_keys::helvix, languageValue, lcid);
     } catch (const automation::Error& error) {
         menus_.retranslate();
-        return warn(Text::registryNotWritten, told(error));
+        return warn(wording_.translate("studio", "The setting could not be saved.\n%1"), told(error));
     }
     useLanguage(lcid);
-    statusBar()->showMessage(say(project_ ? Text::languageLater : Text::ready), messageTime);
+    statusBar()->showMessage(
+        project_ ? wording_.translate("studio",
+                                      "The recipe editor's language takes effect with the next project that is opened.")
+                 : wording_.translate("studio", "Ready"),
+        messageTime);
 }
 
 bool MainWindow::openProject(const QString& path) { return reported(&MainWindow::open, path); }
@@ -131,20 +138,22 @@ void MainWindow::open(const QString& path) {
     const QFileInfo file(path);
     if (!file.isFile()) {
         tellUnlessListed(preferences_.removeRecent(path));
-        fail(Text::fileMissing, file.absoluteFilePath());
+        fail(wording_.translate("studio", "The project file was not found:\n%1"), file.absoluteFilePath());
     }
     if (!isProjectFile(file.fileName())) {
-        fail(Text::notProjectName, file.absoluteFilePath());
+        fail(wording_.translate("studio", "The name of a project file ends in \".hxs\":\n%1"), file.absoluteFilePath());
     }
-    if (!host::isNameable(qt::fromQt(file.absoluteFilePath()))) fail(Text::notProjectPath, file.absoluteFilePath());
+    if (!host::isNameable(qt::fromQt(file.absoluteFilePath())))
+        fail(wording_.translate("studio", "The name and the folder of a project must not contain \";\" or \"\"\":\n%1"),
+             file.absoluteFilePath());
     closeProject();
     try {
         project_ = std::make_unique<Project>(path, host_, explorer_);
     } catch (const automation::Error& error) {
-        fail(Text::registryNotWritten, told(error));
+        fail(wording_.translate("studio", "The setting could not be saved.\n%1"), told(error));
     }
     showProject();
-    statusBar()->showMessage(say(Text::projectOpened).arg(project_->name()), messageTime);
+    statusBar()->showMessage(wording_.translate("studio", "Project %1 opened").arg(project_->name()), messageTime);
     tellUnlessListed(preferences_.addRecent(project_->file()));
     startAddIn();
 }
@@ -152,7 +161,9 @@ void MainWindow::open(const QString& path) {
 // In the status line: the project itself is not concerned.
 void MainWindow::tellUnlessListed(bool listed) {
     if (listed) return;
-    const QString text = say(Text::settingsNotWritten).replace('\n', ' ').arg(preferences_.file());
+    const QString text = wording_.translate("studio", "The window and the list of projects could not be saved:\n%1")
+                             .replace('\n', ' ')
+                             .arg(preferences_.file());
     statusBar()->showMessage(text, messageTime);
 }
 
@@ -161,7 +172,7 @@ void MainWindow::startAddIn() {
         installHelp();
         project_->startAddIn();
     } catch (const automation::Error& error) {
-        warn(Text::addInNotLoaded, told(error));
+        warn(wording_.translate("studio", "The recipe editor is not available.\n%1"), told(error));
     }
     tree_.setCurrentIndex(explorer_.model().find(qt::QtExplorer::projectKey));
     tree_.setFocus(Qt::OtherFocusReason);
@@ -171,8 +182,9 @@ void MainWindow::startAddIn() {
 void MainWindow::installHelp() {
     HelpFile& help = host_.helpFile();
     help.nameCommonFolder();
-    if (help.install(host_.wording().language()) == HelpFile::Result::failed) {
-        statusBar()->showMessage(say(Text::helpNotInstalled).arg(help.path()), messageTime);
+    if (help.install(wording_.language()) == HelpFile::Result::failed) {
+        statusBar()->showMessage(
+            wording_.translate("studio", "The help could not be put in its place: %1").arg(help.path()), messageTime);
     }
 }
 
@@ -182,7 +194,7 @@ void MainWindow::showHelp() {
         host_.help().showContext(documentsHandle_, qt::fromQt(host_.helpFile().path()),
                                  resources::help_context::overview);
     } catch (const automation::Error& error) {
-        warn(Text::registryNotWritten, told(error));
+        warn(wording_.translate("studio", "The setting could not be saved.\n%1"), told(error));
     }
 }
 
@@ -190,19 +202,23 @@ void MainWindow::closeProject() {
     if (!project_) return;
     project_.reset();
     showProject();
-    statusBar()->showMessage(say(Text::projectClosed), messageTime);
+    statusBar()->showMessage(wording_.translate("studio", "Project closed"), messageTime);
 }
 
 bool MainWindow::createProject(const QString& path) { return reported(&MainWindow::create, path); }
 
 void MainWindow::create(const QString& path) {
     const QString file = isProjectFile(path) ? path : path + qt::toQt(host::projectExtension);
-    if (QFileInfo::exists(file)) fail(Text::fileExists, file);
-    if (!host::isNameable(qt::fromQt(QFileInfo(file).absoluteFilePath()))) fail(Text::notProjectPath, file);
+    if (QFileInfo::exists(file))
+        fail(wording_.translate("studio", "The file exists already. Please choose another name:\n%1"), file);
+    if (!host::isNameable(qt::fromQt(QFileInfo(file).absoluteFilePath())))
+        fail(wording_.translate("studio", "The name and the folder of a project must not contain \";\" or \"\"\":\n%1"),
+             file);
     try {
         sqlite::createProject(qt::fromQt(file));
     } catch (const automation::Error& error) {
-        fail(Text::fileNotCreated, qt::toQt(error.description(host_.screen().language())));
+        fail(wording_.translate("studio", "The project could not be created:\n%1"),
+             qt::toQt(error.description(host_.screen().language())));
     }
     open(file);
 }
@@ -210,12 +226,14 @@ void MainWindow::create(const QString& path) {
 void MainWindow::showProject() {
     setWindowTitle(project_ ? title + QStringLiteral(" - ") + project_->name() : title);
     fileLabel_.setText(project_ ? QDir::toNativeSeparators(project_->file()) : QString());
-    documents_.setHint(project_ ? QString() : say(Text::hint));
+    documents_.setHint(
+        project_ ? QString() : wording_.translate("studio", "No project is open\n\nFile → Open or File → New Project"));
     menus_.setProjectOpen(project_ != nullptr);
 }
 
 void MainWindow::newProject() {
-    QFileDialog dialog(this, say(Text::newProjectTitle), projectFolder(), say(Text::projectFiles));
+    QFileDialog dialog(this, wording_.translate("studio", "New Project"), projectFolder(),
+                       wording_.translate("studio", "HelvixStudio projects (*.hxs)"));
     dialog.setObjectName(QStringLiteral("newProjectDialog"));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setOption(QFileDialog::DontConfirmOverwrite);  // an existing file is never overwritten
@@ -224,23 +242,30 @@ void MainWindow::newProject() {
 }
 
 void MainWindow::chooseProject() {
-    QFileDialog dialog(this, say(Text::openProjectTitle), projectFolder());
+    QFileDialog dialog(this, wording_.translate("studio", "Open Project"), projectFolder());
     dialog.setObjectName(QStringLiteral("openProjectDialog"));
-    dialog.setNameFilters({say(Text::projectFiles), say(Text::allFiles)});
+    dialog.setNameFilters(
+        {wording_.translate("studio", "HelvixStudio projects (*.hxs)"), wording_.translate("studio", "All files (*)")});
     dialog.setFileMode(QFileDialog::ExistingFile);
     if (dialog.exec() == QDialog::Accepted) openProject(dialog.selectedFiles().constFirst());
 }
 
 void MainWindow::clearRecent() {
-    if (!preferences_.clearRecent()) warn(Text::settingsNotWritten, preferences_.file());
+    if (!preferences_.clearRecent())
+        warn(wording_.translate("studio", "The window and the list of projects could not be saved:\n%1"),
+             preferences_.file());
 }
 
 void MainWindow::showAbout() {
     QMessageBox box(this);
     box.setObjectName(QStringLiteral("aboutBox"));
-    box.setWindowTitle(say(Text::about).remove('&'));
+    box.setWindowTitle(wording_.translate("studio", "&About HelvixStudio").remove('&'));
     box.setIconPixmap(windowIcon().pixmap(64, 64));
-    box.setText(say(Text::aboutText).arg(versionText().section(' ', 1)));
+    box.setText(
+        wording_
+            .translate("studio",
+                       "<b>HelvixStudio %1</b><p>Engineering of process visualisations with the recipe editor.</p>")
+            .arg(versionText().section(' ', 1)));
     box.exec();
 }
 
@@ -249,7 +274,9 @@ void MainWindow::closeEvent(QCloseEvent* event) {
         macros_.stopAndClose();
         return event->ignore();
     }
-    if (!preferences_.saveWindow(saveGeometry(), saveState())) warn(Text::settingsNotWritten, preferences_.file());
+    if (!preferences_.saveWindow(saveGeometry(), saveState()))
+        warn(wording_.translate("studio", "The window and the list of projects could not be saved:\n%1"),
+             preferences_.file());
     closeProject();
     host_.help().closeAll();
     event->accept();
@@ -263,11 +290,9 @@ QString MainWindow::told(const automation::Error& error) const {
     return qt::toQt(error.message(host_.screen().language()));
 }
 
-void MainWindow::fail(Text text, const QString& detail) const {
-    throw automation::Error(automation::errFail, qt::fromQt(say(text).arg(detail)));
+void MainWindow::fail(const QString& text, const QString& detail) const {
+    throw automation::Error(automation::errFail, qt::fromQt(text.arg(detail)));
 }
-
-QString MainWindow::say(Text text) const { return studioText(text, host_.wording()); }
 
 QString MainWindow::projectFolder() const {
     if (project_) return QFileInfo(project_->file()).absolutePath();

@@ -8,6 +8,7 @@
 #include "adapters/qt/controls/plain_label.h"
 #include "adapters/qt/explorer/explorer_tree.h"
 #include "adapters/qt/explorer/qt_explorer.h"
+#include "adapters/qt/wording.h"
 #include "studio/document_area.h"
 #include "studio/macro_commands.h"
 #include "studio/preferences.h"
@@ -15,7 +16,6 @@
 #include "studio/project_window.h"
 #include "studio/studio_host.h"
 #include "studio/studio_menus.h"
-#include "studio/studio_texts.h"
 
 namespace hx::studio {
 
@@ -60,15 +60,15 @@ class MainWindow : public QMainWindow, private StudioCommands, private ProjectWi
     void startAddIn();
     void showProject();
     void warn(const QString& text);
-    void warn(Text text, const QString& detail) { warn(say(text).arg(detail)); }
+    void warn(const QString& text, const QString& detail) { warn(text.arg(detail)); }
     [[nodiscard]] bool reported(void (MainWindow::*action)(const QString&), const QString& path);
     void tellUnlessListed(bool listed);
     [[nodiscard]] QString told(const automation::Error& error) const;
-    [[noreturn]] void fail(Text text, const QString& detail) const;
-    [[nodiscard]] QString say(Text text) const;
+    [[noreturn]] void fail(const QString& text, const QString& detail) const;
 
     StudioHost& host_;
     Preferences& preferences_;
+    const qt::Wording& wording_;
     DocumentArea documents_;
     QDockWidget explorerDock_;
     qt::ExplorerTree tree_;

@@ -4,8 +4,8 @@
 
 #include "adapters/qt/svg_icon.h"
 #include "adapters/qt/text.h"
+#include "adapters/qt/wording.h"
 #include "studio/clipboard_keeper.h"
-#include "studio/studio_texts.h"
 
 namespace hx::studio {
 
@@ -35,7 +35,8 @@ void Project::startAddIn() {
     const auto object = host_.components().create(addInClass);
     auto addIn = std::dynamic_pointer_cast<host::CHX4Extensibility>(object);
     if (!addIn) {
-        throw automation::Error(automation::errFail, qt::fromQt(studioText(Text::addInWrong, host_.wording())));
+        throw automation::Error(automation::errFail, qt::fromQt(host_.wording().translate(
+                                                         "studio", "The module is no add-in of the studio.")));
     }
     // The add-in hands its pictures over by the clipboard, where the user may have something else.
     const ClipboardKeeper clipboard;

@@ -4,7 +4,7 @@
 #include <QMenuBar>
 
 #include "adapters/qt/svg_icon.h"
-#include "studio/studio_texts.h"
+#include "adapters/qt/wording.h"
 
 namespace hx::studio {
 
@@ -72,20 +72,21 @@ void StudioMenus::build(QMainWindow& window, const QList<QAction*>& views) {
 }
 
 void StudioMenus::retranslate() {
-    const std::pair<QAction*, Text> actions[] = {{file_.menuAction(), Text::fileMenu},
-                                                 {recent_.menuAction(), Text::recentProjects},
-                                                 {view_.menuAction(), Text::viewMenu},
-                                                 {language_.menuAction(), Text::languageMenu},
-                                                 {help_.menuAction(), Text::helpMenu},
-                                                 {&new_, Text::newProject},
-                                                 {&open_, Text::openProject},
-                                                 {&close_, Text::closeProject},
-                                                 {&exit_, Text::exitStudio},
-                                                 {&german_, Text::german},
-                                                 {&english_, Text::english},
-                                                 {&showHelp_, Text::showHelp},
-                                                 {&about_, Text::about}};
-    for (const auto& [action, text] : actions) action->setText(studioText(text, wording_));
+    const std::pair<QAction*, QString> actions[] = {
+        {file_.menuAction(), wording_.translate("studio", "&File")},
+        {recent_.menuAction(), wording_.translate("studio", "&Recent Projects")},
+        {view_.menuAction(), wording_.translate("studio", "&View")},
+        {language_.menuAction(), wording_.translate("studio", "&Language")},
+        {help_.menuAction(), wording_.translate("studio", "&Help")},
+        {&new_, wording_.translate("studio", "&New Project…")},
+        {&open_, wording_.translate("studio", "&Open…")},
+        {&close_, wording_.translate("studio", "&Close Project")},
+        {&exit_, wording_.translate("studio", "E&xit")},
+        {&german_, wording_.translate("studio", "&Deutsch (German)")},
+        {&english_, wording_.translate("studio", "&English")},
+        {&showHelp_, wording_.translate("studio", "&Recipe System Help")},
+        {&about_, wording_.translate("studio", "&About HelvixStudio")}};
+    for (const auto& [action, text] : actions) action->setText(text);
     (wording_.isEnglish() ? english_ : german_).setChecked(true);
 }
 
@@ -99,7 +100,7 @@ void StudioMenus::fillRecent() {
             action, &QAction::triggered, this, [this, path] { commands_.openRecent(path); }, Qt::QueuedConnection);
     }
     recent_.addSeparator();
-    QAction* clear = recent_.addAction(studioText(Text::clearRecent, wording_));
+    QAction* clear = recent_.addAction(wording_.translate("studio", "&Clear List"));
     clear->setEnabled(number > 0);
     connect(clear, &QAction::triggered, this, [this] { commands_.clearRecent(); });
 }

@@ -8,8 +8,8 @@ void dressButtons(QDialogButtonBox& buttons, const Wording& wording) {
     for (QAbstractButton* button : buttons.buttons()) {
         button->setIcon(QIcon());
         const auto kind = buttons.standardButton(button);
-        if (kind == QDialogButtonBox::Ok) button->setText(wording.text(Word::ok));
-        else if (kind == QDialogButtonBox::Cancel) button->setText(wording.text(Word::cancel));
+        if (kind == QDialogButtonBox::Ok) button->setText(wording.translate("dialogs", "OK"));
+        else if (kind == QDialogButtonBox::Cancel) button->setText(wording.translate("dialogs", "Cancel"));
     }
 }
 

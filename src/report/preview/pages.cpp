@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "adapters/qt/text.h"
-#include "report/preview/preview_texts.h"
+#include "adapters/qt/wording.h"
 
 namespace hx::report {
 
@@ -152,7 +152,8 @@ void Pages::paintFrame(QPainter& painter, int page) const {
     put(half(toQt(report_.fullTitle())), headerText, Qt::AlignLeft);
     if (recipe) put(half(toQt(report_.nameOf(*recipe))), headerText, Qt::AlignRight);
     put(toQt(report_.created()), footer + 60, Qt::AlignLeft);
-    put(previewText(PreviewText::pageOfPages, texts).arg(page + 1).arg(count()), footer + 60, Qt::AlignRight);
+    put(qt::Wording(texts.wording()).translate("report", "Page %1 of %2").arg(page + 1).arg(count()), footer + 60,
+        Qt::AlignRight);
     painter.setPen(QPen(lineColor, hairline));
     painter.drawLine(QLineF(left, headerLine, end, headerLine));
     painter.drawLine(QLineF(left, footer, end, footer));

@@ -45,17 +45,15 @@ void PreviewWindow::save(const FileKind& kind) {
 // A file that may not be written leads back to the choice. Empty when the user gives up.
 QString PreviewWindow::askForFile(const FileKind& kind) {
     QString proposed = qt::toQt(report_.projectName()) + '.' + QLatin1StringView(kind.suffix);
-    qt::Wording wording;
-    if (report_.texts().isEnglish()) wording.setLanguage(qt::Wording::english);
     while (true) {
-        QFileDialog dialog(this, text(kind.hint), folder_, text(kind.kinds));
+        QFileDialog dialog(this, kind.hint, folder_, kind.kinds);
         dialog.setObjectName(QStringLiteral("reportFileDialog"));
         dialog.setAcceptMode(QFileDialog::AcceptSave);
         dialog.setOption(QFileDialog::DontConfirmOverwrite);  // asked in the studio's own words
         dialog.setDefaultSuffix(QLatin1StringView(kind.suffix));
-        dialog.setLabelText(QFileDialog::Accept, text(PreviewText::save));
-        dialog.setLabelText(QFileDialog::Reject, text(PreviewText::cancel));
-        if (auto* buttons = dialog.findChild<QDialogButtonBox*>()) qt::dressButtons(*buttons, wording);
+        dialog.setLabelText(QFileDialog::Accept, wording_.translate("report", "Save"));
+        dialog.setLabelText(QFileDialog::Reject, wording_.translate("report", "Cancel"));
+        if (auto* buttons = dialog.findChild<QDialogButtonBox*>()) qt::dressButtons(*buttons, wording_);
         dialog.selectFile(proposed);
         if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return {};
         QString path = dialog.selectedFiles().constFirst();
@@ -69,11 +67,13 @@ bool PreviewWindow::mayWrite(const QString& path) {
     if (!QFileInfo::exists(path)) return true;
     const QString shown = QDir::toNativeSeparators(path);
     if (isSameFile(path, qt::toQt(report_.projectFile()))) {
-        say(text(PreviewText::notOverProject).arg(shown), forms::message::ok | forms::message::exclamation);
+        say(wording_.translate("report", "The report cannot be written in place of the project file:\n%1").arg(shown),
+            forms::message::ok | forms::message::exclamation);
         return false;
     }
     constexpr std::int32_t style = forms::message::yesNo | forms::message::question | forms::message::defaultButton2;
-    return say(text(PreviewText::overwrite).arg(shown), style) == forms::message::Answer::yes;
+    return say(wording_.translate("report", "The file exists already:\n%1\n\nReplace it?").arg(shown), style) ==
+           forms::message::Answer::yes;
 }
 
 void PreviewWindow::print() {
@@ -110,8 +110,11 @@ void PreviewWindow::printTo(QPrinter& printer) {
     const QString name = printer.printerName();
     const bool done = paintPages(sheets, range, printer);
     wait.reset();
-    if (done) status_.showMessage(text(PreviewText::printed).arg(name), 15000);
-    else say(text(PreviewText::notPrinted).arg(name), forms::message::ok | forms::message::critical);
+    if (done) status_.showMessage(wording_.translate("report", "Sent to the printer “%1”").arg(name), 15000);
+    else
+        say(wording_.translate("report", "The report could not be printed. The printer “%1” does not take a job.")
+                .arg(name),
+            forms::message::ok | forms::message::critical);
 }
 
 }  // namespace hx::report

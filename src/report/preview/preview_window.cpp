@@ -51,6 +51,7 @@ PreviewWindow::PreviewWindow(const Report& report, const host::Services& service
                          Qt::WindowCloseButtonHint),
       report_(report),
       services_(services),
+      wording_(report.texts().wording()),
       handle_(handle),
       pages_(report, usualPaper()),
       folder_(QFileInfo(qt::toQt(report.projectFile())).absolutePath()),
@@ -83,46 +84,48 @@ PreviewWindow::PreviewWindow(const Report& report, const host::Services& service
     view_.setFocus();
 }
 
-void PreviewWindow::addTool(QAction& action, const char* name, const char* icon, PreviewText caption,
-                            const QKeySequence& key, const std::function<void()>& run, bool withText) {
+void PreviewWindow::addTool(QAction& action, const char* name, const char* icon, const QString& text,
+                            const QKeySequence& key, const std::function<void()>& run, bool withText,
+                            const QString& hint) {
     action.setObjectName(QLatin1StringView(name));
-    action.setText(text(caption));
+    action.setText(text);
     action.setIcon(qt::namedIcon(icon));
     action.setShortcut(key);
-    const PreviewText hint = caption == PreviewText::savePdf    ? PreviewText::savePdfHint
-                             : caption == PreviewText::saveHtml ? PreviewText::saveHtmlHint
-                                                                : caption;
-    action.setToolTip(
-        qt::plainToolTip(QStringLiteral("%1 (%2)").arg(text(hint), key.toString(QKeySequence::NativeText))));
+    const QString& told = hint.isEmpty() ? text : hint;
+    action.setToolTip(qt::plainToolTip(QStringLiteral("%1 (%2)").arg(told, key.toString(QKeySequence::NativeText))));
     connect(&action, &QAction::triggered, this, run);
     bar_.addAction(&action);
     auto* button = qobject_cast<QToolButton*>(bar_.widgetForAction(&action));
     button->setFocusPolicy(Qt::TabFocus);
-    button->setAccessibleName(text(hint));
+    button->setAccessibleName(told);
     if (withText) button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
 }
 
 void PreviewWindow::setUpTools() {
     bar_.setObjectName(QStringLiteral("reportBar"));
-    bar_.setAccessibleName(text(PreviewText::tools));
+    bar_.setAccessibleName(wording_.translate("report", "Tools"));
     bar_.setIconSize(QSize(iconSize, iconSize));
     addTool(
-        print_, "reportPrint", "report/print", PreviewText::print, QKeySequence::Print, [this] { print(); }, true);
+        print_, "reportPrint", "report/print", wording_.translate("report", "Print"), QKeySequence::Print,
+        [this] { print(); }, true);
+    const QString asPdf = wording_.translate("report", "Save as PDF");
     addTool(
-        pdf_, "reportPdf", "report/pdf", PreviewText::savePdf, QKeySequence(Qt::CTRL | Qt::Key_S),
-        [this] {
-            save({PreviewText::savePdfHint, PreviewText::fileKindPdf, "pdf", [this](const QString& path) {
+        pdf_, "reportPdf", "report/pdf", wording_.translate("report", "PDF"), QKeySequence(Qt::CTRL | Qt::Key_S),
+        [this, asPdf] {
+            save({asPdf, wording_.translate("report", "PDF files (*.pdf)"), "pdf", [this](const QString& path) {
                       return savePdf(report_, pages_, {0, pages_.count() - 1}, path);
                   }});
         },
-        true);
+        true, asPdf);
+    const QString asHtml = wording_.translate("report", "Save as HTML");
     addTool(
-        html_, "reportHtml", "report/html", PreviewText::saveHtml, QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S),
-        [this] {
-            save({PreviewText::saveHtmlHint, PreviewText::fileKindHtml, "html",
+        html_, "reportHtml", "report/html", wording_.translate("report", "HTML"),
+        QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S),
+        [this, asHtml] {
+            save({asHtml, wording_.translate("report", "HTML files (*.html *.htm)"), "html",
                   [this](const QString& path) { return saveHtml(report_, path); }});
         },
-        true);
+        true, asHtml);
     bar_.addSeparator();
     addPageTools();
     bar_.addSeparator();
@@ -131,61 +134,62 @@ void PreviewWindow::setUpTools() {
     space->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     bar_.addWidget(space);
     addTool(
-        close_, "reportClose", "report/close", PreviewText::close, QKeySequence(Qt::Key_Escape), [this] { close(); },
-        true);
+        close_, "reportClose", "report/close", wording_.translate("report", "Close"), QKeySequence(Qt::Key_Escape),
+        [this] { close(); }, true);
 }
 
 void PreviewWindow::addPageTools() {
-    addTool(first_, "reportFirst", "report/first-page", PreviewText::firstPage, QKeySequence(Qt::CTRL | Qt::Key_Home),
-            [this] { view_.showPage(0); });
-    addTool(previous_, "reportPrevious", "report/previous-page", PreviewText::previousPage,
+    addTool(first_, "reportFirst", "report/first-page", wording_.translate("report", "First Page"),
+            QKeySequence(Qt::CTRL | Qt::Key_Home), [this] { view_.showPage(0); });
+    addTool(previous_, "reportPrevious", "report/previous-page", wording_.translate("report", "Previous Page"),
             QKeySequence(Qt::CTRL | Qt::Key_PageUp), [this] { view_.showPage(view_.page() - 1); });
-    pageLabel_.setText(text(PreviewText::page));
+    pageLabel_.setText(wording_.translate("report", "Page"));
     pageLabel_.setContentsMargins(4, 0, 4, 0);
     page_.setObjectName(QStringLiteral("reportPage"));
-    page_.setAccessibleName(text(PreviewText::page));
+    page_.setAccessibleName(wording_.translate("report", "Page"));
     page_.setButtonSymbols(QAbstractSpinBox::NoButtons);
     page_.setAlignment(Qt::AlignRight);
     page_.setRange(1, pages_.count());
     page_.setKeyboardTracking(false);
-    count_.setText(
-        text(PreviewText::ofPages).arg(qt::toQt(report_.texts().number(static_cast<std::size_t>(pages_.count())))));
+    count_.setText(wording_.translate("report", "of %1")
+                       .arg(qt::toQt(report_.texts().number(static_cast<std::size_t>(pages_.count())))));
     count_.setContentsMargins(4, 0, 4, 0);
     for (QWidget* widget :
          {static_cast<QWidget*>(&pageLabel_), static_cast<QWidget*>(&page_), static_cast<QWidget*>(&count_)}) {
         bar_.addWidget(widget);
     }
     connect(&page_, &QSpinBox::valueChanged, this, [this](int page) { view_.showPage(page - 1); });
-    addTool(next_, "reportNext", "report/next-page", PreviewText::nextPage, QKeySequence(Qt::CTRL | Qt::Key_PageDown),
-            [this] { view_.showPage(view_.page() + 1); });
-    addTool(last_, "reportLast", "report/last-page", PreviewText::lastPage, QKeySequence(Qt::CTRL | Qt::Key_End),
-            [this] { view_.showPage(pages_.count() - 1); });
+    addTool(next_, "reportNext", "report/next-page", wording_.translate("report", "Next Page"),
+            QKeySequence(Qt::CTRL | Qt::Key_PageDown), [this] { view_.showPage(view_.page() + 1); });
+    addTool(last_, "reportLast", "report/last-page", wording_.translate("report", "Last Page"),
+            QKeySequence(Qt::CTRL | Qt::Key_End), [this] { view_.showPage(pages_.count() - 1); });
 }
 
 void PreviewWindow::addZoomTools() {
-    addTool(zoomOut_, "reportZoomOut", "report/zoom-out", PreviewText::zoomOut, QKeySequence(Qt::CTRL | Qt::Key_Minus),
-            [this] { view_.zoomStep(-1); });
+    addTool(zoomOut_, "reportZoomOut", "report/zoom-out", wording_.translate("report", "Zoom Out"),
+            QKeySequence(Qt::CTRL | Qt::Key_Minus), [this] { view_.zoomStep(-1); });
     zoom_.setObjectName(QStringLiteral("reportZoom"));
-    zoom_.setAccessibleName(text(PreviewText::zoom));
-    zoom_.setToolTip(qt::plainToolTip(text(PreviewText::zoom)));
+    zoom_.setAccessibleName(wording_.translate("report", "Zoom"));
+    zoom_.setToolTip(qt::plainToolTip(wording_.translate("report", "Zoom")));
     for (const ZoomEntry& entry : zoomEntries) {
         const bool isWidth = entry.fit == PageView::Fit::width;
         zoom_.addItem(entry.percent > 0 ? percentText(entry.percent / 100.0)
-                                        : text(isWidth ? PreviewText::fitWidth : PreviewText::fitPage));
+                      : isWidth         ? wording_.translate("report", "Page Width")
+                                        : wording_.translate("report", "Whole Page"));
     }
     connect(&zoom_, &QComboBox::activated, this, [this](int index) { chooseZoom(index); });
     bar_.addWidget(&zoom_);
-    addTool(zoomIn_, "reportZoomIn", "report/zoom-in", PreviewText::zoomIn, QKeySequence(Qt::CTRL | Qt::Key_Plus),
-            [this] { view_.zoomStep(1); });
-    addTool(width_, "reportFitWidth", "report/fit-width", PreviewText::fitWidth, QKeySequence(Qt::CTRL | Qt::Key_0),
-            [this] { view_.setFit(PageView::Fit::width); });
-    addTool(whole_, "reportFitPage", "report/fit-page", PreviewText::fitPage, QKeySequence(Qt::CTRL | Qt::Key_1),
-            [this] { view_.setFit(PageView::Fit::page); });
+    addTool(zoomIn_, "reportZoomIn", "report/zoom-in", wording_.translate("report", "Zoom In"),
+            QKeySequence(Qt::CTRL | Qt::Key_Plus), [this] { view_.zoomStep(1); });
+    addTool(width_, "reportFitWidth", "report/fit-width", wording_.translate("report", "Page Width"),
+            QKeySequence(Qt::CTRL | Qt::Key_0), [this] { view_.setFit(PageView::Fit::width); });
+    addTool(whole_, "reportFitPage", "report/fit-page", wording_.translate("report", "Whole Page"),
+            QKeySequence(Qt::CTRL | Qt::Key_1), [this] { view_.setFit(PageView::Fit::page); });
 }
 
 void PreviewWindow::setUpPanes() {
     recipes_.setObjectName(QStringLiteral("reportRecipes"));
-    recipes_.setAccessibleName(text(PreviewText::recipes));
+    recipes_.setAccessibleName(wording_.translate("report", "Recipes"));
     recipes_.setModel(&names_);
     recipes_.setEditTriggers(QAbstractItemView::NoEditTriggers);
     recipes_.setUniformItemSizes(true);
@@ -196,7 +200,7 @@ void PreviewWindow::setUpPanes() {
     connect(recipes_.selectionModel(), &QItemSelectionModel::currentChanged, this, [this](const QModelIndex& index) {
         if (recipes_.hasFocus()) showRecipe(index);
     });
-    view_.setAccessibleName(text(PreviewText::pages));
+    view_.setAccessibleName(wording_.translate("report", "Pages of the report"));
     splitter_.setObjectName(QStringLiteral("reportSplitter"));
     splitter_.setStretchFactor(1, 1);
     splitter_.setSizes({listWidth, usualSize.width() - listWidth});
@@ -257,8 +261,10 @@ void PreviewWindow::showRecipe(const QModelIndex& index) {
 
 void PreviewWindow::saved(const QString& path, const QString& problem) {
     const QString shown = QDir::toNativeSeparators(path);
-    if (problem.isEmpty()) status_.showMessage(text(PreviewText::saved).arg(shown), noteTime);
-    else say(text(PreviewText::notSaved).arg(shown, problem), forms::message::ok | forms::message::critical);
+    if (problem.isEmpty()) status_.showMessage(wording_.translate("report", "Saved: %1").arg(shown), noteTime);
+    else
+        say(wording_.translate("report", "The report could not be saved:\n%1\n\n%2").arg(shown, problem),
+            forms::message::ok | forms::message::critical);
 }
 
 forms::message::Answer PreviewWindow::say(const QString& message, std::int32_t style) {

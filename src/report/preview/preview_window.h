@@ -12,10 +12,10 @@
 #include <functional>
 
 #include "adapters/qt/controls/plain_label.h"
+#include "adapters/qt/wording.h"
 #include "host/services.h"
 #include "report/preview/output.h"
 #include "report/preview/page_view.h"
-#include "report/preview/preview_texts.h"
 
 class QPrinter;
 
@@ -33,14 +33,14 @@ class PreviewWindow : public QDialog {
   private:
     /// A kind of file that the report can be saved as.
     struct FileKind {
-        PreviewText hint, kinds;
+        QString hint, kinds;
         const char* suffix;
         std::function<QString(const QString& path)> write;
     };
 
     void setUpTools();
-    void addTool(QAction& action, const char* name, const char* icon, PreviewText text, const QKeySequence& key,
-                 const std::function<void()>& run, bool withText = false);
+    void addTool(QAction& action, const char* name, const char* icon, const QString& text, const QKeySequence& key,
+                 const std::function<void()>& run, bool withText = false, const QString& hint = {});
     void addPageTools();
     void addZoomTools();
     void setUpPanes();
@@ -58,10 +58,10 @@ class PreviewWindow : public QDialog {
     void saved(const QString& path, const QString& problem);
     forms::message::Answer say(const QString& text, std::int32_t style);
     void showHelp();
-    [[nodiscard]] QString text(PreviewText text) const { return previewText(text, report_.texts()); }
 
     const Report& report_;
     const host::Services& services_;
+    const qt::Wording wording_;
     forms::WindowHandle handle_;
     Pages pages_;
     QString folder_;

@@ -4,7 +4,7 @@
 #include <cmath>
 
 #include "adapters/qt/text.h"
-#include "report/preview/preview_texts.h"
+#include "adapters/qt/wording.h"
 #include "resources/text_ids.h"
 
 namespace hx::report {
@@ -57,7 +57,7 @@ Cell RowMaker::page(std::size_t recipe) const { return page(recipe, width_ - pag
 Cell RowMaker::page(std::size_t recipe, double x, double width) const {
     return {.x = x,
             .width = width,
-            .lines = {previewText(PreviewText::pageReference, texts_)},
+            .lines = {qt::Wording(texts_.wording()).translate("report", "p. %1")},
             .face = &faces_.small,
             .tone = Tone::muted,
             .right = true,

@@ -37,7 +37,7 @@ int runStudio(StudioApplication& application, const Options& options) {
     MainWindow window(host, preferences);
     application.setReport([&host](const automation::Error& error) {
         host.screen().messageBox(error.message(host.screen().language()), forms::message::critical,
-                                 qt::fromQt(studioText(Text::unexpected, host.wording())));
+                                 qt::fromQt(host.wording().translate("studio", "Unexpected Error")));
     });
     window.show();
     QTimer::singleShot(0, &window, [&] {

@@ -14,7 +14,7 @@ bool chooseFont(forms::Font::Values& font, const Wording& wording, QWidget* owne
     offered.setFamily(shown.family());
     QFontDialog dialog(offered, owner);
     dialog.setObjectName(QStringLiteral("fontDialog"));
-    dialog.setWindowTitle(wording.text(Word::chooseFont));
+    dialog.setWindowTitle(wording.translate("dialogs", "Select Font"));
     dialog.setOption(QFontDialog::DontUseNativeDialog);
     if (auto* buttons = dialog.findChild<QDialogButtonBox*>()) dressButtons(*buttons, wording);
     const QFont before = dialog.currentFont();

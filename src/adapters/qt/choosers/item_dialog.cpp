@@ -13,13 +13,13 @@ ItemDialog::ItemDialog(const Wording& wording, VariableList variables, QWidget* 
       model_(std::move(variables), wording),
       table_(model_, searchField_) {
     setObjectName(QStringLiteral("itemDialog"));
-    searchLabel_.setText(wording.text(Word::searchVariable));
-    setWindowTitle(wording.text(Word::chooseVariable));
+    searchLabel_.setText(wording.translate("dialogs", "&Search:"));
+    setWindowTitle(wording.translate("dialogs", "Select Variable"));
     searchLabel_.setBuddy(&searchField_);
     searchField_.setObjectName(QStringLiteral("itemSearch"));
     searchField_.setAccessibleName(searchLabel_.text().remove('&'));
     searchField_.setClearButtonEnabled(true);
-    searchField_.setPlaceholderText(wording.text(Word::searchHint));
+    searchField_.setPlaceholderText(wording.translate("dialogs", "words in name, type or comment; -word excludes"));
     searchRow_.addWidget(&searchLabel_);
     searchRow_.addWidget(&searchField_);
     column_.addLayout(&searchRow_);
@@ -61,8 +61,8 @@ void ItemDialog::search(const QString& text) {
 
 void ItemDialog::refresh() {
     buttons_.button(QDialogButtonBox::Ok)->setEnabled(!selected().isEmpty());
-    count_.setText(model_.list().size() == 0 ? wording_.text(Word::noVariables)
-                                             : wording_.text(Word::shownCount)
+    count_.setText(model_.list().size() == 0 ? wording_.translate("dialogs", "The project's variable list is empty.")
+                                             : wording_.translate("dialogs", "%1 of %2")
                                                    .arg(wording_.number(static_cast<std::size_t>(model_.rowCount())),
                                                         wording_.number(model_.list().size())));
 }

@@ -13,7 +13,7 @@ namespace hx::qt {
 MultiItemsModel::MultiItemsModel(forms::HXMultiItems& items, VariableList variables, const Wording& wording)
     : VariableModel(std::move(variables), wording),
       items_(&items),
-      missingText_(wording.text(Word::missingVariable)),
+      missingText_(wording.translate("dialogs", "missing in the variable list")),
       missing_(0) {
     refresh();
 }

@@ -42,13 +42,13 @@ void MultiItemsView::name(const forms::HXMultiItems& items) {
     onlyChecked_.setObjectName(own + QStringLiteral(".onlyChecked"));
     table_.setObjectName(own + QStringLiteral(".list"));
     count_.setObjectName(own + QStringLiteral(".count"));
-    searchLabel_.setText(wording_.text(Word::searchVariable));
+    searchLabel_.setText(wording_.translate("dialogs", "&Search:"));
     searchLabel_.setBuddy(&searchField_);
     searchField_.setAccessibleName(searchLabel_.text().remove('&'));
-    searchField_.setPlaceholderText(wording_.text(Word::searchHint));
+    searchField_.setPlaceholderText(wording_.translate("dialogs", "words in name, type or comment; -word excludes"));
     searchField_.setClearButtonEnabled(true);
-    onlyChecked_.setText(wording_.text(Word::onlyChecked));
-    table_.setAccessibleName(wording_.text(Word::variables));
+    onlyChecked_.setText(wording_.translate("dialogs", "&only checked"));
+    table_.setAccessibleName(wording_.translate("dialogs", "Variables"));
 }
 
 void MultiItemsView::arrange() {
@@ -92,12 +92,15 @@ void MultiItemsView::toggle() {
 
 void MultiItemsView::showCount() {
     const auto& items = *modelOf<forms::HXMultiItems>(*this);
-    if (model_.list().size() == 0) return count_.setText(wording_.text(Word::noVariables));
-    const QString counts = wording_.text(Word::checkedCount)
+    if (model_.list().size() == 0)
+        return count_.setText(wording_.translate("dialogs", "The project's variable list is empty."));
+    const QString counts = wording_.translate("dialogs", "%1 of %2, %3 checked")
                                .arg(wording_.number(static_cast<std::size_t>(model_.rowCount())),
                                     wording_.number(model_.list().size()), wording_.number(items.selectedCount()));
     const std::size_t missing = model_.missingCount();
-    count_.setText(missing == 0 ? counts : wording_.text(Word::missingCount).arg(counts, wording_.number(missing)));
+    count_.setText(missing == 0 ? counts
+                                : wording_.translate("dialogs", "%1, %2 of them not in the variable list")
+                                      .arg(counts, wording_.number(missing)));
 }
 
 void MultiItemsView::show(std::string_view property) {

@@ -17,8 +17,8 @@ constexpr std::array fields = {VariableField::name, VariableField::type, Variabl
 VariableModel::VariableModel(VariableList list, const Wording& wording)
     : list_(std::move(list)),
       shown_(list_.size()),
-      headers_{wording.text(Word::variableName), wording.text(Word::variableType),
-               wording.text(Word::variableComment)} {
+      headers_{wording.translate("dialogs", "Name"), wording.translate("dialogs", "Type"),
+               wording.translate("dialogs", "Comment")} {
     std::iota(shown_.begin(), shown_.end(), std::size_t{0});
 }
 

@@ -4,9 +4,9 @@
 #include <QTextCursor>
 #include <QTextDocument>
 
-#include "adapters/qt/help/help_texts.h"
 #include "adapters/qt/svg_icon.h"
 #include "adapters/qt/text.h"
+#include "adapters/qt/wording.h"
 
 namespace hx::qt {
 
@@ -50,16 +50,15 @@ void HelpFindBar::setUpButton(QToolButton& button, const char* name, const char*
 }
 
 void HelpFindBar::retranslate() {
-    const auto name = [this](QToolButton& button, HelpText text, const char* keys) {
-        button.setToolTip(
-            plainToolTip(helpText(text, wording_) + QStringLiteral(" (%1)").arg(QLatin1StringView(keys))));
-        button.setAccessibleName(helpText(text, wording_));
+    const auto name = [this](QToolButton& button, const QString& text, const char* keys) {
+        button.setToolTip(plainToolTip(text + QStringLiteral(" (%1)").arg(QLatin1StringView(keys))));
+        button.setAccessibleName(text);
     };
-    name(previous_, HelpText::findPrevious, wording_.isEnglish() ? "Shift+F3" : "Umschalt+F3");
-    name(next_, HelpText::findNext, "F3");
-    name(close_, HelpText::closeFind, "Esc");
-    field_.setPlaceholderText(helpText(HelpText::findOnPage, wording_));
-    field_.setAccessibleName(helpText(HelpText::findOnPage, wording_));
+    name(previous_, wording_.translate("help", "Previous Match"), wording_.isEnglish() ? "Shift+F3" : "Umschalt+F3");
+    name(next_, wording_.translate("help", "Next Match"), "F3");
+    name(close_, wording_.translate("help", "Close Find"), "Esc");
+    field_.setPlaceholderText(wording_.translate("help", "Find on Page"));
+    field_.setAccessibleName(wording_.translate("help", "Find on Page"));
     showMarks();
 }
 
@@ -138,10 +137,10 @@ void HelpFindBar::showMarks() {
     page_.setExtraSelections(marks);
     QString text;
     if (!field_.text().isEmpty()) {
-        text = matches_.isEmpty() ? helpText(HelpText::notOnPage, wording_)
-                                  : helpText(HelpText::hitOnPage, wording_)
-                                        .arg(std::max<qsizetype>(current_ + 1, 1))
-                                        .arg(matches_.size());
+        text =
+            matches_.isEmpty()
+                ? wording_.translate("help", "Not found")
+                : wording_.translate("help", "%1 of %2").arg(std::max<qsizetype>(current_ + 1, 1)).arg(matches_.size());
     }
     state_.setText(text);
     next_.setEnabled(!matches_.isEmpty());

@@ -2,9 +2,9 @@
 
 #include <QKeyEvent>
 
-#include "adapters/qt/help/help_texts.h"
 #include "adapters/qt/svg_icon.h"
 #include "adapters/qt/text.h"
+#include "adapters/qt/wording.h"
 
 namespace hx::qt {
 
@@ -35,9 +35,9 @@ HelpSearchPane::HelpSearchPane(const Wording& wording, QWidget* parent) : QWidge
 }
 
 void HelpSearchPane::retranslate() {
-    field_.setPlaceholderText(helpText(HelpText::searchWords, wording_));
-    field_.setAccessibleName(helpText(HelpText::searchWords, wording_));
-    list_.setAccessibleName(helpText(HelpText::search, wording_).remove('&'));
+    field_.setPlaceholderText(wording_.translate("help", "Search all topics for words"));
+    field_.setAccessibleName(wording_.translate("help", "Search all topics for words"));
+    list_.setAccessibleName(wording_.translate("help", "&Search").remove('&'));
     search();
 }
 
@@ -56,7 +56,8 @@ void HelpSearchPane::search() {
     const QSignalBlocker quiet(list_);
     list_.clear();
     const QString query = field_.text().simplified();
-    if (query.isEmpty() || book_ == nullptr) return state_.setText(helpText(HelpText::searchHint, wording_));
+    if (query.isEmpty() || book_ == nullptr)
+        return state_.setText(wording_.translate("help", "A topic is found when it contains all of the words."));
     if (!index_) index_ = std::make_unique<HelpSearch>(*book_);
     for (const HelpHit& hit : index_->find(query)) {
         auto* item = new QListWidgetItem(namedIcon("help/topic"), hit.title, &list_);
@@ -64,8 +65,8 @@ void HelpSearchPane::search() {
         item->setToolTip(titledToolTip(hit.title, hit.excerpt));
     }
     const int count = list_.count();
-    state_.setText(count == 0 ? helpText(HelpText::searchNone, wording_)
-                              : helpText(HelpText::searchCount, wording_).arg(count));
+    state_.setText(count == 0 ? wording_.translate("help", "No topic contains all of these words.")
+                              : wording_.translate("help", "Topics: %1").arg(count));
 }
 
 void HelpSearchPane::choose(const QListWidgetItem* item) {

@@ -4,9 +4,9 @@
 #include <QScreen>
 #include <QStatusBar>
 
-#include "adapters/qt/help/help_texts.h"
 #include "adapters/qt/svg_icon.h"
 #include "adapters/qt/text.h"
+#include "adapters/qt/wording.h"
 
 namespace hx::qt {
 
@@ -123,15 +123,21 @@ void HelpWindow::connectPanes() {
     search_.chosen = [this](const QString& path, const QStringList& words) {
         if (page_.showTopic(path)) findBar_.mark(words);
     };
-    page_.outsideLink = [this](const QString& target) { note(helpText(HelpText::outside, wording_).arg(target)); };
-    page_.brokenLink = [this](const QString& path) { note(helpText(HelpText::broken, wording_).arg(path)); };
+    page_.outsideLink = [this](const QString& target) {
+        note(wording_.translate("help", "Help opens only topics of its own, not %1").arg(target));
+    };
+    page_.brokenLink = [this](const QString& path) {
+        note(wording_.translate("help", "There is no topic %1 in this help.").arg(path));
+    };
     connect(&page_, &QTextBrowser::sourceChanged, this, [this] { topicShown(); });
     connect(&page_, &QTextBrowser::backwardAvailable, &back_, &QAction::setEnabled);
     connect(&page_, &QTextBrowser::forwardAvailable, &forward_, &QAction::setEnabled);
     // A link under the mouse says where it leads, when that is out of the book.
     connect(&page_, &QTextBrowser::highlighted, this, [this](const QUrl& link) {
         const bool outside = !link.isRelative() && link.scheme() != QStringLiteral("help");
-        statusBar()->showMessage(outside ? helpText(HelpText::outside, wording_).arg(link.toString()) : QString());
+        statusBar()->showMessage(
+            outside ? wording_.translate("help", "Help opens only topics of its own, not %1").arg(link.toString())
+                    : QString());
     });
     connect(&tabs_, &QTabWidget::currentChanged, this, [this](int index) {
         if (tabs_.widget(index) == &search_) search_.focusField();
@@ -141,19 +147,22 @@ void HelpWindow::connectPanes() {
 }
 
 void HelpWindow::retranslate() {
-    const std::pair<QAction*, HelpText> actions[] = {
-        {&back_, HelpText::back},       {&forward_, HelpText::forward},   {&home_, HelpText::home},
-        {&find_, HelpText::findOnPage}, {&findNext_, HelpText::findNext}, {&findPrevious_, HelpText::findPrevious}};
+    const std::pair<QAction*, QString> actions[] = {{&back_, wording_.translate("help", "Back")},
+                                                    {&forward_, wording_.translate("help", "Forward")},
+                                                    {&home_, wording_.translate("help", "Start Page")},
+                                                    {&find_, wording_.translate("help", "Find on Page")},
+                                                    {&findNext_, wording_.translate("help", "Next Match")},
+                                                    {&findPrevious_, wording_.translate("help", "Previous Match")}};
     for (const auto& [action, text] : actions) {
-        action->setText(helpText(text, wording_));
+        action->setText(text);
         const QString keys = action->shortcut().toString(QKeySequence::NativeText);
         action->setToolTip(plainToolTip(QStringLiteral("%1 (%2)").arg(action->text(), keys)));
     }
-    tabs_.setTabText(0, helpText(HelpText::contents, wording_));
-    tabs_.setTabText(1, helpText(HelpText::search, wording_));
-    tabs_.setAccessibleName(helpText(HelpText::navigation, wording_));
-    contents_.setAccessibleName(helpText(HelpText::contents, wording_).remove('&'));
-    page_.setAccessibleName(helpText(HelpText::topic, wording_));
+    tabs_.setTabText(0, wording_.translate("help", "&Contents"));
+    tabs_.setTabText(1, wording_.translate("help", "&Search"));
+    tabs_.setAccessibleName(wording_.translate("help", "Navigation"));
+    contents_.setAccessibleName(wording_.translate("help", "&Contents").remove('&'));
+    page_.setAccessibleName(wording_.translate("help", "Help Topic"));
     search_.retranslate();
     findBar_.retranslate();
     showTitle();
@@ -171,7 +180,7 @@ void HelpWindow::showContext(std::int32_t context) {
     const auto topic = book_->contexts().constFind(context);
     const bool known = topic != book_->contexts().constEnd();
     page_.showTopic(known ? topic.value() : book_->startTopic());
-    if (!known) note(helpText(HelpText::noContext, wording_).arg(context));
+    if (!known) note(wording_.translate("help", "There is no topic of its own for this place (%1).").arg(context));
 }
 
 void HelpWindow::topicShown() {
@@ -179,12 +188,13 @@ void HelpWindow::topicShown() {
     contents_.select(page_.shownTopic());
     findBar_.pageChanged();
     statusBar()->clearMessage();
-    if (page_.showsTextAlone()) note(helpText(HelpText::textAlone, wording_));
+    if (page_.showsTextAlone())
+        note(wording_.translate("help", "This topic is nested too deeply or too long: only its text is shown."));
 }
 
 void HelpWindow::showTitle() {
     const QString path = page_.shownTopic();
-    const QString name = book_ && !book_->title().isEmpty() ? book_->title() : helpText(HelpText::window, wording_);
+    const QString name = book_ && !book_->title().isEmpty() ? book_->title() : wording_.translate("help", "Help");
     setWindowTitle(path.isEmpty() ? name : QStringLiteral("%1 - %2").arg(book_->titleOf(path), name));
 }
 

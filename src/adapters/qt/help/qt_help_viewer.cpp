@@ -3,8 +3,8 @@
 #include <QApplication>
 #include <QFileInfo>
 
-#include "adapters/qt/help/help_texts.h"
 #include "adapters/qt/text.h"
+#include "adapters/qt/wording.h"
 
 namespace hx::qt {
 
@@ -25,13 +25,17 @@ void QtHelpViewer::showContext(forms::WindowHandle owner, const std::string& fil
 bool QtHelpViewer::openFile(const QString& path, const QString& asNamed) {
     const QFileInfo info(path);
     if (!info.isFile()) {
-        say(wording_.text(Word::helpMissing).arg(asNamed));
+        say(wording_.translate("dialogs", "The help file \"%1\" was not found.").arg(asNamed));
         return false;
     }
     if (window_ && path == path_ && info.lastModified() == changed_) return true;
     auto book = std::make_unique<HelpBook>(path);
     if (!book->isOpen()) {
-        say(helpText(HelpText::damaged, wording_).arg(asNamed));
+        say(wording_
+                .translate("help",
+                           "The help file \"%1\" is damaged or cannot be read.\n\n"
+                           "If you delete the file, the studio will put it there again when a project is next opened.")
+                .arg(asNamed));
         return false;
     }
     if (!window_) window_ = std::make_unique<HelpWindow>(wording_);

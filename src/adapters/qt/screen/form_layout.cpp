@@ -104,7 +104,7 @@ void FormLayout::addButton(Area& area, const forms::LayoutRow& row) {
     area.grid->addWidget(&view.widget(), area.rows, buttonColumn);
     const QString subject = captionOf(row.label);
     if (subject.isEmpty()) return;
-    const QString what = form_.services().wording.text(Word::chooseSubject).arg(subject);
+    const QString what = form_.services().wording.translate("dialogs", "Select %1").arg(subject);
     view.widget().setAccessibleName(what);
     if (view.widget().toolTip().isEmpty()) view.widget().setToolTip(plainToolTip(what));
 }

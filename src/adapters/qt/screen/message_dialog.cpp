@@ -16,15 +16,15 @@ using forms::message::Answer;
 
 struct ButtonRow {
     QMessageBox::StandardButton button;
-    Word word;
+    const char* text;
     Answer answer;
 };
 
 constexpr auto buttonRows = std::to_array<ButtonRow>({
-    {QMessageBox::Yes, Word::yes, Answer::yes},
-    {QMessageBox::No, Word::no, Answer::no},
-    {QMessageBox::Ok, Word::ok, Answer::ok},
-    {QMessageBox::Cancel, Word::cancel, Answer::cancel},
+    {QMessageBox::Yes, QT_TRANSLATE_NOOP("dialogs", "&Yes"), Answer::yes},
+    {QMessageBox::No, QT_TRANSLATE_NOOP("dialogs", "&No"), Answer::no},
+    {QMessageBox::Ok, QT_TRANSLATE_NOOP("dialogs", "OK"), Answer::ok},
+    {QMessageBox::Cancel, QT_TRANSLATE_NOOP("dialogs", "Cancel"), Answer::cancel},
 });
 
 constexpr std::int32_t iconMask = 0xF0;
@@ -59,7 +59,7 @@ void MessageDialog::addButtons(const Wording& wording, std::int32_t style) {
     for (const ButtonRow& row : buttonRows) {
         if (std::ranges::find(answers, row.answer) == answers.end()) continue;
         QPushButton& button = *box_.addButton(row.button);
-        button.setText(wording.text(row.word));
+        button.setText(wording.translate("dialogs", row.text));
         button.setIcon(QIcon());
     }
     box_.setDefaultButton(buttonOf(forms::message::defaultButtonOf(style)));

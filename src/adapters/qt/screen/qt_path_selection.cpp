@@ -52,12 +52,12 @@ std::string QtPathSelection::choose(forms::WindowHandle owner, const std::string
     QWidget* window = windows_.widget(owner);
     const QString start = startFolder(toQt(current));
     QFileDialog dialog(window == nullptr ? QApplication::activeWindow() : window->window(),
-                       wording_.text(Word::chooseFolder), start);
+                       wording_.translate("dialogs", "Select Folder"), start);
     dialog.setObjectName(QStringLiteral("pathDialog"));
     dialog.setFileMode(QFileDialog::Directory);
     dialog.setOption(QFileDialog::ShowDirsOnly);
-    dialog.setLabelText(QFileDialog::Accept, wording_.text(Word::choose));
-    dialog.setLabelText(QFileDialog::Reject, wording_.text(Word::cancel));
+    dialog.setLabelText(QFileDialog::Accept, wording_.translate("dialogs", "Select"));
+    dialog.setLabelText(QFileDialog::Reject, wording_.translate("dialogs", "Cancel"));
     if (auto* buttons = dialog.findChild<QDialogButtonBox*>()) dressButtons(*buttons, wording_);
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return current;
     const QString folder = QDir::cleanPath(dialog.selectedFiles().front());

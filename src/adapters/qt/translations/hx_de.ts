@@ -1,0 +1,630 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de_DE" sourcelanguage="en">
+<context>
+    <name>dialogs</name>
+    <message>
+        <source>Select Font</source>
+        <translation>Schriftart auswählen</translation>
+    </message>
+    <message>
+        <source>&amp;Search:</source>
+        <translation>&amp;Suchen:</translation>
+    </message>
+    <message>
+        <source>Select Variable</source>
+        <translation>Variable auswählen</translation>
+    </message>
+    <message>
+        <source>words in name, type or comment; -word excludes</source>
+        <translation>Wörter in Name, Typ oder Kommentar; -Wort schließt aus</translation>
+    </message>
+    <message>
+        <source>The project&apos;s variable list is empty.</source>
+        <translation>Die Variablenliste des Projekts ist leer.</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 von %2</translation>
+    </message>
+    <message>
+        <source>missing in the variable list</source>
+        <translation>fehlt in der Variablenliste</translation>
+    </message>
+    <message>
+        <source>&amp;only checked</source>
+        <translation>&amp;nur ausgewählte</translation>
+    </message>
+    <message>
+        <source>Variables</source>
+        <translation>Variablen</translation>
+    </message>
+    <message>
+        <source>%1 of %2, %3 checked</source>
+        <translation>%1 von %2, %3 ausgewählt</translation>
+    </message>
+    <message>
+        <source>%1, %2 of them not in the variable list</source>
+        <translation>%1, davon %2 nicht in der Variablenliste</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Typ</translation>
+    </message>
+    <message>
+        <source>Comment</source>
+        <translation>Kommentar</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>The help file &quot;%1&quot; was not found.</source>
+        <translation>Die Hilfedatei &quot;%1&quot; wurde nicht gefunden.</translation>
+    </message>
+    <message>
+        <source>Select %1</source>
+        <translation>%1 auswählen</translation>
+    </message>
+    <message>
+        <source>&amp;Yes</source>
+        <translation>&amp;Ja</translation>
+    </message>
+    <message>
+        <source>&amp;No</source>
+        <translation>&amp;Nein</translation>
+    </message>
+    <message>
+        <source>Select Folder</source>
+        <translation>Ordner auswählen</translation>
+    </message>
+    <message>
+        <source>Select</source>
+        <translation>Auswählen</translation>
+    </message>
+</context>
+<context>
+    <name>help</name>
+    <message>
+        <source>Previous Match</source>
+        <translation>Vorige Fundstelle</translation>
+    </message>
+    <message>
+        <source>Next Match</source>
+        <translation>Nächste Fundstelle</translation>
+    </message>
+    <message>
+        <source>Close Find</source>
+        <translation>Suche schließen</translation>
+    </message>
+    <message>
+        <source>Find on Page</source>
+        <translation>Auf der Seite suchen</translation>
+    </message>
+    <message>
+        <source>Not found</source>
+        <translation>Nicht gefunden</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 von %2</translation>
+    </message>
+    <message>
+        <source>Search all topics for words</source>
+        <translation>Wörter in allen Themen suchen</translation>
+    </message>
+    <message>
+        <source>&amp;Search</source>
+        <translation>&amp;Suche</translation>
+    </message>
+    <message>
+        <source>A topic is found when it contains all of the words.</source>
+        <translation>Ein Thema wird gefunden, wenn es alle Wörter enthält.</translation>
+    </message>
+    <message>
+        <source>No topic contains all of these words.</source>
+        <translation>Kein Thema enthält alle diese Wörter.</translation>
+    </message>
+    <message>
+        <source>Topics: %1</source>
+        <translation>Themen: %1</translation>
+    </message>
+    <message>
+        <source>Help opens only topics of its own, not %1</source>
+        <translation>Die Hilfe öffnet nur eigene Themen, nicht %1</translation>
+    </message>
+    <message>
+        <source>There is no topic %1 in this help.</source>
+        <translation>Das Thema %1 gibt es in dieser Hilfe nicht.</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>Vorwärts</translation>
+    </message>
+    <message>
+        <source>Start Page</source>
+        <translation>Startseite</translation>
+    </message>
+    <message>
+        <source>&amp;Contents</source>
+        <translation>&amp;Inhalt</translation>
+    </message>
+    <message>
+        <source>Navigation</source>
+        <translation>Navigation</translation>
+    </message>
+    <message>
+        <source>Help Topic</source>
+        <translation>Hilfethema</translation>
+    </message>
+    <message>
+        <source>There is no topic of its own for this place (%1).</source>
+        <translation>Zu dieser Stelle (%1) gibt es kein eigenes Thema.</translation>
+    </message>
+    <message>
+        <source>This topic is nested too deeply or too long: only its text is shown.</source>
+        <translation>Dieses Thema ist zu verschachtelt oder zu lang: gezeigt wird nur sein Text.</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Hilfe</translation>
+    </message>
+    <message>
+        <source>The help file &quot;%1&quot; is damaged or cannot be read.
+
+If you delete the file, the studio will put it there again when a project is next opened.</source>
+        <translation>Die Hilfedatei &quot;%1&quot; ist beschädigt oder nicht lesbar.
+
+Wenn Sie die Datei löschen, legt das Studio sie beim nächsten Öffnen eines Projekts neu an.</translation>
+    </message>
+</context>
+<context>
+    <name>report</name>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>Seite %1 von %2</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>The report cannot be written in place of the project file:
+%1</source>
+        <translation>Der Bericht kann nicht an die Stelle der Projektdatei geschrieben werden:
+%1</translation>
+    </message>
+    <message>
+        <source>The file exists already:
+%1
+
+Replace it?</source>
+        <translation>Die Datei gibt es schon:
+%1
+
+Soll sie ersetzt werden?</translation>
+    </message>
+    <message>
+        <source>Sent to the printer “%1”</source>
+        <translation>An den Drucker „%1“ gegeben</translation>
+    </message>
+    <message>
+        <source>The report could not be printed. The printer “%1” does not take a job.</source>
+        <translation>Der Bericht konnte nicht gedruckt werden. Der Drucker „%1“ nimmt keinen Auftrag an.</translation>
+    </message>
+    <message>
+        <source>Tools</source>
+        <translation>Werkzeuge</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>Drucken</translation>
+    </message>
+    <message>
+        <source>Save as PDF</source>
+        <translation>Als PDF speichern</translation>
+    </message>
+    <message>
+        <source>PDF</source>
+        <translation>PDF</translation>
+    </message>
+    <message>
+        <source>PDF files (*.pdf)</source>
+        <translation>PDF-Dateien (*.pdf)</translation>
+    </message>
+    <message>
+        <source>Save as HTML</source>
+        <translation>Als HTML speichern</translation>
+    </message>
+    <message>
+        <source>HTML</source>
+        <translation>HTML</translation>
+    </message>
+    <message>
+        <source>HTML files (*.html *.htm)</source>
+        <translation>HTML-Dateien (*.html *.htm)</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>First Page</source>
+        <translation>Erste Seite</translation>
+    </message>
+    <message>
+        <source>Previous Page</source>
+        <translation>Vorige Seite</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>Seite</translation>
+    </message>
+    <message>
+        <source>of %1</source>
+        <translation>von %1</translation>
+    </message>
+    <message>
+        <source>Next Page</source>
+        <translation>Nächste Seite</translation>
+    </message>
+    <message>
+        <source>Last Page</source>
+        <translation>Letzte Seite</translation>
+    </message>
+    <message>
+        <source>Zoom Out</source>
+        <translation>Verkleinern</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>Darstellungsgröße</translation>
+    </message>
+    <message>
+        <source>Page Width</source>
+        <translation>Seitenbreite</translation>
+    </message>
+    <message>
+        <source>Whole Page</source>
+        <translation>Ganze Seite</translation>
+    </message>
+    <message>
+        <source>Zoom In</source>
+        <translation>Vergrößern</translation>
+    </message>
+    <message>
+        <source>Recipes</source>
+        <translation>Rezepte</translation>
+    </message>
+    <message>
+        <source>Pages of the report</source>
+        <translation>Seiten des Berichts</translation>
+    </message>
+    <message>
+        <source>Saved: %1</source>
+        <translation>Gespeichert: %1</translation>
+    </message>
+    <message>
+        <source>The report could not be saved:
+%1
+
+%2</source>
+        <translation>Der Bericht konnte nicht gespeichert werden:
+%1
+
+%2</translation>
+    </message>
+    <message>
+        <source>p. %1</source>
+        <translation>S. %1</translation>
+    </message>
+</context>
+<context>
+    <name>studio</name>
+    <message>
+        <source>Run &amp;Again</source>
+        <translation>&amp;Nochmals ausführen</translation>
+    </message>
+    <message>
+        <source>Run the last macro again (%1)</source>
+        <translation>Das letzte Makro nochmals ausführen (%1)</translation>
+    </message>
+    <message>
+        <source>&amp;Stop</source>
+        <translation>&amp;Anhalten</translation>
+    </message>
+    <message>
+        <source>Stop the running macro (%1), also while it shows a dialog</source>
+        <translation>Das laufende Makro anhalten (%1), auch solange es einen Dialog zeigt</translation>
+    </message>
+    <message>
+        <source>Run Macro File</source>
+        <translation>Makrodatei ausführen</translation>
+    </message>
+    <message>
+        <source>Macros in Lua (*.lua)</source>
+        <translation>Makros in Lua (*.lua)</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>The macros folder cannot be written:
+%1</source>
+        <translation>Der Makroordner kann nicht beschrieben werden:
+%1</translation>
+    </message>
+    <message>
+        <source>Macro output</source>
+        <translation>Makroausgabe</translation>
+    </message>
+    <message>
+        <source>The folder could not be opened: %1</source>
+        <translation>Der Ordner konnte nicht geöffnet werden: %1</translation>
+    </message>
+    <message>
+        <source>%1 sample macros copied to %2</source>
+        <translation>%1 Beispielmakros kopiert nach %2</translation>
+    </message>
+    <message>
+        <source>The sample macros are there already: %1</source>
+        <translation>Die Beispielmakros sind schon da: %1</translation>
+    </message>
+    <message>
+        <source>[%1 lines left out]</source>
+        <translation>[%1 Zeilen ausgelassen]</translation>
+    </message>
+    <message>
+        <source>%1 is running… (%2 stops it)</source>
+        <translation>%1 läuft … (%2 hält an)</translation>
+    </message>
+    <message>
+        <source>%1: done in %2 s</source>
+        <translation>%1: fertig nach %2 s</translation>
+    </message>
+    <message>
+        <source>%1: stopped after %2 s</source>
+        <translation>%1: angehalten nach %2 s</translation>
+    </message>
+    <message>
+        <source>%1: failed</source>
+        <translation>%1: fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>%1: failed in line %2</source>
+        <translation>%1: fehlgeschlagen in Zeile %2</translation>
+    </message>
+    <message>
+        <source>The file cannot be read: %1</source>
+        <translation>Die Datei kann nicht gelesen werden: %1</translation>
+    </message>
+    <message>
+        <source>Cl&amp;ear</source>
+        <translation>&amp;Leeren</translation>
+    </message>
+    <message>
+        <source>Cop&amp;y</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+    <message>
+        <source>Ar&amp;guments:</source>
+        <translation>Ar&amp;gumente:</translation>
+    </message>
+    <message>
+        <source>What the macro is given, separated by spaces; text with spaces in &quot;&quot;</source>
+        <translation>Was das Makro mitbekommt, durch Leerzeichen getrennt; Text mit Leerzeichen in &quot;&quot;</translation>
+    </message>
+    <message>
+        <source>M&amp;acros</source>
+        <translation>&amp;Makros</translation>
+    </message>
+    <message>
+        <source>Run Macro &amp;File…</source>
+        <translation>Makrodatei aus&amp;führen …</translation>
+    </message>
+    <message>
+        <source>&amp;Open Macros Folder</source>
+        <translation>Makro&amp;ordner öffnen</translation>
+    </message>
+    <message>
+        <source>&amp;Copy Sample Macros</source>
+        <translation>&amp;Beispielmakros kopieren</translation>
+    </message>
+    <message>
+        <source>(no macros yet)</source>
+        <translation>(noch keine Makros)</translation>
+    </message>
+    <message>
+        <source>Run the macro %1</source>
+        <translation>Makro %1 ausführen</translation>
+    </message>
+    <message>
+        <source>The settings could not be read.
+%1</source>
+        <translation>Die Einstellungen konnten nicht gelesen werden.
+%1</translation>
+    </message>
+    <message>
+        <source>Project Explorer</source>
+        <translation>Projekt-Explorer</translation>
+    </message>
+    <message>
+        <source>Documents</source>
+        <translation>Dokumente</translation>
+    </message>
+    <message>
+        <source>No project is open
+
+File → Open or File → New Project</source>
+        <translation>Kein Projekt geöffnet
+
+Datei → Öffnen oder Datei → Neues Projekt</translation>
+    </message>
+    <message>
+        <source>The setting could not be saved.
+%1</source>
+        <translation>Die Einstellung konnte nicht gespeichert werden.
+%1</translation>
+    </message>
+    <message>
+        <source>The recipe editor&apos;s language takes effect with the next project that is opened.</source>
+        <translation>Die Sprache des Rezepteditors gilt ab dem nächsten geöffneten Projekt.</translation>
+    </message>
+    <message>
+        <source>Ready</source>
+        <translation>Bereit</translation>
+    </message>
+    <message>
+        <source>The project file was not found:
+%1</source>
+        <translation>Die Projektdatei wurde nicht gefunden:
+%1</translation>
+    </message>
+    <message>
+        <source>The name of a project file ends in &quot;.hxs&quot;:
+%1</source>
+        <translation>Der Name einer Projektdatei endet auf &quot;.hxs&quot;:
+%1</translation>
+    </message>
+    <message>
+        <source>The name and the folder of a project must not contain &quot;;&quot; or &quot;&quot;&quot;:
+%1</source>
+        <translation>Name und Ordner eines Projekts dürfen kein &quot;;&quot; und kein &quot;&quot;&quot; enthalten:
+%1</translation>
+    </message>
+    <message>
+        <source>Project %1 opened</source>
+        <translation>Projekt %1 geöffnet</translation>
+    </message>
+    <message>
+        <source>The window and the list of projects could not be saved:
+%1</source>
+        <translation>Fenster und Projektliste konnten nicht gespeichert werden:
+%1</translation>
+    </message>
+    <message>
+        <source>The recipe editor is not available.
+%1</source>
+        <translation>Der Rezepteditor steht nicht zur Verfügung.
+%1</translation>
+    </message>
+    <message>
+        <source>The help could not be put in its place: %1</source>
+        <translation>Die Hilfe konnte nicht abgelegt werden: %1</translation>
+    </message>
+    <message>
+        <source>Project closed</source>
+        <translation>Projekt geschlossen</translation>
+    </message>
+    <message>
+        <source>The file exists already. Please choose another name:
+%1</source>
+        <translation>Die Datei gibt es schon. Bitte einen anderen Namen wählen:
+%1</translation>
+    </message>
+    <message>
+        <source>The project could not be created:
+%1</source>
+        <translation>Das Projekt konnte nicht angelegt werden:
+%1</translation>
+    </message>
+    <message>
+        <source>New Project</source>
+        <translation>Neues Projekt</translation>
+    </message>
+    <message>
+        <source>HelvixStudio projects (*.hxs)</source>
+        <translation>HelvixStudio-Projekte (*.hxs)</translation>
+    </message>
+    <message>
+        <source>Open Project</source>
+        <translation>Projekt öffnen</translation>
+    </message>
+    <message>
+        <source>&amp;About HelvixStudio</source>
+        <translation>&amp;Über HelvixStudio</translation>
+    </message>
+    <message>
+        <source>&lt;b&gt;HelvixStudio %1&lt;/b&gt;&lt;p&gt;Engineering of process visualisations with the recipe editor.&lt;/p&gt;</source>
+        <translation>&lt;b&gt;HelvixStudio %1&lt;/b&gt;&lt;p&gt;Projektierung von Prozessvisualisierungen mit dem Rezepteditor.&lt;/p&gt;</translation>
+    </message>
+    <message>
+        <source>Unexpected Error</source>
+        <translation>Unerwarteter Fehler</translation>
+    </message>
+    <message>
+        <source>The module is no add-in of the studio.</source>
+        <translation>Das Modul ist kein Add-In des Studios.</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Datei</translation>
+    </message>
+    <message>
+        <source>&amp;Recent Projects</source>
+        <translation>&amp;Zuletzt geöffnet</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Ansicht</translation>
+    </message>
+    <message>
+        <source>&amp;Language</source>
+        <translation>&amp;Sprache</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Hilfe</translation>
+    </message>
+    <message>
+        <source>&amp;New Project…</source>
+        <translation>&amp;Neues Projekt …</translation>
+    </message>
+    <message>
+        <source>&amp;Open…</source>
+        <translation>Ö&amp;ffnen …</translation>
+    </message>
+    <message>
+        <source>&amp;Close Project</source>
+        <translation>Projekt &amp;schließen</translation>
+    </message>
+    <message>
+        <source>E&amp;xit</source>
+        <translation>&amp;Beenden</translation>
+    </message>
+    <message>
+        <source>&amp;Deutsch (German)</source>
+        <translation>&amp;Deutsch</translation>
+    </message>
+    <message>
+        <source>&amp;English</source>
+        <translation>&amp;English (Englisch)</translation>
+    </message>
+    <message>
+        <source>&amp;Recipe System Help</source>
+        <translation>Hilfe zum &amp;Rezeptsystem</translation>
+    </message>
+    <message>
+        <source>&amp;Clear List</source>
+        <translation>Liste &amp;leeren</translation>
+    </message>
+</context>
+</TS>
