@@ -61,10 +61,12 @@ project::ProjectData read(const std::string& path) {
     return data;
 }
 
+const report::Progress unheard = [](std::int64_t, std::int64_t) {};
+
 /// An application without a display, and in it a report in a view of pages.
 class Desk {
   public:
-    /// Reads the project and lays the report out.
+    /// Reads the project and shows the first page.
     void open(const std::string& path) {
         view_.reset();
         pages_.reset();
@@ -78,8 +80,11 @@ class Desk {
     }
     void showPage(int page) {
         view_->showPage(page);
-        if (view_->grab().isNull() || std::cmp_less(pages_->count(), recipes_ / 2))
-            throw std::runtime_error("pages are missing");
+        if (view_->grab().isNull()) throw std::runtime_error("pages are missing");
+    }
+    void layOut() {
+        layOutAll(*pages_, unheard);
+        if (std::cmp_less(pages_->count(), recipes_ / 2)) throw std::runtime_error("pages are missing");
     }
     [[nodiscard]] const report::Report& report() const { return *report_; }
     [[nodiscard]] const report::Pages& pages() const { return *pages_; }
@@ -121,10 +126,19 @@ Subject make_report::show(const std::string& path) {
     };
 }
 
+Subject make_report::layOut(const std::string& path) {
+    return [=]() -> Work {
+        const auto desk = std::make_shared<Desk>();
+        desk->open(path);
+        return [=] { desk->layOut(); };
+    };
+}
+
 Subject make_report::scroll(const std::string& path) {
     return [=]() -> Work {
         const auto desk = std::make_shared<Desk>();
         desk->open(path);
+        desk->layOut();
         const auto page = std::make_shared<int>(0);
         return [=] {
             constexpr int step = 377;
@@ -138,7 +152,7 @@ Subject make_report::html(const std::string& path) {
     return [=]() -> Work {
         const auto desk = std::make_shared<Desk>();
         desk->open(path);
-        return [=] { requireDone(report::saveHtml(desk->report(), QString::fromStdString(path + ".html"))); };
+        return [=] { requireDone(report::saveHtml(desk->report(), QString::fromStdString(path + ".html"), unheard)); };
     };
 }
 
@@ -147,9 +161,10 @@ Subject make_report::pdf(const std::string& path) {
         const auto desk = std::make_shared<Desk>();
         desk->open(path);
         return [=] {
-            const report::Pages pages(desk->report(), report::usualPaper());
+            report::Pages pages(desk->report(), report::usualPaper());
+            layOutAll(pages, unheard);
             const QString file = QString::fromStdString(path + ".pdf");
-            requireDone(report::savePdf(desk->report(), pages, {0, pages.count() - 1}, file));
+            requireDone(report::savePdf(desk->report(), pages, {0, pages.count() - 1}, file, unheard));
         };
     };
 }

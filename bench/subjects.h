@@ -117,7 +117,8 @@ namespace make_report {
 /// The file of a project of 1,000 recipes with 20,000 members, 1,900 of them sub-recipes, in the folder of another.
 [[nodiscard]] std::string plant(const Project& beside);
 [[nodiscard]] Subject readProject(const std::string& path);
-[[nodiscard]] Subject show(const std::string& path);
+[[nodiscard]] Subject show(const std::string& path);    ///< the first page
+[[nodiscard]] Subject layOut(const std::string& path);  ///< the others
 [[nodiscard]] Subject scroll(const std::string& path);
 [[nodiscard]] Subject html(const std::string& path);
 [[nodiscard]] Subject pdf(const std::string& path);

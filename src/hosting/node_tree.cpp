@@ -106,7 +106,7 @@ void NodeTree::dropped(std::size_t bytes) {
     constexpr std::size_t worthIt = 64 * 1024;
     dropped_ += bytes;
     if (dropped_ < worthIt || dropped_ * 2 < packed_.size()) return;
-    PackedTexts packed;
+    automation::PackedTexts packed;
     for (std::size_t i = 0; i < nodes_.size(); ++i) {
         Node& node = nodes_[i];
         node.key = packed.keep(node.key);

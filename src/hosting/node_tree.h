@@ -9,9 +9,9 @@
 #include <vector>
 
 #include "automation/key_index.h"
+#include "automation/packed_texts.h"
 #include "host/project_explorer.h"
 #include "hosting/chunked_list.h"
-#include "hosting/packed_texts.h"
 #include "hosting/shared_texts.h"
 
 namespace hx::hosting {
@@ -77,9 +77,9 @@ class NodeTree {
     std::vector<Id> free_;
     ChunkedList<Children> lists_;  ///< by number; 0 stays empty, for the nodes without a list
     std::vector<std::uint32_t> freeLists_;
-    PackedTexts packed_;       ///< keys and captions
-    std::size_t dropped_ = 0;  ///< bytes of them that no node has any more
-    SharedTexts texts_;        ///< tags and images
+    automation::PackedTexts packed_;  ///< keys and captions
+    std::size_t dropped_ = 0;         ///< bytes of them that no node has any more
+    SharedTexts texts_;               ///< tags and images
     automation::KeyIndex index_;
     Id last_ = root;  ///< the node added last, or the root
 };

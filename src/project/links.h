@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <span>
 #include <vector>
 
@@ -15,6 +16,8 @@ class Links {
 
     /// The numbers of a node stay in the order in which they are given.
     Links(std::size_t nodes, const std::vector<Link>& links);
+    /// The numbers 0, 1, ... belong to the nodes of this list; each node's ascend.
+    Links(std::size_t nodes, std::span<const std::uint32_t> nodeOfNumbers);
 
     [[nodiscard]] std::size_t nodes() const noexcept { return starts_.size() - 1; }
     [[nodiscard]] std::span<const std::size_t> of(std::size_t node) const {

@@ -1,13 +1,11 @@
 #include "project/project_data.h"
 
-#include <algorithm>
 #include <array>
 #include <span>
 #include <string_view>
-#include <tuple>
-#include <utility>
 
-#include "project/name_order.h"
+#include "project/id_order.h"
+#include "project/project_builder.h"
 #include "project/schema.h"
 
 namespace hx::project {
@@ -16,7 +14,7 @@ namespace {
 
 struct TextColumn {
     std::string_view name;
-    std::string RecipeData::*field;
+    std::string_view RecipeData::*field;
 };
 struct FlagColumn {
     std::string_view name;
@@ -68,64 +66,20 @@ RecipeData recipeOf(Row values) {
     return recipe;
 }
 
-std::vector<RecipeData> readRecipes(Reader& reader) {
-    std::vector<RecipeData> recipes;
-    reader.read(schema::recipeTable, recipeColumns(), [&](Row values) { recipes.push_back(recipeOf(values)); });
-    return recipes;
-}
-
-// The number of members whose recipe there is not.
-std::size_t readMembers(Reader& reader, std::vector<RecipeData>& recipes) {
-    std::unordered_map<std::int64_t, RecipeData*> byId;
-    for (RecipeData& recipe : recipes) byId.emplace(recipe.id, &recipe);
-    using namespace schema::member;
-    std::size_t orphans = 0;
-    reader.read(schema::memberTable, std::array{parentId, childId, varRecipe}, [&](Row values) {
-        const auto parent = byId.find(values[0].integer);
-        if (parent == byId.end()) {
-            ++orphans;
-            return;
-        }
-        const std::int64_t child = values[1].integer;
-        if (child == 0) parent->second->variables.emplace_back(values[2].text);
-        else parent->second->subRecipes.push_back({child, std::string(values[2].text)});
-    });
-    return orphans;
-}
-
-std::vector<RecipeData> inOrder(std::vector<RecipeData> recipes) {
-    struct Place {
-        OrderedName name;
-        std::int64_t id;
-        std::size_t from;
-    };
-    std::vector<Place> places;
-    places.reserve(recipes.size());
-    for (std::size_t i = 0; i < recipes.size(); ++i) places.push_back({OrderedName(recipes[i].name), recipes[i].id, i});
-    std::ranges::sort(places,
-                      [](const Place& a, const Place& b) { return std::tie(a.name, a.id) < std::tie(b.name, b.id); });
-    std::vector<RecipeData> sorted;
-    sorted.reserve(recipes.size());
-    for (const Place& place : places) sorted.push_back(std::move(recipes[place.from]));
-    return sorted;
-}
-
 }  // namespace
 
-ProjectData::ProjectData(std::vector<RecipeData> recipes, std::size_t orphans)
-    : recipes_(inOrder(std::move(recipes))), orphans_(orphans) {
-    for (std::size_t i = 0; i < recipes_.size(); ++i) numbers_.emplace(recipes_[i].id, i);
-}
-
 std::optional<std::size_t> ProjectData::find(std::int64_t id) const {
-    const auto found = numbers_.find(id);
-    return found == numbers_.end() ? std::nullopt : std::optional(found->second);
+    const auto found = positionOf(numbers_, id);
+    return found ? std::optional(numbers_[*found].number) : std::nullopt;
 }
 
 ProjectData readProject(Reader& reader) {
-    std::vector<RecipeData> recipes = readRecipes(reader);
-    const std::size_t orphans = readMembers(reader, recipes);
-    return {std::move(recipes), orphans};
+    ProjectBuilder builder;
+    reader.read(schema::recipeTable, recipeColumns(), [&](Row values) { builder.addRecipe(recipeOf(values)); });
+    using namespace schema::member;
+    reader.read(schema::memberTable, std::array{parentId, childId, varRecipe},
+                [&](Row values) { builder.addMember(values[0].integer, values[1].integer, values[2].text); });
+    return builder.build();
 }
 
 }  // namespace hx::project

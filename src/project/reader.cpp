@@ -5,6 +5,7 @@
 #include <charconv>
 
 #include "automation/text.h"
+#include "project/id_order.h"
 #include "project/schema.h"
 
 namespace hx::project {
@@ -30,20 +31,8 @@ std::size_t columnOf(const std::vector<ado::Column>& columns, std::string_view n
 
 }  // namespace
 
-// The IDs ascend, so the first and the last one tell how far off this one can be: most projects have few gaps.
 std::optional<std::size_t> numberOf(const std::vector<RecipeEntry>& recipes, std::int64_t id) {
-    if (recipes.empty() || id < recipes.front().id || id > recipes.back().id) return std::nullopt;
-    const auto distance = [](std::int64_t from, std::int64_t to) {
-        return static_cast<std::uint64_t>(to) - static_cast<std::uint64_t>(from);
-    };
-    const std::uint64_t last = recipes.size() - 1;
-    const std::uint64_t fromFront = std::min(last, distance(recipes.front().id, id));
-    const std::uint64_t fromBack = std::min(last, distance(id, recipes.back().id));
-    const auto first = recipes.begin() + static_cast<std::ptrdiff_t>(last - fromBack);
-    const auto end = recipes.begin() + static_cast<std::ptrdiff_t>(fromFront) + 1;
-    const auto found = std::ranges::lower_bound(first, end, id, {}, &RecipeEntry::id);
-    if (found == end || found->id != id) return std::nullopt;
-    return static_cast<std::size_t>(found - recipes.begin());
+    return positionOf(recipes, id);
 }
 
 std::optional<std::size_t> findRecipe(const std::vector<RecipeEntry>& recipes, const std::string& nameOrId) {

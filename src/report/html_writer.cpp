@@ -11,6 +11,7 @@ namespace hx::report {
 namespace {
 
 constexpr std::string_view unset = "–";
+constexpr std::size_t enough = 1'000'000;  // bytes of one recipe to be kept
 
 /// Makes the parts of one file.
 class Writer {
@@ -24,6 +25,7 @@ class Writer {
         out("<main>\n");
         for (std::size_t i = 0; i < report_.recipes().size(); ++i) {
             writeSection(i);
+            ++written_;
             flush();
         }
         out("</main>\n</body>\n</html>\n");
@@ -34,7 +36,7 @@ class Writer {
     void out(std::string_view html) { part_ += html; }
     void text(std::string_view plain) { part_ += escapeHtml(plain); }
     void flush() {
-        sink_(part_);
+        sink_(part_, written_);
         part_.clear();
     }
     void element(std::string_view name, std::string_view plain) {
@@ -90,6 +92,7 @@ class Writer {
     const Texts& texts_;
     const TextSink& sink_;
     std::string part_;
+    std::size_t written_ = 0;  // recipes
 };
 
 void Writer::writeHead() {
@@ -182,9 +185,11 @@ void Writer::writeVariables(const project::RecipeData& recipe) {
     heading(texts_.text(Text::variables), recipe.variables.size());
     if (recipe.variables.empty()) return none(Text::noVariables);
     out("<ul class=\"variables\">\n");
-    for (const std::string& variable : recipe.variables) {
+    for (const std::size_t number : recipe.variables) {
+        const std::string_view variable = report_.variable(number);
         element("li", variable.empty() ? unset : variable);
         out("\n");
+        if (part_.size() > enough) flush();
     }
     out("</ul>\n");
 }
@@ -218,7 +223,7 @@ void Writer::writeBranch(const project::Branch& branch) {
                    missing = branch.mark == project::BranchMark::missing;
         remark(cycle ? "mark cycle" : missing ? "mark missing" : "mark", report_.branchNote(branch));
     }
-    if (const std::string& file = report_.branchFile(branch); !file.empty()) remark("file", file);
+    if (const std::string_view file = report_.branchFile(branch); !file.empty()) remark("file", file);
     out("\n");
 }
 

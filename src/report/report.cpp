@@ -24,15 +24,7 @@ std::string nameOfFile(std::string_view path) {
 
 std::string withoutDots(const std::string& text) { return text.substr(0, text.find_last_not_of('.') + 1); }
 
-std::vector<const project::SubRecipe*> inclusionsOf(const project::ProjectData& data) {
-    std::vector<const project::SubRecipe*> inclusions;
-    for (const project::RecipeData& recipe : data.recipes()) {
-        for (const project::SubRecipe& inclusion : recipe.subRecipes) inclusions.push_back(&inclusion);
-    }
-    return inclusions;
-}
-
-// The inclusions in the order of inclusionsOf().
+// The inclusions in the order of the data's subRecipes().
 InclusionGraph graphOf(const project::ProjectData& data) {
     std::vector<InclusionGraph::Inclusion> inclusions;
     for (std::size_t parent = 0; parent < data.recipes().size(); ++parent) {
@@ -47,7 +39,6 @@ InclusionGraph graphOf(const project::ProjectData& data) {
 
 Report::Report(project::ProjectData data, Texts texts, std::string projectFile, const Moment& created)
     : data_(std::move(data)),
-      inclusions_(inclusionsOf(data_)),
       graph_(graphOf(data_)),
       texts_(std::move(texts)),
       projectFile_(std::move(projectFile)),
@@ -91,8 +82,8 @@ void Report::find() {
 }
 
 std::string Report::nameOf(std::size_t recipe) const {
-    const std::string& name = recipes()[recipe].name;
-    return name.empty() ? texts_.text(Text::noName) : name;
+    const std::string_view name = recipes()[recipe].name;
+    return name.empty() ? texts_.text(Text::noName) : std::string(name);
 }
 
 Section Report::section(std::size_t recipe) const {
@@ -112,8 +103,8 @@ project::Uses Report::usesOf(std::size_t recipe) const {
 }
 
 std::vector<PropertyGroup> Report::groupsOf(const project::RecipeData& recipe) const {
-    const auto named = [this](std::int32_t number, std::string value) {
-        return Property{withoutDots(texts_.caption(number)), std::move(value)};
+    const auto named = [this](std::int32_t number, std::string_view value) {
+        return Property{withoutDots(texts_.caption(number)), std::string(value)};
     };
     const bool relative = recipe.normFactor != 0;
     PropertyGroup standard{
@@ -143,11 +134,11 @@ std::vector<Switch> Report::switchesOf(const project::RecipeData& recipe) const 
 
 std::string Report::branchName(const Branch& branch) const {
     if (branch.recipe) return nameOf(*branch.recipe);
-    return texts_.text(Text::missingName, {std::to_string(inclusions_[branch.inclusion]->child)});
+    return texts_.text(Text::missingName, {std::to_string(data_.subRecipes()[branch.inclusion].child)});
 }
 
-const std::string& Report::branchFile(const Branch& branch) const {
-    return inclusions_[branch.inclusion]->fileVariable;
+std::string_view Report::branchFile(const Branch& branch) const {
+    return data_.subRecipes()[branch.inclusion].fileVariable;
 }
 
 std::string Report::branchNote(const Branch& branch) const {

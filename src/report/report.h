@@ -66,10 +66,12 @@ class Report {
     /// The name, or a text that says that there is none.
     [[nodiscard]] std::string nameOf(std::size_t recipe) const;
     [[nodiscard]] Section section(std::size_t recipe) const;
+    /// The name of one of a recipe's variables.
+    [[nodiscard]] std::string_view variable(std::size_t number) const { return data_.variable(number); }
     /// What a branch of a tree is called, the variable that names its file, and what its mark says; empty without a
     /// mark.
     [[nodiscard]] std::string branchName(const project::Branch& branch) const;
-    [[nodiscard]] const std::string& branchFile(const project::Branch& branch) const;
+    [[nodiscard]] std::string_view branchFile(const project::Branch& branch) const;
     [[nodiscard]] std::string branchNote(const project::Branch& branch) const;
 
   private:
@@ -79,8 +81,7 @@ class Report {
     [[nodiscard]] std::vector<Switch> switchesOf(const project::RecipeData& recipe) const;
 
     project::ProjectData data_;
-    std::vector<const project::SubRecipe*> inclusions_;  // of all recipes, as the graph numbers them
-    project::InclusionGraph graph_;
+    project::InclusionGraph graph_;  // its inclusions are the data's subRecipes()
     Texts texts_;
     std::string projectFile_, projectName_;
     Moment created_;

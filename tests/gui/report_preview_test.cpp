@@ -10,6 +10,8 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QMouseEvent>
+#include <QProgressBar>
+#include <QProgressDialog>
 #include <QScrollBar>
 #include <QSpinBox>
 #include <QStatusBar>
@@ -17,9 +19,12 @@
 #include <QToolButton>
 
 #include "adapters/qt/text.h"
+#include "adapters/sqlite/project_file.h"
 #include "adapters/sqlite/provider.h"
 #include "gui/studio_fixture.h"
+#include "project/generator.h"
 #include "report/preview/page_view.h"
+#include "report/preview/preview_window.h"
 
 namespace hx::gui {
 namespace {
@@ -48,6 +53,18 @@ class ReportPreview : public StudioTest {
         project = makeProject();
         open(project);
         click(language == qt::Wording::german ? "Rezepte" : "Recipes");
+        handleEvents();
+    }
+    /// The editor with a project that has a report of many pages.
+    void openLarge() {
+        start();
+        project = folder.filePath("gross.hxs");
+        sqlite::createProject(qt::fromQt(project));
+        sqlite::Provider provider;
+        const auto session = provider.connect("Data Source=" + qt::fromQt(project) + ";Mode=Read|Write;");
+        project::generate(*session, {.recipes = 1500, .members = 15000}, [](std::int64_t) {});
+        open(project);
+        click("Rezepte");
         handleEvents();
     }
     /// Chooses Options, Report in the editor's menu and acts on the preview, which is then closed.
@@ -347,6 +364,44 @@ TEST_F(ReportPreview, ALineOfTheContentsLeadsToItsRecipe) {
         QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, QPoint(x, (first + last) / 2));
         EXPECT_EQ(view.verticalScrollBar()->value(), second);
     });
+}
+
+TEST_F(ReportPreview, ARecipeIsShownAsSoonAsItsPageIsKnown) {
+    openLarge();
+    inPreview([](QWidget& preview) {
+        auto& names = find<QListView>(preview, "reportRecipes");
+        const auto& number = find<QSpinBox>(preview, "reportPage");
+        emit names.clicked(names.model()->index(1499, 0));
+        EXPECT_TRUE(waitUntil([&] { return number.value() > 1000; })) << number.value();
+        EXPECT_TRUE(waitUntil([&] { return !find<QProgressBar>(preview, "reportLayout").isVisible(); }));
+        EXPECT_LE(number.maximum() - number.value(), 2);
+    });
+}
+
+/// Cancels the progress of the report as soon as it is shown.
+class CancelProgress : public QObject {
+  public:
+    CancelProgress() { qApp->installEventFilter(this); }
+    bool eventFilter(QObject* object, QEvent* event) override {
+        if (event->type() == QEvent::Show && object->objectName() == "reportProgress")
+            static_cast<QProgressDialog*>(object)->cancel();
+        return false;
+    }
+};
+
+TEST_F(ReportPreview, WhatTakesLongIsCancelled) {
+    openLarge();
+    inPreview([this](QWidget& preview) {
+        static_cast<report::PreviewWindow&>(preview).patience = 0;
+        const CancelProgress cancelling;
+        for (const char* tool : {"reportPdf", "reportHtml"}) {
+            find<QStatusBar>(preview, "reportStatus").clearMessage();
+            saveWith(preview, tool, choosing(folder.filePath("Bericht")));
+            EXPECT_EQ(find<QStatusBar>(preview, "reportStatus").currentMessage(), "Abgebrochen") << tool;
+        }
+        EXPECT_TRUE(preview.isVisible());
+    });
+    EXPECT_EQ(leftovers(), Names{});
 }
 
 TEST_F(ReportPreview, EscapeClosesIt) {

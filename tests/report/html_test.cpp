@@ -13,7 +13,7 @@ namespace {
 
 std::string htmlOf(const Report& report) {
     std::string html;
-    writeHtml(report, [&](std::string_view part) { html += part; });
+    writeHtml(report, [&](std::string_view part, std::size_t) { html += part; });
     return html;
 }
 
@@ -57,7 +57,7 @@ std::string withoutStyle(const std::string& html) {
 
 /// Two recipes in a cycle, one that is missing, and one with everything set.
 project::ProjectData smallProject() {
-    project::RecipeData juice = recipe(3, "Saft <\"Süß\" & 'sauer'>", {7, 7, 99});
+    support::RecipeDraft juice = recipe(3, "Saft <\"Süß\" & 'sauer'>", {7, 7, 99});
     juice.subRecipes[0].fileVariable = "Datei.Mix";
     juice.fileNameVariable = "Saft.Datei";
     juice.descriptionVariable = "Saft.Beschreibung";
@@ -69,10 +69,10 @@ project::ProjectData smallProject() {
     juice.factorVariable = "Saft.Faktor";
     juice.saveSubRecipes = juice.writeThrough = true;
     juice.variables = {"Mischer.Ein", "Füller.<Menge>", ""};
-    project::RecipeData mix = recipe(7, "Mix", {8});
-    project::RecipeData base = recipe(8, "Basis", {7});
+    support::RecipeDraft mix = recipe(7, "Mix", {8});
+    support::RecipeDraft base = recipe(8, "Basis", {7});
     base.enabled = false;
-    return {{juice, mix, base}, 1};
+    return projectOf({juice, mix, base}, 1);
 }
 
 std::string golden(const std::string& name) {
@@ -129,21 +129,21 @@ TEST(HtmlReport, NeedsNoOtherFile) {
 }
 
 TEST(HtmlReport, TreesOfAnyShapeAreNestedWell) {
-    std::vector<project::RecipeData> recipes;
+    std::vector<support::RecipeDraft> recipes;
     for (std::int32_t id = 1; id <= 60; ++id)
         recipes.push_back(recipe(id, std::to_string(id), {id + 1, id / 2 + 1, 1, 900}));
-    const std::string html = htmlOf(Report({std::move(recipes), 0}, textsIn(german), "Anlage.hxs", someDay));
+    const std::string html = htmlOf(Report(projectOf(recipes), textsIn(german), "Anlage.hxs", someDay));
     EXPECT_EQ(nestingError(html), "");
     EXPECT_EQ(brokenLinks(html), "");
 }
 
 TEST(HtmlReport, NothingThatAUserTypedBecomesMarkup) {
-    project::RecipeData bad = recipe(1, "<script>alert(1)</script>", {2});
+    support::RecipeDraft bad = recipe(1, "<script>alert(1)</script>", {2});
     bad.subRecipes[0].fileVariable = "<b>";
     bad.comment = bad.filePath = bad.loadTrigger = bad.factorVariable = "\"><img>";
     bad.variables = {"</ul><h1>"};
-    project::RecipeData other = recipe(2, "&amp;</title>");
-    const std::string html = htmlOf(Report({{bad, other}, 0}, textsIn(german), "</title>.hxs", someDay));
+    support::RecipeDraft other = recipe(2, "&amp;</title>");
+    const std::string html = htmlOf(Report(projectOf({bad, other}), textsIn(german), "</title>.hxs", someDay));
     for (const char* markup : {"<script", "<b>", "<img", "</ul><h1>", "&amp;</title>"}) {
         EXPECT_EQ(html.find(markup), std::string::npos) << markup;
     }

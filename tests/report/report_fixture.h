@@ -7,8 +7,11 @@
 
 #include "adapters/headless/memory_registry.h"
 #include "report/report.h"
+#include "support/recipe_draft.h"
 
 namespace hx::report {
+
+using support::projectOf;
 
 constexpr std::int32_t german = 1031, english = 1033;
 constexpr Moment someDay{2025, 3, 5, 14, 7};
@@ -22,8 +25,8 @@ inline Texts textsIn(std::int32_t language) {
 }
 
 /// A recipe that includes those with these IDs.
-inline project::RecipeData recipe(std::int32_t id, std::string name, const std::vector<std::int32_t>& children = {}) {
-    project::RecipeData data;
+inline support::RecipeDraft recipe(std::int32_t id, std::string name, const std::vector<std::int32_t>& children = {}) {
+    support::RecipeDraft data;
     data.id = id;
     data.name = std::move(name);
     data.enabled = true;

@@ -9,7 +9,7 @@ namespace {
 
 using Lines = std::vector<std::string>;
 
-project::ProjectData one(const project::RecipeData& data, std::size_t orphans = 0) { return {{data}, orphans}; }
+project::ProjectData one(const support::RecipeDraft& data) { return projectOf({data}); }
 
 Lines propertiesOf(const PropertyGroup& group) {
     Lines lines = {"[" + group.caption + "]"};
@@ -17,8 +17,8 @@ Lines propertiesOf(const PropertyGroup& group) {
     return lines;
 }
 
-project::RecipeData relativeRecipe() {
-    project::RecipeData data = recipe(1, "Cola");
+support::RecipeDraft relativeRecipe() {
+    support::RecipeDraft data = recipe(1, "Cola");
     data.fileNameVariable = "Rezept.Name";
     data.filePath = "<ProjectDir>\\Rezepte";
     data.enabled = false;
@@ -67,13 +67,13 @@ TEST(ReportSection, OptionsAreSwitches) {
 }
 
 TEST(ReportSection, BranchesHaveTheNameFileAndNoteOfTheirSubRecipe) {
-    project::RecipeData mix = recipe(7, "Mix", {3, 99, 7});
+    support::RecipeDraft mix = recipe(7, "Mix", {3, 99, 7});
     mix.subRecipes[0].fileVariable = "Datei";
-    const Report report({{recipe(3, "Basis", {99}), mix}, 0}, textsIn(german), "Anlage.hxs", someDay);
+    const Report report(projectOf({recipe(3, "Basis", {99}), mix}), textsIn(german), "Anlage.hxs", someDay);
     Lines lines;
     for (const project::Branch& branch : report.section(1).tree.branches) {
         lines.push_back(std::to_string(branch.depth) + " " + report.branchName(branch) + "|" +
-                        report.branchFile(branch) + "|" + report.branchNote(branch));
+                        std::string(report.branchFile(branch)) + "|" + report.branchNote(branch));
     }
     EXPECT_EQ(lines,
               (Lines{"0 Basis|Datei|", "1 Rezept Nummer 99||fehlt", "0 Rezept Nummer 99||fehlt", "0 Mix||Kreis"}));
@@ -82,7 +82,7 @@ TEST(ReportSection, BranchesHaveTheNameFileAndNoteOfTheirSubRecipe) {
 TEST(ReportSection, IndirectUsesStandInTheOrderOfTheReport) {
     // The nearest user comes last in the report.
     const Report report(
-        {{recipe(1, "A", {2}), recipe(2, "B", {4}), recipe(3, "C", {5}), recipe(4, "D", {3}), recipe(5, "E")}, 0},
+        projectOf({recipe(1, "A", {2}), recipe(2, "B", {4}), recipe(3, "C", {5}), recipe(4, "D", {3}), recipe(5, "E")}),
         textsIn(german), "Anlage.hxs", someDay);
     const project::Uses uses = report.section(4).uses;
     ASSERT_EQ(uses.direct().size(), 1U);
@@ -95,11 +95,11 @@ TEST(ReportSection, IndirectUsesStandInTheOrderOfTheReport) {
 }
 
 TEST(ReportSection, EndsWhereItWouldBecomeTooLong) {
-    std::vector<project::RecipeData> recipes;
+    std::vector<support::RecipeDraft> recipes;
     const auto last = static_cast<std::int32_t>(Report::mostIndirect) + 5;
     for (std::int32_t id = 1; id < last; ++id) recipes.push_back(recipe(id, std::to_string(id), {id + 1}));
     recipes.push_back(recipe(last, "last", std::vector<std::int32_t>(Report::mostBranches + 1, 9999)));
-    const Report report({std::move(recipes), 0}, textsIn(german), "Anlage.hxs", someDay);
+    const Report report(projectOf(recipes), textsIn(german), "Anlage.hxs", someDay);
     std::size_t at = 0;
     while (report.nameOf(at) != "last") ++at;
     const Section end = report.section(at);
@@ -113,7 +113,7 @@ TEST(ReportSection, EndsWhereItWouldBecomeTooLong) {
 }
 
 TEST(ReportFront, NamesProjectFileDateAndContent) {
-    project::RecipeData mix = recipe(1, "Mix", {2});
+    support::RecipeDraft mix = recipe(1, "Mix", {2});
     mix.variables.assign(1234, "x");
     for (const auto& [language, summary] :
          {std::pair{german,
@@ -122,7 +122,8 @@ TEST(ReportFront, NamesProjectFileDateAndContent) {
           std::pair{english,
                     Lines{"Project=Anlage 1", "Project File=C:\\Plant\\Anlage 1.hxs", "Created=5 March 2025, 14:07",
                           "Content=Recipes: 2, variables: 1,234, sub-recipes: 1"}}}) {
-        const Report report({{mix, recipe(2, "Sirup")}, 0}, textsIn(language), "C:\\Plant\\Anlage 1.hxs", someDay);
+        const Report report(projectOf({mix, recipe(2, "Sirup")}), textsIn(language), "C:\\Plant\\Anlage 1.hxs",
+                            someDay);
         Lines lines = propertiesOf({"", report.summary()});
         lines.erase(lines.begin());
         EXPECT_EQ(lines, summary);
@@ -130,7 +131,7 @@ TEST(ReportFront, NamesProjectFileDateAndContent) {
 }
 
 TEST(ReportFront, NamesWhatTheReaderShouldLookAt) {
-    const Report report({{recipe(1, "A", {2}), recipe(2, "B", {1, 77}), recipe(3, "C")}, 3}, textsIn(german),
+    const Report report(projectOf({recipe(1, "A", {2}), recipe(2, "B", {1, 77}), recipe(3, "C")}, 3), textsIn(german),
                         "Anlage.hxs", someDay);
     EXPECT_EQ(report.findings(),
               (Lines{"Rezeptelemente, die zu keinem Rezept gehören: 3", "„A“ ist in sich selbst enthalten (Kreis).",

@@ -173,7 +173,7 @@ void Writes::begin(bool readOnly) {
     // IMMEDIATE takes the lock now, while nothing has been written that a refusal would undo.
     database_.execute(readOnly ? "BEGIN" : "BEGIN IMMEDIATE");
     database_.expectTransaction(true);
-    database_.useLargeCache(true);
+    if (!readOnly) database_.useLargeCache(true);
 }
 
 void Writes::commit() {

@@ -1,6 +1,7 @@
 #include "report/preview/face.h"
 
 #include <QTextLayout>
+#include <algorithm>
 
 namespace hx::report {
 
@@ -18,11 +19,13 @@ QFont fontOf(double points, bool bold) {
     return font;
 }
 
+bool isControl(QChar c) { return c.category() == QChar::Other_Control; }
+
 // What has no line of its own on paper.
 QString printable(QString text) {
     text.replace(QStringLiteral("\r\n"), QStringLiteral("\n")).replace('\r', '\n').replace('\t', ' ');
     for (QChar& c : text) {
-        if (c.category() == QChar::Other_Control && c != '\n') c = QChar::ReplacementCharacter;
+        if (isControl(c) && c != '\n') c = QChar::ReplacementCharacter;
     }
     return text;
 }
@@ -44,7 +47,10 @@ double Face::width(const QString& text) const {
 
 QStringList Face::lines(const QString& text, double width) const {
     QStringList result;
-    for (const QString& paragraph : printable(text).split('\n')) addLines(result, paragraph, width);
+    // Nearly all texts are one line of letters.
+    if (std::ranges::none_of(text, isControl)) addLines(result, text, width);
+    else
+        for (const QString& paragraph : printable(text).split('\n')) addLines(result, paragraph, width);
     return result;
 }
 

@@ -65,7 +65,14 @@ QString save(const QString& path, automation::Language language,
 
 QSizeF usualPaper() { return QSizeF(QPageSize(QPageSize::A4).size(QPageSize::Point)) * twipsPerPoint; }
 
-bool paintPages(const Pages& pages, PageRange range, QPagedPaintDevice& device) {
+void layOutAll(Pages& pages, const Progress& progress) {
+    while (!pages.complete()) {
+        pages.layOutPart();
+        progress(static_cast<std::int64_t>(pages.partsLaidOut()), static_cast<std::int64_t>(pages.parts()));
+    }
+}
+
+bool paintPages(const Pages& pages, PageRange range, QPagedPaintDevice& device, const Progress& progress) {
     QPainter painter;
     if (!painter.begin(&device)) return false;
     painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
@@ -74,11 +81,13 @@ bool paintPages(const Pages& pages, PageRange range, QPagedPaintDevice& device) 
     for (int page = range.first; page <= range.last; ++page) {
         if (page > range.first && !device.newPage()) return false;
         pages.paint(painter, page);
+        progress(page - range.first + 1, range.last - range.first + 1);
     }
     return painter.end();
 }
 
-QString savePdf(const Report& report, const Pages& pages, PageRange range, const QString& path) {
+QString savePdf(const Report& report, const Pages& pages, PageRange range, const QString& path,
+                const Progress& progress) {
     return save(path, report.texts().wording(), [&](hosting::FileReplacement& file) {
         ReplacementDevice device(file);
         bool painted = false;
@@ -89,7 +98,7 @@ QString savePdf(const Report& report, const Pages& pages, PageRange range, const
             writer.setCreator(QStringLiteral("HXProjectReport"));
             writer.setPageLayout(
                 {QPageSize(pages.paper() / twipsPerPoint, QPageSize::Point), QPageLayout::Portrait, QMarginsF()});
-            painted = paintPages(pages, range, writer);
+            painted = paintPages(pages, range, writer, progress);
         }
         if (device.error()) throw *device.error();
         if (!painted)
@@ -97,9 +106,12 @@ QString savePdf(const Report& report, const Pages& pages, PageRange range, const
     });
 }
 
-QString saveHtml(const Report& report, const QString& path) {
+QString saveHtml(const Report& report, const QString& path, const Progress& progress) {
     return save(path, report.texts().wording(), [&](hosting::FileReplacement& file) {
-        writeHtml(report, [&file](std::string_view part) { file.write(part); });
+        writeHtml(report, [&](std::string_view part, std::size_t recipes) {
+            file.write(part);
+            progress(static_cast<std::int64_t>(recipes), static_cast<std::int64_t>(report.recipes().size()));
+        });
     });
 }
 

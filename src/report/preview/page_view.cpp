@@ -47,14 +47,29 @@ int PageView::page() const {
 }
 
 void PageView::showPage(int page) {
+    awaited_.reset();
     verticalScrollBar()->setValue(std::clamp(page, 0, pages_.count() - 1) * pitch());
     if (changed) changed();
 }
 
 void PageView::showRecipe(std::size_t recipe) {
+    awaited_ = pages_.knows(recipe) ? std::nullopt : std::optional(recipe);
+    if (awaited_) {
+        if (changed) changed();
+        return;
+    }
     const auto top = static_cast<int>(pages_.topOf(recipe) * scale());
     verticalScrollBar()->setValue(pages_.pageOf(recipe) * pitch() + top);
     if (changed) changed();
+}
+
+void PageView::pagesChanged() {
+    const bool endInSight = verticalScrollBar()->value() == verticalScrollBar()->maximum();
+    layOut();
+    // What is shown refers to pages, and says how many there are.
+    if (endInSight || pages_.complete()) viewport()->update();
+    if (awaited_ && pages_.knows(*awaited_)) showRecipe(*awaited_);
+    else if (changed) changed();
 }
 
 void PageView::setZoom(double zoom) {
@@ -111,6 +126,7 @@ void PageView::layOut() {
 void PageView::resizeEvent(QResizeEvent*) { applyFit(); }
 
 void PageView::scrollContentsBy(int, int) {
+    awaited_.reset();
     viewport()->update();
     if (changed) changed();
 }

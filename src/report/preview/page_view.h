@@ -29,8 +29,12 @@ class PageView : public QAbstractScrollArea {
     [[nodiscard]] int page() const;
     /// Shows the top of a page; beyond the ends the first or the last.
     void showPage(int page);
-    /// Shows where a recipe begins, at the top.
+    /// Shows where a recipe begins, at the top: as soon as that is known, if it is not yet and nothing else is shown
+    /// before.
     void showRecipe(std::size_t recipe);
+    [[nodiscard]] bool awaitsRecipe() const noexcept { return awaited_.has_value(); }
+    /// There are more pages, or all of them.
+    void pagesChanged();
 
     /// Called when page() or the zoom may have changed.
     std::function<void()> changed;
@@ -58,6 +62,7 @@ class PageView : public QAbstractScrollArea {
     const Pages& pages_;
     double zoom_ = 1;
     Fit fit_ = Fit::width;
+    std::optional<std::size_t> awaited_;  // the recipe to be shown
 };
 
 }  // namespace hx::report

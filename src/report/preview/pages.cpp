@@ -56,49 +56,58 @@ void paintCheck(QPainter& painter, const CheckMark& check, double middle) {
 }  // namespace
 
 Pages::Pages(const Report& report, const QSizeF& paper)
-    : report_(report),
-      paper_(paper),
-      maker_(report, faces_, paper.width() - left - right),
-      front_(maker_.front()),
-      y_(top) {
-    places_.reserve(report.recipes().size());
+    : report_(report), paper_(paper), maker_(report, faces_, paper.width() - left - right), y_(top) {
+    const std::vector<project::RecipeData>& recipes = report.recipes();
+    places_.reserve(recipes.size());
+    addParts({}, recipes.size());
+    for (std::size_t i = 0; i < recipes.size(); ++i) addParts(i, recipes[i].variables.size());
     starts_.push_back({0, 0});
-    for (std::size_t part = 0; part <= report.recipes().size(); ++part) place(part);
+    while (!complete() && count() == 0) layOutPart();
+}
+
+void Pages::addParts(std::optional<std::size_t> recipe, std::size_t lines) {
+    std::size_t first = 0;
+    do parts_.push_back({recipe, first});
+    while ((first += RowMaker::blockSize) < lines);
 }
 
 double Pages::bottom() const { return paper_.height() - below; }
 
-void Pages::place(std::size_t part) {
+void Pages::layOutPart() {
+    const std::size_t part = laidOut_++;
     const std::vector<Row>& rows = rowsOf(part);
+    const bool section = parts_[part].recipe.has_value() && parts_[part].first == 0;
     for (std::size_t row = 0; row < rows.size();) {
         std::size_t end = blockEnd(rows, row);
         // What is higher than half a page is parted all the same.
         while (end > row + 1 && heightOf(rows, row, end) > (bottom() - top) / 2) --end;
         const double before = y_ > top ? rows[row].before : 0, height = heightOf(rows, row, end);
-        const bool behindFront = part == 1 && row == 0;  // the recipes begin on a page of their own
+        const bool behindFront = section && places_.empty();  // the recipes begin on a page of their own
         if (behindFront || (y_ > top && y_ + before + height > bottom())) {
             starts_.push_back({part, row});
             y_ = top + height;
         } else {
             y_ += before + height;
         }
-        if (part > 0 && row == 0) places_.push_back({count() - 1, y_ - height});
+        if (section && row == 0) places_.push_back({static_cast<int>(starts_.size()) - 1, y_ - height});
         row = end;
     }
 }
 
 const std::vector<Row>& Pages::rowsOf(std::size_t part) const {
-    if (part == 0) return front_;
-    if (part != sectionPart_) section_ = maker_.section(part - 1);
-    sectionPart_ = part;
-    return section_;
+    if (part != rowsPart_) {
+        const auto& [recipe, first] = parts_[part];
+        rows_ = recipe ? maker_.section(*recipe, first) : maker_.front(first);
+        rowsPart_ = part;
+    }
+    return rows_;
 }
 
 template <class Use>
 void Pages::forEachRow(int page, Use use) const {
     const auto number = static_cast<std::size_t>(page);
     Start at = starts_[number];
-    const Start end = number + 1 < starts_.size() ? starts_[number + 1] : Start{places_.size() + 1, 0};
+    const Start end = number + 1 < starts_.size() ? starts_[number + 1] : Start{laidOut_, 0};
     double y = top;
     for (; at.part < end.part || (at.part == end.part && at.row < end.row); at = {at.part + 1, 0}) {
         const std::vector<Row>& rows = rowsOf(at.part);
@@ -113,8 +122,7 @@ void Pages::forEachRow(int page, Use use) const {
 }
 
 std::optional<std::size_t> Pages::recipeAt(int page) const {
-    const std::size_t part = starts_[static_cast<std::size_t>(page)].part;
-    return part == 0 ? std::nullopt : std::optional(part - 1);
+    return parts_[starts_[static_cast<std::size_t>(page)].part].recipe;
 }
 
 std::optional<std::size_t> Pages::targetAt(int page, const QPointF& point) const {
@@ -152,7 +160,8 @@ void Pages::paintFrame(QPainter& painter, int page) const {
     put(half(toQt(report_.fullTitle())), headerText, Qt::AlignLeft);
     if (recipe) put(half(toQt(report_.nameOf(*recipe))), headerText, Qt::AlignRight);
     put(toQt(report_.created()), footer + 60, Qt::AlignLeft);
-    put(qt::Wording(texts.wording()).translate("report", "Page %1 of %2").arg(page + 1).arg(count()), footer + 60,
+    const QString pages = complete() ? QString::number(count()) : QStringLiteral("…");
+    put(qt::Wording(texts.wording()).translate("report", "Page %1 of %2").arg(page + 1).arg(pages), footer + 60,
         Qt::AlignRight);
     painter.setPen(QPen(lineColor, hairline));
     painter.drawLine(QLineF(left, headerLine, end, headerLine));
@@ -176,6 +185,7 @@ void Pages::paintRow(QPainter& painter, const Row& row, double y) const {
 }
 
 void Pages::paintCell(QPainter& painter, const Cell& cell, const Row& row, double y) const {
+    if (cell.pageOf && !knows(*cell.pageOf)) return;
     const Face& face = *cell.face;
     painter.setFont(face.font());
     painter.setPen(colorOf(cell.tone));

@@ -10,19 +10,31 @@
 
 namespace hx::report {
 
-/// A report on pages of one size. It knows where each page begins; what stands on a page is set when it is drawn.
+/// A report on pages of one size. It knows where each page begins; what stands on a page is set when it is drawn, so
+/// that the pages of 100,000 recipes with 1,900,000 members take a few megabytes. They are laid out part by part, which
+/// takes seconds there; the first one can be shown at once.
 class Pages {
   public:
-    /// The report is lent. The size is that of the paper in twips.
+    /// The report is lent. The size is that of the paper in twips. The first page is laid out.
     Pages(const Report& report, const QSizeF& paper);
     Pages(const Pages&) = delete;
     Pages& operator=(const Pages&) = delete;
 
-    [[nodiscard]] int count() const noexcept { return static_cast<int>(starts_.size()); }
+    /// The parts that are laid out one by one, and how many are.
+    [[nodiscard]] std::size_t parts() const noexcept { return parts_.size(); }
+    [[nodiscard]] std::size_t partsLaidOut() const noexcept { return laidOut_; }
+    [[nodiscard]] bool complete() const noexcept { return laidOut_ == parts_.size(); }
+    /// Lays out the next part, of those that are left.
+    void layOutPart();
+
+    /// The pages whose end is known: all of them when it is complete.
+    [[nodiscard]] int count() const noexcept { return static_cast<int>(starts_.size()) - (complete() ? 0 : 1); }
     [[nodiscard]] const QSizeF& paper() const noexcept { return paper_; }
     /// Draws a page, 0-based, on white; the painter's unit is one twip, its origin the corner of the paper.
     void paint(QPainter& painter, int page) const;
-    /// The page on which a recipe begins.
+    /// Whether it is known where a recipe begins.
+    [[nodiscard]] bool knows(std::size_t recipe) const noexcept { return recipe < places_.size(); }
+    /// The page on which a recipe begins, of one that it knows.
     [[nodiscard]] int pageOf(std::size_t recipe) const { return places_[recipe].page; }
     /// Where on that page it begins, in twips from the top.
     [[nodiscard]] double topOf(std::size_t recipe) const { return places_[recipe].top; }
@@ -32,7 +44,12 @@ class Pages {
     [[nodiscard]] std::optional<std::size_t> targetAt(int page, const QPointF& point) const;
 
   private:
-    /// A row of a part: 0 is the front, part n the section of recipe n - 1.
+    /// What is set as rows in one go: of the front (no recipe) or of the section of a recipe the block that begins
+    /// with this line of the contents or this variable.
+    struct Part {
+        std::optional<std::size_t> recipe;
+        std::size_t first;
+    };
     struct Start {
         std::size_t part, row;
     };
@@ -43,7 +60,7 @@ class Pages {
     /// Calls `use` with each row of a page and its top edge.
     template <class Use>
     void forEachRow(int page, Use use) const;
-    void place(std::size_t part);
+    void addParts(std::optional<std::size_t> recipe, std::size_t lines);
     [[nodiscard]] const std::vector<Row>& rowsOf(std::size_t part) const;
     void paintFrame(QPainter& painter, int page) const;
     void paintRow(QPainter& painter, const Row& row, double top) const;
@@ -54,12 +71,13 @@ class Pages {
     QSizeF paper_;
     Faces faces_;
     RowMaker maker_;
-    std::vector<Row> front_;
+    std::vector<Part> parts_;
+    std::size_t laidOut_ = 0;
     std::vector<Start> starts_;
     std::vector<Place> places_;  // of the recipes
     double y_ = 0;               // while the rows are placed
-    mutable std::vector<Row> section_;
-    mutable std::size_t sectionPart_ = 0;
+    mutable std::vector<Row> rows_;
+    mutable std::optional<std::size_t> rowsPart_;  // that rows_ are of
 };
 
 }  // namespace hx::report

@@ -1,14 +1,17 @@
 #include <QAbstractButton>
 #include <QDialogButtonBox>
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QPrintDialog>
 #include <QPrinter>
+#include <QProgressDialog>
 #include <optional>
 
 #include "adapters/qt/dialog_buttons.h"
 #include "adapters/qt/text.h"
+#include "automation/cancelled.h"
 #include "forms/wait_cursor.h"
 #include "report/preview/preview_window.h"
 
@@ -16,6 +19,8 @@
 namespace hx::report {
 
 namespace {
+
+constexpr int steps = 1000, lookTime = 50, noteTime = 15000;
 
 bool isSameFile(const QString& a, const QString& b) {
     const QString one = QFileInfo(a).canonicalFilePath();
@@ -29,17 +34,58 @@ PageRange rangeOf(const QPrinter& printer, const Pages& pages, int current) {
     return {std::clamp(printer.fromPage() - 1, 0, last), std::clamp(printer.toPage() - 1, 0, last)};
 }
 
+// Who cancels wants no half of a job; some printing systems take what they have all the same.
+Progress aborting(QPrinter& printer, const Progress& progress) {
+    return [&](std::int64_t done, std::int64_t total) {
+        try {
+            progress(done, total);
+        } catch (const automation::Cancelled&) {
+            printer.abort();
+            throw;
+        }
+    };
+}
+
 }  // namespace
+
+bool PreviewWindow::work(const std::function<void(const Progress&)>& task) {
+    std::optional<forms::WaitCursor> wait(services_.screen);
+    QProgressDialog dialog(wording_.translate("report", "Writing the report …"), wording_.translate("report", "Cancel"),
+                           0, steps, this);
+    dialog.setObjectName(QStringLiteral("reportProgress"));
+    dialog.setWindowTitle(windowTitle());
+    dialog.setWindowModality(Qt::WindowModal);
+    dialog.setMinimumDuration(patience);
+    dialog.setAutoReset(false);
+    dialog.setAutoClose(false);
+    QElapsedTimer sinceLook;
+    sinceLook.start();
+    const Progress progress = [&](std::int64_t done, std::int64_t total) {
+        if (!sinceLook.hasExpired(std::min(patience, lookTime))) return;
+        sinceLook.start();
+        dialog.setValue(static_cast<int>(done * steps / total));  // hears the user
+        if (dialog.isVisible()) wait.reset();
+        if (dialog.wasCanceled()) throw automation::Cancelled();
+    };
+    const bool wasGoingOn = layout_.isGoingOn();
+    layout_.stop();
+    try {
+        layOutAll(pages_, progress);
+        layout_.advanced();
+        task(progress);
+        return true;
+    } catch (const automation::Cancelled&) {
+        status_.showMessage(wording_.translate("report", "Cancelled"), noteTime);
+    }
+    if (wasGoingOn) layout_.goOn();
+    return false;
+}
 
 void PreviewWindow::save(const FileKind& kind) {
     const QString path = askForFile(kind);
     if (path.isEmpty()) return;
     QString problem;
-    {
-        const forms::WaitCursor wait(services_.screen);
-        problem = kind.write(path);
-    }
-    saved(path, problem);
+    if (work([&](const Progress& progress) { problem = kind.write(path, progress); })) saved(path, problem);
 }
 
 // A file that may not be written leads back to the choice. Empty when the user gives up.
@@ -77,6 +123,7 @@ bool PreviewWindow::mayWrite(const QString& path) {
 }
 
 void PreviewWindow::print() {
+    if (!work([](const Progress&) {})) return;  // the dialog says how many pages there are
     QPrinter printer(QPrinter::HighResolution);
     printer.setPageSize(QPageSize(QPageSize::A4));
     printer.setFullPage(true);
@@ -96,21 +143,21 @@ void PreviewWindow::print() {
 }
 
 void PreviewWindow::printTo(QPrinter& printer) {
-    std::optional<forms::WaitCursor> wait(services_.screen);
     const int current = view_.page();
     // The printer may have paper of another size.
-    const QSizeF paper = printer.pageLayout().fullRect(QPageLayout::Point).size() * 20;
-    const Pages sheets(report_, paper);
-    const PageRange range = rangeOf(printer, sheets, std::min(current, sheets.count() - 1));
-    if (const QString file = printer.outputFileName(); !file.isEmpty()) {
-        const QString problem = savePdf(report_, sheets, range, file);
-        wait.reset();
-        return saved(file, problem);
-    }
-    const QString name = printer.printerName();
-    const bool done = paintPages(sheets, range, printer);
-    wait.reset();
-    if (done) status_.showMessage(wording_.translate("report", "Sent to the printer “%1”").arg(name), 15000);
+    Pages sheets(report_, printer.pageLayout().fullRect(QPageLayout::Point).size() * 20);
+    const QString file = printer.outputFileName(), name = printer.printerName();
+    QString problem;
+    bool printed = false;
+    const auto task = [&](const Progress& progress) {
+        layOutAll(sheets, progress);
+        const PageRange range = rangeOf(printer, sheets, std::min(current, sheets.count() - 1));
+        if (file.isEmpty()) printed = paintPages(sheets, range, printer, aborting(printer, progress));
+        else problem = savePdf(report_, sheets, range, file, progress);
+    };
+    if (!work(task)) return;
+    if (!file.isEmpty()) saved(file, problem);
+    else if (printed) status_.showMessage(wording_.translate("report", "Sent to the printer “%1”").arg(name), noteTime);
     else
         say(wording_.translate("report", "The report could not be printed. The printer “%1” does not take a job.")
                 .arg(name),

@@ -17,6 +17,7 @@ namespace hx::report {
 namespace {
 
 constexpr int listWidth = 230, iconSize = 20, noteTime = 15000;
+constexpr std::size_t atOnce = 20;  // so many parts are laid out before the window comes: most projects have no more
 constexpr QSize usualSize(1080, 860);
 
 struct ZoomEntry {
@@ -36,12 +37,6 @@ constexpr auto zoomEntries = std::to_array<ZoomEntry>({
 });
 
 QString percentText(double zoom) { return QStringLiteral("%1 %").arg(std::lround(zoom * 100)); }
-
-QStringList namesOf(const Report& report) {
-    QStringList names;
-    for (std::size_t i = 0; i < report.recipes().size(); ++i) names.append(qt::toQt(report.nameOf(i)));
-    return names;
-}
 
 }  // namespace
 
@@ -68,13 +63,15 @@ PreviewWindow::PreviewWindow(const Report& report, const host::Services& service
       whole_(this),
       close_(this),
       help_(this),
-      names_(namesOf(report)),
+      names_(report),
       recipes_(&splitter_),
-      view_(pages_, &splitter_) {
+      view_(pages_, &splitter_),
+      layout_(pages_, wording_.translate("report", "Pages"), wording_.translate("report", "Stop"), &status_) {
     setObjectName(QStringLiteral("reportPreview"));
     setWindowTitle(qt::toQt(report.fullTitle()));
     setWindowIcon(qt::namedIcon("report/report"));
     setAttribute(Qt::WA_QuitOnClose, false);  // the studio ends with its own windows
+    for (std::size_t i = 0; i < atOnce && !pages_.complete(); ++i) pages_.layOutPart();
     setUpTools();
     setUpPanes();
     setUpKeys();
@@ -82,6 +79,7 @@ PreviewWindow::PreviewWindow(const Report& report, const host::Services& service
     place(owner);
     view_.setFit(PageView::Fit::width);
     view_.setFocus();
+    layout_.goOn();
 }
 
 void PreviewWindow::addTool(QAction& action, const char* name, const char* icon, const QString& text,
@@ -112,8 +110,9 @@ void PreviewWindow::setUpTools() {
     addTool(
         pdf_, "reportPdf", "report/pdf", wording_.translate("report", "PDF"), QKeySequence(Qt::CTRL | Qt::Key_S),
         [this, asPdf] {
-            save({asPdf, wording_.translate("report", "PDF files (*.pdf)"), "pdf", [this](const QString& path) {
-                      return savePdf(report_, pages_, {0, pages_.count() - 1}, path);
+            save({asPdf, wording_.translate("report", "PDF files (*.pdf)"), "pdf",
+                  [this](const QString& path, const Progress& progress) {
+                      return savePdf(report_, pages_, {0, pages_.count() - 1}, path, progress);
                   }});
         },
         true, asPdf);
@@ -123,7 +122,7 @@ void PreviewWindow::setUpTools() {
         QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S),
         [this, asHtml] {
             save({asHtml, wording_.translate("report", "HTML files (*.html *.htm)"), "html",
-                  [this](const QString& path) { return saveHtml(report_, path); }});
+                  [this](const QString& path, const Progress& progress) { return saveHtml(report_, path, progress); }});
         },
         true, asHtml);
     bar_.addSeparator();
@@ -149,10 +148,8 @@ void PreviewWindow::addPageTools() {
     page_.setAccessibleName(wording_.translate("report", "Page"));
     page_.setButtonSymbols(QAbstractSpinBox::NoButtons);
     page_.setAlignment(Qt::AlignRight);
-    page_.setRange(1, pages_.count());
     page_.setKeyboardTracking(false);
-    count_.setText(wording_.translate("report", "of %1")
-                       .arg(qt::toQt(report_.texts().number(static_cast<std::size_t>(pages_.count())))));
+    showCount();
     count_.setContentsMargins(4, 0, 4, 0);
     for (QWidget* widget :
          {static_cast<QWidget*>(&pageLabel_), static_cast<QWidget*>(&page_), static_cast<QWidget*>(&count_)}) {
@@ -205,6 +202,12 @@ void PreviewWindow::setUpPanes() {
     splitter_.setStretchFactor(1, 1);
     splitter_.setSizes({listWidth, usualSize.width() - listWidth});
     splitter_.setHandleWidth(1);
+    status_.addPermanentWidget(&layout_);
+    layout_.hide();  // the bar has shown it
+    layout_.advanced = [this] {
+        showCount();
+        view_.pagesChanged();
+    };
     status_.setSizeGripEnabled(true);
     status_.setObjectName(QStringLiteral("reportStatus"));
     auto* layout = new QVBoxLayout(this);
@@ -235,7 +238,16 @@ void PreviewWindow::place(const QWidget* owner) {
     setGeometry(own);
 }
 
+// While the pages are laid out, there are more than those.
+void PreviewWindow::showCount() {
+    const QSignalBlocker quiet(page_);
+    page_.setRange(1, pages_.count());
+    const QString count = qt::toQt(report_.texts().number(static_cast<std::size_t>(pages_.count())));
+    count_.setText(wording_.translate("report", "of %1").arg(pages_.complete() ? count : count + QStringLiteral(" …")));
+}
+
 void PreviewWindow::showState() {
+    if (view_.awaitsRecipe()) layout_.goOn();
     const int page = view_.page();
     const QSignalBlocker quiet(page_);
     page_.setValue(page + 1);

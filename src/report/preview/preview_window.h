@@ -7,15 +7,16 @@
 #include <QSpinBox>
 #include <QSplitter>
 #include <QStatusBar>
-#include <QStringListModel>
 #include <QToolBar>
 #include <functional>
 
 #include "adapters/qt/controls/plain_label.h"
 #include "adapters/qt/wording.h"
 #include "host/services.h"
+#include "report/preview/layout_progress.h"
 #include "report/preview/output.h"
 #include "report/preview/page_view.h"
+#include "report/preview/recipe_names.h"
 
 class QPrinter;
 
@@ -28,14 +29,15 @@ class PreviewWindow : public QDialog {
     /// Report and services are lent. Messages and help appear over the host's window `handle`.
     PreviewWindow(const Report& report, const host::Services& services, forms::WindowHandle handle, QWidget* owner);
 
-    [[nodiscard]] const Pages& pages() const noexcept { return pages_; }
+    /// Milliseconds that a work takes before its progress is shown.
+    int patience = 1000;
 
   private:
     /// A kind of file that the report can be saved as.
     struct FileKind {
         QString hint, kinds;
         const char* suffix;
-        std::function<QString(const QString& path)> write;
+        std::function<QString(const QString& path, const Progress& progress)> write;
     };
 
     void setUpTools();
@@ -47,9 +49,12 @@ class PreviewWindow : public QDialog {
     void setUpKeys();
     void place(const QWidget* owner);
     void showState();
+    void showCount();
     void chooseZoom(int index);
     void showRecipe(const QModelIndex& index);
 
+    /// Runs what may take long, with all pages laid out, under a dialog that can cancel it; whether it came to its end.
+    bool work(const std::function<void(const Progress& progress)>& task);
     void print();
     void printTo(QPrinter& printer);
     void save(const FileKind& kind);
@@ -71,10 +76,11 @@ class PreviewWindow : public QDialog {
     qt::PlainLabel pageLabel_, count_;
     QComboBox zoom_;
     QSplitter splitter_;
-    QStringListModel names_;
+    RecipeNames names_;
     QListView recipes_;
     PageView view_;
     QStatusBar status_;
+    LayoutProgress layout_;
 };
 
 }  // namespace hx::report

@@ -65,15 +65,20 @@ Cell RowMaker::page(std::size_t recipe, double x, double width) const {
             .pageOf = recipe};
 }
 
-std::vector<Row> RowMaker::front() const {
+std::vector<Row> RowMaker::front(std::size_t first) const {
     Rows rows;
+    if (first > 0) {
+        addContents(rows, first);
+        return rows;
+    }
     Row title{.keepsNext = true};
     title.cells.push_back(text(0, width_, toQt(texts_.text(Text::title)), faces_.title, Tone::accent));
     fit(title, gap);
     rows.push_back(std::move(title));
     addProperties(rows, report_.summary());
     addFindings(rows);
-    addContents(rows);
+    addHeadingOfContents(rows);
+    addContents(rows, first);
     return rows;
 }
 
@@ -88,14 +93,17 @@ void RowMaker::addFindings(Rows& rows) const {
     }
 }
 
-void RowMaker::addContents(Rows& rows) const {
+void RowMaker::addHeadingOfContents(Rows& rows) const {
     Row heading{.before = 2 * gap, .keepsNext = true};
     heading.cells.push_back(text(0, width_, toQt(texts_.text(Text::contents)), faces_.section, Tone::accent));
     fit(heading, gap / 2);
     rows.push_back(std::move(heading));
+}
+
+void RowMaker::addContents(Rows& rows, std::size_t first) const {
     const double numberWidth = faces_.body.width(QString::number(report_.recipes().size())) + 2 * gap;
     const double nameWidth = width_ - numberWidth - pageWidth - gap;
-    for (std::size_t i = 0; i < report_.recipes().size(); ++i) {
+    for (std::size_t i = first; i < std::min(first + blockSize, report_.recipes().size()); ++i) {
         Row row{.dotted = true};
         Cell number = text(0, numberWidth - gap, QString::number(i + 1), faces_.body, Tone::muted);
         number.right = true;
@@ -112,18 +120,23 @@ void RowMaker::addContents(Rows& rows) const {
     }
 }
 
-std::vector<Row> RowMaker::section(std::size_t recipe) const {
-    const Section section = report_.section(recipe);
+std::vector<Row> RowMaker::section(std::size_t recipe, std::size_t first) const {
     Rows rows;
-    addTitle(rows, recipe);
-    for (const PropertyGroup& group : section.groups) {
-        addHeading(rows, toQt(group.caption));
-        addProperties(rows, group.properties);
+    const bool begins = first == 0, ends = first + blockSize >= report_.recipes()[recipe].variables.size();
+    const Section section = begins || ends ? report_.section(recipe) : Section{};
+    if (begins) {
+        addTitle(rows, recipe);
+        for (const PropertyGroup& group : section.groups) {
+            addHeading(rows, toQt(group.caption));
+            addProperties(rows, group.properties);
+        }
+        addSwitches(rows, section);
     }
-    addSwitches(rows, section);
-    addVariables(rows, *section.recipe);
-    addTree(rows, section.tree);
-    addUses(rows, section.uses, recipe);
+    addVariables(rows, recipe, first);
+    if (ends) {
+        addTree(rows, section.tree);
+        addUses(rows, section.uses, recipe);
+    }
     return rows;
 }
 
@@ -189,21 +202,32 @@ void RowMaker::addSwitches(Rows& rows, const Section& section) const {
     }
 }
 
-void RowMaker::addVariables(Rows& rows, const project::RecipeData& recipe) const {
-    const auto count = recipe.variables.size();
-    const QString heading = toQt(texts_.text(Text::variables));
-    addHeading(rows, count == 0 ? heading : heading + QStringLiteral(" (%1)").arg(toQt(texts_.number(count))));
-    if (count == 0) return addNote(rows, Text::noVariables);
+std::size_t RowMaker::columnsOf(std::size_t recipe) const {
+    if (measured_ == recipe) return columns_;
     double widest = 0;
-    for (const std::string& variable : recipe.variables) widest = std::max(widest, faces_.body.width(toQt(variable)));
+    for (const std::size_t number : report_.recipes()[recipe].variables)
+        widest = std::max(widest, faces_.body.width(toQt(report_.variable(number))));
     constexpr double mostColumns = 3;
-    const double columns = std::clamp(std::floor(width_ / (widest + gap)), 1.0, mostColumns);
-    const auto perRow = static_cast<std::size_t>(columns);
-    for (std::size_t i = 0; i < count; ++i) {
-        if (i % perRow == 0) rows.push_back({});
-        const double x = width_ / columns * static_cast<double>(i % perRow);
-        const QString name = recipe.variables[i].empty() ? unset : toQt(recipe.variables[i]);
-        rows.back().cells.push_back(text(x, width_ / columns - gap / 2, name, faces_.body));
+    columns_ = static_cast<std::size_t>(std::clamp(std::floor(width_ / (widest + gap)), 1.0, mostColumns));
+    measured_ = recipe;
+    return columns_;
+}
+
+void RowMaker::addVariables(Rows& rows, std::size_t recipe, std::size_t first) const {
+    const std::span variables = report_.recipes()[recipe].variables;
+    const std::size_t count = variables.size();
+    if (first == 0) {
+        const QString heading = toQt(texts_.text(Text::variables));
+        addHeading(rows, count == 0 ? heading : heading + QStringLiteral(" (%1)").arg(toQt(texts_.number(count))));
+        if (count == 0) return addNote(rows, Text::noVariables);
+    }
+    const std::size_t columns = columnsOf(recipe);
+    const double column = width_ / static_cast<double>(columns);
+    for (std::size_t i = first; i < std::min(first + blockSize, count); ++i) {
+        if (i % columns == 0) rows.push_back({});
+        const std::string_view name = report_.variable(variables[i]);
+        const double x = column * static_cast<double>(i % columns);
+        rows.back().cells.push_back(text(x, column - gap / 2, name.empty() ? unset : toQt(name), faces_.body));
         fit(rows.back(), 0);
     }
 }
@@ -242,7 +266,7 @@ Row RowMaker::branchRow(const project::Branch& branch, const std::vector<bool>& 
         cell.y = beside ? 0 : below;
         row.cells.push_back(std::move(cell));
     }
-    if (const std::string& file = report_.branchFile(branch); !file.empty()) {
+    if (const std::string_view file = report_.branchFile(branch); !file.empty()) {
         row.cells.push_back(text(fileAt, fileWidth, toQt(file), faces_.small, Tone::muted));
     }
     if (branch.recipe) row.cells.push_back(page(*branch.recipe));

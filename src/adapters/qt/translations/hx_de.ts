@@ -335,6 +335,22 @@ Soll sie ersetzt werden?</translation>
         <source>p. %1</source>
         <translation>S. %1</translation>
     </message>
+    <message>
+        <source>Writing the report …</source>
+        <translation>Der Bericht wird ausgegeben …</translation>
+    </message>
+    <message>
+        <source>Cancelled</source>
+        <translation>Abgebrochen</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Seiten</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Anhalten</translation>
+    </message>
 </context>
 <context>
     <name>studio</name>

@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-namespace hx::hosting {
+namespace hx::automation {
 
 /// Keeps many small texts packed one behind the other. None of them moves before clear().
 class PackedTexts {
@@ -42,4 +42,4 @@ class PackedTexts {
     std::size_t room_ = 0, size_ = 0;
 };
 
-}  // namespace hx::hosting
+}  // namespace hx::automation
