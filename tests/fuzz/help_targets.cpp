@@ -31,7 +31,6 @@ void helpPage(std::string_view bytes) {
     const QString html = qt::decodeHelpText(raw);
     (void)qt::plainText(html);
     (void)qt::titleOfHtml(html);
-    (void)qt::linksOfHtml(html);
     (void)depthOf(qt::readSiteMap(html));
     (void)qt::readHelpSystem(raw);
     (void)qt::readHelpContexts(raw, raw);

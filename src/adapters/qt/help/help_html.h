@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QString>
-#include <QStringList>
 
 /// Simple readings of a topic's HTML.
 namespace hx::qt {
@@ -14,8 +13,5 @@ namespace hx::qt {
 
 /// What stands in "title"; empty without one.
 [[nodiscard]] QString titleOfHtml(const QString& html);
-
-/// The values of "href" and "src", as written, without their entities.
-[[nodiscard]] QStringList linksOfHtml(const QString& html);
 
 }  // namespace hx::qt
