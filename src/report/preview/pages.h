@@ -13,6 +13,8 @@ namespace hx::report {
 /// A report on pages of one size. It knows where each page begins; what stands on a page is set when it is drawn, so
 /// that the pages of 100,000 recipes with 1,900,000 members take a few megabytes. They are laid out part by part, which
 /// takes seconds there; the first one can be shown at once.
+/// A report on 1,000 recipes with 18,100 members is read and laid out in 85 ms and 14 MB, a QTextDocument of it laid
+/// out in 4 s and 183 MB.
 class Pages {
   public:
     /// The report is lent. The size is that of the paper in twips. The first page is laid out.
