@@ -3,7 +3,6 @@
 #include <QClipboard>
 #include <QFontDatabase>
 #include <QGuiApplication>
-#include <QLocale>
 #include <QRegularExpression>
 #include <QScrollBar>
 #include <QTextBlock>
@@ -107,8 +106,7 @@ void MacroDock::begin(const QString& name) {
     raise();
     QTextCharFormat quiet;
     quiet.setForeground(palette().color(QPalette::PlaceholderText));
-    const QLocale locale(wording_.isEnglish() ? QLocale::English : QLocale::German);
-    const QString time = locale.toString(QTime::currentTime(), QStringLiteral("HH:mm:ss"));
+    const QString time = wording_.locale().toString(QTime::currentTime(), QStringLiteral("HH:mm:ss"));
     append(lineEnd() + QStringLiteral("── %1  %2 ──\n").arg(name, time), quiet);
 }
 
@@ -188,8 +186,7 @@ void MacroDock::setState(State state) {
 }
 
 QString MacroDock::stateText() const {
-    const QLocale locale(wording_.isEnglish() ? QLocale::English : QLocale::German);
-    const QString seconds = locale.toString(seconds_, 'f', 1);
+    const QString seconds = wording_.locale().toString(seconds_, 'f', 1);
     switch (state_) {
         case State::running: return wording_.translate("studio", "%1 is running… (%2 stops it)").arg(name_, stopKey_);
         case State::done: return wording_.translate("studio", "%1: done in %2 s").arg(name_, seconds);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QLocale>
 #include <QString>
 #include <cstddef>
 #include <cstdint>
@@ -22,8 +23,9 @@ class Wording {
     [[nodiscard]] bool isEnglish() const noexcept { return language_ == english; }
     /// `context` names a part of the program. Literals, both: what collects the texts reads the sources.
     [[nodiscard]] QString translate(const char* context, const char* text) const;
+    [[nodiscard]] QLocale locale() const { return isEnglish() ? QLocale::English : QLocale::German; }
     /// With the language's separators of thousands.
-    [[nodiscard]] QString number(std::size_t value) const;
+    [[nodiscard]] QString number(std::size_t value) const { return locale().toString(qulonglong{value}); }
 
   private:
     std::int32_t language_ = german;

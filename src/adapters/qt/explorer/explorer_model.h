@@ -38,7 +38,6 @@ class ExplorerModel : public QAbstractItemModel {
     /// All nodes as they are now.
     [[nodiscard]] const hosting::NodeTree& nodes();
     void setImage(const std::string& key, const QIcon& icon);
-    [[nodiscard]] bool hasImage(const std::string& key) const { return images_.contains(key); }
 
     [[nodiscard]] QModelIndex index(int row, int column, const QModelIndex& parent = {}) const override;
     [[nodiscard]] QModelIndex parent(const QModelIndex& index) const override;
