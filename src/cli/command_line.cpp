@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "adapters/sqlite/project_file.h"
+#include "automation/cancelled.h"
 #include "automation/error.h"
 #include "cli/application.h"
 #include "cli/generate.h"
@@ -63,6 +64,9 @@ int carryOut(const Command& command, const Output& output) {
         output.results.flush();
         if (output.results.fail()) throw automation::Error(automation::errFail, "The results cannot be written.");
         return status;
+    } catch (const automation::Cancelled&) {
+        output.problems << "hxrecipe: Cancelled.\n";
+        return cancelled;
     } catch (const std::exception&) {
         explain(output);
         return command.onFailure;

@@ -12,8 +12,8 @@ struct Output {
 };
 
 /// Exit statuses. A command that answers a question says `found` for findings or differences; when it cannot answer,
-/// it says `cannotTell`.
-enum Status : int { succeeded = 0, failed = 1, found = 1, wrongUsage = 2, cannotTell = 2 };
+/// it says `cannotTell`. Who presses Ctrl+C gets what a shell says of a program that SIGINT has ended.
+enum Status : int { succeeded = 0, failed = 1, found = 1, wrongUsage = 2, cannotTell = 2, cancelled = 130 };
 
 /// Runs `hxrecipe` with these arguments. Never throws.
 int run(int argc, const char* const* argv, const Output& output);

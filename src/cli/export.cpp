@@ -5,6 +5,7 @@
 
 #include "adapters/sqlite/provider.h"
 #include "automation/error.h"
+#include "cli/progress.h"
 #include "cli/unfinished_file.h"
 #include "exchange/content_writer.h"
 #include "hosting/file_bytes.h"
@@ -21,6 +22,12 @@ namespace fs = std::filesystem;
 bool isExport(const std::string& path) {
     constexpr std::string_view mark = "{\n  \"format\": \"hxrecipe\"";
     return hosting::startOf(path, mark.size()) == mark;
+}
+
+exchange::Content readWithProgress(project::Reader& reader, const Output& output) {
+    Progress progress(output);
+    reader.tell(progress.hearer());
+    return exchange::readContent(reader);
 }
 
 // What is written is all that could be read.
@@ -40,7 +47,7 @@ void exportProject(const std::string& path, const std::string& target, const Out
     }
     sqlite::Provider provider;
     project::Reader reader(provider, path, project::Reader::Damage::read);
-    const exchange::Content content = exchange::readContent(reader);
+    const exchange::Content content = readWithProgress(reader, output);
     const std::string text = exchange::exportOf(content);
     hosting::FileReplacement file(target);
     const UnfinishedFile unfinished(file.temporary());

@@ -2,6 +2,7 @@
 
 #include "adapters/sqlite/provider.h"
 #include "cli/json_output.h"
+#include "cli/progress.h"
 
 namespace hx::cli {
 
@@ -78,7 +79,11 @@ int check(const CheckOptions& options, const Output& output) {
     const auto damages = reader.session().damages(mostDamages, options.thorough ? Check::thorough : Check::usual);
     for (const std::string& damage : damages) findings.add(damaged("The file is damaged: " + damage + "."));
     // What a damaged file seems to hold says nothing.
-    if (damages.empty()) project::Check(reader, [&](const auto& finding) { findings.add(finding); }).run();
+    if (damages.empty()) {
+        Progress progress(output);
+        reader.tell(progress.hearer());
+        project::Check(reader, [&](const auto& finding) { findings.add(finding); }).run();
+    }
     findings.finish();
     return findings.isEmpty() ? succeeded : found;
 }

@@ -19,10 +19,10 @@ void generate(const project::GeneratorPlan& plan, const std::string& path, const
     const UnfinishedFile unfinished(draft.temporaryPath());
     draft.createTables(false);
     {
-        Progress progress(output, plan.rows());
+        Progress progress(output);
         sqlite::Session session(draft.temporaryPath(), false, {.comparesNames = false});
         session.database().execute(fast);
-        project::generate(session, plan, [&](std::int64_t done) { progress.reach(done); });
+        project::generate(session, plan, [&](std::int64_t done) { progress.reach(done, plan.rows()); });
     }
     draft.createIndexes();
     draft.publish();

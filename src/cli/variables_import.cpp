@@ -60,10 +60,7 @@ class Importer : public VariableReceiver {
         if (notes_.size() < shownNotes) notes_.push_back(text);
         else ++moreNotes_;
     }
-    void reach(std::int64_t done, std::int64_t total) override {
-        if (!progress_) progress_.emplace(output_, total);
-        progress_->reach(done);
-    }
+    void reach(std::int64_t done, std::int64_t total) override { progress_->reach(done, total); }
 
     void requireSome() const {
         if (count(Kind::added) + count(Kind::changed) + count(Kind::unchanged) == 0) {
@@ -97,7 +94,7 @@ class Importer : public VariableReceiver {
     VariableWriter& writer_;
     const VariablesImport& plan_;
     const Output& output_;
-    std::optional<Progress> progress_;
+    std::optional<Progress> progress_{std::in_place, output_};
     std::size_t counts_[4] = {};  // by kind
     std::string changes_;
     std::vector<std::string> notes_;

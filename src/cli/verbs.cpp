@@ -104,18 +104,14 @@ void import(const ImportArguments& arguments, const Output& output) {
     const ImportMode mode = arguments.mode == "add"      ? ImportMode::add
                             : arguments.mode == "update" ? ImportMode::update
                                                          : ImportMode::replace;
-    std::optional<Progress> bar;
-    const auto progress = [&](std::int64_t done, std::int64_t total) {
-        if (!bar) bar.emplace(output, total);
-        bar->reach(done);
-    };
+    std::optional<Progress> progress(std::in_place, output);
     if (arguments.dryRun) {
-        const auto differences = exchange::previewImport(arguments.project, arguments.file, mode, progress);
-        bar.reset();
+        const auto differences = exchange::previewImport(arguments.project, arguments.file, mode, progress->hearer());
+        progress.reset();
         return print(differences, arguments.json, output);
     }
-    const auto counts = exchange::importContent(arguments.project, arguments.file, mode, progress);
-    bar.reset();
+    const auto counts = exchange::importContent(arguments.project, arguments.file, mode, progress->hearer());
+    progress.reset();
     output.results << "Imported " << arguments.file << ": " << counts.added << " recipes added, " << counts.changed
                    << " changed, " << counts.removed << " removed.\n";
 }
@@ -148,8 +144,12 @@ void addDiff(CLI::App& app, Command& chosen, const Output& output) {
     command->callback([arguments, &chosen, &output] {
         chosen = Command::asking([arguments, &output] {
             sqlite::Provider provider;
-            const auto load = [&](const std::string& path) { return exchange::loadContent(provider, path); };
+            std::optional<Progress> progress(std::in_place, output);
+            const auto load = [&](const std::string& path) {
+                return exchange::loadContent(provider, path, progress->hearer());
+            };
             const auto differences = exchange::compare(load(arguments->path), load(arguments->subject), {});
+            progress.reset();
             print(differences, arguments->json, output);
             return static_cast<int>(differences.empty() ? succeeded : found);
         });

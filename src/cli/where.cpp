@@ -1,8 +1,11 @@
 #include "cli/where.h"
 
+#include <optional>
+
 #include "adapters/sqlite/provider.h"
 #include "automation/error.h"
 #include "cli/json_output.h"
+#include "cli/progress.h"
 #include "project/where_used.h"
 
 namespace hx::cli {
@@ -93,7 +96,10 @@ class Printer {
 void where(const std::string& path, const std::string& name, bool json, const Output& output) {
     sqlite::Provider provider;
     project::Reader reader(provider, path);
+    std::optional<Progress> progress(std::in_place, output);
+    reader.tell(progress->hearer());
     const project::WhereUsed used(reader, name);
+    progress.reset();
     if (!used.isKnown()) {
         throw automation::Error(automation::errFail,
                                 "There is neither a variable nor a recipe " + inQuotes(name) + " in " + path);

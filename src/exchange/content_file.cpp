@@ -54,7 +54,7 @@ bool isForProjects(const std::string& path) {
 
 }  // namespace
 
-Content parseContent(const std::string& path) {
+Content parseContent(const std::string& path, const Progress& progress) {
     if (sqlite::beginsLikeProject(path)) {
         throw automation::Error(automation::errFail, path + " is a project, not an export");
     }
@@ -63,15 +63,16 @@ Content parseContent(const std::string& path) {
         hosting::Line{path, 1, {}}.fail("the file is empty");
     }
     Place place;
-    ContentParser parser(path, place);
+    ContentParser parser(path, place, progress);
     Json::sax_parse(CountingIterator(text.data(), &place), CountingIterator(text.data() + text.size(), &place),
                     &parser);
     return parser.finish();
 }
 
-Content loadContent(ado::Provider& provider, const std::string& path) {
-    if (!isForProjects(path)) return parseContent(path);
+Content loadContent(ado::Provider& provider, const std::string& path, const Progress& progress) {
+    if (!isForProjects(path)) return parseContent(path, progress);
     project::Reader reader(provider, path);
+    reader.tell(progress);
     return readContent(reader);
 }
 

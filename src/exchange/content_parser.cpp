@@ -62,6 +62,7 @@ bool ContentParser::end_object() {
     if (level() == Level::blob && levels_.back().keys.empty()) failBlob(place_.line);
     if (level() == Level::recipe) finishRecipe();
     if (level() == Level::member || level() == Level::orphan) finishMember();
+    if (progress_) progress_(++objects_, 0);
     return leave();
 }
 

@@ -3,8 +3,10 @@
 #include <cstdint>
 #include <map>
 #include <string>
+#include <utility>
 #include <vector>
 
+#include "exchange/content_file.h"
 #include "exchange/json.h"
 #include "hosting/text_file.h"
 
@@ -19,7 +21,9 @@ struct Place {
 /// Builds the content while the text is read, so that each field still knows its line.
 class ContentParser : public nlohmann::json_sax<Json> {
   public:
-    ContentParser(const std::string& path, const Place& place) : path_(path), place_(place) {}
+    /// `place` is lent.
+    ContentParser(const std::string& path, const Place& place, Progress progress = {})
+        : path_(path), place_(place), progress_(std::move(progress)) {}
 
     /// What has been read. Throws automation::Error with line and field of what is wrong, as all do that take a value.
     [[nodiscard]] Content finish();
@@ -69,6 +73,8 @@ class ContentParser : public nlohmann::json_sax<Json> {
 
     const std::string& path_;
     const Place& place_;
+    Progress progress_;
+    std::int64_t objects_ = 0;  // that have ended
     Content content_;
     std::vector<Open> levels_;
     std::string key_;

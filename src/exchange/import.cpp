@@ -19,10 +19,11 @@ std::shared_ptr<sqlite::Session> openProject(const std::string& path) {
 }  // namespace
 
 ImportCounts importContent(const std::string& project, const std::string& file, ImportMode mode,
-                           const ImportProgress& progress) {
-    const Content content = parseContent(file);
+                           const Progress& progress) {
+    const Content content = parseContent(file, progress);
     const auto session = openProject(project);
     project::Reader reader(session, project);
+    reader.tell(progress);
     session->beginTransaction();
     const Content before = readContent(reader);
     const ImportCounts counts = Importer(session->database(), before, content, file, mode, progress).run();
@@ -31,10 +32,11 @@ ImportCounts importContent(const std::string& project, const std::string& file, 
 }
 
 std::vector<Difference> previewImport(const std::string& project, const std::string& file, ImportMode mode,
-                                      const ImportProgress& progress) {
-    const Content content = parseContent(file);
+                                      const Progress& progress) {
+    const Content content = parseContent(file, progress);
     const auto session = openProject(project);
     project::Reader reader(session, project);
+    reader.tell(progress);
     session->database().execute("PRAGMA cache_spill=OFF");  // nothing of it reaches the file
     session->beginTransaction();
     const Content before = readContent(reader);

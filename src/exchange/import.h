@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "exchange/content_file.h"
 #include "exchange/differences.h"
 
 namespace hx::exchange {
@@ -20,18 +21,15 @@ struct ImportCounts {
     std::size_t added = 0, changed = 0, removed = 0;  ///< recipes
 };
 
-/// Told how many recipes of how many have been written.
-using ImportProgress = std::function<void(std::int64_t done, std::int64_t total)>;
-
 // Both throw automation::Error, with line and field when something in the file is wrong; the project is then as before.
 
 /// Brings the recipes of an export into a project, all or nothing. A recipe that the project has keeps its ID; another
 /// one gets the ID of the file when it is free, else a new one. When a member changes, all of its recipe are written
 /// anew; what the file does not say of those that stay is kept.
 ImportCounts importContent(const std::string& project, const std::string& file, ImportMode mode,
-                           const ImportProgress& progress);
+                           const Progress& progress);
 /// Carries the import out, takes it back again and says what it changed.
 [[nodiscard]] std::vector<Difference> previewImport(const std::string& project, const std::string& file,
-                                                    ImportMode mode, const ImportProgress& progress);
+                                                    ImportMode mode, const Progress& progress);
 
 }  // namespace hx::exchange

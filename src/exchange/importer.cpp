@@ -23,7 +23,7 @@ void addColumnsOf(const ContentMember& old, std::vector<Cell>& cells) {
 }  // namespace
 
 Importer::Importer(sqlite::Database& database, const Content& before, const Content& file, const std::string& path,
-                   ImportMode mode, const ImportProgress& progress)
+                   ImportMode mode, const Progress& progress)
     : database_(database),
       before_(before),
       file_(file),

@@ -38,7 +38,7 @@ class Ids {
 class Importer {
   public:
     Importer(sqlite::Database& database, const Content& before, const Content& file, const std::string& path,
-             ImportMode mode, const ImportProgress& progress);
+             ImportMode mode, const Progress& progress);
 
     /// Throws automation::Error, with line and field when something in the file is wrong.
     ImportCounts run();
@@ -79,7 +79,7 @@ class Importer {
     const std::string& path_;
     ImportMode mode_;
     RowWriter recipeRows_, memberRows_;
-    const ImportProgress& progress_;
+    const Progress& progress_;
     Ids recipeIds_, memberIds_;
     std::unordered_map<std::string, const ContentRecipe*> known_;  // of the project, by folded name
     std::unordered_map<std::string, std::int64_t> idsByName_;      // of all that will be there

@@ -96,6 +96,7 @@ class Generator {
             values[0] = variableName(i);
             values[1] = variableType(i);
             ++i;
+            progress_(done_);
             return true;
         });
     }

@@ -20,7 +20,8 @@ struct GeneratorPlan {
     [[nodiscard]] std::int64_t rows() const { return recipes + members + bigMembers; }  ///< but for the variable list
 };
 
-/// Fills the tables of an empty project, in one transaction. `progress` is told how many rows there are.
+/// Fills the tables of an empty project, in one transaction. `progress` is told how many rows there are,
+/// again and again; what it throws ends the work.
 void generate(ado::Session& session, const GeneratorPlan& plan, const std::function<void(std::int64_t)>& progress);
 
 }  // namespace hx::project

@@ -72,7 +72,12 @@ void Reader::read(std::string_view table, std::span<const std::string_view> colu
     const auto rows = session_->open("SELECT * FROM " + std::string(table) + where + " ORDER BY ID", ado::adCmdText);
     std::vector<std::size_t> numbers;
     for (const std::string_view column : columns) numbers.push_back(columnOf(rows->columns(), column, table));
-    rows->scan(numbers, receive);
+    if (!progress_) return rows->scan(numbers, receive);
+    rows->scan(numbers, [&](Row row) {
+        constexpr std::int64_t between = 1024;
+        if (++rows_ % between == 0) progress_(rows_, 0);
+        receive(row);
+    });
 }
 
 std::vector<RecipeEntry> Reader::recipes() {

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <span>
@@ -47,6 +48,8 @@ class Reader {
     Reader(std::shared_ptr<ado::Session> session, std::string path);
 
     [[nodiscard]] const std::string& path() const { return path_; }
+    /// Tells how many rows have been read, of a total that nobody knows (0). What it throws ends the reading.
+    void tell(std::function<void(std::int64_t done, std::int64_t total)> progress) { progress_ = std::move(progress); }
     [[nodiscard]] ado::Session& session() { return *session_; }
 
     /// The columns of a table; throws dbErrNoTable.
@@ -61,6 +64,8 @@ class Reader {
   private:
     std::shared_ptr<ado::Session> session_;
     std::string path_;
+    std::function<void(std::int64_t done, std::int64_t total)> progress_;
+    std::int64_t rows_ = 0;  // that have been read
 };
 
 }  // namespace hx::project

@@ -71,12 +71,12 @@ TEST_F(Generate, AProgressBarAppearsOnLongWorkOnATerminalOnly) {
         const Output output{results, problems, terminal};
         Progress::Clock::time_point now;
         {
-            Progress progress(output, 200, [&now] { return now; });
+            Progress progress(output, [&now] { return now; });
             now += std::chrono::milliseconds(499);
-            progress.reach(50);
+            progress.reach(50, 200);
             EXPECT_EQ(problems.str(), "");
             now += std::chrono::milliseconds(1);
-            progress.reach(100);
+            progress.reach(100, 200);
         }
         const std::string bar = "\r[####################....................] 50 %";
         EXPECT_EQ(problems.str(), terminal ? bar + "\r\x1B[K" : "");
@@ -88,10 +88,25 @@ TEST_F(Generate, AProgressBarIsFullWhenThereIsMoreThanExpected) {
     std::ostringstream problems;
     const Output output{results, problems, true};
     Progress::Clock::time_point now;
-    Progress progress(output, 200, [&now] { return now; });
+    Progress progress(output, [&now] { return now; });
     now += std::chrono::seconds(1);
-    progress.reach(300);
+    progress.reach(300, 200);
     EXPECT_EQ(problems.str(), "\r[########################################] 100 %");
+}
+
+TEST_F(Generate, ProgressTellsRowsWhileNobodyKnowsHowMany) {
+    std::ostringstream results;
+    std::ostringstream problems;
+    const Output output{results, problems, true};
+    Progress::Clock::time_point now;
+    Progress progress(output, [&now] { return now; });
+    now += std::chrono::seconds(1);
+    for (std::int64_t rows = 1; rows < 30'000; ++rows) progress.reach(rows, 0);
+    EXPECT_EQ(problems.str(), "\r1 rows\r10001 rows\r20001 rows");
+    progress.reach(1, 2);
+    EXPECT_TRUE(problems.str().ends_with("] 50 %"));
+    progress.reach(5, 0);
+    EXPECT_TRUE(problems.str().ends_with("\r5 rows\x1B[K"));
 }
 
 }  // namespace
