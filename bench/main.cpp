@@ -18,7 +18,7 @@ struct Options {
     std::vector<std::string> only;  ///< keys of the measurements; empty for all
 };
 
-constexpr std::int64_t recipes = 100'000;
+constexpr std::int64_t manyRecipes = 100'000;
 constexpr std::int64_t bigMembers = 1'000'000;
 
 std::vector<std::string> keys() {
@@ -37,7 +37,7 @@ std::vector<Row> measureAll(const Project& project, const Options& options) {
 }
 
 void run(const Options& options, const std::string& folder) {
-    const Project project = makeProject(folder, recipes / options.scale, bigMembers / options.scale);
+    const Project project = makeProject(folder, manyRecipes / options.scale, bigMembers / options.scale);
     std::cout
         << "\nA project of " << project.recipes << " recipes with 9 members each and one recipe of " << project.big
         << " members.\nMedians of all runs; peer: QSqlTableModel with all rows fetched, QTreeWidget for the explorer, "

@@ -11,6 +11,8 @@ add_library(hx_flags INTERFACE)
 target_compile_options(hx_flags INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wshadow)
 # GCC 12 warns falsely of overlapping copies where a literal and a temporary text are joined in optimised code (PR 105651).
 target_compile_options(hx_flags INTERFACE -Wno-restrict)
+# Sources are compiled several at once, and what is in their unnamed namespaces is taken for a header's.
+target_compile_options(hx_flags INTERFACE -Wno-subobject-linkage)
 target_compile_definitions(hx_flags INTERFACE _GLIBCXX_ASSERTIONS)
 # A module that lacks a symbol fails here, not when a program loads it.
 target_link_options(hx_flags INTERFACE LINKER:-z,defs,-z,relro,-z,now)

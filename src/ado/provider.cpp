@@ -7,8 +7,6 @@ namespace hx::ado {
 
 namespace {
 
-constexpr std::size_t rowsReadTogether = 1024;
-
 StoredValue storedValue(const automation::Variant& value) {
     using Kind = StoredValue::Kind;
     using automation::VarType;

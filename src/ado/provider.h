@@ -63,6 +63,9 @@ class RowSource {
     [[nodiscard]] virtual bool next(std::span<automation::Variant> values) = 0;
 };
 
+/// Rows of a page: so many are read at a time where many are.
+inline constexpr std::size_t rowsReadTogether = 1024;
+
 /// An opened command that returns rows. Rows are identified by key; it holds no row.
 class Rowset {
   public:

@@ -148,8 +148,6 @@ Field& Recordset::field(std::size_t index) {
 
 namespace {
 
-constexpr std::size_t rowsReadTogether = 1024;
-
 /// Picks some fields out of the rows that are read.
 class ChosenFields : public RowSink {
   public:

@@ -18,8 +18,6 @@ namespace hx::cli {
 
 namespace {
 
-constexpr std::int32_t german = 1031, english = 1033;
-
 std::string readMacro(const std::string& path) {
     std::ifstream file(path, std::ios::binary);
     std::string text{std::istreambuf_iterator<char>(file), {}};
@@ -162,7 +160,7 @@ void addRunMacro(CLI::App& app, Command& chosen, const Output& output) {
     command->add_option("ARG", plan->arguments, "What the macro gets as arguments; behind -- also with a dash.");
     command->add_option("--project", plan->project, "The project file to open first.")->check(existingFile());
     command->add_option("--lcid", plan->studio.lcid, "The language: 1031 German, 1033 English.")
-        ->check(CLI::IsMember({german, english}));
+        ->check(CLI::IsMember({automation::germanLcid, automation::englishLcid}));
     command->add_option("--locale", *locale, "How numbers are written, as de_DE.")->type_name("NAME");
     command
         ->add_option("--folder", plan->folder,

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "adapters/sqlite/project_file.h"
+#include "automation/sentence.h"
 #include "host/project_file.h"
 
 namespace hx::cli {
@@ -12,7 +13,6 @@ namespace hx::cli {
 namespace {
 
 constexpr const char* languageValue = "LCID";
-constexpr std::int32_t german = 1031;
 
 using automation::Error;
 
@@ -51,7 +51,7 @@ MacroStudio::MacroStudio(const MacroStudioOptions& options)
 
 automation::Language MacroStudio::language() const {
     return automation::languageOf(
-        host_->services().registry.readNumber(host::registry_keys::helvix, languageValue, german));
+        host_->services().registry.readNumber(host::registry_keys::helvix, languageValue, automation::germanLcid));
 }
 
 MacroStudio::~MacroStudio() { closeProject(); }

@@ -15,7 +15,7 @@ namespace hx::cli {
 
 namespace {
 
-void list(const std::string& path, bool json, const Output& output) {
+void listVariables(const std::string& path, bool json, const Output& output) {
     struct Variable {
         std::string name, type, comment;
     };
@@ -54,7 +54,7 @@ void addList(CLI::App& group, Command& chosen, const Output& output) {
     command->add_flag("--json", arguments->json, "Print JSON, for other programs.");
     command->callback([arguments, &chosen, &output] {
         chosen = Command::doing([arguments, &output] {
-            hosting::inFile(arguments->path, [&] { list(arguments->path, arguments->json, output); });
+            hosting::inFile(arguments->path, [&] { listVariables(arguments->path, arguments->json, output); });
         });
     });
 }

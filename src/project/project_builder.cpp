@@ -11,7 +11,7 @@ namespace hx::project {
 
 namespace {
 
-constexpr std::array texts = {
+constexpr std::array textMembers = {
     &RecipeData::name,         &RecipeData::fileNameVariable, &RecipeData::descriptionVariable,
     &RecipeData::filePath,     &RecipeData::fileExtension,    &RecipeData::comment,
     &RecipeData::loadTrigger,  &RecipeData::saveTrigger,      &RecipeData::readTrigger,
@@ -39,7 +39,7 @@ std::vector<std::uint32_t> orderOf(const std::vector<RecipeData>& recipes) {
 }  // namespace
 
 void ProjectBuilder::addRecipe(RecipeData recipe) {
-    for (const auto text : texts) recipe.*text = data_.texts_.keep(recipe.*text);
+    for (const auto text : textMembers) recipe.*text = data_.texts_.keep(recipe.*text);
     data_.recipes_.push_back(recipe);
 }
 

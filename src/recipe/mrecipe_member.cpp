@@ -24,7 +24,7 @@ using dialogs::FSubRecipe;
 
 namespace {
 
-namespace column = schema::member;
+namespace member = schema::member;
 
 bool is(const ado::Field& field, std::string_view name) { return automation::equalIgnoreCase(field.name(), name); }
 
@@ -34,11 +34,11 @@ std::int32_t chosenRecipe(const FSubRecipe& dialog) {
 
 ColumnNames namesIn(const resources::ResourceTable& texts, const FSubRecipe& dialog) {
     const auto caption = [&texts](const ado::Field& field) {
-        return texts.GetResource(is(field, column::childId) ? text::subRecipe : text::fileName);
+        return texts.GetResource(is(field, member::childId) ? text::subRecipe : text::fileName);
     };
     const auto value = [&](const ado::Field& field, const Variant& of) {
         const forms::ComboBox& recipes = *dialog.cmbChooseRecipe;
-        for (std::int32_t i = 0; is(field, column::childId) && i < recipes.listCount(); ++i) {
+        for (std::int32_t i = 0; is(field, member::childId) && i < recipes.listCount(); ++i) {
             if (recipes.itemData(i) == automation::toInt32(of)) return recipes.list(i);
         }
         return valueInWords(of, texts.wording());
@@ -72,7 +72,7 @@ bool savesSubRecipes(ado::Recordset& recipes, std::int32_t recipe) {
 void storeMember(RowInDialog& row, const resources::ResourceTable& texts) {
     const auto& connection = row.fields().activeConnection();
     ado::Transaction transaction(*connection);
-    const ado::Field& child = row.fields().field(column::childId);
+    const ado::Field& child = row.fields().field(member::childId);
     if (child.value() != child.originalValue()) requireRecipe(connection, automation::toInt32(child.value()), texts);
     row.store();
     transaction.commit();
@@ -86,9 +86,9 @@ void addMember(RecipeWindow& window, std::int32_t parent, const FSubRecipe& dial
     requireRecipe(members.activeConnection(), chosenRecipe(dialog), window.texts());
     OpenAndMoveLast(members);
     members.addNew(std::to_array<std::pair<std::string, Variant>>({
-        {std::string(column::parentId), parent},
-        {std::string(column::varRecipe), dialog.txtVarRecipe->text()},
-        {std::string(column::childId), chosenRecipe(dialog)},
+        {std::string(member::parentId), parent},
+        {std::string(member::varRecipe), dialog.txtVarRecipe->text()},
+        {std::string(member::childId), chosenRecipe(dialog)},
     }));
     transaction.commit();
     CloseRecordset(members, false);
@@ -146,9 +146,9 @@ bool ReadMemberToDialog(ado::Recordset& members, FSubRecipe& dialog, RecipeWindo
         return false;
     }
     return forEachField(members, [&](const ado::Field& field) {
-        if (is(field, column::childId)) {
+        if (is(field, member::childId)) {
             resources::FillListWithData(*dialog.cmbChooseRecipe, field.value(), std::nullopt, {});
-        } else if (is(field, column::varRecipe)) {
+        } else if (is(field, member::varRecipe)) {
             dialog.txtVarRecipe->setText(FieldToText(field));
         }
     });
@@ -156,8 +156,8 @@ bool ReadMemberToDialog(ado::Recordset& members, FSubRecipe& dialog, RecipeWindo
 
 bool WriteDialogToMember(ado::Recordset& members, const FSubRecipe& dialog) {
     return forEachField(members, [&](ado::Field& field) {
-        if (is(field, column::childId)) field.setValue(chosenRecipe(dialog));
-        else if (is(field, column::varRecipe)) TextToField(field, dialog.txtVarRecipe->text());
+        if (is(field, member::childId)) field.setValue(chosenRecipe(dialog));
+        else if (is(field, member::varRecipe)) TextToField(field, dialog.txtVarRecipe->text());
     });
 }
 

@@ -3,13 +3,12 @@
 #include <algorithm>
 #include <ctime>
 
+#include "automation/sentence.h"
 #include "automation/text.h"
 
 namespace hx::report {
 
 namespace {
-
-constexpr std::int32_t english = 1033;
 
 struct Entry {
     Text text;
@@ -85,7 +84,7 @@ Moment Moment::now() {
     return {local.tm_year + 1900, local.tm_mon + 1, local.tm_mday, local.tm_hour, local.tm_min};
 }
 
-bool Texts::isEnglish() const noexcept { return captions_.language() == english; }
+bool Texts::isEnglish() const noexcept { return captions_.language() == automation::englishLcid; }
 
 std::string Texts::text(Text text) const {
     const auto entry = std::ranges::find(entries, text, &Entry::text);

@@ -6,8 +6,6 @@ namespace hx::resources {
 
 namespace {
 
-constexpr std::int32_t german = 1031;
-constexpr std::int32_t english = 1033;
 constexpr std::int32_t languageStep = 100000;
 
 struct TextRow {
@@ -117,9 +115,9 @@ void ResourceTable::InitResources(const host::Registry& registry) {
     addAll(*this, commonTexts);
     addAll(*this, editorTexts);
     // Read last: a registry that throws leaves a full table in the language that it had.
-    language_ = registry.readNumber(host::registry_keys::helvix, "LCID", german);
-    if (language_ == german) offset_ = 0;
-    if (language_ == english) offset_ = languageStep;
+    language_ = registry.readNumber(host::registry_keys::helvix, "LCID", automation::germanLcid);
+    if (language_ == automation::germanLcid) offset_ = 0;
+    if (language_ == automation::englishLcid) offset_ = languageStep;
 }
 
 void ResourceTable::AddResource(std::int32_t id, const std::array<std::string_view, 2>& texts) {

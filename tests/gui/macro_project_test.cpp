@@ -126,7 +126,8 @@ TEST_F(StudioMacroTest, AsksTheUserWhereItHasNoFunction) {
                                      find<QLineEdit>(*dialog, "txtName").selectAll();
                                      type(find<QLineEdit>(*dialog, "txtName"), "Schorle");
                                      QTest::keyClick(&find<QLineEdit>(*dialog, "txtName"), Qt::Key_Return);
-                                 });
+                                 },
+                                 [] { return QApplication::activeModalWidget() != nullptr; });
     EXPECT_EQ(text, "Schorle\n");
     EXPECT_TRUE(node("Rezepte/Schorle").isValid());
 }

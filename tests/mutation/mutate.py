@@ -1,7 +1,7 @@
 """Changes single lines of the six editor folders and runs their tests: a change that no test notices is printed. Changes without
 an effect that a test could see stand in equal.txt, with the reason.
 
-mutate.py [FOLDER|FILE...]   below src/; without: all six folders. The tests must have been built (build/run)."""
+mutate.py [FOLDER|FILE...]   below src/; without: all six folders. The tests must have been built (build/files)."""
 
 import concurrent.futures
 import hashlib
@@ -20,7 +20,7 @@ from pathlib import Path
 import mutants
 
 ROOT = Path(__file__).resolve().parents[2]
-HERE, SOURCES, BUILD, WORK = ROOT / 'tests/mutation', ROOT / 'src', ROOT / 'build/run', ROOT / 'build/mutate'
+HERE, SOURCES, BUILD, WORK = ROOT / 'tests/mutation', ROOT / 'src', ROOT / 'build/files', ROOT / 'build/mutate'
 FOLDERS = ['resources', 'settings', 'dialogs', 'recipe', 'editor', 'addin']  # in the order of the layers
 JOBS = os.cpu_count() or 1
 GENERATOR = Path(mutants.__file__).read_bytes()

@@ -38,23 +38,23 @@ class WholeProject : public testing::Test {
     std::optional<Reader> reader_;
 };
 
-constexpr const char* recipes =
+constexpr const char* someRecipes =
     "INSERT INTO TrcpRecipe (Name, VarLoad) VALUES ('A', 'V'), ('B', ''), ('C', NULL);"
     "INSERT INTO TrcpRecipeMember (ParentID, ChildID, VarRecipe) VALUES ";
 
 TEST_F(WholeProject, ThatIsSoundHasNoFindings) {
-    EXPECT_THAT(findingsOf(with(std::string(recipes) + "(1, 0, 'v'), (1, 2, 'F'), (2, 3, 'F')")), IsEmpty());
+    EXPECT_THAT(findingsOf(with(std::string(someRecipes) + "(1, 0, 'v'), (1, 2, 'F'), (2, 3, 'F')")), IsEmpty());
 }
 
 TEST_F(WholeProject, TellsWhatIsWrongAndWhere) {
     EXPECT_THAT(
-        findingsOf(with(std::string(recipes) + "(1, 0, 'X'), (1, 9, 'F'), (2, 3, ' '), (3, 2, 'F'), (8, 0, 'V')")),
+        findingsOf(with(std::string(someRecipes) + "(1, 0, 'X'), (1, 9, 'F'), (2, 3, ' '), (3, 2, 'F'), (8, 0, 'V')")),
         ElementsAre("unknown-variable A 1", "missing-sub-recipe A 2", "no-file-name B 3", "no-recipe - 5",
                     "cycle B 0"));
 }
 
 TEST_F(WholeProject, ComparesMembersBeyondThoseThatAreLookedUpTogether) {
-    std::string rows = recipes;
+    std::string rows = someRecipes;
     for (int i = 0; i < 100; ++i) rows += "(1, 0, 'V" + std::to_string(i) + "'), ";
     EXPECT_EQ(findingsOf(with(rows + "(1, 0, 'V')")).size(), 100U);
 }
@@ -72,19 +72,19 @@ std::vector<std::string> textsOf(const WhereUsed& used) {
 }
 
 TEST_F(WholeProject, KnowsWhereAVariableIsUsedThroughSubRecipesToo) {
-    const WhereUsed used(with(std::string(recipes) + "(2, 0, 'v'), (1, 2, 'F'), (3, 1, 'V'), (2, 0, '')"), "v");
+    const WhereUsed used(with(std::string(someRecipes) + "(2, 0, 'v'), (1, 2, 'F'), (3, 1, 'V'), (2, 0, '')"), "v");
     EXPECT_EQ(used.recipe(), std::nullopt);
     EXPECT_THAT(textsOf(used), ElementsAre("column 1 0 VarLoad0", "variable 2 1 0", "file-name 3 3 1"));
 }
 
 TEST_F(WholeProject, KnowsWhereARecipeIsUsed) {
-    const WhereUsed used(with(std::string(recipes) + "(2, 3, 'F'), (1, 2, 'F')"), "c");
+    const WhereUsed used(with(std::string(someRecipes) + "(2, 3, 'F'), (1, 2, 'F')"), "c");
     EXPECT_EQ(used.recipe(), 2U);
     EXPECT_THAT(textsOf(used), ElementsAre("sub-recipe 2 1 3", "indirect 1 0 2"));
 }
 
 TEST_F(WholeProject, KnowsWhichNamesItHas) {
-    Reader& reader = with(std::string(recipes) + "(1, 0, NULL)");
+    Reader& reader = with(std::string(someRecipes) + "(1, 0, NULL)");
     EXPECT_TRUE(WhereUsed(reader, "f").isKnown());
     EXPECT_TRUE(WhereUsed(reader, "3").isKnown());
     EXPECT_FALSE(WhereUsed(reader, "nobody").isKnown());

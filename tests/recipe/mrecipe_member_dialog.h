@@ -10,12 +10,13 @@ namespace hx::recipe {
 using automation::Variant;
 using dialogs::FSubRecipe;
 
-/// The columns of the member table, by number.
-enum Column : std::size_t { ID, ParentID, VarRecipe, ChildID };
 inline constexpr std::size_t saveSubRecipes = 14;  // of the recipes
 
 /// Two recipes, the first with a variable and with the second as sub-recipe; the members are those of the first.
 struct MRecipeMember : DialogTest {
+    /// The columns of the member table, by number.
+    enum Column : std::size_t { ID, ParentID, VarRecipe, ChildID };
+
     MRecipeMember() {
         cola = plant.addRecipe("Cola");
         syrup = plant.addRecipe("Sirup");

@@ -33,7 +33,7 @@ class Process {
   public:
     using Command = std::vector<std::string>;
     /// Far longer than anything takes, on a machine that is busy with other things too.
-    static constexpr std::chrono::seconds patience{180};
+    static constexpr std::chrono::seconds patience{900};
 
     /// `folder` gets the files with what it says; `environment` is put over the own one.
     Process(const Command& command, const std::string& folder, const Environment& environment);

@@ -9,8 +9,6 @@ namespace hx::lua {
 
 namespace {
 
-constexpr int callerLevel = 2;  // above the protected action and the guarded function
-
 int makeError(lua_State* state, std::int32_t number, const char* description) {
     lua_createtable(state, 0, 3);
     lua_pushinteger(state, number);

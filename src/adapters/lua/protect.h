@@ -10,6 +10,9 @@
 /// entered through guarded().
 namespace hx::lua {
 
+/// Who called, for luaL_where: above the protected action and the guarded function.
+inline constexpr int callerLevel = 2;
+
 /// A function of Lua's failed; the error value lies on top of the stack.
 struct Raised {};
 

@@ -8,8 +8,6 @@ namespace hx::lua {
 
 namespace {
 
-constexpr int callerLevel = 2;  // above the protected action and the guarded function
-
 /// The thread that waits for another, while it waits.
 class Waiting {
   public:

@@ -7,7 +7,7 @@ namespace hx::report {
 
 namespace {
 
-constexpr double twipsPerPoint = 20, leading = 1.25;
+constexpr double leading = 1.25;
 
 // Without hinting a text is as wide at every zoom and on every device as it was measured.
 QFont fontOf(double points, bool bold) {

@@ -8,7 +8,10 @@
 
 namespace hx::report {
 
-/// A type face of the report. All lengths of a page are twips, 1/1440 inch, whatever it is drawn on.
+/// All lengths of a page are twips, whatever it is drawn on.
+inline constexpr double twipsPerInch = 1440, twipsPerPoint = 20;
+
+/// A type face of the report.
 class Face {
   public:
     Face(double points, bool bold);

@@ -12,13 +12,11 @@
 #include "hosting/file_place.h"
 #include "hosting/file_replacement.h"
 #include "report/html_writer.h"
+#include "report/preview/face.h"
 
 namespace hx::report {
 
 namespace {
-
-constexpr int twipsPerInch = 1440;
-constexpr double twipsPerPoint = 20;
 
 /// A file that takes its place when it is whole, as a device to write on.
 class ReplacementDevice : public QIODevice {

@@ -9,12 +9,13 @@
 #include <array>
 #include <cmath>
 
+#include "report/preview/face.h"
+
 namespace hx::report {
 
 namespace {
 
 constexpr int gap = 18, shadow = 4;
-constexpr double twipsPerInch = 1440;
 constexpr std::array usualZooms = {0.25, 0.33, 0.5, 0.67, 0.75, 0.9, 1.0, 1.1, 1.25, 1.5, 2.0, 3.0, 4.0};
 
 }  // namespace

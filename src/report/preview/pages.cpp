@@ -11,7 +11,7 @@ using qt::toQt;
 
 namespace {
 
-constexpr double twipsPerMillimetre = 1440 / 25.4;
+constexpr double twipsPerMillimetre = twipsPerInch / 25.4;
 constexpr double left = 20 * twipsPerMillimetre, right = 15 * twipsPerMillimetre;
 constexpr double top = 22 * twipsPerMillimetre, below = 20 * twipsPerMillimetre;
 constexpr double headerLine = 16 * twipsPerMillimetre, footerLine = 15 * twipsPerMillimetre;

@@ -20,7 +20,7 @@ namespace hx::report {
 
 namespace {
 
-constexpr int steps = 1000, lookTime = 50, noteTime = 15000;
+constexpr int steps = 1000, lookTime = 50;
 
 bool isSameFile(const QString& a, const QString& b) {
     const QString one = QFileInfo(a).canonicalFilePath();

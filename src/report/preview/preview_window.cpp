@@ -16,7 +16,7 @@ namespace hx::report {
 
 namespace {
 
-constexpr int listWidth = 230, iconSize = 20, noteTime = 15000;
+constexpr int listWidth = 230, iconSize = 20;
 constexpr std::size_t atOnce = 20;  // so many parts are laid out before the window comes: most projects have no more
 constexpr QSize usualSize(1080, 860);
 

@@ -79,6 +79,7 @@ class PreviewWindow : public QDialog {
     RecipeNames names_;
     QListView recipes_;
     PageView view_;
+    static constexpr int noteTime = 15000;  // ms
     QStatusBar status_;
     LayoutProgress layout_;
 };

@@ -3,7 +3,6 @@
 #include <cerrno>
 #include <cstdarg>
 #include <cstdio>
-#include <dlfcn.h>
 #include <fcntl.h>
 #include <filesystem>
 #include <string>
@@ -12,6 +11,7 @@
 #include <sys/uio.h>
 #include <unistd.h>
 
+#include "torture/faults/next.h"
 #include "torture/faults/plan.h"
 #include "torture/faults/power.h"
 
@@ -22,11 +22,6 @@ using hx::faults::Kind;
 using hx::faults::plan;
 using hx::faults::Plan;
 using hx::faults::power;
-
-template <class Function>
-Function* next(const char* name) {
-    return reinterpret_cast<Function*>(dlsym(RTLD_NEXT, name));
-}
 
 // Where blocks of memory are counted these calls ask for none.
 bool passes() { return plan().mode() == Plan::Mode::off || plan().mode() == Plan::Mode::memory; }
@@ -97,7 +92,7 @@ int openAt(int folder, const char* path, int flags, mode_t mode) {
 }
 
 FILE* openStream(const char* name, const char* path, const char* mode) {
-    const auto open = [=] { return next<FILE*(const char*, const char*)>(name)(path, mode); };
+    const auto open = [=] { return hx::faults::next<FILE*(const char*, const char*)>(name)(path, mode); };
     const std::string_view how = mode;
     if (how.find_first_of("wa+") == std::string_view::npos || Inside::any()) return open();
     Call call(Kind::make, absolute(AT_FDCWD, path));
@@ -110,7 +105,7 @@ int openTemporary(const char* name, char* pattern, Arguments... rest) {
     Call call(Kind::make, absolute(AT_FDCWD, pattern));
     if (call.fails()) return -1;
     const Inside inside;
-    const int file = next<int(char*, Arguments...)>(name)(pattern, rest...);
+    const int file = hx::faults::next<int(char*, Arguments...)>(name)(pattern, rest...);
     if (file >= 0 && call.watched()) power().made(absolute(AT_FDCWD, pattern));
     return file;
 }

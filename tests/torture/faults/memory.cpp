@@ -1,8 +1,8 @@
 /// The blocks of memory that a program asks for while its main function runs, one of which the plan may refuse.
 #include <cerrno>
 #include <cstddef>
-#include <dlfcn.h>
 
+#include "torture/faults/next.h"
 #include "torture/faults/plan.h"
 
 extern "C" {
@@ -18,11 +18,6 @@ using Ending = void (*)();
 
 Main programMain = nullptr;
 bool counting = false;
-
-template <class Function>
-Function* next(const char* name) {
-    return reinterpret_cast<Function*>(dlsym(RTLD_NEXT, name));
-}
 
 // Only after the program has begun: what comes before, nothing could answer for.
 int countedMain(int argc, char** argv, char** environment) {
@@ -51,7 +46,7 @@ void* realloc(void* block, size_t bytes) noexcept { return grants() ? __libc_rea
 int __libc_start_main(Main main, int argc, char** argv, Ending init, Ending fini, Ending loaderFini, void* stackEnd) {
     programMain = main;
     using Start = int(Main, int, char**, Ending, Ending, Ending, void*);
-    return next<Start>("__libc_start_main")(countedMain, argc, argv, init, fini, loaderFini, stackEnd);
+    return hx::faults::next<Start>("__libc_start_main")(countedMain, argc, argv, init, fini, loaderFini, stackEnd);
 }
 
 }  // extern "C"

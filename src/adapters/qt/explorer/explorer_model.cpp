@@ -123,10 +123,10 @@ void ExplorerModel::publishGoing() {
     }
     going_.clear();
     goingMarks_.clear();
-    for (auto& [parent, list] : rows) removeRows(parent, std::move(list));
+    for (auto& [parent, list] : rows) removeRowsOf(parent, std::move(list));
 }
 
-void ExplorerModel::removeRows(Id parent, std::vector<std::size_t> rows) {
+void ExplorerModel::removeRowsOf(Id parent, std::vector<std::size_t> rows) {
     std::ranges::sort(rows);
     for (std::size_t end = rows.size(); end > 0;) {
         std::size_t begin = end - 1;

@@ -55,7 +55,7 @@ class ExplorerModel : public QAbstractItemModel {
     [[nodiscard]] bool isGoing(Id id) const;
     void publishNew();
     void publishGoing();
-    void removeRows(Id parent, std::vector<std::size_t> rows);
+    void removeRowsOf(Id parent, std::vector<std::size_t> rows);
 
     hosting::NodeTree tree_;
     std::map<std::string, QIcon, std::less<>> images_;

@@ -10,7 +10,7 @@ namespace hx::qt {
 namespace {
 
 constexpr std::size_t deepest = 32;
-constexpr int mostEntries = 20000, mostTags = 8 * mostEntries;
+constexpr int mostEntries = 20000, mostTagsOfMap = 8 * mostEntries;
 
 QRegularExpression patternOf(const char* name) {
     return QRegularExpression(
@@ -78,7 +78,7 @@ class SiteMapReader {
 std::vector<HelpEntry> readSiteMap(const QString& html) {
     SiteMapReader reader;
     int tags = 0;
-    for (qsizetype at = html.indexOf('<'); at >= 0 && tags++ < mostTags; at = html.indexOf('<', at)) {
+    for (qsizetype at = html.indexOf('<'); at >= 0 && tags++ < mostTagsOfMap; at = html.indexOf('<', at)) {
         const qsizetype end = html.indexOf('>', at);
         if (end < 0) break;
         reader.take(html.mid(at + 1, end - at - 1));
