@@ -17,7 +17,9 @@ namespace hx::sqlite {
 
 class Database;
 
-/// A prepared statement. Parameters count from 1, columns from 0.
+/// A prepared statement. Parameters count from 1, columns from 0. The wrappers that libraries give (SQLiteCpp) keep the
+/// handle to themselves: where a statement ends in its text and whether it only reads cannot be asked of them, and both
+/// are needed, for what macros ask and for waits for locks.
 class Statement {
   public:
     /// Throws what Database::fail says when the text cannot be prepared.
