@@ -1,7 +1,7 @@
 #include <algorithm>
 #include <array>
 #include <iterator>
-#include <ranges>
+#include <span>
 
 #include "automation/convert.h"
 #include "automation/restore.h"
@@ -66,7 +66,7 @@ std::string namesMissing(const Members& members, const Members& others,
     std::vector<Member> missing;
     std::ranges::set_difference(those, these, std::back_inserter(missing));
     std::string names;
-    for (const Member& member : missing | std::views::take(mostNames)) {
+    for (const Member& member : std::span(missing).first(std::min(missing.size(), mostNames))) {
         const auto recipe = member.child == 0 ? std::nullopt : nameOfRecipe(connection, member.child);
         names += (names.empty() ? "" : ", ") + recipe.value_or(std::string(member.variable));
     }
@@ -154,11 +154,13 @@ ado::Bookmark Commands::rowLeftByDeletion() const {
     if (current < 0) return {};
     const auto from = static_cast<std::size_t>(current);
     const auto stays = [&](std::size_t row) { return !selected.contains(members.bookmarkAt(row)); };
-    const auto after = std::views::iota(from, count);
-    if (const auto row = std::ranges::find_if(after, stays); row != after.end()) return members.bookmarkAt(*row);
-    const auto earlier = std::views::iota(std::size_t{0}, from) | std::views::reverse;
-    const auto row = std::ranges::find_if(earlier, stays);
-    return row == earlier.end() ? ado::Bookmark() : members.bookmarkAt(*row);
+    for (std::size_t row = from; row < count; ++row) {
+        if (stays(row)) return members.bookmarkAt(row);
+    }
+    for (std::size_t behind = from; behind > 0; --behind) {
+        if (stays(behind - 1)) return members.bookmarkAt(behind - 1);
+    }
+    return {};
 }
 
 void Commands::deleteMembers() {

@@ -1,7 +1,6 @@
 #include "macros/attended_screen.h"
 
 #include <algorithm>
-#include <ranges>
 
 #include "automation/text.h"
 #include "forms/bar.h"
@@ -21,10 +20,10 @@ void cancel(forms::Form& form) {
 }  // namespace
 
 forms::Form* AttendedScreen::find(std::string_view className) const {
-    const auto latest = forms_ | std::views::reverse;
-    const auto found = std::ranges::find_if(
-        latest, [&](const forms::Form* form) { return automation::equalIgnoreCase(form->className(), className); });
-    return found == latest.end() ? nullptr : *found;
+    const auto latest = std::find_if(forms_.rbegin(), forms_.rend(), [&](const forms::Form* form) {
+        return automation::equalIgnoreCase(form->className(), className);
+    });
+    return latest == forms_.rend() ? nullptr : *latest;
 }
 
 bool AttendedScreen::dismissDialog() {

@@ -7,7 +7,6 @@
 #include <QScopeGuard>
 #include <QScrollBar>
 #include <algorithm>
-#include <ranges>
 
 #include "adapters/qt/controls/surrounding_form.h"
 #include "adapters/qt/header_selection.h"
@@ -23,10 +22,10 @@ constexpr double leastPane = 600;  // twips; in a narrower table nobody sees whe
 
 /// The number of the visible column at the right end; -1 when none is visible.
 int lastShownColumn(const forms::Grid& grid) {
-    for (const forms::Column* column : grid.columnsInDisplayOrder() | std::views::reverse) {
-        if (column->visible()) return grid.columnNumber(automation::Variant(column->dataField()));
-    }
-    return -1;
+    const auto columns = grid.columnsInDisplayOrder();
+    const auto last =
+        std::find_if(columns.rbegin(), columns.rend(), [](const auto* column) { return column->visible(); });
+    return last == columns.rend() ? -1 : grid.columnNumber(automation::Variant((*last)->dataField()));
 }
 
 bool isOfTheMouse(const QEvent& event) {
