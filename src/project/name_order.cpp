@@ -37,7 +37,17 @@ std::strong_ordering compareNumbers(std::string_view a, std::string_view b) {
     return a.size() != b.size() ? a.size() <=> b.size() : a.compare(b) <=> 0;
 }
 
+// Moves both to where they begin to differ, or to the number in which they do.
+void skipCommon(std::string_view& a, std::string_view& b) {
+    const auto differ = std::mismatch(a.begin(), a.end(), b.begin(), b.end()).first;
+    auto same = static_cast<std::size_t>(differ - a.begin());
+    while (same > 0 && isDigit(a[same - 1])) --same;
+    a.remove_prefix(same);
+    b.remove_prefix(same);
+}
+
 std::strong_ordering compareForms(std::string_view a, std::string_view b) {
+    skipCommon(a, b);
     while (!a.empty() && !b.empty()) {
         if (isDigit(a.front()) && isDigit(b.front())) {
             if (const auto order = compareNumbers(takeNumber(a), takeNumber(b)); order != 0) return order;

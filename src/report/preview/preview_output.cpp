@@ -69,16 +69,20 @@ bool PreviewWindow::work(const std::function<void(const Progress&)>& task) {
     };
     const bool wasGoingOn = layout_.isGoingOn();
     layout_.stop();
+    bool done = true;
     try {
-        layOutAll(pages_, progress);
-        layout_.advanced();
         task(progress);
-        return true;
     } catch (const automation::Cancelled&) {
         status_.showMessage(wording_.translate("report", "Cancelled"), noteTime);
+        done = false;
     }
     if (wasGoingOn) layout_.goOn();
-    return false;
+    return done;
+}
+
+void PreviewWindow::layOutRest(const Progress& progress) {
+    layOutAll(pages_, progress);
+    layout_.advanced();
 }
 
 void PreviewWindow::save(const FileKind& kind) {
@@ -123,7 +127,8 @@ bool PreviewWindow::mayWrite(const QString& path) {
 }
 
 void PreviewWindow::print() {
-    if (!work([](const Progress&) {})) return;  // the dialog says how many pages there are
+    if (!work([this](const Progress& progress) { layOutRest(progress); }))
+        return;  // the dialog says how many pages there are
     QPrinter printer(QPrinter::HighResolution);
     printer.setPageSize(QPageSize(QPageSize::A4));
     printer.setFullPage(true);

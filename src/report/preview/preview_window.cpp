@@ -112,6 +112,7 @@ void PreviewWindow::setUpTools() {
         [this, asPdf] {
             save({asPdf, wording_.translate("report", "PDF files (*.pdf)"), "pdf",
                   [this](const QString& path, const Progress& progress) {
+                      layOutRest(progress);
                       return savePdf(report_, pages_, {0, pages_.count() - 1}, path, progress);
                   }});
         },

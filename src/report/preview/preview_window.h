@@ -53,8 +53,9 @@ class PreviewWindow : public QDialog {
     void chooseZoom(int index);
     void showRecipe(const QModelIndex& index);
 
-    /// Runs what may take long, with all pages laid out, under a dialog that can cancel it; whether it came to its end.
+    /// Runs what may take long under a dialog that can cancel it; whether it came to its end.
     bool work(const std::function<void(const Progress& progress)>& task);
+    void layOutRest(const Progress& progress);
     void print();
     void printTo(QPrinter& printer);
     void save(const FileKind& kind);
