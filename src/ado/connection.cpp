@@ -93,6 +93,7 @@ namespace {
 /// One entry of the error list, for late-bound use.
 class ErrorItem : public automation::Dispatch {
   public:
+    // NOLINTNEXTLINE(bugprone-throw-keyword-missing)
     explicit ErrorItem(Error error) : error_(std::move(error)) {}
     [[nodiscard]] std::int32_t number() const { return error_.number(); }
     [[nodiscard]] const std::string& description() const { return error_.description(); }

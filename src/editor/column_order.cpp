@@ -14,7 +14,7 @@ std::string columnOrderText(const forms::Grid& grid) {
 }
 
 void applyColumnOrder(forms::Grid& grid, std::string_view text) {
-    const auto columns = grid.columns();  // kept: handlers hear of each new order
+    auto columns = grid.columns();  // kept: handlers hear of each new order
     const std::vector<std::string> elements = automation::split(text, ',');
     const std::size_t count = std::min(elements.size() - 1, columns.size());
     for (std::size_t i = 0; i < count; ++i) {

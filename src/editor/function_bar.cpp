@@ -29,7 +29,7 @@ struct ButtonRow {
     bool separatorBefore = false;
 };
 
-constexpr auto rows = std::to_array<ButtonRow>({
+constexpr auto buttonRows = std::to_array<ButtonRow>({
     {"New", pictures::create, newTools},
     {"Edit", pictures::edit, editTools},
     {binKey, pictures::remove, deleteTools},
@@ -49,7 +49,7 @@ std::string plainCaption(std::string_view caption) {
 
 FunctionBar::FunctionBar(frmtabgrid& window, Menus& menus, AddIn& addIn)
     : window_(window), menus_(menus), addIn_(addIn), bin_(window, menus, addIn) {
-    for (const ButtonRow& row : rows) {
+    for (const ButtonRow& row : buttonRows) {
         window.tbrfunc->addButton(std::string(row.key), row.picture()).separatorBefore = row.separatorBefore;
     }
     const auto follow = [this] {
@@ -71,13 +71,13 @@ void FunctionBar::explorerUsed() {
 
 std::string_view FunctionBar::toolOf(std::string_view button) const {
     if (button == binKey) return bin_.tool();
-    const auto& tools = std::ranges::find(rows, button, &ButtonRow::key)->tools;
+    const auto& tools = std::ranges::find(buttonRows, button, &ButtonRow::key)->tools;
     const auto runs = std::ranges::find_if(tools, [&](std::string_view name) { return menus_.wouldEnable(name); });
     return runs != tools.end() ? *runs : std::string_view();
 }
 
 void FunctionBar::refresh() {
-    for (const ButtonRow& row : rows) {
+    for (const ButtonRow& row : buttonRows) {
         forms::ToolButton& button = window_.tbrfunc->button(automation::Variant(row.key));
         const std::string_view runs = toolOf(row.key);
         std::string tip = plainCaption(menus_.tool(runs.empty() ? row.tools.front() : runs).caption());

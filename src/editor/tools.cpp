@@ -10,7 +10,7 @@ using enum forms::ToolKind;
 
 constexpr std::string_view create = "New", edit = "Edit", remove = "Delete";
 
-constexpr auto rows = std::to_array<ToolRow>({
+constexpr auto toolTable = std::to_array<ToolRow>({
     {band::main, tool::recipes, menu, 202, "", band::recipe},
     {band::main, tool::recipeMembers, menu, 210, "", band::member},
     {band::main, tool::options, menu, 220, "", band::option},
@@ -44,7 +44,7 @@ constexpr auto shortcuts = std::to_array<ShortcutRow>({
 
 }  // namespace
 
-std::span<const ToolRow> toolRows() noexcept { return rows; }
+std::span<const ToolRow> toolRows() noexcept { return toolTable; }
 std::span<const ShortcutRow> shortcutRows() noexcept { return shortcuts; }
 
 }  // namespace hx::editor

@@ -21,7 +21,7 @@ void Column::setWidth(double twips) { assign(width_, requireLength(twips), "Widt
 void Column::setVisible(bool visible) { assign(visible_, visible, "Visible"); }
 void Column::setAllowSizing(bool allow) { assign(allowSizing_, allow, "AllowSizing"); }
 void Column::setButton(bool button) { assign(button_, button, "Button"); }
-void Column::setButtonPicture(Picture picture) { assign(buttonPicture_, picture, "ButtonPicture"); }
+void Column::setButtonPicture(const Picture& picture) { assign(buttonPicture_, picture, "ButtonPicture"); }
 void Column::setLocked(bool locked) { assign(locked_, locked, "Locked"); }
 
 void Column::setOrder(std::int16_t order) {

@@ -27,7 +27,7 @@ class Column : public automation::Dispatch {
     [[nodiscard]] bool button() const noexcept { return button_; }
     void setButton(bool button);
     [[nodiscard]] const Picture& buttonPicture() const noexcept { return buttonPicture_; }
-    void setButtonPicture(Picture picture);
+    void setButtonPicture(const Picture& picture);
     [[nodiscard]] bool locked() const noexcept { return locked_; }  ///< cannot be edited
     void setLocked(bool locked);
     [[nodiscard]] ValueItems& valueItems() noexcept { return valueItems_; }

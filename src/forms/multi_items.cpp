@@ -168,7 +168,7 @@ std::vector<std::string> namesOf(automation::Dispatch& list) {
 void assignSelected(HXMultiItems& items, const Variant& value) {
     if (value.isEmpty() || value.isNull()) return items.setSelectedItems({});
     if (!value.isObject()) throw Error(automation::errTypeMismatch, "Type mismatch: a list of names expected");
-    const ObjectRef list = value.asObject();
+    const ObjectRef& list = value.asObject();
     if (list == nullptr) return items.setSelectedItems({});
     items.setSelectedItems(namesOf(*list));
 }

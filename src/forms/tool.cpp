@@ -31,7 +31,7 @@ void Tool::setEnabled(bool enabled) { assign(enabled_, enabled); }
 void Tool::setVisible(bool visible) { assign(visible_, visible); }
 void Tool::setShortcut(const std::string& shortcut) { assign(shortcut_, shortcut); }
 void Tool::setSubBand(const std::string& band) { assign(subBand_, band); }
-void Tool::setPicture(Picture picture) { assign(picture_, picture); }
+void Tool::setPicture(const Picture& picture) { assign(picture_, picture); }
 
 const automation::MemberTable& Tool::members() const {
     using automation::property;

@@ -37,7 +37,7 @@ class Tool : public automation::Dispatch {
     [[nodiscard]] const std::string& subBand() const noexcept { return subBand_; }
     void setSubBand(const std::string& band);
     [[nodiscard]] const Picture& picture() const noexcept { return picture_; }
-    void setPicture(Picture picture);
+    void setPicture(const Picture& picture);
 
     Event<> changed;
     [[nodiscard]] const automation::MemberTable& members() const override;

@@ -103,7 +103,7 @@ void NodeTree::setCaption(Id id, std::string_view caption) {
 
 // Packs the texts afresh when most of them are of no use: each is then moved once on average.
 void NodeTree::dropped(std::size_t bytes) {
-    constexpr std::size_t worthIt = 64 * 1024;
+    constexpr std::size_t worthIt = std::size_t{64} * 1024;
     dropped_ += bytes;
     if (dropped_ < worthIt || dropped_ * 2 < packed_.size()) return;
     automation::PackedTexts packed;

@@ -81,8 +81,8 @@ void PlcopenUnfolder::declare(const Place& owner, const xml_node& variable) {
     const std::string name = requireName(variable, "variable");
     const xml_node type = childOf(variable, "type");
     if (!type) document_.fail(variable, "\"type\": the variable " + hosting::inQuotes(name) + " has no type");
-    std::string comment = textOf(childOf(variable, "documentation"));
-    unfold({owner.name.empty() ? name : owner.name + "." + name, comment.empty() ? owner.comment : std::move(comment),
+    const std::string comment = textOf(childOf(variable, "documentation"));
+    unfold({owner.name.empty() ? name : owner.name + "." + name, comment.empty() ? owner.comment : comment,
             owner.line == 0 ? document_.line(variable) : owner.line},
            type);
 }
@@ -232,7 +232,7 @@ std::optional<std::int64_t> PlcopenUnfolder::bound(const Place& place, const xml
     return std::nullopt;
 }
 
-void PlcopenUnfolder::give(const Place& place, std::string type) {
+void PlcopenUnfolder::give(const Place& place, const std::string& type) {
     variable_.name = place.name;
     variable_.line = place.line;
     variable_.type = automation::leftCharacters(type, limits_.type);

@@ -61,7 +61,7 @@ class PlcopenUnfolder {
     static bool goOn(std::vector<std::int64_t>& index, const std::vector<Dimension>& dimensions);
     std::vector<Dimension> dimensionsOf(const Place& place, const pugi::xml_node& array);
     std::optional<std::int64_t> bound(const Place& place, const pugi::xml_node& range, const char* name);
-    void give(const Place& place, std::string type);
+    void give(const Place& place, const std::string& type);
     void leaveOut(const Place& place, const std::string& reason);
     void tellNotes();
     void tellCut(const std::string& what, int count, std::size_t limit);

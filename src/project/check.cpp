@@ -9,8 +9,6 @@
 
 namespace hx::project {
 
-using Row = std::span<const ado::StoredValue>;
-
 namespace {
 
 bool isBlank(std::string_view text) { return automation::trim(text).empty(); }

@@ -42,8 +42,6 @@ constexpr auto flagColumns = std::to_array<FlagColumn>({
     {schema::recipe::cryptEngine, &RecipeData::crypted},
 });
 
-using Row = std::span<const ado::StoredValue>;
-
 constexpr std::size_t fixedColumns = 3;  // before the texts and the flags
 
 std::vector<std::string_view> recipeColumns() {

@@ -10,8 +10,6 @@
 
 namespace hx::project {
 
-using Row = std::span<const ado::StoredValue>;
-
 namespace {
 
 std::optional<std::int64_t> wholeId(const std::string& text) {

@@ -15,6 +15,9 @@
 
 namespace hx::project {
 
+/// Values of one row, in the order in which their columns were asked for.
+using Row = std::span<const ado::StoredValue>;
+
 struct RecipeEntry {
     std::int64_t id = 0;
     std::string name;

@@ -10,8 +10,6 @@
 
 namespace hx::project {
 
-using Row = std::span<const ado::StoredValue>;
-
 WhereUsed::WhereUsed(Reader& reader, std::string name)
     : name_(std::move(name)),
       recipes_(reader.recipes()),

@@ -122,7 +122,7 @@ void ResourceTable::InitResources(const host::Registry& registry) {
 
 void ResourceTable::AddResource(std::int32_t id, const std::array<std::string_view, 2>& texts) {
     for (std::int32_t language = 0; language < 2; ++language) {
-        texts_.try_emplace(keyOf(std::int64_t{id} + language * languageStep),
+        texts_.try_emplace(keyOf(id + std::int64_t{language} * languageStep),
                            texts[static_cast<std::size_t>(language)]);
     }
 }

@@ -41,7 +41,7 @@ std::string changed(std::string_view bytes, const Preferences::Change& change) {
 
 }  // namespace
 
-Preferences::Preferences(QString folder) : file_(std::move(folder) + QStringLiteral("/studio.ini")) {}
+Preferences::Preferences(const QString& folder) : file_(folder + QStringLiteral("/studio.ini")) {}
 
 QByteArray Preferences::geometry() const { return read(file_, geometryKey).toByteArray(); }
 

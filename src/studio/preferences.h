@@ -13,7 +13,7 @@ namespace hx::studio {
 /// side by side share it.
 class Preferences {
   public:
-    explicit Preferences(QString folder);
+    explicit Preferences(const QString& folder);
 
     [[nodiscard]] QByteArray geometry() const;
     [[nodiscard]] QByteArray layout() const;

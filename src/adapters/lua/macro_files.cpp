@@ -64,7 +64,8 @@ std::string MacroFiles::within(const std::string& name) const {
                                 "The macro has no files: it was started without a project or a folder of its own");
     }
     // The system takes a name up to the first of these.
-    if (name.find('\0') != std::string::npos) refuse(name.c_str(), "cannot be named with a zero byte");
+    if (name.find('\0') != std::string::npos)
+        refuse(name.substr(0, name.find('\0')), "cannot be named with a zero byte");
     const fs::path file = fs::weakly_canonical(folders_.front() / name);
     // A link to nothing is what is left of one here: writing to it would make the file that it leads to.
     const bool dangling = fs::is_symlink(fs::symlink_status(file));

@@ -73,7 +73,7 @@ std::string TableRowset::orderClause() const {
         const ado::Column& column = table_.columns[table_.requireColumn(term.column)];
         std::string value = quotedName(column.name);
         if (isText(column)) value += std::string(" COLLATE ") + textCollation;
-        if (column.type == ado::adBoolean) value = "(-(" + value + " <> 0))";
+        if (column.type == ado::adBoolean) value.insert(0, "(-(").append(" <> 0))");
         clause += value + (term.descending ? " DESC, " : ", ");
     }
     return clause + quotedName(table_.key);

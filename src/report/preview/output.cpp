@@ -91,7 +91,7 @@ QString savePdf(const Report& report, const Pages& pages, PageRange range, const
         bool painted = false;
         {
             QPdfWriter writer(&device);
-            writer.setResolution(twipsPerInch);
+            writer.setResolution(static_cast<int>(twipsPerInch));
             writer.setTitle(qt::toQt(report.fullTitle()));
             writer.setCreator(QStringLiteral("HXProjectReport"));
             writer.setPageLayout(

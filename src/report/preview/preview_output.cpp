@@ -67,6 +67,7 @@ bool PreviewWindow::work(const std::function<void(const Progress&)>& task) {
         if (dialog.isVisible()) wait.reset();
         if (dialog.wasCanceled()) throw automation::Cancelled();
     };
+    // NOLINTNEXTLINE(clang-analyzer-deadcode.DeadStores): it is read below
     const bool wasGoingOn = layout_.isGoingOn();
     layout_.stop();
     bool done = true;

@@ -50,7 +50,7 @@ void HelpFindBar::setUpButton(QToolButton& button, const char* name, const char*
 }
 
 void HelpFindBar::retranslate() {
-    const auto name = [this](QToolButton& button, const QString& text, const char* keys) {
+    const auto name = [](QToolButton& button, const QString& text, const char* keys) {
         button.setToolTip(plainToolTip(text + QStringLiteral(" (%1)").arg(QLatin1StringView(keys))));
         button.setAccessibleName(text);
     };

@@ -10,7 +10,7 @@ namespace hx::qt {
 
 namespace {
 
-constexpr qsizetype longestTopic = 256 * 1024, longestRun = 20'000, longestText = 20'000;
+constexpr qsizetype longestTopic = qsizetype{256} * 1024, longestRun = 20'000, longestText = 20'000;
 constexpr int mostTags = 10'000, mostResources = 300, mostSpan = 1000;
 constexpr qsizetype deepestElements = 100, deepestTables = 6;
 constexpr qint64 mostPixels = 16 << 20;

@@ -130,7 +130,7 @@ void FormLayout::fit() {
     alignLabels();
     fitDialogButtons();
     // A page that is not shown does not notice by itself that its rows want another size; the innermost come last.
-    for (auto area = areas_.rbegin(); area != areas_.rend(); ++area) area->grid->activate();
+    std::for_each(areas_.rbegin(), areas_.rend(), [](const auto& area) { area.grid->activate(); });
 }
 
 void FormLayout::fitRow(const forms::LayoutRow& row) {
