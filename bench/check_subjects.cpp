@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The check of a project for what is wrong in it.
 #include <filesystem>
 #include <iostream>

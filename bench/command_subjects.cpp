@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Commands that write many rows, from the click to the grid that shows what is left.
 #include <algorithm>
 #include <memory>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "bench/command_window.h"
 
 #include <stdexcept>

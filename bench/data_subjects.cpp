@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Our way and the limit's, on the level of the data.
 #include <array>
 #include <memory>

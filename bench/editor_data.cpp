@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "bench/editor_data.h"
 
 #include "recipe/mhxrcp_hirarch_func.h"

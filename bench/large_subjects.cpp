@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // What users do with a recipe of very many members, in the studio.
 #include <QAbstractButton>
 #include <QApplication>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "bench/limit_database.h"
 
 #include <stdexcept>

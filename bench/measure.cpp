@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "bench/measure.h"
 
 #include <algorithm>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // What each measurement compares, and what it must reach.
 #include "bench/measurements.h"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The peer: Qt's own model of a table, on the same file.
 #include <QCoreApplication>
 #include <QSqlDatabase>

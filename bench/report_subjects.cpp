@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The report on a project: read, laid out on pages, drawn, written.
 #include <array>
 #include <filesystem>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "bench/studio_window.h"
 
 #include <QKeyEvent>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The choice of a recipe's variables among all of a project.
 #include <QKeyEvent>
 #include <QLineEdit>

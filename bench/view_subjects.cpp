@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // What the user sees, drawn by Qt without a display.
 #include <QScrollBar>
 #include <QSqlDatabase>

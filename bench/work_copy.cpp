@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "bench/work_copy.h"
 
 #include <fcntl.h>

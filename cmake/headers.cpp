@@ -1,1 +1,3 @@
+// SPDX-License-Identifier: MIT
+
 // What is compiled here are the headers that CMakeLists.txt names.

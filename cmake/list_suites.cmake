@@ -1,3 +1,5 @@
+# SPDX-License-Identifier: MIT
+
 # cmake -D PROGRAM=... -D OUTPUT=... -D LABEL=... -P: writes a CTest test for each suite of a GoogleTest program.
 execute_process(COMMAND ${PROGRAM} --gtest_list_tests OUTPUT_VARIABLE listed COMMAND_ERROR_IS_FATAL ANY)
 string(REGEX MATCHALL "\n[^ \n][^\n]*\\." suites "\n${listed}")

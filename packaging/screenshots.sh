@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
 # screenshots.sh STUDIO PROJECT FOLDER: opens a copy of PROJECT on a virtual display, goes through the recipe branch by
 # keyboard in German and in English, and leaves a picture of each stop in FOLDER. Fails when a window does not come or a
 # step shows nothing new. The user's projects and settings are not touched.

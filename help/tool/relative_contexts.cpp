@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // relative_contexts FILE PREFIX: the compiler writes the topics of the context numbers with the path of the project
 // before them, where no reader finds them. This makes each number point behind that path: into the same text, PREFIX
 // further. The table "/#IVB" is packed together with everything else, so the new one is put at the end of the file,

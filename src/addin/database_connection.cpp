@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "addin/database_connection.h"
 
 #include "addin/trap.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "addin/embedding.h"
 
 #include <exception>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "addin/explorer_object.h"
 
 #include "automation/member_rows.h"

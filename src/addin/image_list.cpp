@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "addin/image_list.h"
 
 namespace hx::addin {

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "addin/msurfing_tree.h"
 
 #include <array>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "addin/project_location.h"
 
 #include "addin/trap.h"

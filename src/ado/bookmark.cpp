@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ado/bookmark.h"
 
 #include <cmath>

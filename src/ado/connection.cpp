@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ado/connection.h"
 
 #include "ado/errors.h"

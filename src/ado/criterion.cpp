@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ado/criterion.h"
 
 #include "automation/convert.h"

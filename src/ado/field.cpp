@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ado/field.h"
 
 #include "ado/errors.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ado/key_list.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ado/keyset.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ado/page_cache.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ado/errors.h"
 #include "ado/recordset.h"
 #include "automation/member_rows.h"

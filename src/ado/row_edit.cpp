@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ado/row_edit.h"
 
 #include <string>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ado/row_keys.h"
 
 #include <algorithm>

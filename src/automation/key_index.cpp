@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "automation/key_index.h"
 
 #include <algorithm>

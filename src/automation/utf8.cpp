@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "automation/utf8.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "automation/variant.h"
 
 #include <array>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cli/findings.h"
 
 #include "adapters/sqlite/provider.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cli/generate.h"
 
 #include "adapters/sqlite/project_file.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cli/interruption.h"
 
 namespace hx::cli {

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cli/run_macro_studio.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cli/unfinished_file.h"
 
 #include <unistd.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cli/variables.h"
 
 #include <algorithm>

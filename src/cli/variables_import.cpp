@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cli/variables_import.h"
 
 #include <optional>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "dialogs/fconfig_editor.h"
 
 #include "automation/member_rows.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "dialogs/fmulti_select_items.h"
 
 namespace hx::dialogs {

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "dialogs/fsub_recipe.h"
 
 #include "automation/member_rows.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "editor/bin.h"
 
 #include "editor/frmtabgrid.h"

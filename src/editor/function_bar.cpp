@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "editor/function_bar.h"
 
 #include <algorithm>

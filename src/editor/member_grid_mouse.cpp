@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "editor/member_grid_mouse.h"
 
 #include "editor/frmtabgrid.h"

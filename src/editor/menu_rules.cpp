@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "editor/menu_rules.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "editor/menus.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "editor/msurfing_grid.h"
 
 #include <algorithm>

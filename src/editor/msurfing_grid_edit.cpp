@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "automation/restore.h"
 #include "automation/text.h"
 #include "editor/frmtabgrid.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "editor/pictures.h"
 
 #include <string_view>

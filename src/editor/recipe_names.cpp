@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "editor/recipe_names.h"
 
 #include "ado/recordset.h"

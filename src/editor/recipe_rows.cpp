@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "editor/recipe_rows.h"
 
 #include <algorithm>

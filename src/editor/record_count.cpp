@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "editor/record_count.h"
 
 #include "recipe/mhxrcp_hirarch_func.h"

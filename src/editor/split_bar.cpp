@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "editor/split_bar.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "editor/tools.h"
 
 #include <array>

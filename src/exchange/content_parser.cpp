@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "exchange/content_parser.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "exchange/json.h"
 
 namespace hx::exchange {

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "exchange/row_writer.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "forms/band.h"
 
 #include <algorithm>

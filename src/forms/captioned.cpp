@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "forms/captioned.h"
 
 #include "automation/member_rows.h"

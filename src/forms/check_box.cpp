@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "forms/check_box.h"
 
 #include "automation/member_rows.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "forms/command_button.h"
 
 #include "automation/member_rows.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "forms/control.h"
 
 #include "forms/form.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "automation/member_rows.h"
 #include "forms/control.h"
 #include "forms/form.h"

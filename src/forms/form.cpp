@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "forms/form.h"
 
 #include "automation/restore.h"

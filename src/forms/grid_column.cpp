@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "forms/grid_column.h"
 
 #include "automation/member_rows.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "forms/key_strokes.h"
 
 #include <algorithm>

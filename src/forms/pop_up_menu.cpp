@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "forms/pop_up_menu.h"
 
 #include "automation/error.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "forms/scripted_user.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "forms/selected_rows.h"
 
 #include <algorithm>

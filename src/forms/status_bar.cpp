@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "forms/status_bar.h"
 
 #include "automation/member_rows.h"

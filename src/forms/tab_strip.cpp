@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "forms/tab_strip.h"
 
 #include "automation/member_rows.h"

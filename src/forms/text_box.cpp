@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "forms/text_box.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "forms/tool.h"
 
 #include "automation/member_rows.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "forms/tool_bar.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "forms/value_items.h"
 
 #include <functional>

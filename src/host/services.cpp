@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "host/services.h"
 
 #include "automation/text.h"

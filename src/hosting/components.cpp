@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "hosting/components.h"
 
 #include <memory>

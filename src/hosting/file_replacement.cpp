@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "hosting/file_replacement.h"
 
 #include <random>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "hosting/ini_document.h"
 
 #include "automation/error.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "hosting/open_project.h"
 
 #include <filesystem>

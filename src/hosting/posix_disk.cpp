@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "hosting/posix_disk.h"
 
 #include <cerrno>

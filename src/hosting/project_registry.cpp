@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "hosting/project_registry.h"
 
 #include "automation/text.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "hosting/registry_file.h"
 
 #include <charconv>

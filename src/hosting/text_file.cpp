@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "hosting/text_file.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "hosting/visible.h"
 
 #include <algorithm>

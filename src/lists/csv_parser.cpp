@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "lists/csv_parser.h"
 
 #include <csv.h>

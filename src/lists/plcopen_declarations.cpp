@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "lists/plcopen_declarations.h"
 
 #include <algorithm>

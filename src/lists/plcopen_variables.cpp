@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "lists/plcopen_variables.h"
 
 #include "lists/plcopen_unfolder.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "lists/text_decoder.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "lists/variable_writer.h"
 
 #include <algorithm>

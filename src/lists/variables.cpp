@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "lists/variables.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "lists/xml_document.h"
 
 #include <algorithm>

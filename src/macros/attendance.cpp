@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "macros/attendance.h"
 
 namespace hx::macros {

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "macros/attended_screen.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "macros/folder_ini_file.h"
 
 namespace hx::macros {

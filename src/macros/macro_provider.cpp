@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "macros/macro_provider.h"
 
 #include <filesystem>

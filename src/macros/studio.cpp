@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "macros/studio.h"
 
 #include <limits>

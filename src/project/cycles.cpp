@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "project/cycles.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "project/generated_names.h"
 
 #include <array>

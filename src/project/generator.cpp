@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "project/generator.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "project/inclusion_graph.h"
 
 #include <algorithm>

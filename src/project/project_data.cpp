@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "project/project_data.h"
 
 #include <array>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "project/where_used.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "recipe/conflict.h"
 
 #include "automation/convert.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "recipe/data_environment.h"
 
 #include <array>

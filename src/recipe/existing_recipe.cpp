@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "recipe/existing_recipe.h"
 
 #include "ado/recordset.h"

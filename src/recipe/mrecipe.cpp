@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "recipe/mrecipe.h"
 
 #include <algorithm>

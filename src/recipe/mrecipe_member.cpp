@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "recipe/mrecipe_member.h"
 
 #include <array>

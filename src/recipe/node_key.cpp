@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "recipe/node_key.h"
 
 #include <array>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <limits>
 
 #include "recipe/mhxrcp_hirarch_func.h"

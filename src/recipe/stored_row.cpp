@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "recipe/stored_row.h"
 
 namespace hx::recipe {

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "report/html_style.h"
 
 namespace hx::report {

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "report/html_text.h"
 
 #include <algorithm>

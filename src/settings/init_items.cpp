@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "settings/init_items.h"
 
 #include <algorithm>

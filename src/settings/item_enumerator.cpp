@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "settings/item_enumerator.h"
 
 #include "automation/member_rows.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "studio/clipboard_keeper.h"
 
 #include <QClipboard>

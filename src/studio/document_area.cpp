@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "studio/document_area.h"
 
 #include <QMdiSubWindow>

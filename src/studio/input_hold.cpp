@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "studio/input_hold.h"
 
 #include <QApplication>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "studio/macro_commands.h"
 
 #include <QDesktopServices>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "studio/macro_dock.h"
 
 #include <QClipboard>

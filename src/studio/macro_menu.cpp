@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "studio/macro_menu.h"
 
 #include "adapters/qt/svg_icon.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "studio/macro_runner.h"
 
 #include <QApplication>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "studio/main_window.h"
 
 #include <QCloseEvent>

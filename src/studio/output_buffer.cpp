@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "studio/output_buffer.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "studio/project.h"
 
 #include <QFileInfo>

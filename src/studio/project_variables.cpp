@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "studio/project_variables.h"
 
 #include "adapters/sqlite/project_check.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "studio/studio_host.h"
 
 #include <QDir>

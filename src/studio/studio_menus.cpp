@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "studio/studio_menus.h"
 
 #include <QFileInfo>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "studio/window_studio.h"
 
 #include <QDir>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "node_events.h"
 
 namespace hx::addin {

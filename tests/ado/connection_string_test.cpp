@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ado/connection_string.h"
 
 #include <gtest/gtest.h>

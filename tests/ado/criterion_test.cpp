@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ado/criterion.h"
 
 #include <gtest/gtest.h>

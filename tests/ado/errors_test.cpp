@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ado/errors.h"
 
 #include <gtest/gtest.h>

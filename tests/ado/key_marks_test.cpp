@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ado/key_marks.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // What a recordset asks of its provider: keys when first needed, pages of rows, the columns that are used.
 #include <gtest/gtest.h>
 #include <vector>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ado/row_keys.h"
 
 #include <gtest/gtest.h>

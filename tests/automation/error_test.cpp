@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "automation/error.h"
 
 #include <gtest/gtest.h>

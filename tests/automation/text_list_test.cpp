@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "automation/text_list.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "run_sample_macro.h"
 
 namespace hx::cli {

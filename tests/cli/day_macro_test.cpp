@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // A whole day's work in the editor: the macro checks the database after each step, the tests look from outside.
 #include <gmock/gmock.h>
 

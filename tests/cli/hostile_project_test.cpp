@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Projects that somebody has damaged, or made to do harm.
 #include <gmock/gmock.h>
 #include <nlohmann/json.hpp>

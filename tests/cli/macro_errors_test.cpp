@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // What fails in a macro, and how the macro and its caller learn of it.
 #include "run_macro_text.h"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The files that a macro reaches past Lua's own libraries.
 #include "run_macro_text.h"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // What the globals of a macro do, one by one; run_macro_test.cpp has the answers and the surroundings.
 #include "run_macro_text.h"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Every name of a window, a dialog, a control, a collection and a class is there for macros.
 #include "run_macro_text.h"
 

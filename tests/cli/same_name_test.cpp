@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Projects of the same name in different folders, opened by several programs that share a registry.
 #include "run_macro_text.h"
 #include "support/rival.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Two editors, each in a process of its own, work on one project: while a dialog or a row of the one is open, the other
 // changes what it shows.
 #include <gmock/gmock.h>

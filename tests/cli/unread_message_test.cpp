@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // What a macro's run says of message boxes that nobody has read.
 #include "run_macro_text.h"
 

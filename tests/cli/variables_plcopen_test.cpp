@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "automation/text.h"
 #include "variables_test.h"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The texts of the recipe dialog, in both languages, and where its controls stand.
 #include "dialogs/frecipe.h"
 #include "dialogs_fixture.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "dialogs/mconfigeditor.h"
 
 #include "dialogs_fixture.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Every row of every table of the dialogs: what all tables promise.
 #include "dialogs/fconfig_editor.h"
 #include "dialogs/fmulti_select_items.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "editor_window.h"
 #include "recipe/node_key.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "editor/column_order.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The program ends in the middle of a command: the project then holds the state before it, or the one after it.
 #include <sys/wait.h>
 #include <unistd.h>

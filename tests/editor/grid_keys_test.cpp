@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "editor/member_grid_keys.h"
 #include "editor_window.h"
 

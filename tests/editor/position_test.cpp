@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "editor_window.h"
 #include "host/window_offset.h"
 

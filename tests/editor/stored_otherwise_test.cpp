@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Projects of which another program has made the tables: the editor asks the rows, not their places.
 #include "adapters/sqlite/database.h"
 #include "adapters/sqlite/project_file.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "command_window.h"
 #include "dialogs/fmulti_select_items.h"
 

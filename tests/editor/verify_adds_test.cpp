@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "editor_window.h"
 
 namespace hx::editor {

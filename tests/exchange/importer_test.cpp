@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "exchange/importer.h"
 
 #include <gtest/gtest.h>

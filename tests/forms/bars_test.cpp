@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Status bars and tool bars.
 #include <gtest/gtest.h>
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Command buttons, check boxes and option buttons.
 #include <gtest/gtest.h>
 

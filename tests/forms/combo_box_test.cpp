@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "forms/combo_box.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "forms/event.h"
 
 #include <gtest/gtest.h>

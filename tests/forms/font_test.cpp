@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "forms/font.h"
 
 #include <gtest/gtest.h>

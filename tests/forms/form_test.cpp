@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "forms/form.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Columns, their order, translations and sorting.
 #include "grid_fixture.h"
 

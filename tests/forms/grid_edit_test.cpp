@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Typing into a grid, leaving rows, and errors.
 #include "grid_fixture.h"
 #include "support/faulty_provider.h"

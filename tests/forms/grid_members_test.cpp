@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // A grid reached by name.
 #include "grid_fixture.h"
 

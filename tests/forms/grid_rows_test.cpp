@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // What a grid shows, its current row, and reading again.
 #include "grid_fixture.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "forms/layout.h"
 
 #include <gtest/gtest.h>

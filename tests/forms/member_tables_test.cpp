@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Every row of every table: what all tables promise.
 #include <gtest/gtest.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "forms/message_style.h"
 
 #include <gmock/gmock.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "forms/multi_items.h"
 
 #include <array>

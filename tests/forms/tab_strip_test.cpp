@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "forms/tab_strip.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "adapters/qt/help/help_book.h"
 #include "adapters/qt/help/help_html.h"
 #include "adapters/qt/help/help_search.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 /// What libFuzzer calls. HX_FUZZ_TARGET in the environment says which target.
 #include <cstdint>
 #include <cstdio>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "gui/demo_form.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "gui/desktop.h"
 
 #include <QApplication>

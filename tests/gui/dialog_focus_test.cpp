@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <QImage>
 
 #include "dialogs/fconfig_editor.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <QMdiSubWindow>
 #include <QScreen>
 #include <QSettings>

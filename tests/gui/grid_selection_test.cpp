@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <QTemporaryDir>
 #include <algorithm>
 #include <array>

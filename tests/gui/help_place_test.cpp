@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <QDialog>
 #include <QScreen>
 #include <QTabWidget>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Help files that nobody would wait for.
 #include <QAction>
 #include <QFile>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <QLocale>
 #include <gtest/gtest.h>
 

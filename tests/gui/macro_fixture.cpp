@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "gui/macro_fixture.h"
 
 #include <QDir>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // What users, macros and files say is shown as it is, whatever it looks like.
 #include <QLabel>
 #include <QTextDocumentFragment>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "studio/preferences.h"
 
 #include <QDir>

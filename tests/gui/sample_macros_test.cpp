@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The sample macros in the studio, as they are copied from its menu and without arguments.
 #include <QFile>
 #include <QTest>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "gui/studio_fixture.h"
 
 #include <QHeaderView>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <QMainWindow>
 #include <QMdiArea>
 #include <QTest>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "adapters/headless/host.h"
 
 #include <gmock/gmock.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "forms/wait_cursor.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "adapters/headless/window_operations.h"
 
 #include <gmock/gmock.h>

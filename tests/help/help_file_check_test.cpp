@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "adapters/qt/help/help_file_check.h"
 
 #include <QtEndian>

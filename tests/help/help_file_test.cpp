@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "studio/help_file.h"
 
 #include <QDir>

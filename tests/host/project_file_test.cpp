@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "host/project_file.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "hosting/ini_text_file.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "hosting/node_tree.h"
 
 #include <gtest/gtest.h>

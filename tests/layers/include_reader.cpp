@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "layers/include_reader.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "layers/layer_rules.h"
 
 #include <gmock/gmock.h>

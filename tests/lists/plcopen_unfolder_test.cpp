@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "lists/plcopen_unfolder.h"
 
 #include <fstream>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "macro_fixture.h"
 
 namespace hx::lua {

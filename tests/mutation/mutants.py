@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """Finds what could be changed in a C++ source file and writes every change into one copy of it, each behind a switch that is
 thrown at run time: hxMutant(n) is true in the run that tries change n."""
 

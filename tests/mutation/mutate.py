@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """Changes single lines of the six editor folders and runs their tests: a change that no test notices is printed. Changes without
 an effect that a test could see stand in equal.txt, with the reason.
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "project/name_set.h"
 
 #include <gtest/gtest.h>

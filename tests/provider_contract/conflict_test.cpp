@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Somebody else changes or deletes the row that is being edited: it is told, and nothing of theirs is overwritten.
 #include <cmath>
 #include <limits>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Changing, adding and deleting rows, and reading them again.
 #include <array>
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Whatever operation of the database fails: the error reaches the caller, nothing is lost, nothing is half done.
 #include "store.h"
 #include "support/faulty_provider.h"

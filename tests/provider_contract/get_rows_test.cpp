@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Many rows at once.
 #include <array>
 

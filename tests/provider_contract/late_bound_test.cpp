@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Connection, Recordset and Field as a client without type information uses them.
 #include "store.h"
 

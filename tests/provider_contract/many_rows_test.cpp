@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Many new rows in one call.
 #include "ado/transaction.h"
 #include "store.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Moving, counting, searching, filtering, marking.
 #include "store.h"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // All rows of a command in one pass, as they are stored.
 #include <array>
 #include <gmock/gmock.h>

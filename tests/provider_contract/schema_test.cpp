@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The two recipe tables: what each column is and starts as.
 #include "store.h"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Opening and closing, and what may be done in which state.
 #include "store.h"
 

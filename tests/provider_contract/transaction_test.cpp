@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Several changes as one.
 #include "store.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "recipe/field_text.h"
 
 #include <cmath>

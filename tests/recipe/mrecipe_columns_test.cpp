@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "mrecipe_dialog.h"
 
 namespace hx::recipe {

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "automation/text.h"
 #include "mrecipe_dialog.h"
 #include "recipe/conflict.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "recipe/recipe_nodes.h"
 
 #include <gtest/gtest.h>

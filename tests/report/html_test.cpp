@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <fstream>
 #include <gtest/gtest.h>
 #include <regex>

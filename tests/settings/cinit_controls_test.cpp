@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cinit_fixture.h"
 
 namespace hx::settings {

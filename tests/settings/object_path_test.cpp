@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "settings/object_path.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // What the provider says when something goes wrong, and how long it waits before it says so.
 #include <filesystem>
 

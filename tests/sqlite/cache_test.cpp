@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // How much of the file a connection keeps in memory.
 #include <gtest/gtest.h>
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // What counts as changed by another in a file that another program has written.
 #include "project_fixture.h"
 

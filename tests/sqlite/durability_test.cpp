@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Whatever the disk does: a change is stored whole or not at all, and what was reported as stored is.
 #include <filesystem>
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // What a file can make SQLite do is limited.
 #include "adapters/sqlite/database.h"
 #include "project_fixture.h"

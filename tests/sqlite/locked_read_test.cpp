@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Another process locks the file in the middle of a read.
 #include <array>
 #include <sys/wait.h>

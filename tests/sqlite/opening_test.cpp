@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Which files open, and what is said of those that do not.
 #include <filesystem>
 #include <fstream>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // New projects.
 #include <algorithm>
 #include <filesystem>

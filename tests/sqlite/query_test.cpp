@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Commands of all kinds on a project file, and rows that other programs have written.
 #include "project_fixture.h"
 

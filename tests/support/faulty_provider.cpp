@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "support/faulty_provider.h"
 
 #include <utility>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "support/memory_database.h"
 
 #include "ado/errors.h"

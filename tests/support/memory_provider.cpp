@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "support/memory_provider.h"
 
 #include "ado/connection_string.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "torture/damage.h"
 
 #include <algorithm>

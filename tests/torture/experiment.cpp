@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "torture/experiment.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <memory>
 
 #include "torture/campaign.h"

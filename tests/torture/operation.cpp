@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "torture/operation.h"
 
 #include "torture/programs.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "torture/process.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "torture/state.h"
 
 #include <algorithm>

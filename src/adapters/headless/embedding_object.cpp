@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "adapters/headless/embedding_object.h"
 
 #include "automation/member_rows.h"

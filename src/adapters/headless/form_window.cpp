@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "adapters/headless/form_window.h"
 
 #include <algorithm>

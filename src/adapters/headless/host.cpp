@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "adapters/headless/host.h"
 
 namespace hx::headless {

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "adapters/headless/memory_ini_file.h"
 
 namespace hx::headless {

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "adapters/headless/memory_registry.h"
 
 #include "automation/text.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "adapters/headless/project_explorer.h"
 
 #include "automation/convert.h"

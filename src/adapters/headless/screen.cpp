@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "adapters/headless/screen.h"
 
 #include "forms/command_button.h"

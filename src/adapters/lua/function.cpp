@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "adapters/lua/function_reference.h"
 #include "adapters/lua/machine.h"
 #include "adapters/lua/protect.h"

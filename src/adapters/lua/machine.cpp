@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "adapters/lua/machine.h"
 
 #include <new>

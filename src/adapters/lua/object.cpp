@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "adapters/lua/object.h"
 
 #include <memory>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "adapters/lua/process_memory.h"
 
 #ifdef __SANITIZE_ADDRESS__

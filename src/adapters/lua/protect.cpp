@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "adapters/lua/protect.h"
 
 #include "adapters/lua/machine.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "adapters/lua/threads.h"
 
 #include "adapters/lua/call_original.h"

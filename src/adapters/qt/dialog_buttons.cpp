@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "adapters/qt/dialog_buttons.h"
 
 #include <QPushButton>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "adapters/qt/svg_icon.h"
 
 #include <QFile>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "adapters/sqlite/criterion_sql.h"
 
 #include <algorithm>

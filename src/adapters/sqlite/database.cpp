@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "adapters/sqlite/database.h"
 
 #include <filesystem>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "adapters/sqlite/duplicates.h"
 
 #include "adapters/sqlite/sentences.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "adapters/sqlite/functions.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "adapters/sqlite/jet_sql.h"
 
 #include <algorithm>

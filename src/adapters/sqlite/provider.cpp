@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "adapters/sqlite/provider.h"
 
 #include "adapters/sqlite/session.h"

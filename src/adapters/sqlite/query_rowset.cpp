@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "adapters/sqlite/query_rowset.h"
 
 #include <algorithm>

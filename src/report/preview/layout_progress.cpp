@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "report/preview/layout_progress.h"
 
 #include <QElapsedTimer>

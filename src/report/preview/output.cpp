@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "report/preview/output.h"
 
 #include <QIODevice>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "report/preview/page_view.h"
 
 #include <QKeyEvent>

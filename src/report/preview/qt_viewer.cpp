@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "report/preview/qt_viewer.h"
 
 #include <QApplication>
@@ -19,7 +20,7 @@ QWidget* windowAt(const host::Services& services, forms::WindowHandle handle) {
             if (window->isVisible() && window->isWindow() && window->frameGeometry().contains(middle)) return window;
         }
     } catch (const automation::Error&) {
-        // A window that there is not is no reason to show no report.
+        // The report opens without a parent where there is no window yet.
     }
     return nullptr;
 }

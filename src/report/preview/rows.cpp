@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "report/preview/rows.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "host/module.h"
 
 #include <type_traits>

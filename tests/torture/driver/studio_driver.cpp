@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 /// Loaded into the studio's process: does in its windows what a user would, step by step, and leaves.
 #include <QAction>
 #include <QApplication>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 /// The calls of the C library by which a program changes files, each counted and, where the plan says so, failing. They
 /// go to the system directly; only what is more than a system call is handed on.
 #include <cerrno>

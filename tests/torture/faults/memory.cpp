@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 /// The blocks of memory that a program asks for while its main function runs, one of which the plan may refuse.
 #include <cerrno>
 #include <cstddef>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "torture/faults/plan.h"
 
 #include <array>

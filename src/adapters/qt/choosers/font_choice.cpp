@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "adapters/qt/choosers/font_choice.h"
 
 #include <QFontDialog>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "adapters/qt/choosers/item_dialog.h"
 
 #include <QApplication>

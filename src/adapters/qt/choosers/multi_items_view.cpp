@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "adapters/qt/choosers/multi_items_view.h"
 
 #include <array>

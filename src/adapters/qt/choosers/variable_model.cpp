@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "adapters/qt/choosers/variable_model.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "adapters/qt/controls/band_menu.h"
 
 #include <QMouseEvent>

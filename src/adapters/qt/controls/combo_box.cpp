@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "adapters/qt/controls/combo_box.h"
 
 #include <QKeyEvent>

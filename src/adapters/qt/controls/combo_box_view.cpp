@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "adapters/qt/controls/combo_box_view.h"
 
 #include <QLineEdit>

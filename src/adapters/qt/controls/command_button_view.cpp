@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "adapters/qt/controls/command_button_view.h"
 
 #include "adapters/qt/controls/surrounding_form.h"

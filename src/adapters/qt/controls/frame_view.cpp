@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "adapters/qt/controls/frame_view.h"
 
 #include "adapters/qt/text.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "adapters/qt/controls/option_button_view.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "adapters/qt/controls/status_bar_view.h"
 
 #include "adapters/qt/text.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "adapters/qt/controls/tab_strip_view.h"
 
 #include <QSignalBlocker>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "adapters/qt/controls/text_box_view.h"
 
 #include <QScopedValueRollback>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "adapters/qt/controls/tool_bar_view.h"
 
 #include <QAction>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "adapters/qt/explorer/explorer_model.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "adapters/qt/explorer/explorer_tree.h"
 
 #include <QContextMenuEvent>

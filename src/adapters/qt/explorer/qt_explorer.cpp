@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "adapters/qt/explorer/qt_explorer.h"
 
 #include <QScopedValueRollback>

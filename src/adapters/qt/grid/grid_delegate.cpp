@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "adapters/qt/grid/grid_delegate.h"
 
 #include <QLineEdit>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "adapters/qt/grid/grid_errors.h"
 
 namespace hx::qt {

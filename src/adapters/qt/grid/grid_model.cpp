@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "adapters/qt/grid/grid_model.h"
 
 #include "adapters/qt/text.h"

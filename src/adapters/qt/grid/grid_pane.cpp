@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "adapters/qt/grid/grid_pane.h"
 
 #include <QApplication>

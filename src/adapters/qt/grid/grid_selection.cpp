@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "adapters/qt/grid/grid_selection.h"
 
 #include <QScopedValueRollback>

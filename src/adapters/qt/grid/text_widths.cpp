@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "adapters/qt/grid/text_widths.h"
 
 #include <QFontMetricsF>

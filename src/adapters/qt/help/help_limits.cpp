@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "adapters/qt/help/help_limits.h"
 
 #include <QBuffer>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "adapters/qt/help/help_site_map.h"
 
 #include <QRegularExpression>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "adapters/qt/help/help_tables.h"
 
 #include <QtEndian>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "adapters/qt/help/qt_help_viewer.h"
 
 #include <QApplication>

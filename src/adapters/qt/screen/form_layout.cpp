@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "adapters/qt/screen/form_layout.h"
 
 #include <QLineEdit>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "adapters/qt/screen/input_rules.h"
 
 #include <QComboBox>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "adapters/qt/screen/mdi_edit.h"
 
 #include "automation/member_rows.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "adapters/qt/screen/message_dialog.h"
 
 #include <QApplication>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "adapters/qt/screen/qt_clipboard.h"
 
 #include <QBuffer>

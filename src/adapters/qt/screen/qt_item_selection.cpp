@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "adapters/qt/screen/qt_item_selection.h"
 
 #include "adapters/qt/choosers/item_dialog.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "adapters/qt/screen/qt_path_selection.h"
 
 #include <QApplication>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "adapters/qt/screen/qt_screen.h"
 
 #include <QApplication>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "adapters/qt/screen/view_factory.h"
 
 #include "adapters/qt/choosers/multi_items_view.h"
