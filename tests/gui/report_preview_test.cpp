@@ -1,134 +1,20 @@
 // SPDX-License-Identifier: MIT
-#include <QAction>
+#include "gui/report_preview.h"
+
 #include <QApplication>
 #include <QComboBox>
-#include <QDialog>
-#include <QDir>
-#include <QFile>
-#include <QFileDialog>
-#include <QLineEdit>
 #include <QListView>
-#include <QMenu>
-#include <QMenuBar>
 #include <QMouseEvent>
 #include <QProgressBar>
 #include <QProgressDialog>
 #include <QScrollBar>
 #include <QSpinBox>
-#include <QStatusBar>
-#include <QTest>
 #include <QToolButton>
-
-#include "adapters/qt/text.h"
-#include "adapters/sqlite/project_file.h"
-#include "adapters/sqlite/provider.h"
-#include "gui/studio_fixture.h"
-#include "project/generator.h"
-#include "report/preview/page_view.h"
-#include "report/preview/preview_window.h"
 
 namespace hx::gui {
 namespace {
 
 using Names = std::vector<std::string>;
-
-QByteArray contentOf(const QString& path) {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("no file");
-}
-
-/// Whether a file is chosen again, after a message.
-bool choosesAfter(const BoxAnswers& answers) {
-    const auto* choice = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-    return !answers.shown().empty() && choice != nullptr && choice->isVisible() && choice->isActiveWindow();
-}
-
-/// The editor with the project of StudioTest, and the preview that Options, Report opens.
-class ReportPreview : public StudioTest {
-  protected:
-    QString project;
-
-    void openEditor(std::int32_t language = qt::Wording::german) {
-        start();
-        if (language != qt::Wording::german) window().chooseLanguage(language);
-        project = makeProject();
-        open(project);
-        click(language == qt::Wording::german ? "Rezepte" : "Recipes");
-        handleEvents();
-    }
-    /// The editor with a project that has a report of many pages.
-    void openLarge() {
-        start();
-        project = folder.filePath("gross.hxs");
-        sqlite::createProject(qt::fromQt(project));
-        sqlite::Provider provider;
-        const auto session = provider.connect("Data Source=" + qt::fromQt(project) + ";Mode=Read|Write;");
-        project::generate(*session, {.recipes = 1500, .members = 15000}, [](std::int64_t) {});
-        open(project);
-        click("Rezepte");
-        handleEvents();
-    }
-    /// Chooses Options, Report in the editor's menu and acts on the preview, which is then closed.
-    void inPreview(const std::function<void(QWidget&)>& action) {
-        bool came = false;
-        const NextModal<QDialog> next([&](QDialog& preview) {
-            came = preview.objectName() == "reportPreview";
-            EXPECT_TRUE(came) << qt::fromQt(preview.objectName());
-            try {
-                action(preview);
-            } catch (const std::exception& error) {
-                ADD_FAILURE() << error.what();
-            }
-            if (preview.isVisible()) preview.reject();
-        });
-        chooseReport();
-        handleEvents();
-        EXPECT_TRUE(came);
-        ASSERT_NE(editorWindow(), nullptr);
-        EXPECT_TRUE(editorWindow()->isVisible());
-    }
-    void chooseReport() {
-        auto& bar = find<QMenuBar>(*editorWindow(), "abr");
-        for (QAction* top : bar.actions()) {
-            if (!top->text().contains("ption")) continue;
-            QTest::mouseClick(&bar, Qt::LeftButton, {}, bar.actionGeometry(top).center());
-            handleEvents();
-            for (QAction* entry : top->menu()->actions()) {
-                if (entry->text().remove('&') != "Report") continue;
-                return QTest::mouseClick(top->menu(), Qt::LeftButton, {}, top->menu()->actionGeometry(entry).center());
-            }
-        }
-        ADD_FAILURE() << "there is no entry Report";
-    }
-    /// Runs a tool of the preview; `action` acts on the choice of a file that it opens.
-    static void saveWith(QWidget& preview, const char* tool, const std::function<void(QFileDialog&)>& action) {
-        const NextModal<QFileDialog> next(action);
-        find<QAction>(preview, tool).trigger();
-        handleEvents();
-    }
-    static std::function<void(QFileDialog&)> choosing(const QString& path) {
-        return [path](QFileDialog& dialog) {
-            find<QLineEdit>(dialog, "fileNameEdit").setText(path);
-            QTest::keyClick(&find<QLineEdit>(dialog, "fileNameEdit"), Qt::Key_Return);
-        };
-    }
-    template <class W>
-    static W& find(const QObject& parent, const char* name) {
-        auto* found = parent.findChild<W*>(QString::fromUtf8(name));
-        if (found == nullptr) throw std::runtime_error(std::string("nothing is called ") + name);
-        return *found;
-    }
-    static report::PageView& pages(const QWidget& preview) {
-        return static_cast<report::PageView&>(find<QAbstractScrollArea>(preview, "reportPages"));
-    }
-    [[nodiscard]] Names leftovers() const {
-        Names names;
-        for (const QString& name : QDir(folder.path()).entryList(QDir::Files)) {
-            if (!name.endsWith(".hxs")) names.push_back(qt::fromQt(name));
-        }
-        return names;
-    }
-};
 
 TEST_F(ReportPreview, TheMenuOpensItOverTheEditor) {
     openEditor();
@@ -171,108 +57,6 @@ TEST_F(ReportPreview, EveryToolHasANameAKeyAndAPicture) {
             EXPECT_EQ(button->focusPolicy(), Qt::TabFocus) << name;
         }
         EXPECT_EQ(tools, 12);
-    });
-}
-
-TEST_F(ReportPreview, IsSavedAsPdf) {
-    openEditor();
-    const QString path = folder.filePath("Bericht.pdf");
-    inPreview([&](QWidget& preview) {
-        saveWith(preview, "reportPdf", choosing(path));
-        EXPECT_EQ(find<QStatusBar>(preview, "reportStatus").currentMessage(), "Gespeichert: " + path);
-    });
-    const QByteArray pdf = contentOf(path);
-    EXPECT_TRUE(pdf.startsWith("%PDF-"));
-    EXPECT_TRUE(pdf.trimmed().endsWith("%%EOF"));
-    EXPECT_GT(pdf.count("/Type /Page\n"), 1);
-    EXPECT_EQ(leftovers(), Names{"Bericht.pdf"});
-}
-
-TEST_F(ReportPreview, IsSavedAsHtml) {
-    openEditor(qt::Wording::english);
-    inPreview([this](QWidget& preview) { saveWith(preview, "reportHtml", choosing(folder.filePath("Bericht"))); });
-    const QByteArray html = contentOf(folder.filePath("Bericht.html"));
-    EXPECT_TRUE(html.startsWith("<!DOCTYPE html>\n<html lang=\"en\">"));
-    EXPECT_TRUE(html.contains("Meyer&#39;s Bräu"));
-    EXPECT_TRUE(html.contains("Datei.Limonade"));
-    EXPECT_TRUE(html.endsWith("</html>\n"));
-    EXPECT_EQ(leftovers(), Names{"Bericht.html"});
-}
-
-TEST_F(ReportPreview, CancellingKeepsEverything) {
-    openEditor();
-    inPreview([](QWidget& preview) {
-        saveWith(preview, "reportPdf", [](QFileDialog& dialog) {
-            EXPECT_EQ(find<QLineEdit>(dialog, "fileNameEdit").text(), "Anlage.pdf");
-            QTest::keyClick(&dialog, Qt::Key_Escape);
-        });
-        EXPECT_TRUE(preview.isVisible());
-        EXPECT_EQ(find<QStatusBar>(preview, "reportStatus").currentMessage(), "");
-    });
-    EXPECT_EQ(leftovers(), Names{});
-}
-
-TEST_F(ReportPreview, AFileIsReplacedOnlyWhenTheUserSaysSo) {
-    openEditor();
-    const QString path = folder.filePath("alt.html");
-    {
-        QFile file(path);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write("old");
-    }
-    inPreview([&](QWidget& preview) {
-        {
-            const BoxAnswers answers({"Nein"});
-            const Once again([&] { return choosesAfter(answers); },
-                             [] {
-                                 QWidget& choice = *QApplication::activeModalWidget();
-                                 EXPECT_EQ(find<QLineEdit>(choice, "fileNameEdit").text(), "alt.html");
-                                 QTest::keyClick(&choice, Qt::Key_Escape);
-                             });
-            const NextModal<QFileDialog> next(choosing(path));
-            find<QAction>(preview, "reportHtml").trigger();
-            ASSERT_EQ(answers.shown().size(), 1u);
-            EXPECT_EQ(answers.shown()[0].text,
-                      "Die Datei gibt es schon:\n" + qt::fromQt(path) + "\n\nSoll sie ersetzt werden?");
-        }
-        EXPECT_EQ(contentOf(path), "old");
-        const BoxAnswers answers({"Ja"});
-        saveWith(preview, "reportHtml", choosing(path));
-        EXPECT_TRUE(contentOf(path).startsWith("<!DOCTYPE html>"));
-    });
-    EXPECT_EQ(leftovers(), Names{"alt.html"});
-}
-
-TEST_F(ReportPreview, TheProjectFileIsNeverReplaced) {
-    openEditor();
-    const QByteArray before = contentOf(project);
-    inPreview([this](QWidget& preview) {
-        const BoxAnswers answers({"OK"});
-        const Once again([&] { return choosesAfter(answers); },
-                         [] { QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape); });
-        const NextModal<QFileDialog> next(choosing(project));
-        find<QAction>(preview, "reportPdf").trigger();
-        ASSERT_EQ(answers.shown().size(), 1u);
-        EXPECT_TRUE(answers.shown()[0].text.find("Projektdatei") != std::string::npos) << answers.shown()[0].text;
-    });
-    EXPECT_EQ(contentOf(project), before);
-}
-
-TEST_F(ReportPreview, AFailureToSaveIsShown) {
-    openEditor();
-    const QString path = folder.filePath("folder.pdf/report.pdf");
-    ASSERT_TRUE(QFile(folder.filePath("folder.pdf")).open(QIODevice::WriteOnly));
-    inPreview([&](QWidget& preview) {
-        const BoxAnswers answers({"OK"});
-        const NextModal<QFileDialog> next([&](QFileDialog& dialog) {
-            // The dialog itself refuses a folder that there is not, so the choice is made behind its back.
-            dialog.selectFile(path);
-            static_cast<QDialog&>(dialog).done(QDialog::Accepted);
-        });
-        find<QAction>(preview, "reportPdf").trigger();
-        ASSERT_EQ(answers.shown().size(), 1u);
-        EXPECT_EQ(answers.shown()[0].title, "Rezeptbericht");
-        EXPECT_TRUE(answers.shown()[0].text.starts_with("Der Bericht konnte nicht gespeichert werden:\n"));
     });
 }
 
@@ -389,21 +173,6 @@ class CancelProgress : public QObject {
         return false;
     }
 };
-
-TEST_F(ReportPreview, WhatTakesLongIsCancelled) {
-    openLarge();
-    inPreview([this](QWidget& preview) {
-        static_cast<report::PreviewWindow&>(preview).patience = 0;
-        const CancelProgress cancelling;
-        for (const char* tool : {"reportPdf", "reportHtml"}) {
-            find<QStatusBar>(preview, "reportStatus").clearMessage();
-            saveWith(preview, tool, choosing(folder.filePath("Bericht")));
-            EXPECT_EQ(find<QStatusBar>(preview, "reportStatus").currentMessage(), "Abgebrochen") << tool;
-        }
-        EXPECT_TRUE(preview.isVisible());
-    });
-    EXPECT_EQ(leftovers(), Names{});
-}
 
 TEST_F(ReportPreview, EscapeClosesIt) {
     openEditor();
