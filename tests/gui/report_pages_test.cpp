@@ -232,6 +232,22 @@ TEST_F(ReportFiles, CancellingLeavesNothing) {
     EXPECT_TRUE(QDir(folder.path()).isEmpty());
 }
 
+TEST(EmptyReport, IsWrittenWithATotalThatCanBeDividedBy) {
+    const QTemporaryDir folder;
+    Printed printed({});
+    int heard = 0;
+    const auto hears = [&](std::int64_t done, std::int64_t total) {
+        EXPECT_GE(total, 1);
+        EXPECT_LE(done, total);
+        ++heard;
+    };
+    EXPECT_EQ(report::saveHtml(printed.report, folder.filePath("a.html"), hears), "");
+    EXPECT_EQ(
+        report::savePdf(printed.report, printed.pages, {0, printed.pages.count() - 1}, folder.filePath("a.pdf"), hears),
+        "");
+    EXPECT_GE(heard, 2);
+}
+
 TEST_F(ReportFiles, AnOlderFileIsReplacedAsAWhole) {
     const QString path = folder.filePath("a.html");
     QFile file(path);

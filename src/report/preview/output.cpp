@@ -106,10 +106,11 @@ QString savePdf(const Report& report, const Pages& pages, PageRange range, const
 }
 
 QString saveHtml(const Report& report, const QString& path, const Progress& progress) {
+    const auto total = static_cast<std::int64_t>(std::max<std::size_t>(1, report.recipes().size()));
     return save(path, report.texts().wording(), [&](hosting::FileReplacement& file) {
         writeHtml(report, [&](std::string_view part, std::size_t recipes) {
             file.write(part);
-            progress(static_cast<std::int64_t>(recipes), static_cast<std::int64_t>(report.recipes().size()));
+            progress(static_cast<std::int64_t>(recipes), total);
         });
     });
 }

@@ -19,7 +19,7 @@ struct PageRange {
 /// A4, in twips.
 [[nodiscard]] QSizeF usualPaper();
 
-/// Hears how far a work is; gives it up by throwing automation::Cancelled.
+/// Hears how far a work is, of a total of 1 or more; gives it up by throwing automation::Cancelled.
 using Progress = std::function<void(std::int64_t done, std::int64_t total)>;
 
 /// Lays out the pages that are left.
