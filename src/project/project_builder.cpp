@@ -52,7 +52,7 @@ void ProjectBuilder::orderRecipes() {
         sorted.push_back(data_.recipes_[from]);
     }
     data_.recipes_ = std::move(sorted);
-    std::ranges::sort(data_.numbers_, {}, &ProjectData::Numbered::id);
+    std::ranges::sort(data_.numbers_, {}, [](const auto& numbered) { return std::pair(numbered.id, numbered.number); });
 }
 
 void ProjectBuilder::addMember(std::int64_t parent, std::int64_t child, std::string_view text) {

@@ -36,11 +36,18 @@ struct RecipeData {
 };
 
 /// All recipes of a project, ordered by name (OrderedName). Made for 100,000 of them with millions of members: no text
-/// is a piece of memory of its own.
+/// is a piece of memory of its own. It lends texts and lists to its recipes, so it moves but is not copied.
 class ProjectData {
   public:
+    ProjectData() = default;
+    ProjectData(ProjectData&&) noexcept = default;
+    ProjectData& operator=(ProjectData&&) noexcept = default;
+    ProjectData(const ProjectData&) = delete;
+    ProjectData& operator=(const ProjectData&) = delete;
+    ~ProjectData() = default;
+
     [[nodiscard]] const std::vector<RecipeData>& recipes() const noexcept { return recipes_; }
-    /// The number in recipes() of the recipe with this ID.
+    /// The number in recipes() of the recipe with this ID; of two, of the one that stands first.
     [[nodiscard]] std::optional<std::size_t> find(std::int64_t id) const;
     [[nodiscard]] std::string_view variable(std::size_t number) const { return variables_[number]; }
     /// Those of all recipes, one recipe after the other.

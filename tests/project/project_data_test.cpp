@@ -13,6 +13,7 @@
 #include "ado/recordset.h"
 #include "support/faulty_provider.h"
 #include "support/memory_provider.h"
+#include "support/recipe_draft.h"
 #include "support/temporary_folder.h"
 
 namespace hx::project {
@@ -153,6 +154,22 @@ TEST_F(ProjectDataTest, MembersOfNoRecipeAreCounted) {
     addMember(-1, "z", 1);
     EXPECT_EQ(read().orphans(), 2u);
     EXPECT_EQ(variablesOf(read(), 0), Names{"x"});
+}
+
+TEST(ForeignProject, KeepsTheMembersOfRecipesWhoseIdsAppearTwice) {
+    support::RecipeDraft first, second, third;
+    first.id = second.id = 1;
+    third.id = 3;
+    first.name = "A";
+    second.name = "B";
+    third.name = "C";
+    first.variables = {"x", "y"};
+    third.variables = {"z"};
+    const ProjectData data = support::projectOf({third, second, first});
+    EXPECT_EQ(variablesOf(data, 0), (Names{"x", "y"}));
+    EXPECT_EQ(variablesOf(data, 1), Names{});
+    EXPECT_EQ(variablesOf(data, 2), Names{"z"});
+    EXPECT_EQ(data.orphans(), 0U);
 }
 
 TEST_F(ProjectDataTest, AnOpenEditorGoesOnWorkingWhileTheProjectIsRead) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "project/reader.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
 #include <limits>
 
@@ -17,6 +18,19 @@ TEST(RecipeNumbers, AreFoundByIdHoweverManyAreMissing) {
         for (std::size_t i = 0; i < ids.size(); ++i) EXPECT_EQ(numberOf(recipes, ids[i]), i) << ids[i];
         for (const std::int64_t id : {least + 1, std::int64_t{-2}, std::int64_t{4}, std::int64_t{12}, most - 1}) {
             EXPECT_EQ(numberOf(recipes, id), std::nullopt) << id;
+        }
+    }
+}
+
+TEST(RecipeNumbers, AreFoundWhereIdsAppearTwice) {
+    using Ids = std::vector<std::int64_t>;
+    for (const Ids& ids : {Ids{1, 1}, Ids{1, 1, 1, 1, 3}, Ids{0, 0, 5, 9, 9, 9, 10}, Ids{1, 2, 2, 2, 2, 2, 2, 40}}) {
+        std::vector<RecipeEntry> recipes;
+        for (const std::int64_t id : ids) recipes.push_back({id, ""});
+        for (std::int64_t id = -1; id < 45; ++id) {
+            const auto first = std::ranges::find(ids, id);
+            const auto place = static_cast<std::size_t>(first - ids.begin());
+            EXPECT_EQ(numberOf(recipes, id), first == ids.end() ? std::nullopt : std::optional(place)) << id;
         }
     }
 }
