@@ -57,11 +57,13 @@ void InitTreeView(const host::Services& services, host::ProjectExplorer& explore
 
 void addRecipeNodes(ado::Recordset& recipes, host::ProjectExplorer& explorer, const resources::ResourceTable& texts) {
     const Closing closing(recipes);
-    if (!recipe::OpenAndMoveFirst(recipes)) return;
+    if (recipes.state() == ado::adStateClosed) recipes.open();
+    recipes.setFilter("");
     recipe::RecipeNodes nodes(explorer, texts.GetResource(text::subRecipes));
     constexpr std::array fields = {project::schema::recipe::id, project::schema::recipe::name};
-    recipes.getRows(ado::adGetRowsRest, fields, [&](std::span<const automation::Variant> row) {
-        nodes.add(automation::toInt32(row[0]), row[1].isString() ? std::string_view(row[1].asString()) : "");
+    recipes.scan(fields, [&](std::span<const ado::StoredValue> row) {
+        if (row[1].isNumber()) nodes.add(automation::toInt32(row[0].real), automation::toText(row[1].real));
+        else nodes.add(automation::toInt32(row[0].real), row[1].text);
     });
 }
 

@@ -68,6 +68,12 @@ void KeyList::read(std::size_t first, std::size_t count, ColumnMask columns, Row
     owner_.readRows(asked, columns, sink);
 }
 
+void KeyList::giveAll(std::span<const std::size_t> columns, const StoredRowReceiver& receive) {
+    owner_.refresh();
+    if (!filter_ && owner_.isInCommandOrder()) owner_.scan(nullptr, columns, receive);
+    else owner_.scan(&keys(), columns, receive);
+}
+
 bool KeyList::matchesAt(const Criterion& criterion, std::size_t position) {
     const Page& found = page(position, columnsOf(criterion));
     if (!found.exists(position)) return false;

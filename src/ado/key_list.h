@@ -45,6 +45,8 @@ class KeyList {
         return found.exists(position) ? &found.value(position, column) : nullptr;
     }
 
+    /// Gives these columns of all rows, as Rowset::scan does.
+    void giveAll(std::span<const std::size_t> columns, const StoredRowReceiver& receive);
     /// Gives `count` rows from `first` on to the sink, with only these columns; they are not kept.
     void read(std::size_t first, std::size_t count, ColumnMask columns, RowSink& sink);
 

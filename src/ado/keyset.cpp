@@ -183,6 +183,14 @@ void Keyset::readRows(std::span<const Key> keys, ColumnMask mask, RowSink& sink)
     connection_->withSession([&](Session&) { open.read(keys, mask, sink); });
 }
 
+void Keyset::scan(const RowKeys* keys, std::span<const std::size_t> columns, const StoredRowReceiver& receive) {
+    Rowset& open = rowset();
+    connection_->withSession([&](Session&) {
+        if (keys == nullptr) open.scan(columns, receive);
+        else scanByKeys(open, *keys, columns, receive);
+    });
+}
+
 void Keyset::want(ColumnMask columns) noexcept {
     if ((columns & ~wanted_) == 0) return;
     wanted_ |= columns;

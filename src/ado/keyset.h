@@ -55,6 +55,9 @@ class Keyset : public ConnectionClient {
     // For the lists.
     [[nodiscard]] RowKeys readKeys(const Criterion* filter);
     void readRows(std::span<const Key> keys, ColumnMask mask, RowSink& sink);
+    /// Rowset::scan, or scanByKeys.
+    void scan(const RowKeys* keys, std::span<const std::size_t> columns, const StoredRowReceiver& receive);
+    [[nodiscard]] bool isInCommandOrder() const noexcept { return !sorting_; }
     /// Forgets what other writes on the connection have made old.
     void refresh() {
         if (seenWrites_ != connection_->writes()) forgetOld();

@@ -56,18 +56,22 @@ bool sameValue(const automation::Variant& stored, const automation::Variant& rea
     return stored == read || (notANumber(stored) && notANumber(read));
 }
 
-void Rowset::scan(std::span<const std::size_t> columns, const StoredRowReceiver& receive) {
+void scanByKeys(Rowset& rows, const RowKeys& keys, std::span<const std::size_t> columns,
+                const StoredRowReceiver& receive) {
     ColumnMask mask = 0;
     for (const std::size_t column : columns) mask |= columnBit(column);
-    const RowKeys all = keys(nullptr);
-    Scan scan(columns, this->columns(), receive);
+    Scan scan(columns, rows.columns(), receive);
     std::vector<Key> together;
-    for (std::size_t at = 0; at < all.size(); at += together.size()) {
-        together.resize(std::min(rowsReadTogether, all.size() - at));
-        for (std::size_t i = 0; i < together.size(); ++i) together[i] = all[at + i];
+    for (std::size_t at = 0; at < keys.size(); at += together.size()) {
+        together.resize(std::min(rowsReadTogether, keys.size() - at));
+        for (std::size_t i = 0; i < together.size(); ++i) together[i] = keys[at + i];
         scan.start(together);
-        read(together, mask, scan);
+        rows.read(together, mask, scan);
     }
+}
+
+void Rowset::scan(std::span<const std::size_t> columns, const StoredRowReceiver& receive) {
+    scanByKeys(*this, keys(nullptr), columns, receive);
 }
 
 void Rowset::insertAll(std::span<const std::size_t> columns, RowSource& rows) {

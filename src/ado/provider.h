@@ -98,6 +98,10 @@ class Rowset {
     virtual void remove(Key key) = 0;
 };
 
+/// What Rowset::scan gives, of the rows with these keys that there are.
+void scanByKeys(Rowset& rows, const RowKeys& keys, std::span<const std::size_t> columns,
+                const StoredRowReceiver& receive);
+
 /// An open connection to one database.
 class Session {
   public:

@@ -147,47 +147,6 @@ Field& Recordset::field(std::size_t index) {
     return *fields_[index];
 }
 
-namespace {
-
-/// Picks some fields out of the rows that are read.
-class ChosenFields : public RowSink {
-  public:
-    explicit ChosenFields(const RowReceiver& receive) : receive_(receive) {}
-
-    void add(std::size_t column, const std::vector<Column>& columns) {
-        mask_ |= columnBit(column);
-        chosen_.push_back({column, columns[column].isKey});
-        values_.emplace_back();
-    }
-    [[nodiscard]] ColumnMask mask() const noexcept { return mask_; }
-    /// The next rows are those from `first` on.
-    void start(KeyList& list, std::size_t first) {
-        list_ = &list;
-        first_ = first;
-    }
-    void row(std::size_t index, std::span<automation::Variant> values) override {
-        for (std::size_t i = 0; i < chosen_.size(); ++i) {
-            if (chosen_[i].isKey) values_[i] = keyValue(list_->key(first_ + index));
-            else values_[i] = std::move(values[chosen_[i].column]);
-        }
-        receive_(values_);
-    }
-
-  private:
-    struct Choice {
-        std::size_t column;
-        bool isKey;
-    };
-    const RowReceiver& receive_;
-    std::vector<Choice> chosen_;
-    std::vector<automation::Variant> values_;
-    ColumnMask mask_ = 0;
-    KeyList* list_ = nullptr;
-    std::size_t first_ = 0;
-};
-
-}  // namespace
-
 // Works out which row the cursor stands on, when it was moved without asking for the keys or the keys were dropped.
 void Recordset::settle() const {
     requireOpen().refresh();
@@ -274,23 +233,11 @@ void Recordset::movePrevious() {
     }
 }
 
-void Recordset::getRows(std::int32_t rows, std::span<const std::string_view> fields, const RowReceiver& receive) {
+void Recordset::scan(std::span<const std::string_view> fields, const StoredRowReceiver& receive) {
     leaveRow();
-    settle();
-    if (cursor_->place == Place::eof) throwNoCurrentRecord();
-    ChosenFields sink(receive);
-    for (const std::string_view field : fields) sink.add(columnNumber(field), keyset_->columns());
-    const std::size_t size = list_->size();
-    std::size_t at = cursor_->place == Place::bof ? 0 : cursor_->position;
-    std::size_t left = rows < 0 ? size - at : std::min<std::size_t>(static_cast<std::size_t>(rows), size - at);
-    while (left > 0) {
-        const std::size_t count = std::min(left, rowsReadTogether);
-        sink.start(*list_, at);
-        list_->read(at, count, sink.mask(), sink);
-        at += count;
-        left -= count;
-    }
-    placeForward(at);
+    std::vector<std::size_t> columns;
+    for (const std::string_view field : fields) columns.push_back(columnNumber(field));
+    list_->giveAll(columns, receive);
 }
 
 std::int32_t Recordset::absolutePosition() const {

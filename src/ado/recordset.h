@@ -20,9 +20,6 @@ class KeyList;
 class RowEdit;
 struct Cursor;
 
-/// Receives the values of a row, in the order in which they were asked for; they may be moved out.
-using RowReceiver = std::function<void(std::span<automation::Variant> values)>;
-
 /// ADO's Recordset as a keyset cursor: it knows the keys of its rows (read when first needed) and reads pages of
 /// rows when asked; it never holds all rows. Writes wait in one row buffer until update(). Leaving an edited
 /// row (move, find, requery, clone positions excepted) writes it, as ADO does; closing with a pending edit is
@@ -89,11 +86,9 @@ class Recordset : public automation::Dispatch {
     [[nodiscard]] automation::ObjectRef fields(const automation::Variant& nameOrIndex);
     [[nodiscard]] const std::vector<Column>& columns() const;
 
-    /// ADO's GetRows, a row at a time: gives the values of these fields (each named once) in the current row and those
-    /// behind it, at most `rows` of them (adGetRowsRest for all), and moves behind the last one. Rows that somebody has
-    /// deleted are left out. The rows are read together and not kept, which is faster than a walk; `receive` is called
-    /// while the database reads and must not use the connection.
-    void getRows(std::int32_t rows, std::span<const std::string_view> fields, const RowReceiver& receive);
+    /// Gives these fields of all rows in their order, as they are stored now, and stays where it is. Much faster than a
+    /// walk: nothing is kept. `receive` is called while the database reads and must not use the connection.
+    void scan(std::span<const std::string_view> fields, const StoredRowReceiver& receive);
 
     // --- edits
     [[nodiscard]] EditMode editMode() const noexcept;

@@ -17,6 +17,7 @@ struct StoredValue {
     double real = 0;           ///< of a number; else 0
     std::string_view text;     ///< the UTF-8 of a text, the bytes of bytes; else empty. Lent until the next row
 
+    [[nodiscard]] bool isNumber() const noexcept { return kind == Kind::integer || kind == Kind::real; }
     [[nodiscard]] bool isTrue() const noexcept { return real != 0; }  ///< as a yes/no column means it
 };
 

@@ -22,7 +22,6 @@ enum DataType : std::int32_t {
 enum CursorType : std::int32_t { adOpenForwardOnly = 0, adOpenKeyset = 1, adOpenDynamic = 2, adOpenStatic = 3 };
 enum LockType : std::int32_t { adLockReadOnly = 1, adLockPessimistic = 2, adLockOptimistic = 3 };
 enum CommandType : std::int32_t { adCmdUnknown = -1, adCmdText = 1, adCmdTable = 2, adCmdTableDirect = 512 };
-inline constexpr std::int32_t adGetRowsRest = -1;
 enum SearchDirection : std::int32_t { adSearchForward = 1, adSearchBackward = -1 };
 enum Affect : std::int32_t { adAffectCurrent = 1, adAffectAll = 3 };
 

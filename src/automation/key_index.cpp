@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <bit>
+#include <cstring>
 #include <utility>
 
 namespace hx::automation {
@@ -13,15 +14,24 @@ constexpr std::size_t firstSize = 64;
 
 }  // namespace
 
-// FNV-1a: short keys take a few instructions. The last character is only added: keys that are counted up lie side by
-// side, so that a branch of many is added without a cache miss for each.
+// Eight bytes at a time, each multiplied and its high half, which depends on all of them, brought down. The last
+// character is only added: keys that are counted up lie side by side, so that a branch of many is added without a cache
+// miss for each.
 std::uint32_t KeyIndex::hashOf(std::string_view key) noexcept {
-    constexpr std::uint32_t start = 2166136261U;
-    constexpr std::uint32_t prime = 16777619U;
-    std::uint32_t hash = start;
-    if (key.empty()) return hash;
-    for (const char c : key.substr(0, key.size() - 1)) hash = (hash ^ static_cast<unsigned char>(c)) * prime;
-    return hash + static_cast<unsigned char>(key.back());
+    constexpr std::uint64_t factor = 0x9E3779B97F4A7C15;  // 2^64 by the golden ratio
+    std::uint64_t hash = key.size();
+    if (key.empty()) return 0;
+    const auto mix = [&](std::size_t at, std::size_t bytes) {
+        std::uint64_t word = 0;
+        std::memcpy(&word, key.data() + at, bytes);
+        hash = (hash ^ word) * factor;
+        hash ^= hash >> 32U;
+    };
+    const std::size_t mixed = key.size() - 1;
+    std::size_t at = 0;
+    for (; at + sizeof hash <= mixed; at += sizeof hash) mix(at, sizeof hash);
+    mix(at, mixed - at);
+    return static_cast<std::uint32_t>(hash) + static_cast<unsigned char>(key.back());
 }
 
 void KeyIndex::erase(std::uint32_t hash, Id id) noexcept {

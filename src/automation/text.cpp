@@ -3,6 +3,8 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
+#include <cstring>
 
 #include "automation/utf8.h"
 
@@ -72,11 +74,33 @@ std::string foldCase(std::string_view text) {
     return folded;
 }
 
+namespace {
+
+/// Eight bytes at a time.
+using Word = std::uint64_t;
+constexpr Word eachByte = 0x0101010101010101;
+
+constexpr bool isAscii(Word word) { return (word & (0x80 * eachByte)) == 0; }
+
+// What is added sets a byte's highest bit from 'A' on, and from what follows 'Z' on. 0x20 lies between upper and lower.
+constexpr Word foldAscii(Word word) {
+    const Word upper = (word + (0x80 - 'A') * eachByte) & ~(word + (0x80 - 'Z' - 1) * eachByte) & (0x80 * eachByte);
+    return word | upper >> 2U;
+}
+
+}  // namespace
+
 // Most names are ASCII throughout.
 void appendFolded(std::string& to, std::string_view text) {
     const std::size_t start = to.size();
     to.resize(start + text.size());
     std::size_t at = 0;
+    for (Word word = 0; at + sizeof word <= text.size(); at += sizeof word) {
+        std::memcpy(&word, text.data() + at, sizeof word);
+        if (!isAscii(word)) break;
+        word = foldAscii(word);
+        std::memcpy(to.data() + start + at, &word, sizeof word);
+    }
     for (; at < text.size() && isAscii(text[at]); ++at) to[start + at] = foldAscii(text[at]);
     if (at == text.size()) return;
     to.resize(start + at);

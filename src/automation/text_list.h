@@ -23,6 +23,12 @@ class TextList {
         automation::appendFolded(bytes_, text);
         ends_.push_back(bytes_.size());
     }
+    /// Puts a character and a text without case behind the last one.
+    void extendFolded(char separator, std::string_view text) {
+        bytes_ += separator;
+        automation::appendFolded(bytes_, text);
+        ends_.back() = bytes_.size();
+    }
     void reserve(std::size_t texts, std::size_t bytes = 0) {
         ends_.reserve(texts);
         bytes_.reserve(bytes);

@@ -118,16 +118,15 @@ void deleteMembers(ado::Recordset& members, std::span<const ado::Key> rows) {
 }
 
 void Members::add(const ado::Recordset& rows) {
-    const auto walked = rows.clone();
-    const auto count = static_cast<std::size_t>(walked->recordCount());
-    if (count == 0) return;
-    numbers_.reserve(size() + count);
-    variables_.reserve(size() + count);
     const auto fields = {schema::member::id, schema::member::childId, schema::member::varRecipe};
-    walked->getRows(ado::adGetRowsRest, fields, [this](std::span<Variant> values) {
-        numbers_.emplace_back(automation::toInt32(values[0]), automation::toInt32(values[1]));
-        if (values[2].isString()) variables_.append(values[2].asString());
-        else variables_.append(automation::toText(values[2]));
+    const auto all = rows.clone();
+    numbers_.reserve(size() + static_cast<std::size_t>(all->recordCount()));
+    constexpr std::size_t usualName = 40;  // what is too much is never touched
+    variables_.reserve(numbers_.capacity(), numbers_.capacity() * usualName);
+    all->scan(fields, [this](std::span<const ado::StoredValue> values) {
+        numbers_.emplace_back(automation::toInt32(values[0].real), automation::toInt32(values[1].real));
+        if (values[2].isNumber()) variables_.append(automation::toText(values[2].real));
+        else variables_.append(values[2].text);
     });
 }
 

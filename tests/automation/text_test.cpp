@@ -21,6 +21,19 @@ TEST(FoldCase, KeepsBytesThatAreNotUtf8) {
     EXPECT_FALSE(equalIgnoreCase("\xFF", "\xFE"));
 }
 
+TEST(FoldCase, FoldsAsciiWhereverItStands) {
+    std::string all, folded;
+    for (int c = 0; c < 0x80; ++c) {
+        all += static_cast<char>(c);
+        folded += static_cast<char>(c >= 'A' && c <= 'Z' ? c + ('a' - 'A') : c);
+    }
+    for (std::size_t start = 0; start < 9; ++start) EXPECT_EQ(foldCase(all.substr(start)), folded.substr(start));
+    for (std::size_t at = 0; at < 20; ++at) {
+        const std::string before(at, 'X'), foldedBefore(at, 'x');
+        EXPECT_EQ(foldCase(before + "ÄQ[@Z\xFFY" + before), foldedBefore + "äq[@z\xFFy" + foldedBefore);
+    }
+}
+
 TEST(Split, KeepsEmptyParts) {
     EXPECT_EQ(split(",0,1", ','), (std::vector<std::string>{"", "0", "1"}));
     EXPECT_EQ(split("", ','), std::vector<std::string>{""});

@@ -81,7 +81,7 @@ class Locker {
 
 class LockedRead : public ProjectTest {
   protected:
-    // So far from each other that each row is read for itself.
+    // So far from each other that each row is read for itself, when they are read by their keys.
     static constexpr int rows = 20, distance = 1000;
 
     LockedRead() {
@@ -94,12 +94,11 @@ class LockedRead : public ProjectTest {
     // Gives the names of the variables; calls `behind` with their number behind each.
     static std::vector<std::string> read(ado::Recordset& members, const std::function<void(std::size_t)>& behind) {
         std::vector<std::string> names;
-        members.moveFirst();
-        members.getRows(ado::adGetRowsRest, std::array<std::string_view, 1>{"VarRecipe"},
-                        [&](std::span<Variant> values) {
-                            names.push_back(automation::toText(values[0]));
-                            behind(names.size());
-                        });
+        members.setFilter("ID > 0");
+        members.scan(std::array<std::string_view, 1>{"VarRecipe"}, [&](std::span<const ado::StoredValue> values) {
+            names.emplace_back(values[0].text);
+            behind(names.size());
+        });
         return names;
     }
 };

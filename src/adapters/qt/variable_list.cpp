@@ -13,7 +13,10 @@ constexpr char lineEnd = '\n';  // so that no word is found across two fields
 
 VariableList::VariableList(const std::vector<Variable>& variables) { prepend(variables); }
 
-void VariableList::reserve(std::size_t variables) { texts_.reserve(variables * fields); }
+void VariableList::reserve(std::size_t variables) {
+    constexpr std::size_t usualSize = 48;  // what is too much is never touched
+    texts_.reserve(variables * fields, variables * usualSize);
+}
 
 void VariableList::add(std::string_view name, std::string_view type, std::string_view comment) {
     for (const std::string_view field : {name, type, comment}) texts_.append(field);
@@ -25,16 +28,12 @@ void VariableList::arrange(std::vector<std::uint32_t> order) {
     folded_.reserve(size(), texts_.bytes() + size() * fields);
     nameSizes_.clear();
     nameSizes_.reserve(size());
-    std::string all;
     for (std::size_t row = 0; row < size(); ++row) {
-        all.clear();
-        automation::appendFolded(all, text(row, VariableField::name));
-        nameSizes_.push_back(static_cast<std::uint32_t>(all.size()));
+        folded_.appendFolded(text(row, VariableField::name));
+        nameSizes_.push_back(static_cast<std::uint32_t>(folded_[row].size()));
         for (const VariableField field : {VariableField::type, VariableField::comment}) {
-            all += lineEnd;
-            automation::appendFolded(all, text(row, field));
+            folded_.extendFolded(lineEnd, text(row, field));
         }
-        folded_.append(all);
     }
 }
 
