@@ -49,7 +49,7 @@ void HXMultiItems::forEachHashed(std::size_t count, const Name& name, Use use) c
 void HXMultiItems::setSelectedNames(automation::TextList names) {
     names_ = std::move(names);
     folded_ = {};
-    folded_.reserve(names_.size());
+    folded_.reserve(names_.size(), names_.bytes());
     checked_.assign(names_.size(), true);
     count_ = names_.size();
     repeated_.clear();

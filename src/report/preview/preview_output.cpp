@@ -56,6 +56,7 @@ bool PreviewWindow::work(const std::function<void(const Progress&)>& task) {
     dialog.setObjectName(QStringLiteral("reportProgress"));
     dialog.setWindowTitle(windowTitle());
     dialog.setWindowModality(Qt::WindowModal);
+    dialog.setMinimumWidth(dialog.fontMetrics().averageCharWidth() * 50);
     dialog.setMinimumDuration(patience);
     dialog.setAutoReset(false);
     dialog.setAutoClose(false);
