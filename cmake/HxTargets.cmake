@@ -12,11 +12,19 @@ add_library(hx_flags INTERFACE)
 target_compile_options(hx_flags INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wshadow)
 # GCC 12 warns falsely of overlapping copies where a literal and a temporary text are joined in optimised code (PR 105651).
 target_compile_options(hx_flags INTERFACE -Wno-restrict)
+# And its cross compiler, of texts compared in such code and of an own operator new; the other looks at the same sources.
+if(WIN32)
+  target_compile_options(hx_flags INTERFACE -Wno-maybe-uninitialized -Wno-mismatched-new-delete)
+endif()
 # Sources are compiled several at once, and what is in their unnamed namespaces is taken for a header's.
 target_compile_options(hx_flags INTERFACE -Wno-subobject-linkage)
 target_compile_definitions(hx_flags INTERFACE _GLIBCXX_ASSERTIONS)
 # A module that lacks a symbol fails here, not when a program loads it.
-target_link_options(hx_flags INTERFACE LINKER:-z,defs,-z,relro,-z,now)
+if(WIN32)
+  target_link_options(hx_flags INTERFACE LINKER:--dynamicbase,--nxcompat,--high-entropy-va)
+else()
+  target_link_options(hx_flags INTERFACE LINKER:-z,defs,-z,relro,-z,now)
+endif()
 find_program(HX_LLD ld.lld)
 if(HX_LLD)
   target_link_options(hx_flags INTERFACE -fuse-ld=lld)
@@ -27,6 +35,31 @@ if(HX_SANITIZE)
   add_link_options(-fsanitize=address,undefined)
 endif()
 
+# hx_system_files(LIST): of the files that are there for each system, named after it, this system's alone stay. Windows' own headers
+# define so many names that no other source is compiled with them.
+function(hx_system_files list)
+  set(files ${${list}})
+  if(WIN32)
+    list(FILTER files EXCLUDE REGEX "/posix_[^/]*$")
+    set(own ${files})
+    list(FILTER own INCLUDE REGEX "/windows_[^/]*$")
+    set_source_files_properties(${own} PROPERTIES SKIP_UNITY_BUILD_INCLUSION ON)
+  else()
+    list(FILTER files EXCLUDE REGEX "/windows_[^/]*$")
+  endif()
+  set(${list} ${files} PARENT_SCOPE)
+endfunction()
+
+# hx_windows_resources(NAME FILE "description"): what Windows shows of the program or library FILE, and how it treats it.
+function(hx_windows_resources name file description)
+  if(WIN32)
+    set(HX_FILE ${file})
+    set(HX_DESCRIPTION ${description})
+    configure_file(${CMAKE_SOURCE_DIR}/packaging/windows/resources.rc.in ${CMAKE_CURRENT_BINARY_DIR}/${name}.rc @ONLY)
+    target_sources(${name} PRIVATE ${CMAKE_CURRENT_BINARY_DIR}/${name}.rc)
+  endif()
+endfunction()
+
 # hx_library(NAME [ROOMS folder...] [DEPENDS target...]): the sources of the folder, and of the rooms in it, as one target that sees
 # only the folders it may use.
 function(hx_library name)
@@ -36,6 +69,7 @@ function(hx_library name)
     file(GLOB inRoom CONFIGURE_DEPENDS ${room}/*.cpp ${room}/*.h)
     list(APPEND sources ${inRoom})
   endforeach()
+  hx_system_files(sources)
   add_library(${name} STATIC ${sources})
   set_target_properties(${name} PROPERTIES LINKER_LANGUAGE CXX)
   target_link_libraries(${name} PUBLIC hx_flags ${ARG_DEPENDS})
@@ -57,7 +91,7 @@ function(hx_qt_headers name)
 endfunction()
 
 # hx_test(NAME [DEPENDS target...] [LABELS label]): the folder's sources as one GoogleTest program, a CTest test for each
-# case. The label "gui" is for programs that open Qt's windows: they have a CTest test for each suite. The tests themselves are not optimised: they compile in half the
+# case. The label "gui" is for programs that open Qt's windows: they have a CTest test for each suite, as all have on Windows. The tests themselves are not optimised: they compile in half the
 # time, and what they test is the shipped code all the same.
 function(hx_test name)
   cmake_parse_arguments(ARG "" "LABELS" "DEPENDS" ${ARGN})
@@ -65,6 +99,8 @@ function(hx_test name)
     message(FATAL_ERROR "hx_test ${name}: what is ${ARG_UNPARSED_ARGUMENTS}? One label is all that test discovery passes on")
   endif()
   file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp ${CMAKE_CURRENT_SOURCE_DIR}/*.h)
+  list(TRANSFORM HX_SOURCES_NOT_RUN PREPEND ${CMAKE_SOURCE_DIR}/tests/ OUTPUT_VARIABLE notRun)
+  list(REMOVE_ITEM sources ${notRun})
   add_executable(${name} ${sources})
   target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
   target_link_libraries(${name} PRIVATE hx_flags ${ARG_DEPENDS} GTest::gtest GTest::gmock GTest::gtest_main)
@@ -74,11 +110,12 @@ function(hx_test name)
   elseif(NOT "hx_studio" IN_LIST ARG_DEPENDS)  # Qt asks for other options than the headers were compiled with
     target_precompile_headers(${name} REUSE_FROM hx_test_headers)
   endif()
-  if(ARG_LABELS STREQUAL "gui")  # where starting the program takes as long as a test
+  if(WIN32 OR ARG_LABELS STREQUAL "gui")  # where starting the program takes as long as a test
     set(suites ${CMAKE_CURRENT_BINARY_DIR}/${name}_suites.cmake)
     add_custom_command(TARGET ${name} POST_BUILD BYPRODUCTS ${suites}
-        COMMAND ${CMAKE_COMMAND} -D PROGRAM=$<TARGET_FILE:${name}> -D OUTPUT=${suites} -D LABEL=gui
-                -P ${CMAKE_SOURCE_DIR}/cmake/list_suites.cmake)
+        COMMAND ${CMAKE_COMMAND} -D PROGRAM=$<TARGET_FILE:${name}> -D OUTPUT=${suites} -D LABEL=${ARG_LABELS}
+                -D EMULATOR=${CMAKE_CROSSCOMPILING_EMULATOR} -D NOT_RUN=${HX_NOT_RUN}
+                -P ${CMAKE_SOURCE_DIR}/cmake/list_suites.cmake VERBATIM)
     set_property(DIRECTORY APPEND PROPERTY TEST_INCLUDE_FILES ${suites})
   else()
     gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 300)

@@ -1,13 +1,16 @@
 # SPDX-License-Identifier: MIT
 
-# cmake -D PROGRAM=... -D OUTPUT=... -D LABEL=... -P: writes a CTest test for each suite of a GoogleTest program.
-execute_process(COMMAND ${PROGRAM} --gtest_list_tests OUTPUT_VARIABLE listed COMMAND_ERROR_IS_FATAL ANY)
+# cmake -D PROGRAM=... -D OUTPUT=... [-D LABEL=...] [-D EMULATOR=...] [-D NOT_RUN=...] -P: writes a CTest test for each suite of a
+# GoogleTest program. The emulator starts it, NOT_RUN names tests to leave out as GoogleTest's filter does.
+set(filter --gtest_filter=*:-${NOT_RUN})
+execute_process(COMMAND ${EMULATOR} ${PROGRAM} --gtest_list_tests ${filter} OUTPUT_VARIABLE listed COMMAND_ERROR_IS_FATAL ANY)
+string(REPLACE "\r" "" listed "${listed}")
 string(REGEX MATCHALL "\n[^ \n][^\n]*\\." suites "\n${listed}")
 set(tests "")
 foreach(suite ${suites})
   string(STRIP ${suite} suite)
   string(REGEX REPLACE "\\.$" "" suite ${suite})
-  string(APPEND tests "add_test([=[${suite}]=] [=[${PROGRAM}]=] [=[--gtest_filter=${suite}.*]=])\n"
-         "set_tests_properties([=[${suite}]=] PROPERTIES TIMEOUT 300 LABELS ${LABEL})\n")
+  string(APPEND tests "add_test([=[${suite}]=] ${EMULATOR} [=[${PROGRAM}]=] [=[--gtest_filter=${suite}.*:-${NOT_RUN}]=])\n"
+         "set_tests_properties([=[${suite}]=] PROPERTIES TIMEOUT 300 LABELS \"${LABEL}\")\n")
 endforeach()
-file(WRITE ${OUTPUT} ${tests})
+file(WRITE ${OUTPUT} "${tests}")

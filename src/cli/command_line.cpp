@@ -98,6 +98,7 @@ int explainUsage(const CLI::App& app, const CLI::ParseError& error, const Output
 std::unique_ptr<CLI::App> makeApplication(Command& chosen, const Output& output) {
     auto app = std::make_unique<CLI::App>("Makes, shows and checks project files of the recipe editor.", "hxrecipe");
     app->formatter(std::make_shared<HelpFormatter>());
+    app->allow_windows_style_options(false);  // what begins with "/" is a path, on every system
     app->require_subcommand(1);
     app->set_help_flag("-h,--help", "Print this help and exit.");
     app->set_version_flag("--version", "hxrecipe " HX_VERSION, "Print the version and exit.");

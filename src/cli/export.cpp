@@ -22,7 +22,7 @@ namespace fs = std::filesystem;
 
 bool isExport(const std::string& path) {
     constexpr std::string_view mark = "{\n  \"format\": \"hxrecipe\"";
-    return hosting::startOf(path, mark.size()) == mark;
+    return hosting::startOf(hosting::fileSystemPath(path), mark.size()) == mark;
 }
 
 exchange::Content readWithProgress(project::Reader& reader, const Output& output) {
@@ -43,14 +43,14 @@ void sayWhatIsDamaged(project::Reader& reader, const std::string& target) {
 
 void exportProject(const std::string& path, const std::string& target, const Output& output) {
     std::error_code ignored;
-    if (fs::exists(fs::symlink_status(target, ignored)) && !isExport(target)) {
+    if (fs::exists(fs::symlink_status(hosting::fileSystemPath(target), ignored)) && !isExport(target)) {
         refuse("The file '" + target + "' exists already and is no export.");
     }
     sqlite::Provider provider;
     project::Reader reader(provider, path, project::Reader::Damage::read);
     const exchange::Content content = readWithProgress(reader, output);
     const std::string text = exchange::exportOf(content);
-    hosting::FileReplacement file(target);
+    hosting::FileReplacement file(hosting::fileSystemPath(target));
     const UnfinishedFile unfinished(file.temporary());
     file.write(text);
     file.publish();

@@ -5,6 +5,7 @@
 #include "adapters/sqlite/session.h"
 #include "cli/progress.h"
 #include "cli/unfinished_file.h"
+#include "hosting/file_bytes.h"
 
 namespace hx::cli {
 
@@ -17,7 +18,7 @@ constexpr const char* fast = "PRAGMA synchronous=OFF; PRAGMA cache_size=-65536; 
 
 void generate(const project::GeneratorPlan& plan, const std::string& path, const Output& output) {
     sqlite::ProjectDraft draft(path);
-    const UnfinishedFile unfinished(draft.temporaryPath());
+    const UnfinishedFile unfinished(hosting::fileSystemPath(draft.temporaryPath()));
     draft.createTables(false);
     {
         Progress progress(output);

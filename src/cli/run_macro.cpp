@@ -11,6 +11,7 @@
 #include "adapters/sqlite/session.h"
 #include "automation/text.h"
 #include "cli/interruption.h"
+#include "hosting/file_bytes.h"
 #include "hosting/visible.h"
 #include "macros/globals.h"
 #include "project/reader.h"
@@ -20,7 +21,7 @@ namespace hx::cli {
 namespace {
 
 std::string readMacro(const std::string& path) {
-    std::ifstream file(path, std::ios::binary);
+    std::ifstream file(hosting::fileSystemPath(path), std::ios::binary);
     std::string text{std::istreambuf_iterator<char>(file), {}};
     if (file.bad() || !file.is_open()) throw automation::Error(automation::errFail, "Cannot read '" + path + "'");
     return text;
@@ -30,7 +31,7 @@ std::string readMacro(const std::string& path) {
 CLI::Validator existingFile() {
     const auto check = [](const std::string& path) -> std::string {
         std::error_code ignored;
-        const auto status = std::filesystem::status(path, ignored);
+        const auto status = std::filesystem::status(hosting::fileSystemPath(path), ignored);
         if (!std::filesystem::exists(status)) return "File does not exist: " + path;
         return std::filesystem::is_directory(status) ? "File is actually a directory: " + path : "";
     };
@@ -40,7 +41,7 @@ CLI::Validator existingFile() {
 CLI::Validator existingFolder() {
     const auto check = [](const std::string& path) -> std::string {
         std::error_code ignored;
-        const auto status = std::filesystem::status(path, ignored);
+        const auto status = std::filesystem::status(hosting::fileSystemPath(path), ignored);
         if (!std::filesystem::exists(status)) return "Directory does not exist: " + path;
         return std::filesystem::is_directory(status) ? "" : "Directory is actually a file: " + path;
     };
@@ -49,8 +50,9 @@ CLI::Validator existingFolder() {
 
 void makeFolder(const std::string& path) {
     std::error_code problem;
-    std::filesystem::create_directories(path, problem);
-    if (std::filesystem::is_directory(path)) return;
+    const std::filesystem::path folder = hosting::fileSystemPath(path);
+    std::filesystem::create_directories(folder, problem);
+    if (std::filesystem::is_directory(folder)) return;
     throw automation::Error(automation::errFail, "Cannot make the folder '" + path + "'" +
                                                      (problem ? ": " + problem.message() : std::string()));
 }
@@ -99,8 +101,9 @@ class MacroSession {
 lua::MacroFiles filesOf(const MacroPlan& plan) {
     if (plan.studio.trusted) return lua::MacroFiles::all();
     lua::MacroFiles files;
-    if (!plan.project.empty()) files.allow(std::filesystem::absolute(plan.project).parent_path());
-    if (!plan.folder.empty()) files.allow(std::filesystem::absolute(plan.folder));
+    if (!plan.project.empty())
+        files.allow(std::filesystem::absolute(hosting::fileSystemPath(plan.project)).parent_path());
+    if (!plan.folder.empty()) files.allow(std::filesystem::absolute(hosting::fileSystemPath(plan.folder)));
     return files;
 }
 

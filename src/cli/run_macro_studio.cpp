@@ -8,6 +8,7 @@
 #include "adapters/sqlite/project_file.h"
 #include "automation/sentence.h"
 #include "host/project_file.h"
+#include "hosting/file_bytes.h"
 
 namespace hx::cli {
 
@@ -24,11 +25,12 @@ void requireNameable(const std::string& path) {
 
 std::unique_ptr<host::Registry> makeRegistry(const std::string& config) {
     if (config.empty()) return std::make_unique<headless::MemoryRegistry>();
-    return std::make_unique<hosting::RegistryFile>((std::filesystem::path(config) / "registry.ini").string());
+    return std::make_unique<hosting::RegistryFile>((hosting::fileSystemPath(config) / "registry.ini").string());
 }
 
 headless::HostOptions hostOptions(const MacroStudioOptions& options, host::Registry& registry, host::IniFile& ini) {
     headless::HostOptions made;
+    made.separator = static_cast<char>(std::filesystem::path::preferred_separator);
     made.decimalPoint = options.decimalPoint;
     made.registry = &registry;
     made.iniFile = &ini;
@@ -58,7 +60,7 @@ automation::Language MacroStudio::language() const {
 MacroStudio::~MacroStudio() { closeProject(); }
 
 std::string MacroStudio::pathOf(const std::string& path) const {
-    return std::filesystem::absolute(path).lexically_normal().string();
+    return std::filesystem::absolute(hosting::fileSystemPath(path)).lexically_normal().string();
 }
 
 void MacroStudio::newProject(const std::string& path) {
@@ -69,7 +71,7 @@ void MacroStudio::newProject(const std::string& path) {
 }
 
 void MacroStudio::openProject(const std::string& path) {
-    if (!std::filesystem::is_regular_file(path)) {
+    if (!std::filesystem::is_regular_file(hosting::fileSystemPath(path))) {
         throw Error(automation::errFail, "There is no project file '" + path + "'");
     }
     requireNameable(path);

@@ -1,25 +1,21 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <array>
-#include <csignal>
-#include <string>
+#include <filesystem>
 
 namespace hx::cli {
 
-/// While it lives, a signal that ends the program (Ctrl+C, the request to end, a closed terminal) first takes the file
-/// away, and its journal if it is a database. One at a time.
+/// While it lives, what ends the program from outside (Ctrl+C, the request to end, a closed terminal) first takes the
+/// file away, and its journal if it is a database. One at a time.
 class UnfinishedFile {
   public:
-    explicit UnfinishedFile(const std::string& path);
+    explicit UnfinishedFile(const std::filesystem::path& path);
     ~UnfinishedFile();
     UnfinishedFile(const UnfinishedFile&) = delete;
     UnfinishedFile& operator=(const UnfinishedFile&) = delete;
 
   private:
-    static constexpr std::array signals{SIGINT, SIGTERM, SIGHUP};
-    std::string path_, journal_;
-    std::array<struct sigaction, signals.size()> before_{};
+    std::filesystem::path path_, journal_;
 };
 
 }  // namespace hx::cli

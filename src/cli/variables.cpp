@@ -44,7 +44,7 @@ void listVariables(const std::string& path, bool json, const Output& output) {
     if (json) output.results << "\n]}\n";
 }
 
-void addList(CLI::App& group, Command& chosen, const Output& output) {
+void addVariableList(CLI::App& group, Command& chosen, const Output& output) {
     CLI::App* command = group.add_subcommand("list", "List the variables of a project.");
     struct Arguments {
         std::string path;
@@ -60,7 +60,7 @@ void addList(CLI::App& group, Command& chosen, const Output& output) {
     });
 }
 
-void addImport(CLI::App& group, Command& chosen, const Output& output) {
+void addVariableImport(CLI::App& group, Command& chosen, const Output& output) {
     CLI::App* command = group.add_subcommand("import", "Bring the variables of a list into a project.");
     const auto plan = std::make_shared<VariablesImport>();
     command->add_option("FILE", plan->project, "The project file.")->required();
@@ -87,8 +87,8 @@ void addImport(CLI::App& group, Command& chosen, const Output& output) {
 void addVariables(CLI::App& app, Command& chosen, const Output& output) {
     CLI::App* group = app.add_subcommand("variables", "Work on the variable list of a project.");
     group->require_subcommand(1);
-    addList(*group, chosen, output);
-    addImport(*group, chosen, output);
+    addVariableList(*group, chosen, output);
+    addVariableImport(*group, chosen, output);
 }
 
 }  // namespace hx::cli

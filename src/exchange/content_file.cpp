@@ -8,6 +8,7 @@
 #include "adapters/sqlite/project_file.h"
 #include "automation/error.h"
 #include "exchange/content_parser.h"
+#include "hosting/file_bytes.h"
 #include "project/reader.h"
 
 namespace hx::exchange {
@@ -46,11 +47,12 @@ class CountingIterator {
 // What cannot be opened, too, is better explained where projects are. A pipe gives its text only once.
 bool isForProjects(const std::string& path) {
     std::error_code ignored;
-    const auto status = std::filesystem::status(path, ignored);
+    const std::filesystem::path file = hosting::fileSystemPath(path);
+    const auto status = std::filesystem::status(file, ignored);
     if (std::filesystem::exists(status) && !std::filesystem::is_regular_file(status)) {
         return std::filesystem::is_directory(status);
     }
-    return !std::ifstream(path).is_open() || sqlite::beginsLikeProject(path);
+    return !std::ifstream(file).is_open() || sqlite::beginsLikeProject(path);
 }
 
 }  // namespace

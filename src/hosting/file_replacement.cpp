@@ -3,6 +3,7 @@
 
 #include <random>
 
+#include "hosting/file_bytes.h"
 #include "hosting/file_place.h"
 
 namespace hx::hosting {
@@ -43,9 +44,10 @@ void clearAbandoned(const fs::path& target, const Disk& disk) {
     for (const std::string& name : disk.names(folder)) {
         const std::string_view temporary = temporaryIn(name, file);
         if (temporary.empty()) continue;
-        const fs::path path = folder / temporary;
+        const fs::path path = folder / fileSystemPath(temporary);
         disk.removeAbandoned(path);
-        if (name.size() > temporary.size() && !fs::exists(path, ignored)) fs::remove(folder / name, ignored);
+        if (name.size() > temporary.size() && !fs::exists(path, ignored))
+            fs::remove(folder / fileSystemPath(name), ignored);
     }
 }
 

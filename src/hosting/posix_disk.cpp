@@ -1,6 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include "hosting/posix_disk.h"
-
 #include <cerrno>
 #include <dirent.h>
 #include <fcntl.h>
@@ -9,6 +7,8 @@
 #include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
+
+#include "hosting/system_disk.h"
 
 namespace hx::hosting {
 
@@ -57,7 +57,7 @@ std::error_code syncNumber(int file) {
 
 }  // namespace
 
-std::error_code PosixDisk::create(const Path& path, const Path& like, Handle& file) const {
+std::error_code SystemDisk::create(const Path& path, const Path& like, Handle& file) const {
     struct stat old {};
     const bool hasOld = stat(like.c_str(), &old) == 0;
     const int made =
@@ -73,7 +73,7 @@ std::error_code PosixDisk::create(const Path& path, const Path& like, Handle& fi
     return {};
 }
 
-std::error_code PosixDisk::write(Handle file, std::string_view bytes) const {
+std::error_code SystemDisk::write(Handle file, std::string_view bytes) const {
     while (!bytes.empty()) {
         const ssize_t written = ::write(fileOf(file), bytes.data(), bytes.size());
         if (written < 0 && errno == EINTR) continue;
@@ -83,18 +83,18 @@ std::error_code PosixDisk::write(Handle file, std::string_view bytes) const {
     return {};
 }
 
-std::error_code PosixDisk::sync(Handle file) const { return syncNumber(fileOf(file)); }
+std::error_code SystemDisk::sync(Handle file) const { return syncNumber(fileOf(file)); }
 
-void PosixDisk::close(Handle handle) const noexcept {
+void SystemDisk::close(Handle handle) const noexcept {
     if (handle != none) ::close(fileOf(handle));
 }
 
-std::error_code PosixDisk::rename(const Path& from, const Path& to) const {
+std::error_code SystemDisk::rename(const Path& from, const Path& to) const {
     return result(::rename(from.c_str(), to.c_str()));
 }
 
 // Not every file system can refuse to replace; those that cannot have hard links.
-std::error_code PosixDisk::renameNew(const Path& from, const Path& to) const {
+std::error_code SystemDisk::renameNew(const Path& from, const Path& to) const {
     const auto code = result(renameat2(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), RENAME_NOREPLACE));
     if (code.value() != EINVAL && code.value() != ENOSYS) return code;
     if (link(from.c_str(), to.c_str()) != 0) return codeOf(errno);
@@ -102,7 +102,7 @@ std::error_code PosixDisk::renameNew(const Path& from, const Path& to) const {
     return {};
 }
 
-std::error_code PosixDisk::syncFolder(const Path& folder) const {
+std::error_code SystemDisk::syncFolder(const Path& folder) const {
     const int opened = open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     if (opened < 0) return {};  // one may write in a folder that one may not list
     const std::error_code code = syncNumber(opened);
@@ -110,14 +110,14 @@ std::error_code PosixDisk::syncFolder(const Path& folder) const {
     return code;
 }
 
-void PosixDisk::removeAbandoned(const Path& path) const noexcept {
+void SystemDisk::removeAbandoned(const Path& path) const noexcept {
     const int file = open(path.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
     if (file < 0) return;
     if (lockMark(file, F_RDLCK)) unlink(path.c_str());
     ::close(file);
 }
 
-std::vector<std::string> PosixDisk::names(const Path& folder) const {
+std::vector<std::string> SystemDisk::names(const Path& folder) const {
     const auto close = [](DIR* opened) { closedir(opened); };
     const std::unique_ptr<DIR, decltype(close)> opened(opendir(folder.c_str()), close);
     std::vector<std::string> names;
@@ -126,7 +126,7 @@ std::vector<std::string> PosixDisk::names(const Path& folder) const {
     return names;
 }
 
-std::optional<Disk::Handle> PosixDisk::tryLock(const Path& folder) const {
+std::optional<Disk::Handle> SystemDisk::tryLock(const Path& folder) const {
     const int opened = open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     if (opened < 0) return none;
     if (flock(opened, LOCK_EX | LOCK_NB) == 0) return opened;
@@ -136,7 +136,7 @@ std::optional<Disk::Handle> PosixDisk::tryLock(const Path& folder) const {
 }
 
 const Disk& systemDisk() noexcept {
-    static const PosixDisk disk;
+    static const SystemDisk disk;
     return disk;
 }
 

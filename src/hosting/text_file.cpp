@@ -10,6 +10,7 @@
 
 #include "automation/text.h"
 #include "automation/utf8.h"
+#include "hosting/file_bytes.h"
 
 namespace hx::hosting {
 
@@ -20,8 +21,9 @@ constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
 [[noreturn]] void refuse(const std::string& problem) { throw automation::Error(automation::errFail, problem); }
 
 std::string contents(const std::string& path) {
-    if (std::filesystem::is_directory(path)) refuse(path + " is a folder, not a file");
-    std::ifstream file(path, std::ios::binary);
+    const std::filesystem::path place = fileSystemPath(path);
+    if (std::filesystem::is_directory(place)) refuse(path + " is a folder, not a file");
+    std::ifstream file(place, std::ios::binary);
     if (!file.is_open()) refuse(path + " cannot be read: " + std::generic_category().message(errno));
     std::string text{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
     if (file.bad()) refuse(path + " cannot be read");

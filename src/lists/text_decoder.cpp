@@ -5,11 +5,11 @@
 #include <array>
 #include <cerrno>
 #include <filesystem>
-#include <iconv.h>
 #include <system_error>
 
 #include "automation/error.h"
 #include "automation/utf8.h"
+#include "hosting/file_bytes.h"
 #include "hosting/text_file.h"
 
 namespace hx::lists {
@@ -24,11 +24,12 @@ constexpr std::size_t declarationLength = 256;
 [[noreturn]] void refuse(const std::string& problem) { throw automation::Error(automation::errFail, problem); }
 
 std::ifstream openText(const std::string& path) {
+    const fs::path place = hosting::fileSystemPath(path);
     std::error_code error;
-    const fs::file_status status = fs::status(path, error);
+    const fs::file_status status = fs::status(place, error);
     if (fs::is_directory(status)) refuse(path + " is a folder, not a file");
     if (fs::exists(status) && !fs::is_regular_file(status)) refuse(path + " is not a file");
-    std::ifstream file(path, std::ios::binary);
+    std::ifstream file(place, std::ios::binary);
     if (!file.is_open()) refuse(path + " cannot be read: " + std::generic_category().message(errno));
     return file;
 }
@@ -53,14 +54,6 @@ std::string beginning(const std::string& path, std::size_t length) {
     file.read(bytes.data(), static_cast<std::streamsize>(length));
     bytes.resize(static_cast<std::size_t>(file.gcount()));
     return bytes;
-}
-
-// None for an encoding that is unknown.
-iconv_t openConverter(const std::string& encoding) {
-    const iconv_t converter = iconv_open("UTF-8", encoding.c_str());
-    if (converter != reinterpret_cast<iconv_t>(-1)) return converter;
-    if (errno != EINVAL) throw std::system_error(errno, std::generic_category());
-    return nullptr;
 }
 
 Encoding markedEncoding(std::string_view bytes) {
@@ -115,18 +108,13 @@ Encoding declaredEncoding(const std::string& path) {
     return {declaration.substr(open + 1, close - open - 1)};
 }
 
-bool isKnownEncoding(const std::string& name) {
-    const iconv_t converter = openConverter(name);
-    if (converter == nullptr) return false;
-    iconv_close(converter);
-    return true;
-}
-
-void TextDecoder::Closer::operator()(void* converter) const noexcept { iconv_close(converter); }
+bool isKnownEncoding(const std::string& name) { return TextConverter::open(name) != nullptr; }
 
 TextDecoder::TextDecoder(std::string path, const Encoding& encoding)
-    : path_(std::move(path)), encoding_(encoding.name), file_(openText(path_)) {
-    converter_.reset(openConverter(encoding_));
+    : path_(std::move(path)),
+      encoding_(encoding.name),
+      file_(openText(path_)),
+      converter_(TextConverter::open(encoding_)) {
     if (!converter_) hosting::Line{path_, 1, {}}.fail("the encoding \"" + encoding_ + "\" is unknown");
     file_.exceptions(std::ios::badbit);  // else want of memory would look like the end of the file
     file_.seekg(0, std::ios::end);
@@ -159,27 +147,27 @@ void TextDecoder::fill() {
 }
 
 void TextDecoder::convert(std::string& piece) {
-    piece.resize(bytes_.size() * 4);
-    char* from = bytes_.data();
-    char* to = piece.data();
-    std::size_t fromLeft = bytes_.size();
-    std::size_t toLeft = piece.size();
-    const bool complete = iconv(converter_.get(), &from, &fromLeft, &to, &toLeft) != static_cast<std::size_t>(-1);
-    const int problem = complete ? 0 : errno;
-    piece.resize(piece.size() - toLeft);
+    const TextConverter::Result result = converted(piece);
     // Half a character at the end of a block waits for the next one.
-    if (problem == EILSEQ || (problem == EINVAL && !file_)) {
+    const bool isCut = result.stop == TextConverter::Stop::WithinACharacter && !file_;
+    if (result.stop == TextConverter::Stop::AtNoText || isCut) {
         line_ += static_cast<int>(std::ranges::count(piece, '\n'));
-        failAtByte(from);
+        failAtByte(bytes_[result.taken]);
     }
-    const bool stuck = fromLeft == bytes_.size() && problem != 0 && problem != EINVAL;
-    if (stuck) refuse(path_ + " cannot be read: " + std::generic_category().message(problem));
-    bytes_.erase(0, bytes_.size() - fromLeft);
+    bytes_.erase(0, result.taken);
 }
 
-void TextDecoder::failAtByte(const char* at) const {
+TextConverter::Result TextDecoder::converted(std::string& piece) {
+    try {
+        return converter_->convert(bytes_, piece);
+    } catch (const std::system_error& error) {
+        refuse(path_ + " cannot be read: " + error.code().message());
+    }
+}
+
+void TextDecoder::failAtByte(char at) const {
     constexpr std::string_view digits = "0123456789ABCDEF";
-    const auto byte = static_cast<unsigned char>(*at);
+    const auto byte = static_cast<unsigned char>(at);
     hosting::Line{path_, line_, {}}.fail(std::string("the byte 0x") + digits[byte >> 4] + digits[byte & 15] +
                                          " is no text in " + encoding_);
 }

@@ -6,6 +6,8 @@
 #include <memory>
 #include <string>
 
+#include "lists/text_converter.h"
+
 namespace hx::lists {
 
 /// How the bytes of a text file stand for characters.
@@ -36,18 +38,15 @@ class TextDecoder {
     [[nodiscard]] std::int64_t size() const { return size_; }  ///< bytes of the file
 
   private:
-    struct Closer {
-        void operator()(void* converter) const noexcept;
-    };
-
     void fill();
     void convert(std::string& piece);
-    [[noreturn]] void failAtByte(const char* at) const;
+    TextConverter::Result converted(std::string& piece);
+    [[noreturn]] void failAtByte(char at) const;
 
     std::string path_;
     std::string encoding_;
     std::ifstream file_;
-    std::unique_ptr<void, Closer> converter_;
+    std::unique_ptr<TextConverter> converter_;
     std::string bytes_;  // read and not yet converted
     std::int64_t size_;
     std::int64_t done_ = 0;

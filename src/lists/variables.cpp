@@ -8,6 +8,7 @@
 #include "adapters/sqlite/project_file.h"
 #include "automation/error.h"
 #include "automation/text.h"
+#include "hosting/file_bytes.h"
 #include "lists/csv_variables.h"
 #include "lists/plcopen_variables.h"
 
@@ -20,9 +21,10 @@ bool isXml(const std::string& path) {
                                     ".xml")) {
         return true;
     }
+    const std::filesystem::path place = hosting::fileSystemPath(path);
     std::error_code ignored;
-    if (!std::filesystem::is_regular_file(path, ignored)) return false;
-    std::ifstream file(path, std::ios::binary);
+    if (!std::filesystem::is_regular_file(place, ignored)) return false;
+    std::ifstream file(place, std::ios::binary);
     constexpr std::string_view begins = "<?xml";
     // Also behind a byte order mark, and in UTF-16.
     std::string text;

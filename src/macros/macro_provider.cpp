@@ -4,6 +4,7 @@
 #include <filesystem>
 
 #include "ado/connection_string.h"
+#include "hosting/file_bytes.h"
 
 namespace hx::macros {
 
@@ -11,7 +12,11 @@ std::unique_ptr<ado::Session> MacroProvider::connect(std::string_view connection
     const std::string file = ado::connectionStringValue(connectionString, "Data Source");
     const lua::MacroFiles* const files = files_();
     std::error_code differs;
-    if (files != nullptr && !std::filesystem::equivalent(file, openProject_(), differs)) (void)files->toRead(file);
+    const auto isOpen = [&] {
+        return std::filesystem::equivalent(hosting::fileSystemPath(file), hosting::fileSystemPath(openProject_()),
+                                           differs);
+    };
+    if (files != nullptr && !isOpen()) (void)files->toRead(file);
     return provider_.connect(connectionString);
 }
 

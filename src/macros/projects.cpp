@@ -6,6 +6,7 @@
 #include "automation/restore.h"
 #include "automation/text.h"
 #include "host/project_file.h"
+#include "hosting/file_bytes.h"
 #include "macros/arguments.h"
 #include "macros/globals.h"
 
@@ -44,7 +45,7 @@ automation::Restore<bool> change(bool& changing) {
 
 // A name that is its extension alone would make a hidden file.
 void requireName(const std::string& path) {
-    const std::string name = std::filesystem::path(path).filename().string();
+    const std::string name = hosting::fileSystemPath(path).filename().string();
     if (!name.empty() && !automation::equalIgnoreCase(name, host::projectExtension)) return;
     throw automation::Error(automation::errFail, "The path '" + path + "' names no file");
 }

@@ -16,8 +16,9 @@ constexpr const char* macro = HX_SAMPLES_FOLDER "/../tests/cli/macros/day.lua";
 class DayMacro : public CliTest {
   protected:
     Result day(const char* language, const char* last = nullptr) {
-        std::vector<const char*> arguments{"run",    "--folder", folder_.path().c_str(), "--lcid",
-                                           language, macro,      folder_.path().c_str()};
+        const std::string folder = std::filesystem::path(folder_.path()).make_preferred().string();
+        std::vector<const char*> arguments{"run",    "--folder", folder.c_str(), "--lcid",
+                                           language, macro,      folder.c_str()};
         if (last != nullptr) arguments.push_back(last);
         return hxrecipe(arguments);
     }

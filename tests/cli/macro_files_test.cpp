@@ -31,7 +31,8 @@ class MacroFiles : public MacroTextTest {
         return options;
     }
     std::string isOutside(const std::string& name) const {
-        return "The file '" + name + "' is not in the folder '" + projects_ + "', whose files the macro may use\n";
+        const std::string folder = std::filesystem::path(projects_).make_preferred().string();
+        return "The file '" + name + "' is not in the folder '" + folder + "', whose files the macro may use\n";
     }
     // The description of what the macro raises by this call.
     std::string refusal(const std::string& call, const std::vector<const char*>& options) {

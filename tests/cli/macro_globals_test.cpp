@@ -144,11 +144,12 @@ TEST_F(MacroStudioGlobal, OpensNoProjectFromTheAnswerToOneThatIsClosing) {
 }
 
 TEST_F(MacroStudioGlobal, NamesTheHelpFileAndItsContext) {
-    EXPECT_EQ(printed(R"(studio.SetRegistry("SOFTWARE\\Tarnwell", "Common", "/shared")
+    EXPECT_EQ(
+        printed(R"(studio.SetRegistry("SOFTWARE\\Tarnwell", "Common", "/shared")
         studio.NewProject("$P") studio.Click("RCPE0") studio.KeyDown("RCPE0", 112)
         local help = studio.Help()[1]
         print(help.file, help.context))"),
-              "/shared/helpfiles/Rezeptsystem.chm\t100001\n");
+        "/shared" + std::filesystem::path("/helpfiles/Rezeptsystem.chm").make_preferred().string() + "\t100001\n");
 }
 
 TEST_F(MacroStudioGlobal, GivesTheArgumentsOfComponents) {

@@ -84,7 +84,7 @@ class CliTest : public testing::Test {
     std::vector<std::string> filesInFolder() const {
         std::vector<std::string> names;
         for (const auto& entry : std::filesystem::directory_iterator(folder_.path())) {
-            names.push_back(entry.path().filename());
+            names.push_back(entry.path().filename().string());
         }
         return names;
     }

@@ -1,9 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include <atomic>
-#include <csignal>
-#include <thread>
-#include <unistd.h>
-
 #include "run_macro_text.h"
 
 namespace hx::cli {
@@ -13,16 +8,6 @@ namespace {
 using testing::HasSubstr;
 
 class RunMacro : public MacroTextTest {};
-
-constexpr const char* newRecipe = R"(
-    local function newRecipe(name)
-        studio.Click("RCPE0")
-        editor.abr.Click("mnuRecipeNew")
-        studio.Click("RCPR" .. project.Query("SELECT MAX(ID) AS id FROM TrcpRecipe")[1].id)
-        studio.OnDialog("FRecipe", function(d) d.txtName.Text = name d.cmdOk.Click() end)
-        editor.abr.Click("mnuRecipeEdit")
-    end
-)";
 
 TEST_F(RunMacro, PrintsAndGetsArguments) {
     macro_ = write("m.lua", "print('got', ...)");
@@ -307,29 +292,6 @@ TEST_F(RunMacro, UsesOtherFilesAndProgramsOnlyWhenTrusted) {
         print(io.open("list.txt"):read(), (pcall(io.open, "/etc/hostname")), (pcall(io.open, "$P", "a"))))"),
               "Cola\tfalse\tfalse\n");
     EXPECT_EQ(contents(folder_.file("list.txt")), "Cola");
-}
-
-TEST_F(RunMacro, EndsInOrderByTheSignalsThatEndAProgram) {
-    for (const int signal : {SIGINT, SIGTERM}) {
-        // The macro says by a file that it is running: until then the signal would end the tests.
-        const std::string begun = folder_.file("begun.txt");
-        std::atomic<bool> ended = false;
-        std::thread other([&] {
-            while (!ended && !std::filesystem::exists(begun)) std::this_thread::sleep_for(std::chrono::milliseconds(5));
-            if (!ended) kill(getpid(), signal);
-        });
-        const Result result = macro(std::string(newRecipe) + R"(studio.NewProject("$P") newRecipe("Cola")
-            io.open("begun.txt", "w"):close()
-            while true do pcall(newRecipe) end)");
-        ended = true;
-        other.join();
-        EXPECT_EQ(result.status, 1);
-        EXPECT_THAT(result.problems, testing::StartsWith("hxrecipe: The macro was stopped\nstack traceback:\n"));
-        EXPECT_EQ(query(file_, "SELECT Name FROM TrcpRecipe WHERE ID = 1"), "Cola");
-        EXPECT_EQ(printed("print('again')"), "again\n");
-        std::filesystem::remove(file_);
-        std::filesystem::remove(begun);
-    }
 }
 
 TEST_F(RunMacro, AnswersAsAUserWhoCancelsOnceAnAnswerHasFailed) {

@@ -48,6 +48,17 @@ class MacroTextTest : public CliTest {
     }
 };
 
+/// A function of a macro: makes a recipe of this name through its dialog.
+inline constexpr const char* newRecipe = R"(
+    local function newRecipe(name)
+        studio.Click("RCPE0")
+        editor.abr.Click("mnuRecipeNew")
+        studio.Click("RCPR" .. project.Query("SELECT MAX(ID) AS id FROM TrcpRecipe")[1].id)
+        studio.OnDialog("FRecipe", function(d) d.txtName.Text = name d.cmdOk.Click() end)
+        editor.abr.Click("mnuRecipeEdit")
+    end
+)";
+
 /// Makes a project with the recipe 1 "Neues Rezept", which is shown, and the variables A, B and C.
 inline constexpr const char* oneRecipe = R"(
     studio.NewProject("$P") studio.SetVariables({"A", "B", "C"})

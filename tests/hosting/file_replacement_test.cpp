@@ -1,17 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "hosting/file_replacement.h"
 
-#include <fcntl.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <sys/file.h>
 
 #include "automation/error.h"
 #include "hosting/failing_disk.h"
 #include "hosting/file_bytes.h"
 #include "hosting/files_folder.h"
 #include "support/memory_shortage.h"
-#include "support/processes.h"
 
 namespace hx::hosting {
 namespace {
@@ -185,24 +182,6 @@ TEST_F(FileReplacementTest, RefusesLinksThatLeadInACircle) {
     EXPECT_EQ(folder.entries(), 2U);
 }
 
-TEST_F(FileReplacementTest, ClearsWhatAKilledProgramLeft) {
-    given("old");
-    support::Processes others;
-    others.start([&] {
-        FileReplacement file(path());
-        file.write("half");
-        FileReplacement draft(folder.file("b.hxs"));
-        (void)folder.write(draft.temporary().filename().string() + "-journal", "journal");
-        _exit(EXIT_SUCCESS);
-    });
-    EXPECT_EQ(others.wait(), 0);
-    ASSERT_EQ(folder.entries(), 4U);
-    replaceFile(path(), "new");
-    EXPECT_EQ(folder.entries(), 3U) << "that of the other file is not its own to clear";
-    replaceFile(folder.file("b.hxs"), "new");
-    EXPECT_EQ(folder.entries(), 2U);
-}
-
 TEST_F(FileReplacementTest, LeavesWhatAnotherIsStillWriting) {
     FileReplacement slow(path());
     (void)folder.write(slow.temporary().filename().string() + "-journal", "journal");
@@ -212,21 +191,6 @@ TEST_F(FileReplacementTest, LeavesWhatAnotherIsStillWriting) {
     EXPECT_EQ(folder.entries(), 3U);
     slow.publish();
     EXPECT_EQ(text(), "slow");
-}
-
-TEST_F(FileReplacementTest, LeavesTheBytesThatADatabaseLocksToIt) {
-    FileReplacement draft(path());
-    support::Processes others;
-    others.start([&] {
-        const int file = open(draft.temporary().c_str(), O_RDWR);
-        struct flock lock {};
-        lock.l_type = F_WRLCK;
-        lock.l_whence = SEEK_SET;
-        lock.l_len = off_t{1} << 40;
-        const bool locked = file >= 0 && fcntl(file, F_SETLK, &lock) == 0 && flock(file, LOCK_EX | LOCK_NB) == 0;
-        _exit(locked ? EXIT_SUCCESS : EXIT_FAILURE);
-    });
-    EXPECT_EQ(others.wait(), 0);
 }
 
 TEST_F(FileReplacementTest, LeavesFilesThatAreOnlyNamedAlike) {

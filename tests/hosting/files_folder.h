@@ -8,6 +8,7 @@
 #include <string>
 #include <string_view>
 
+#include "hosting/file_bytes.h"
 #include "support/temporary_folder.h"
 
 namespace hx::hosting {
@@ -17,12 +18,12 @@ class FilesFolder : public support::TemporaryFolder {
   public:
     /// Writes a file of these bytes and gives its path.
     [[nodiscard]] std::string write(std::string_view name, std::string_view bytes) const {
-        std::ofstream(file(name), std::ios::binary) << bytes;
+        std::ofstream(fileSystemPath(file(name)), std::ios::binary) << bytes;
         return file(name);
     }
     [[nodiscard]] std::string read(std::string_view name) const {
         std::ostringstream bytes;
-        bytes << std::ifstream(file(name), std::ios::binary).rdbuf();
+        bytes << std::ifstream(fileSystemPath(file(name)), std::ios::binary).rdbuf();
         return bytes.str();
     }
     [[nodiscard]] std::size_t entries() const {

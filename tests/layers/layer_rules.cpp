@@ -73,7 +73,7 @@ constexpr auto rooms = std::to_array<Room>({
 });
 
 /// The files that speak to the operating system, one for each; their headers name nothing of it.
-constexpr auto systemFiles = std::to_array<std::string_view>({"hosting/posix_disk.cpp"});
+constexpr auto systemFiles = std::to_array<std::string_view>({"hosting/posix_disk.cpp", "hosting/windows_disk.cpp"});
 
 constexpr auto standardHeaders = std::to_array<std::string_view>({
     "algorithm",

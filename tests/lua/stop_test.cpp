@@ -40,7 +40,9 @@ struct Stop : testing::Test {
 TEST_F(Stop, EndsAnEndlessLoop) {
     const MacroError error = stopped("local n = 0\nwhile true do\nn = n + 1 end");
     EXPECT_STREQ(error.what(), "The macro was stopped");
-    EXPECT_THAT(error.traceback(), testing::MatchesRegex("stack traceback:\n\ttest.lua:[23]: in main chunk(\n.*)?"));
+    EXPECT_THAT(error.traceback(),
+                testing::AnyOf(testing::StartsWith("stack traceback:\n\ttest.lua:2: in main chunk"),
+                               testing::StartsWith("stack traceback:\n\ttest.lua:3: in main chunk")));
 }
 
 TEST_F(Stop, AskedForBeforeTheMacroBeginsEndsItAtItsFirstSteps) {

@@ -52,7 +52,8 @@ class Durability : public ProjectTest {
     template <class Change>
     Outcome tryWith(Fault fault, int nth, Change&& change) {
         fs::remove(path_ + "-journal");
-        fs::copy_file(pristine_, path_, fs::copy_options::overwrite_existing);
+        fs::remove(path_);
+        fs::copy_file(pristine_, path_);
         FaultDisk disk(fault, nth);
         const auto connection = connect();
         const auto error = errorOf([&] { change(connection); });
@@ -143,7 +144,8 @@ TEST_F(Durability, AFullDiskIsNamed) {
 
 TEST_F(Durability, AfterATransactionWasLostNothingIsWrittenThatBelongedToIt) {
     for (int nth = 1; nth < 60; ++nth) {
-        fs::copy_file(pristine_, path_, fs::copy_options::overwrite_existing);
+        fs::remove(path_);
+        fs::copy_file(pristine_, path_);
         FaultDisk disk(Fault::full, nth);
         const auto connection = connect();
         connection->beginTrans();

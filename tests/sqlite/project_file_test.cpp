@@ -4,7 +4,6 @@
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
-#include <sys/stat.h>
 
 #include "project_fixture.h"
 #include "support/memory_shortage.h"
@@ -19,7 +18,8 @@ class ProjectFile : public ProjectTest {
   protected:
     std::string filesInFolder() const {
         std::vector<std::string> names;
-        for (const auto& entry : fs::directory_iterator(folder_.path())) names.push_back(entry.path().filename());
+        for (const auto& entry : fs::directory_iterator(folder_.path()))
+            names.push_back(entry.path().filename().string());
         std::sort(names.begin(), names.end());
         std::string text;
         for (const std::string& name : names) text += name + " ";
@@ -101,11 +101,7 @@ TEST_F(ProjectFile, NeedsAFolder) {
 
 TEST_F(ProjectFile, HasTheUsualPermissions) {
     std::ofstream(folder_.file("usual")) << "x";
-    struct stat usual {};
-    struct stat project {};
-    ASSERT_EQ(stat(folder_.file("usual").c_str(), &usual), 0);
-    ASSERT_EQ(stat(path_.c_str(), &project), 0);
-    EXPECT_EQ(project.st_mode, usual.st_mode);
+    EXPECT_EQ(fs::status(path_).permissions(), fs::status(folder_.file("usual")).permissions());
 }
 
 TEST_F(ProjectFile, ADraftThatIsNotPublishedLeavesNothing) {

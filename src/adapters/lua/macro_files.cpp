@@ -33,13 +33,15 @@ bool isNamedAsProject(const fs::path& file) {
 
 // A hard link gives a project another name.
 bool beginsAsProject(const std::string& file) {
-    const std::string start = hosting::startOf(file, databaseMark.size());
+    const std::string start = hosting::startOf(hosting::fileSystemPath(file), databaseMark.size());
     return start == databaseMark || start.starts_with(journalMark);
 }
 
 }  // namespace
 
-bool isProject(const std::string& file) { return isNamedAsProject(file) || beginsAsProject(file); }
+bool isProject(const std::string& file) {
+    return isNamedAsProject(hosting::fileSystemPath(file)) || beginsAsProject(file);
+}
 
 void MacroFiles::allow(const fs::path& folder) {
     if (!folder.empty()) folders_.push_back(fs::weakly_canonical(folder));
@@ -53,7 +55,7 @@ MacroFiles MacroFiles::all() {
 
 std::string MacroFiles::toRead(const std::string& name) const {
     std::string file = within(name);
-    const fs::file_type type = fs::symlink_status(file).type();
+    const fs::file_type type = fs::symlink_status(hosting::fileSystemPath(file)).type();
     if (!all_ && type != fs::file_type::not_found && type != fs::file_type::regular) refuse(name, "is no file");
     return file;
 }
@@ -67,7 +69,7 @@ std::string MacroFiles::within(const std::string& name) const {
     // The system takes a name up to the first of these.
     if (name.find('\0') != std::string::npos)
         refuse(name.substr(0, name.find('\0')), "cannot be named with a zero byte");
-    const fs::path file = fs::weakly_canonical(folders_.front() / name);
+    const fs::path file = fs::weakly_canonical(folders_.front() / hosting::fileSystemPath(name));
     // A link to nothing is what is left of one here: writing to it would make the file that it leads to.
     const bool dangling = fs::is_symlink(fs::symlink_status(file));
     const bool below = std::ranges::any_of(folders_, [&](const fs::path& folder) { return isBelow(file, folder); });

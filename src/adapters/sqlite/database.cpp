@@ -7,6 +7,7 @@
 #include "adapters/sqlite/project_schema.h"
 #include "adapters/sqlite/sqlite_error.h"
 #include "automation/restore.h"
+#include "hosting/file_bytes.h"
 
 namespace hx::sqlite {
 
@@ -46,7 +47,7 @@ Database::Database(const std::string& path, const OpenOptions& options)
       collecting_(std::make_unique<Collection*>(nullptr)) {
     sqlite3* handle = nullptr;
     // An absolute name is never taken for a URI or for a database in memory.
-    const std::string absolute = std::filesystem::absolute(path).string();
+    const std::string absolute = std::filesystem::absolute(hosting::fileSystemPath(path)).string();
     const int code = sqlite3_open_v2(absolute.c_str(), &handle, openFlags, nullptr);
     handle_.reset(handle);
     check(code);

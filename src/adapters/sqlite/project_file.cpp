@@ -14,7 +14,7 @@ namespace hx::sqlite {
 
 bool beginsLikeProject(const std::string& path) {
     constexpr std::string_view mark = "SQLite format 3";
-    return hosting::startOf(path, mark.size()) == mark;
+    return hosting::startOf(hosting::fileSystemPath(path), mark.size()) == mark;
 }
 
 namespace {
@@ -26,16 +26,17 @@ using automation::Error;
 
 void requireFree(const std::string& path) {
     std::error_code ignored;
-    if (fs::exists(fs::symlink_status(path, ignored))) refuseTaken(path);
+    if (fs::exists(fs::symlink_status(hosting::fileSystemPath(path), ignored))) refuseTaken(path);
 }
 
 }  // namespace
 
 ProjectDraft::ProjectDraft(std::string path) : path_(std::move(path)) {
     requireFree(path_);
-    file_.emplace(path_);
+    file_.emplace(hosting::fileSystemPath(path_));
     temporary_ = file_->temporary().string();
-    journal_ = temporary_ + "-journal";
+    journal_ = file_->temporary();
+    journal_ += "-journal";
 }
 
 ProjectDraft::~ProjectDraft() {

@@ -8,6 +8,7 @@
 #include "adapters/sqlite/query_rowset.h"
 #include "adapters/sqlite/sentences.h"
 #include "adapters/sqlite/table_rowset.h"
+#include "hosting/file_bytes.h"
 
 namespace hx::sqlite {
 
@@ -21,12 +22,12 @@ void requireFile(const std::string& path, automation::Language language) {
     std::error_code error;
     const std::filesystem::file_status status =
         path.empty() ? std::filesystem::file_status(std::filesystem::file_type::not_found)
-                     : std::filesystem::status(path, error);
+                     : std::filesystem::status(hosting::fileSystemPath(path), error);
     if (status.type() == std::filesystem::file_type::not_found) refuse(sentence::missing);
     if (error) refuse(sentence::unreachable, error.message());
     if (std::filesystem::is_directory(status)) refuse(sentence::folder);
     if (!std::filesystem::is_regular_file(status)) refuse(sentence::noFile);
-    if (!std::ifstream(path).is_open()) refuse(sentence::noReadPermission);
+    if (!std::ifstream(hosting::fileSystemPath(path)).is_open()) refuse(sentence::noReadPermission);
 }
 
 // Refuses a text with letters beyond ASCII that equals another row's ignoring case; the rest the table's own index

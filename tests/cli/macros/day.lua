@@ -6,7 +6,8 @@
 -- name; what is not as it should be ends the macro.
 
 local folder, last = ...
-local file = folder .. "/day.hxs"
+-- In the system's own way, for what shows it.
+local file = folder .. (folder:find("\\", 1, true) and "\\" or "/") .. "day.hxs"
 local english = studio.Registry("SOFTWARE\\Tarnwell\\Helvix\\4.0", "LCID") == 1033
 
 -- What the editor shows, in the language of the day.

@@ -5,8 +5,8 @@
 
 namespace hx::hosting {
 
-/// Files in use and locked folders carry advisory locks, which end with the process however that ends.
-class PosixDisk : public Disk {
+/// Files in use and locked folders are marked for others by what ends with the process however that ends.
+class SystemDisk : public Disk {
   public:
     std::error_code create(const Path& path, const Path& like, Handle& file) const override;
     std::error_code write(Handle file, std::string_view bytes) const override;

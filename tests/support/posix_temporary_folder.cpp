@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "support/temporary_folder.h"
-
 #include <cerrno>
 #include <filesystem>
 #include <stdlib.h>
 #include <system_error>
 #include <unistd.h>
+
+#include "support/temporary_folder.h"
 
 namespace hx::support {
 
