@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: MIT
+#include "adapters/com/class_factory.h"
+
+#include "adapters/com/failure.h"
+
+namespace hx::com {
+
+HRESULT ClassFactory::CreateInstance(IUnknown* outer, REFIID iid, void** object) {
+    if (object == nullptr) return E_POINTER;
+    *object = nullptr;
+    if (outer != nullptr) return CLASS_E_NOAGGREGATION;
+    return guarded([&] { return make_()->QueryInterface(iid, object); });
+}
+
+HRESULT ClassFactory::LockServer(BOOL lock) {
+    border_.lifetime().locks += lock ? 1 : -1;
+    return S_OK;
+}
+
+}  // namespace hx::com

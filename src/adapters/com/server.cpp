@@ -1,0 +1,77 @@
+// SPDX-License-Identifier: MIT
+#include "adapters/com/server.h"
+
+#include <algorithm>
+
+#include "adapters/com/failure.h"
+#include "adapters/com/text.h"
+
+namespace hx::com {
+
+namespace {
+
+std::string fileOf(HMODULE library) {
+    std::wstring name(MAX_PATH, L'\0');
+    // A name that does not fit is cut.
+    for (;;) {
+        const DWORD size = GetModuleFileNameW(library, name.data(), static_cast<DWORD>(name.size()));
+        if (size == 0) fail(HRESULT_FROM_WIN32(GetLastError()));
+        if (size < name.size()) return toUtf8({name.data(), size});
+        name.resize(name.size() * 2);
+    }
+}
+
+HRESULT first(HRESULT one, HRESULT other) { return FAILED(one) ? one : other; }
+
+}  // namespace
+
+HRESULT Server::getClassObject(REFCLSID id, REFIID iid, void** object) noexcept {
+    if (object == nullptr) return E_POINTER;
+    *object = nullptr;
+    return guarded([&] {
+        const auto found = std::ranges::find_if(classes_, [&](const Class& one) { return one.id == id; });
+        if (found == classes_.end()) return CLASS_E_CLASSNOTAVAILABLE;
+        const auto factory = Pointer<ClassFactory>::adopt(new ClassFactory(found->make, border_));
+        return factory->QueryInterface(iid, object);
+    });
+}
+
+std::vector<ClassEntry> Server::entries() const {
+    std::vector<ClassEntry> entries;
+    for (const Class& one : classes_) entries.push_back({one.id, one.programId, one.description, fileOf(library_)});
+    return entries;
+}
+
+HRESULT Server::registerFor(Users users) noexcept {
+    const HRESULT result = guarded([&] {
+        for (const ClassEntry& entry : entries()) registerClass(entry, users);
+        return S_OK;
+    });
+    if (FAILED(result)) (void)unregisterFor(users);  // all or nothing
+    return result;
+}
+
+HRESULT Server::unregisterFor(Users users) noexcept {
+    return guarded([&] {
+        for (const ClassEntry& entry : entries()) unregisterClass(entry, users);
+        return S_OK;
+    });
+}
+
+HRESULT Server::registerServer() noexcept {
+    const HRESULT result = registerFor(Users::all);
+    return result == E_ACCESSDENIED ? registerFor(Users::one) : result;
+}
+
+HRESULT Server::unregisterServer() noexcept {
+    const HRESULT forOne = unregisterFor(Users::one), forAll = unregisterFor(Users::all);
+    return forAll == E_ACCESSDENIED ? forOne : first(forOne, forAll);
+}
+
+HRESULT Server::install(bool install, const wchar_t* command) noexcept {
+    const bool forOne = command != nullptr && CompareStringOrdinal(command, -1, L"user", -1, TRUE) == CSTR_EQUAL;
+    const Users users = forOne ? Users::one : Users::all;
+    return install ? registerFor(users) : unregisterFor(users);
+}
+
+}  // namespace hx::com

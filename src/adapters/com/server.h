@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "adapters/com/class_factory.h"
+#include "adapters/com/registration.h"
+
+namespace hx::com {
+
+/// What a library that is a COM server answers to the functions that it exports; each does what the function of its
+/// name says, and throws nothing. The library owns one server and never ends it.
+class Server {
+  public:
+    struct Class {
+        CLSID id;
+        std::string programId;
+        std::string description;
+        ClassFactory::Make make;
+    };
+
+    /// `library` is the module that the classes live in.
+    Server(HMODULE library, std::vector<Class> classes) : library_(library), classes_(std::move(classes)) {}
+
+    [[nodiscard]] Border& border() noexcept { return border_; }
+
+    HRESULT getClassObject(REFCLSID id, REFIID iid, void** object) noexcept;
+    [[nodiscard]] HRESULT canUnloadNow() const noexcept { return border_.lifetime().isOver() ? S_OK : S_FALSE; }
+    /// For all users; for the one who asks where only an administrator could write.
+    HRESULT registerServer() noexcept;
+    HRESULT unregisterServer() noexcept;
+    /// "user" is for the one who asks, as regsvr32 /i:user gives it; everything else for all.
+    HRESULT install(bool install, const wchar_t* command) noexcept;
+
+  private:
+    [[nodiscard]] std::vector<ClassEntry> entries() const;
+    HRESULT registerFor(Users users) noexcept;
+    HRESULT unregisterFor(Users users) noexcept;
+
+    HMODULE library_;
+    std::vector<Class> classes_;
+    Border border_;
+};
+
+}  // namespace hx::com

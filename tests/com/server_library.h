@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <array>
+#include <filesystem>
+#include <gtest/gtest.h>
+#include <windows.h>
+
+namespace hx::com {
+
+/// The library that is a server, loaded as a host's installer loads it.
+class Library {
+  public:
+    Library() : module_(LoadLibraryW(file().c_str())) { EXPECT_NE(module_, nullptr); }
+    ~Library() { FreeLibrary(module_); }
+    Library(const Library&) = delete;
+    Library& operator=(const Library&) = delete;
+
+    template <class Function>
+    [[nodiscard]] Function* function(const char* name) const {
+        return reinterpret_cast<Function*>(reinterpret_cast<void*>(GetProcAddress(module_, name)));
+    }
+    [[nodiscard]] HRESULT install(bool install, const wchar_t* command) const {
+        return function<HRESULT STDMETHODCALLTYPE(BOOL, LPCWSTR)>("DllInstall")(install, command);
+    }
+    /// One that takes nothing.
+    [[nodiscard]] HRESULT call(const char* name) const { return function<HRESULT STDMETHODCALLTYPE()>(name)(); }
+
+  private:
+    /// Beside the program.
+    static std::wstring file() {
+        std::array<wchar_t, MAX_PATH> program{};
+        GetModuleFileNameW(nullptr, program.data(), static_cast<DWORD>(program.size()));
+        return (std::filesystem::path(program.data()).parent_path() / "hx_com_server.dll").wstring();
+    }
+
+    HMODULE module_;
+};
+
+/// While it lives, the library is registered for all users: what is registered for one, Wine does not find.
+class Registered {
+  public:
+    Registered() { EXPECT_EQ(library.call("DllRegisterServer"), S_OK); }
+    ~Registered() { EXPECT_EQ(library.call("DllUnregisterServer"), S_OK); }
+    Registered(const Registered&) = delete;
+    Registered& operator=(const Registered&) = delete;
+
+    Library library;
+};
+
+}  // namespace hx::com
