@@ -4,6 +4,7 @@
 #include <thread>
 
 #include "hosting/file_place.h"
+#include "hosting/links.h"
 
 namespace hx::hosting {
 

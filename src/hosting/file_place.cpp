@@ -14,8 +14,6 @@ using automation::Sentence;
 
 namespace {
 
-constexpr int mostLinks = 40;
-
 /// What the operating system says that a user meets; the rest is told in its words.
 struct Reason {
     std::errc code;
@@ -44,16 +42,6 @@ std::string textOf(const fs::path& path) {
 }
 
 }  // namespace
-
-fs::path behindLinks(fs::path path) {
-    std::error_code error;
-    for (int i = 0; i < mostLinks && fs::is_symlink(path, error); ++i) {
-        const fs::path target = fs::read_symlink(path, error);
-        if (error) break;
-        path = path.parent_path() / target;
-    }
-    return path;
-}
 
 fs::path folderOf(const fs::path& file) { return file.has_parent_path() ? file.parent_path() : fs::path("."); }
 

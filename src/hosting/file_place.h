@@ -8,9 +8,6 @@
 
 namespace hx::hosting {
 
-/// The file that a path's links lead to, also when it does not exist; the path itself without links.
-[[nodiscard]] std::filesystem::path behindLinks(std::filesystem::path path);
-
 /// The folder that a file lies in.
 [[nodiscard]] std::filesystem::path folderOf(const std::filesystem::path& file);
 

@@ -5,6 +5,7 @@
 
 #include "hosting/file_bytes.h"
 #include "hosting/file_place.h"
+#include "hosting/links.h"
 
 namespace hx::hosting {
 

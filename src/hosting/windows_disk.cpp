@@ -4,6 +4,7 @@
 #include <windows.h>
 
 #include "hosting/system_disk.h"
+#include "hosting/windows_path.h"
 
 namespace hx::hosting {
 
@@ -29,14 +30,6 @@ std::error_code codeOf(DWORD number) {
 }
 
 std::error_code result(BOOL done) { return done ? std::error_code() : codeOf(GetLastError()); }
-
-// Names of any length, which Windows wants whole and with a mark.
-std::wstring longName(const Disk::Path& path) {
-    std::error_code error;
-    Disk::Path whole = std::filesystem::absolute(path, error);
-    if (error || whole.native().size() < MAX_PATH - 20 || whole.native().starts_with(L"\\\\")) return path.native();
-    return L"\\\\?\\" + whole.lexically_normal().make_preferred().native();
-}
 
 // Who may do what must not change with the contents.
 std::vector<std::byte> permissionsOf(const Disk::Path& path) {

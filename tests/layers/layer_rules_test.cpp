@@ -36,6 +36,9 @@ TEST(LayerRules, TheEditorsFoldersStandOnTheStandardLibraryAlone) {
 TEST(LayerRules, OnlyTheFilesOfTheOperatingSystemIncludeItsHeaders) {
     EXPECT_THAT(wrongIncludes("hosting/posix_disk.cpp", "#include <fcntl.h>\n#include \"hosting/disk.h\"\n"),
                 IsEmpty());
+    EXPECT_THAT(
+        wrongIncludes("hosting/windows_disk.h", "#include <windows.h>\n"),
+        ElementsAre("hosting/windows_disk.h:1: includes windows.h: hosting stands on the standard library alone"));
     EXPECT_THAT(wrongIncludes("host/posix_disk.cpp", "#include \"editor/frmtabgrid.h\"\n"),
                 ElementsAre("host/posix_disk.cpp:1: includes editor/frmtabgrid.h: host may not include editor"));
     EXPECT_THAT(wrongIncludes("host/file_lock.cpp", "#include <fcntl.h>\n"),

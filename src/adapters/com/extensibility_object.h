@@ -50,10 +50,10 @@ class ExtensibilityObject : public Unknown<::CHX4Extensibility> {
     HRESULT tell(const Action& action) noexcept;
     [[nodiscard]] bool isInInterface(DISPID id) const noexcept;
 
+    std::shared_ptr<host::ProjectExplorer> explorer_;  // which the add-in uses until it is told to end, or ends
     std::shared_ptr<host::CHX4Extensibility> addIn_;
     Pointer<ITypeInfo> types_;
     Border& border_;
-    std::shared_ptr<host::ProjectExplorer> explorer_;  // which the add-in uses until it is told to end
     Pointer<Object> byName_;
 };
 

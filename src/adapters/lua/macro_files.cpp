@@ -7,6 +7,7 @@
 #include "automation/text.h"
 #include "host/project_file.h"
 #include "hosting/file_bytes.h"
+#include "hosting/links.h"
 
 namespace hx::lua {
 
@@ -44,7 +45,7 @@ bool isProject(const std::string& file) {
 }
 
 void MacroFiles::allow(const fs::path& folder) {
-    if (!folder.empty()) folders_.push_back(fs::weakly_canonical(folder));
+    if (!folder.empty()) folders_.push_back(hosting::placeOf(folder));
 }
 
 MacroFiles MacroFiles::all() {
@@ -69,11 +70,8 @@ std::string MacroFiles::within(const std::string& name) const {
     // The system takes a name up to the first of these.
     if (name.find('\0') != std::string::npos)
         refuse(name.substr(0, name.find('\0')), "cannot be named with a zero byte");
-    const fs::path file = fs::weakly_canonical(folders_.front() / hosting::fileSystemPath(name));
-    // A link to nothing is what is left of one here: writing to it would make the file that it leads to.
-    const bool dangling = fs::is_symlink(fs::symlink_status(file));
-    const bool below = std::ranges::any_of(folders_, [&](const fs::path& folder) { return isBelow(file, folder); });
-    if (!below || dangling) {
+    const fs::path file = hosting::placeOf(folders_.front() / hosting::fileSystemPath(name));
+    if (std::ranges::none_of(folders_, [&](const fs::path& folder) { return isBelow(file, folder); })) {
         refuse(name, "is not in the folder " + folders() + ", whose files the macro may use");
     }
     return file.string();
