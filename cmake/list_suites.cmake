@@ -5,6 +5,7 @@
 set(filter --gtest_filter=*:-${NOT_RUN})
 execute_process(COMMAND ${EMULATOR} ${PROGRAM} --gtest_list_tests ${filter} OUTPUT_VARIABLE listed COMMAND_ERROR_IS_FATAL ANY)
 string(REPLACE "\r" "" listed "${listed}")
+string(REGEX REPLACE "^Running main[^\n]*\n" "" listed "${listed}")  # a greeting, no suite
 string(REGEX MATCHALL "\n[^ \n][^\n]*\\." suites "\n${listed}")
 set(tests "")
 foreach(suite ${suites})

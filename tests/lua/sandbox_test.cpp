@@ -13,7 +13,7 @@ struct ProjectFolder {
     ProjectFolder() {
         std::filesystem::create_directories(files.file("project"));
         std::ofstream(files.file("secret.txt")) << "secret";
-        std::ofstream(files.file("project/list.txt")) << "Cola\nTee\n";
+        std::ofstream(files.file("project/list.txt"), std::ios::binary) << "Cola\nTee\n";
         std::ofstream(files.file("project/Plant.hxs")) << "data";
     }
     support::TemporaryFolder files;
