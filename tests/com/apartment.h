@@ -5,6 +5,7 @@
 #include <objbase.h>
 
 #include "adapters/com/border.h"
+#include "adapters/com/text.h"
 
 namespace hx::com {
 
@@ -30,6 +31,19 @@ struct Value : VARIANT {
     ~Value() { VariantClear(this); }
     Value(const Value&) = delete;
     Value& operator=(const Value&) = delete;
+};
+
+/// A text for one call.
+class Text {
+  public:
+    explicit Text(std::string_view text) : text_(makeBstr(text)) {}
+    ~Text() { SysFreeString(text_); }
+    Text(const Text&) = delete;
+    Text& operator=(const Text&) = delete;
+    operator BSTR() const { return text_; }
+
+  private:
+    BSTR text_;
 };
 
 }  // namespace hx::com

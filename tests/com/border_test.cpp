@@ -159,5 +159,21 @@ TEST_F(BorderTest, AnObjectThatComesBackIsTheOneThatItWas) {
     EXPECT_EQ(border.lifetime().objects, 1);
 }
 
+TEST_F(BorderTest, GivesAnObjectAsTheSameOneWhileSomebodyHoldsIt) {
+    const auto plant = std::make_shared<Plant>();
+    const auto one = border.give(plant), other = border.give(plant);
+    EXPECT_EQ(one.get(), other.get());
+    EXPECT_EQ(border.lifetime().objects, 1);
+}
+
+TEST_F(BorderTest, GivesInPlaceOfOneOfOursWhatItStandsFor) {
+    const auto ours = std::make_shared<Plant>(), theirs = std::make_shared<Plant>();
+    const auto given = border.give(theirs);
+    border.equate(ours, given);
+    EXPECT_EQ(border.give(ours).get(), given.get());
+    border.forget(ours);
+    EXPECT_NE(border.give(ours).get(), given.get());
+}
+
 }  // namespace
 }  // namespace hx::com

@@ -97,19 +97,6 @@ class ExtensibilityTest : public ApartmentTest {
     automation::ObjectRef named = std::make_shared<addin::ExplorerObject>(explorer);
 };
 
-/// A text for one call.
-class Text {
-  public:
-    explicit Text(std::string_view text) : text_(makeBstr(text)) {}
-    ~Text() { SysFreeString(text_); }
-    Text(const Text&) = delete;
-    Text& operator=(const Text&) = delete;
-    operator BSTR() const { return text_; }
-
-  private:
-    BSTR text_;
-};
-
 TEST_F(ExtensibilityTest, TellsTheAddInEverySlotOfTheInterface) {
     const Text owner("Werk"), key("RCPR7"), text("Süßes");
     const auto given = border.give(named);
@@ -142,6 +129,13 @@ TEST_F(ExtensibilityTest, TellsItTheSameByName) {
     EXPECT_THAT(explorer.childKeys("", 1), testing::ElementsAre());
     EXPECT_THAT(addIn->told,
                 testing::ElementsAre("Initialize Werk  explorer", "Up Werk RCPE0  2 0 1.5 2", "Terminate"));
+}
+
+TEST_F(ExtensibilityTest, TakesNullForWhatIsLeftOut) {
+    const automation::Variant null = automation::Null{};
+    byName->get("Initialize", std::array<automation::Variant, 4>{"Werk", null, named, null});
+    byName->get("Initialize", std::array<automation::Variant, 4>{"Werk", "", null, null});
+    EXPECT_THAT(addIn->told, testing::ElementsAre("Initialize Werk  explorer", "Initialize Werk "));
 }
 
 TEST_F(ExtensibilityTest, GivesTheAnswerToAMessage) {

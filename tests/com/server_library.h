@@ -11,7 +11,10 @@ namespace hx::com {
 /// The library that is a server, loaded as a host's installer loads it.
 class Library {
   public:
-    Library() : module_(LoadLibraryW(file().c_str())) { EXPECT_NE(module_, nullptr); }
+    /// `name` is that of a file beside the program.
+    explicit Library(const std::wstring& name) : module_(LoadLibraryW(file(name).c_str())) {
+        EXPECT_NE(module_, nullptr);
+    }
     ~Library() { FreeLibrary(module_); }
     Library(const Library&) = delete;
     Library& operator=(const Library&) = delete;
@@ -27,11 +30,10 @@ class Library {
     [[nodiscard]] HRESULT call(const char* name) const { return function<HRESULT STDMETHODCALLTYPE()>(name)(); }
 
   private:
-    /// Beside the program.
-    static std::wstring file() {
+    static std::wstring file(const std::wstring& name) {
         std::array<wchar_t, MAX_PATH> program{};
         GetModuleFileNameW(nullptr, program.data(), static_cast<DWORD>(program.size()));
-        return (std::filesystem::path(program.data()).parent_path() / "hx_com_server.dll").wstring();
+        return (std::filesystem::path(program.data()).parent_path() / name).wstring();
     }
 
     HMODULE module_;
@@ -40,7 +42,9 @@ class Library {
 /// While it lives, the library is registered for all users: what is registered for one, Wine does not find.
 class Registered {
   public:
-    Registered() { EXPECT_EQ(library.call("DllRegisterServer"), S_OK); }
+    explicit Registered(const std::wstring& name) : library(name) {
+        EXPECT_EQ(library.call("DllRegisterServer"), S_OK);
+    }
     ~Registered() { EXPECT_EQ(library.call("DllUnregisterServer"), S_OK); }
     Registered(const Registered&) = delete;
     Registered& operator=(const Registered&) = delete;

@@ -14,6 +14,8 @@ namespace {
 
 constexpr CLSID plantId = {0x0a5d1f3e, 0x7c44, 0x4b0b, {0x8e, 0x51, 0x2d, 0x96, 0x13, 0xc7, 0x40, 0xaa}};
 
+const std::wstring file = L"hx_com_server.dll";
+
 bool isThere(HKEY root, const std::wstring& key) {
     HKEY opened = nullptr;
     const bool found =
@@ -34,7 +36,7 @@ class ServerTest : public ApartmentTest {
 };
 
 TEST_F(ServerTest, RegistersForOneUserAndLeavesNothing) {
-    const Library library;
+    const Library library(file);
     ASSERT_EQ(library.install(true, L"user"), S_OK);
     EXPECT_TRUE(isThere(HKEY_CURRENT_USER, classKey() + L"\\InprocServer32"));
     EXPECT_TRUE(isThere(HKEY_CURRENT_USER, L"HXTest.Plant\\CLSID"));
@@ -47,7 +49,7 @@ TEST_F(ServerTest, RegistersForOneUserAndLeavesNothing) {
 
 TEST_F(ServerTest, RegistersForAllUsersAndLeavesNothing) {
     {
-        const Registered registered;
+        const Registered registered(file);
         EXPECT_TRUE(isThere(HKEY_LOCAL_MACHINE, classKey() + L"\\ProgID"));
         EXPECT_TRUE(isThere(HKEY_LOCAL_MACHINE, L"HXTest.Plant\\CLSID"));
     }
@@ -56,7 +58,7 @@ TEST_F(ServerTest, RegistersForAllUsersAndLeavesNothing) {
 }
 
 TEST_F(ServerTest, MakesAComponentByItsProgramIdentifier) {
-    const Registered registered;
+    const Registered registered(file);
     const auto plant = components.create("HXTest.Plant");
     plant->set("Name", "Süd");
     EXPECT_EQ(plant->get("Name"), automation::Variant("Süd"));
@@ -71,7 +73,7 @@ TEST_F(ServerTest, SaysThatThereIsNoSuchComponent) {
 }
 
 TEST_F(ServerTest, StaysWhileSomebodyHoldsAnObjectOrALock) {
-    const Registered registered;
+    const Registered registered(file);
     const Library& library = registered.library;
     EXPECT_EQ(library.call("DllCanUnloadNow"), S_OK);
     {
@@ -89,7 +91,7 @@ TEST_F(ServerTest, StaysWhileSomebodyHoldsAnObjectOrALock) {
 }
 
 TEST_F(ServerTest, MakesNothingThatItDoesNotHave) {
-    const Library library;
+    const Library library(file);
     using GetClassObject = HRESULT STDMETHODCALLTYPE(REFCLSID, REFIID, void**);
     auto* const get = library.function<GetClassObject>("DllGetClassObject");
     Pointer<IClassFactory> factory;

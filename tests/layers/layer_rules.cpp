@@ -54,6 +54,7 @@ constexpr auto layers = std::to_array<Layer>({
     {"report/", Ground::Anything, macroLevel},
     {"studio", Ground::Anything, programLevel},
     {"cli", Ground::Anything, programLevel, "adapters/qt"},
+    {"server", Ground::Anything, programLevel},
 });
 
 /// A room of the adapter for the toolkit sees those of the levels below its own, and itself.

@@ -4,6 +4,7 @@
 #include <limits>
 #include <oleauto.h>
 
+#include "adapters/com/cleared.h"
 #include "adapters/com/failure.h"
 #include "adapters/com/foreign_object.h"
 #include "adapters/com/object.h"
@@ -16,14 +17,6 @@ namespace {
 
 using automation::Variant;
 using automation::VarType;
-
-/// What a call has put into a VARIANT, cleared afterwards.
-struct Cleared : VARIANT {
-    Cleared() : VARIANT{} {}
-    ~Cleared() { VariantClear(this); }
-    Cleared(const Cleared&) = delete;
-    Cleared& operator=(const Cleared&) = delete;
-};
 
 template <class Number>
 Variant narrowest(Number number) {
@@ -62,7 +55,22 @@ void giveObject(Border& border, const automation::ObjectRef& object, VARIANT& to
 Pointer<IDispatch> Border::give(const automation::ObjectRef& object) {
     if (!object) return {};
     if (const auto* foreign = dynamic_cast<const ForeignObject*>(object.get())) return foreign->reference();
+    if (const auto equal = equals_.find(object.get()); equal != equals_.end()) return equal->second;
+    if (const auto known = given_.find(object.get()); known != given_.end()) return Pointer<IDispatch>(known->second);
     return Pointer<IDispatch>::adopt(new Object(object, *this));
+}
+
+void Border::enter(IDispatch* object, const automation::ObjectRef& ours) {
+    ours_.emplace(object, ours);
+    given_.insert_or_assign(ours.get(), object);
+}
+
+void Border::leave(IDispatch* object) noexcept {
+    const auto own = ours_.find(object);
+    if (own == ours_.end()) return;
+    const auto given = given_.find(own->second.get());
+    if (given != given_.end() && given->second == object) given_.erase(given);
+    ours_.erase(own);
 }
 
 void Border::give(const Variant& value, VARIANT& to) {
@@ -93,6 +101,12 @@ void Border::give(const Variant& value, VARIANT& to) {
         case VarType::object: giveObject(*this, value.asObject(), to); return;
     }
 }
+
+void Border::equate(const automation::ObjectRef& ours, const Pointer<IDispatch>& theirs) {
+    equals_.insert_or_assign(ours.get(), theirs);
+}
+
+void Border::forget(const automation::ObjectRef& ours) noexcept { equals_.erase(ours.get()); }
 
 automation::ObjectRef Border::take(IDispatch* object) {
     if (object == nullptr) return {};

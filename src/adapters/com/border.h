@@ -18,7 +18,7 @@ class Border {
     [[nodiscard]] Lifetime& lifetime() noexcept { return lifetime_; }
     [[nodiscard]] const Lifetime& lifetime() const noexcept { return lifetime_; }
 
-    /// Ours for COM; null for an empty reference.
+    /// Ours for COM, the same one as long as somebody there holds it; null for an empty reference.
     [[nodiscard]] Pointer<IDispatch> give(const automation::ObjectRef& object);
     /// `to` holds nothing yet, and is the caller's to clear.
     void give(const automation::Variant& value, VARIANT& to);
@@ -30,12 +30,17 @@ class Border {
     [[nodiscard]] automation::Variant take(const VARIANT& value);
 
     /// What stands for one of ours says so while it lives.
-    void enter(IDispatch* object, const automation::ObjectRef& ours) { ours_.emplace(object, ours); }
-    void leave(IDispatch* object) noexcept { ours_.erase(object); }
+    void enter(IDispatch* object, const automation::ObjectRef& ours);
+    void leave(IDispatch* object) noexcept;
+    /// One of ours stands for one of theirs, which is given in its place; until it is forgotten.
+    void equate(const automation::ObjectRef& ours, const Pointer<IDispatch>& theirs);
+    void forget(const automation::ObjectRef& ours) noexcept;
 
   private:
     // Another program in the same process has objects of the same make, which are not ours.
     std::unordered_map<IDispatch*, automation::ObjectRef> ours_;
+    std::unordered_map<const automation::Dispatch*, IDispatch*> given_;  ///< the last one that stands for it
+    std::unordered_map<const automation::Dispatch*, Pointer<IDispatch>> equals_;
     Lifetime lifetime_;
 };
 

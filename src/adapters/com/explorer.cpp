@@ -4,6 +4,7 @@
 #include <array>
 
 #include "automation/convert.h"
+#include "hosting/lent_services.h"
 
 namespace hx::com {
 
@@ -11,12 +12,13 @@ using automation::toInt32;
 using automation::toText;
 using automation::Variant;
 
-// What a property gives may change with every call, but not the object.
-Variant Explorer::read(std::string_view name, automation::Args args) const {
+// What the object gives may change with every call, but not the object.
+Variant Explorer::property(std::string_view name) const { return const_cast<Explorer*>(this)->read(name); }
+Variant Explorer::ask(std::string_view name, automation::Args args) const {
     return const_cast<Explorer*>(this)->get(name, args);
 }
 
-forms::WindowHandle Explorer::hostWindow() const { return toInt32(read("HostWindow")); }
+forms::WindowHandle Explorer::hostWindow() const { return toInt32(property("HostWindow")); }
 
 void Explorer::takeClipboardImage(std::string_view key) { get("TakeClipboardImage", std::array{Variant(key)}); }
 
@@ -29,10 +31,10 @@ void Explorer::addNode(const host::NewNode& node) {
 void Explorer::removeNode(std::string_view key) { get("RemoveNode", std::array{Variant(key)}); }
 
 std::vector<std::string> Explorer::childKeys(std::string_view key, std::int32_t levels) const {
-    const std::int32_t count = toInt32(read("ChildCount", std::array<Variant, 2>{key, levels}));
+    const std::int32_t count = toInt32(ask("ChildCount", std::array<Variant, 2>{key, levels}));
     std::vector<std::string> keys;
     for (std::int32_t i = 0; i < count; ++i) {
-        keys.push_back(toText(read("ChildKey", std::array<Variant, 3>{key, levels, i})));
+        keys.push_back(toText(ask("ChildKey", std::array<Variant, 3>{key, levels, i})));
     }
     return keys;
 }
@@ -42,15 +44,11 @@ void Explorer::setNodeProperty(std::string_view key, std::int32_t property, cons
 }
 
 host::NodeEvent Explorer::selectedNode() const {
-    return {toText(read("SelectedOwner")), toText(read("SelectedKey")), toText(read("SelectedCaption"))};
+    return {toText(property("SelectedOwner")), toText(property("SelectedKey")), toText(property("SelectedCaption"))};
 }
 
-void Explorer::activate() {
-    try {
-        get("Activate");
-    } catch (const automation::Error& error) {
-        if (error.number() != automation::errUnknownName) throw;
-    }
-}
+void Explorer::activate() { (void)hosting::readIfThere(*this, "Activate"); }
+
+automation::ObjectRef Explorer::services() { return hosting::objectIfThere(*this, "Services"); }
 
 }  // namespace hx::com

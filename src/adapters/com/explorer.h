@@ -7,7 +7,7 @@
 namespace hx::com {
 
 /// The project explorer that a host hands over, in whatever language it is written: an object with the members that
-/// addin::ExplorerObject has. A host may leave out Activate.
+/// addin::ExplorerObject has. A host may leave out Activate and Services.
 class Explorer : public ForeignObject, public host::ProjectExplorer {
   public:
     using ForeignObject::ForeignObject;
@@ -21,8 +21,12 @@ class Explorer : public ForeignObject, public host::ProjectExplorer {
     [[nodiscard]] host::NodeEvent selectedNode() const override;
     void activate() override;
 
+    /// What the host lends; empty when it lends nothing.
+    [[nodiscard]] automation::ObjectRef services();
+
   private:
-    [[nodiscard]] automation::Variant read(std::string_view name, automation::Args args = {}) const;
+    [[nodiscard]] automation::Variant property(std::string_view name) const;
+    [[nodiscard]] automation::Variant ask(std::string_view name, automation::Args args) const;
 };
 
 }  // namespace hx::com

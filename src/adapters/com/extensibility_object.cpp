@@ -2,9 +2,11 @@
 #include "adapters/com/extensibility_object.h"
 
 #include <oleauto.h>
+#include <vector>
 
 #include "adapters/com/failure.h"
 #include "adapters/com/text.h"
+#include "hosting/lent_services.h"
 
 namespace hx::com {
 
@@ -12,10 +14,34 @@ namespace {
 
 host::NodeEvent eventOf(BSTR owner, BSTR key, BSTR text) { return {textOf(owner), textOf(key), textOf(text)}; }
 
-// The studio's own object, or one of ours that comes back.
-std::shared_ptr<host::ProjectExplorer> explorerOf(IDispatch* object, Border& border) {
+std::shared_ptr<Explorer> explorerOf(IDispatch* object, Border& border) {
     return object == nullptr ? nullptr : std::make_shared<Explorer>(object, border);
 }
+
+/// The arguments of a call as the interface's types want them: scripts say null where there is no object and no text.
+class TypedArguments {
+  public:
+    TypedArguments(DISPID id, const DISPPARAMS& given)
+        : values_(given.rgvarg, given.rgvarg + given.cArgs), given_(given) {
+        for (UINT i = 0; i < given.cArgs; ++i) {
+            if (values_[i].vt != VT_NULL) continue;
+            values_[i] = {};
+            values_[i].vt = id == initialize && placeOf(i) >= firstObject ? VT_DISPATCH : VT_BSTR;
+        }
+        given_.rgvarg = values_.data();
+    }
+    [[nodiscard]] DISPPARAMS* parameters() noexcept { return &given_; }
+
+  private:
+    static constexpr DISPID initialize = 1, firstObject = 2;
+    // Named ones come first, the others from the last to the first.
+    [[nodiscard]] DISPID placeOf(UINT i) const {
+        return i < given_.cNamedArgs ? given_.rgdispidNamedArgs[i] : static_cast<DISPID>(given_.cArgs - 1 - i);
+    }
+
+    std::vector<VARIANT> values_;  // the caller's, not to be cleared
+    DISPPARAMS given_;
+};
 
 }  // namespace
 
@@ -28,12 +54,18 @@ Pointer<ITypeInfo> typesOf(const IID& iid, const std::wstring& file) {
 }
 
 ExtensibilityObject::ExtensibilityObject(std::shared_ptr<host::CHX4Extensibility> addIn, Pointer<ITypeInfo> types,
-                                         Border& border)
-    : addIn_(std::move(addIn)),
+                                         Border& border, Meet meet)
+    : meet_(std::move(meet)),
+      addIn_(std::move(addIn)),
       types_(std::move(types)),
       border_(border),
       byName_(Pointer<Object>::adopt(new Object(addIn_, border))) {
     border_.enter(this, addIn_);
+}
+
+ExtensibilityObject::~ExtensibilityObject() {
+    border_.leave(this);
+    border_.forget(shownExplorer_);
 }
 
 HRESULT ExtensibilityObject::GetTypeInfoCount(UINT* count) {
@@ -63,13 +95,17 @@ bool ExtensibilityObject::isInInterface(DISPID id) const noexcept {
 HRESULT ExtensibilityObject::Invoke(DISPID id, REFIID iid, LCID locale, WORD how, DISPPARAMS* parameters,
                                     VARIANT* result, EXCEPINFO* exception, UINT* wrongArgument) {
     if (iid != IID_NULL) return DISP_E_UNKNOWNINTERFACE;
+    if (parameters == nullptr) return E_INVALIDARG;
     if (!isInInterface(id)) {
         return byName_->Invoke(id, iid, locale, how, parameters, result, exception, wrongArgument);
     }
     // A script calls what it could also read.
     const auto called = static_cast<WORD>(how & ~DISPATCH_PROPERTYGET);
-    return DispInvoke(static_cast<::CHX4Extensibility*>(this), types_.get(), id, called, parameters, result, exception,
-                      wrongArgument);
+    return guarded([&] {
+        TypedArguments arguments(id, *parameters);
+        return DispInvoke(static_cast<::CHX4Extensibility*>(this), types_.get(), id, called, arguments.parameters(),
+                          result, exception, wrongArgument);
+    });
 }
 
 template <class Action>
@@ -86,7 +122,11 @@ HRESULT ExtensibilityObject::tell(const Action& action) noexcept {
 HRESULT ExtensibilityObject::Initialize(BSTR projectName, BSTR second, IDispatch* explorer, IDispatch* fourth) {
     return tell([&] {
         const auto before = std::exchange(explorer_, explorerOf(explorer, border_));  // in use until the next is known
+        if (meet_) meet_(explorer_.get());
         addIn_->Initialize(textOf(projectName), textOf(second), explorer_.get(), border_.take(fourth));
+        // Who asks for the explorer gets the studio's own object.
+        border_.forget(std::exchange(shownExplorer_, hosting::objectIfThere(*addIn_, "Explorer")));
+        if (shownExplorer_ && explorer_) border_.equate(shownExplorer_, explorer_->reference());
     });
 }
 
@@ -97,8 +137,14 @@ HRESULT ExtensibilityObject::StartupComplete() {
 HRESULT ExtensibilityObject::Terminate() {
     return tell([&] {
         addIn_->Terminate();
-        explorer_.reset();
+        letGoOfExplorer();
     });
+}
+
+void ExtensibilityObject::letGoOfExplorer() {
+    border_.forget(std::exchange(shownExplorer_, nullptr));
+    if (meet_) meet_(nullptr);
+    explorer_.reset();
 }
 
 HRESULT ExtensibilityObject::Deactivate() {

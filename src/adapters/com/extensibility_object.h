@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <functional>
+
 #include "adapters/com/explorer.h"
 #include "adapters/com/extensibility_interface.h"
 #include "adapters/com/object.h"
@@ -12,9 +14,13 @@ namespace hx::com {
 /// be named. What the interface does not have and the add-in has is reached by name alone. No error reaches the studio.
 class ExtensibilityObject : public Unknown<::CHX4Extensibility> {
   public:
+    /// Hears of the explorer before the add-in does, and of its end (null) after it.
+    using Meet = std::function<void(Explorer* explorer)>;
+
     /// `types` is what the type library says of the interface.
-    ExtensibilityObject(std::shared_ptr<host::CHX4Extensibility> addIn, Pointer<ITypeInfo> types, Border& border);
-    ~ExtensibilityObject() override { border_.leave(this); }
+    ExtensibilityObject(std::shared_ptr<host::CHX4Extensibility> addIn, Pointer<ITypeInfo> types, Border& border,
+                        Meet meet = {});
+    ~ExtensibilityObject() override;
 
     HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT* count) override;
     HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT number, LCID locale, ITypeInfo** info) override;
@@ -49,8 +55,11 @@ class ExtensibilityObject : public Unknown<::CHX4Extensibility> {
     template <class Action>
     HRESULT tell(const Action& action) noexcept;
     [[nodiscard]] bool isInInterface(DISPID id) const noexcept;
+    void letGoOfExplorer();
 
-    std::shared_ptr<host::ProjectExplorer> explorer_;  // which the add-in uses until it is told to end, or ends
+    std::shared_ptr<Explorer> explorer_;  // which the add-in uses until it is told to end, or ends
+    Meet meet_;
+    automation::ObjectRef shownExplorer_;  // what the add-in gives for it
     std::shared_ptr<host::CHX4Extensibility> addIn_;
     Pointer<ITypeInfo> types_;
     Border& border_;

@@ -37,9 +37,7 @@ struct Said {
     explicit Said(EXCEPINFO& given) : exception(given) {
         if (exception.pfnDeferredFillIn != nullptr) exception.pfnDeferredFillIn(&exception);
     }
-    ~Said() {
-        for (BSTR text : {exception.bstrSource, exception.bstrDescription, exception.bstrHelpFile}) SysFreeString(text);
-    }
+    ~Said() { clear(exception); }
     Said(const Said&) = delete;
     Said& operator=(const Said&) = delete;
 
@@ -82,6 +80,11 @@ HRESULT tellCaughtError(EXCEPINFO* exception, LCID locale) noexcept {
     } catch (...) {  // no memory for the text
         return E_OUTOFMEMORY;
     }
+}
+
+void clear(EXCEPINFO& exception) noexcept {
+    for (BSTR text : {exception.bstrSource, exception.bstrDescription, exception.bstrHelpFile}) SysFreeString(text);
+    exception = {};
 }
 
 void fail(HRESULT result, EXCEPINFO* exception) {

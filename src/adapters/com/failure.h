@@ -21,6 +21,9 @@ HRESULT guarded(const Action& action) noexcept {
 /// For a catch handler: the error as the caller is told it; the language is that of his locale.
 [[nodiscard]] HRESULT tellCaughtError(EXCEPINFO* exception, LCID locale) noexcept;
 
+/// Frees what a call has said of its failure.
+void clear(EXCEPINFO& exception) noexcept;
+
 /// Throws automation::Error for a call that has failed: with the number and the description that the object called
 /// gives, else with those of the system.
 [[noreturn]] void fail(HRESULT result, EXCEPINFO* exception = nullptr);

@@ -4,6 +4,7 @@
 #include <oleauto.h>
 #include <vector>
 
+#include "adapters/com/cleared.h"
 #include "adapters/com/failure.h"
 #include "adapters/com/text.h"
 
@@ -42,6 +43,15 @@ HRESULT invoke(IDispatch& object, DISPID id, int how, DISPPARAMS parameters, VAR
                          &wrong);
 }
 
+// "Function expected", as scripts say it of a property that is none.
+bool refusesToBeCalled(HRESULT code, EXCEPINFO& exception) {
+    constexpr auto functionExpected = static_cast<SCODE>(0x800A138A);
+    if (code != DISP_E_EXCEPTION) return code == DISP_E_MEMBERNOTFOUND || code == functionExpected;
+    if (exception.scode != functionExpected) return false;
+    clear(exception);
+    return true;
+}
+
 }  // namespace
 
 ForeignObject::ForeignObject(IDispatch* object, Border& border)
@@ -66,16 +76,27 @@ DISPID ForeignObject::idOf(std::string_view name) {
 
 automation::Variant ForeignObject::get(std::string_view name, automation::Args args) {
     Arguments arguments(border_, args);
-    VARIANT result{};
+    const DISPID id = idOf(name);
+    Cleared result;
     EXCEPINFO exception{};
-    const int how = DISPATCH_PROPERTYGET | DISPATCH_METHOD;
-    const HRESULT code = invoke(*object_.get(), idOf(name), how, arguments.parameters(), &result, exception);
+    const auto ask = [&](int how) {
+        return invoke(*object_.get(), id, how, arguments.parameters(), &result, exception);
+    };
+    HRESULT code = ask(DISPATCH_PROPERTYGET | DISPATCH_METHOD);
+    // Some objects take what they could also call for a call alone.
+    if (args.empty() && refusesToBeCalled(code, exception)) code = ask(DISPATCH_PROPERTYGET);
     if (FAILED(code)) fail(code, &exception);
-    struct Clear {
-        VARIANT& value;
-        ~Clear() { VariantClear(&value); }
-    } const clear{result};
-    return border_.take(result);
+    return border_.take(static_cast<const VARIANT&>(result));
+}
+
+automation::Variant ForeignObject::read(std::string_view name) {
+    Arguments none(border_, {});
+    Cleared result;
+    EXCEPINFO exception{};
+    const HRESULT code =
+        invoke(*object_.get(), idOf(name), DISPATCH_PROPERTYGET, none.parameters(), &result, exception);
+    if (FAILED(code)) fail(code, &exception);
+    return border_.take(static_cast<const VARIANT&>(result));
 }
 
 void ForeignObject::set(std::string_view name, const automation::Variant& value, automation::Args index) {

@@ -22,6 +22,8 @@ class ForeignObject : public automation::Dispatch {
     [[nodiscard]] const automation::MemberTable& members() const override;
     automation::Variant get(std::string_view name, automation::Args args = {}) override;
     void set(std::string_view name, const automation::Variant& value, automation::Args index = {}) override;
+    /// Reads what is known to be a property: some objects take get() for a call.
+    [[nodiscard]] automation::Variant read(std::string_view name);
 
   private:
     [[nodiscard]] DISPID idOf(std::string_view name);

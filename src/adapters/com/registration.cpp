@@ -2,10 +2,16 @@
 #include "adapters/com/registration.h"
 
 #include <objbase.h>
+#include <oleauto.h>
 #include <vector>
 
 #include "adapters/com/failure.h"
+#include "adapters/com/pointer.h"
 #include "adapters/com/text.h"
+
+// The compiler's headers lack these.
+STDAPI RegisterTypeLibForUser(ITypeLib* library, OLECHAR* file, OLECHAR* helpFolder);
+STDAPI UnRegisterTypeLibForUser(REFGUID id, WORD major, WORD minor, LCID locale, SYSKIND system);
 
 namespace hx::com {
 
@@ -50,6 +56,12 @@ void remove(HKEY root, const std::wstring& key) {
     if (status != ERROR_FILE_NOT_FOUND) requireDone(status);
 }
 
+Pointer<ITypeLib> typesIn(const std::wstring& file) {
+    Pointer<ITypeLib> library;
+    require(LoadTypeLibEx(file.c_str(), REGKIND_NONE, reinterpret_cast<ITypeLib**>(library.out())));
+    return library;
+}
+
 }  // namespace
 
 void registerClass(const ClassEntry& entry, Users users) {
@@ -59,6 +71,29 @@ void registerClass(const ClassEntry& entry, Users users) {
 void unregisterClass(const ClassEntry& entry, Users users) {
     remove(rootOf(users), classKey(entry));
     remove(rootOf(users), programKey(entry));
+}
+
+void registerTypes(const std::wstring& file, Users users) {
+    const Pointer<ITypeLib> library = typesIn(file);
+    std::wstring name = file;
+    require(users == Users::all ? RegisterTypeLib(library.get(), name.data(), nullptr)
+                                : RegisterTypeLibForUser(library.get(), name.data(), nullptr));
+}
+
+void unregisterTypes(const std::wstring& file, Users users) {
+    const Pointer<ITypeLib> library = typesIn(file);
+    TLIBATTR* attributes = nullptr;
+    require(library->GetLibAttr(&attributes));
+    const TLIBATTR types = *attributes;
+    library->ReleaseTLibAttr(attributes);
+    BSTR path = nullptr;
+    const bool isThere =
+        SUCCEEDED(QueryPathOfRegTypeLib(types.guid, types.wMajorVerNum, types.wMinorVerNum, types.lcid, &path));
+    SysFreeString(path);
+    if (!isThere) return;
+    const auto unregister = users == Users::all ? UnRegisterTypeLib : UnRegisterTypeLibForUser;
+    const HRESULT result = unregister(types.guid, types.wMajorVerNum, types.wMinorVerNum, types.lcid, types.syskind);
+    if (result != TYPE_E_REGISTRYACCESS) require(result);  // what it says where the others have it
 }
 
 }  // namespace hx::com

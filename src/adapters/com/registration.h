@@ -22,4 +22,8 @@ void registerClass(const ClassEntry& entry, Users users);
 /// Removes them with all that is below; what is not there is no error.
 void unregisterClass(const ClassEntry& entry, Users users);
 
+/// The same for the first type library in a file, with the interfaces that it describes.
+void registerTypes(const std::wstring& file, Users users);
+void unregisterTypes(const std::wstring& file, Users users);
+
 }  // namespace hx::com

@@ -10,20 +10,27 @@ namespace hx::com {
 
 namespace {
 
-std::string fileOf(HMODULE library) {
-    std::wstring name(MAX_PATH, L'\0');
-    // A name that does not fit is cut.
-    for (;;) {
-        const DWORD size = GetModuleFileNameW(library, name.data(), static_cast<DWORD>(name.size()));
-        if (size == 0) fail(HRESULT_FROM_WIN32(GetLastError()));
-        if (size < name.size()) return toUtf8({name.data(), size});
-        name.resize(name.size() * 2);
-    }
-}
-
 HRESULT first(HRESULT one, HRESULT other) { return FAILED(one) ? one : other; }
 
 }  // namespace
+
+HMODULE moduleOf(const void* address) noexcept {
+    constexpr DWORD how = GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT;
+    HMODULE module = nullptr;
+    GetModuleHandleExW(how, static_cast<LPCWSTR>(address), &module);
+    return module;
+}
+
+std::wstring fileOf(HMODULE module) {
+    std::wstring name(MAX_PATH, L'\0');
+    // A name that does not fit is cut.
+    for (;;) {
+        const DWORD size = GetModuleFileNameW(module, name.data(), static_cast<DWORD>(name.size()));
+        if (size == 0) fail(HRESULT_FROM_WIN32(GetLastError()));
+        if (size < name.size()) return name.substr(0, size);
+        name.resize(name.size() * 2);
+    }
+}
 
 HRESULT Server::getClassObject(REFCLSID id, REFIID iid, void** object) noexcept {
     if (object == nullptr) return E_POINTER;
@@ -38,13 +45,15 @@ HRESULT Server::getClassObject(REFCLSID id, REFIID iid, void** object) noexcept 
 
 std::vector<ClassEntry> Server::entries() const {
     std::vector<ClassEntry> entries;
-    for (const Class& one : classes_) entries.push_back({one.id, one.programId, one.description, fileOf(library_)});
+    for (const Class& one : classes_)
+        entries.push_back({one.id, one.programId, one.description, toUtf8(fileOf(library_))});
     return entries;
 }
 
 HRESULT Server::registerFor(Users users) noexcept {
     const HRESULT result = guarded([&] {
         for (const ClassEntry& entry : entries()) registerClass(entry, users);
+        if (types_ == Types::own) registerTypes(fileOf(library_), users);
         return S_OK;
     });
     if (FAILED(result)) (void)unregisterFor(users);  // all or nothing
@@ -54,6 +63,7 @@ HRESULT Server::registerFor(Users users) noexcept {
 HRESULT Server::unregisterFor(Users users) noexcept {
     return guarded([&] {
         for (const ClassEntry& entry : entries()) unregisterClass(entry, users);
+        if (types_ == Types::own) unregisterTypes(fileOf(library_), users);
         return S_OK;
     });
 }

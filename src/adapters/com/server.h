@@ -9,6 +9,14 @@
 
 namespace hx::com {
 
+/// The module that an address lies in.
+[[nodiscard]] HMODULE moduleOf(const void* address) noexcept;
+/// The file that a module was loaded from. Throws automation::Error.
+[[nodiscard]] std::wstring fileOf(HMODULE module);
+
+/// Whether a library describes its interfaces: its first type library is registered with its classes.
+enum class Types { none, own };
+
 /// What a library that is a COM server answers to the functions that it exports; each does what the function of its
 /// name says, and throws nothing. The library owns one server and never ends it.
 class Server {
@@ -21,7 +29,8 @@ class Server {
     };
 
     /// `library` is the module that the classes live in.
-    Server(HMODULE library, std::vector<Class> classes) : library_(library), classes_(std::move(classes)) {}
+    Server(HMODULE library, std::vector<Class> classes, Types types = Types::none)
+        : library_(library), classes_(std::move(classes)), types_(types) {}
 
     [[nodiscard]] Border& border() noexcept { return border_; }
 
@@ -40,6 +49,7 @@ class Server {
 
     HMODULE library_;
     std::vector<Class> classes_;
+    Types types_;
     Border border_;
 };
 

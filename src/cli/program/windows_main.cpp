@@ -7,16 +7,9 @@
 #include <windows.h>
 
 #include "cli/command_line.h"
+#include "hosting/windows_text.h"
 
 namespace {
-
-std::string utf8(const wchar_t* text) {
-    const int size = WideCharToMultiByte(CP_UTF8, 0, text, -1, nullptr, 0, nullptr, nullptr);
-    std::string bytes(static_cast<std::size_t>(size), '\0');
-    WideCharToMultiByte(CP_UTF8, 0, text, -1, bytes.data(), size, nullptr, nullptr);
-    bytes.pop_back();  // the zero at the end
-    return bytes;
-}
 
 /// While it lives, what is written to the console is UTF-8.
 class Utf8Console {
@@ -36,7 +29,7 @@ int wmain(int argc, wchar_t** argv) {
     const Utf8Console console;
     for (const int stream : {0, 1, 2}) _setmode(stream, _O_BINARY);  // files are the same on every system
     std::vector<std::string> texts;
-    for (int i = 0; i < argc; ++i) texts.push_back(utf8(argv[i]));
+    for (int i = 0; i < argc; ++i) texts.push_back(hx::hosting::toUtf8(argv[i]));
     std::vector<const char*> arguments;
     for (const std::string& text : texts) arguments.push_back(text.c_str());
     const hx::cli::Output output{std::cout, std::cerr, _isatty(2) != 0};

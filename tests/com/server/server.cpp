@@ -9,21 +9,17 @@ namespace {
 
 using hx::com::Server;
 
-HMODULE thisLibrary() {
-    constexpr DWORD how = GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT;
-    HMODULE library = nullptr;
-    GetModuleHandleExW(how, reinterpret_cast<LPCWSTR>(&thisLibrary), &library);
-    return library;
-}
+constexpr char own = 0;  // a place in this library
 
 Server& server() {
-    static Server only(thisLibrary(), {{{0x0a5d1f3e, 0x7c44, 0x4b0b, {0x8e, 0x51, 0x2d, 0x96, 0x13, 0xc7, 0x40, 0xaa}},
-                                        "HXTest.Plant",
-                                        "Plant of the tests",
-                                        [] {
-                                            return hx::com::Pointer<IUnknown>::adopt(
-                                                new hx::com::Object(std::make_shared<hx::com::Plant>(), only.border()));
-                                        }}});
+    static Server only(hx::com::moduleOf(&own),
+                       {{{0x0a5d1f3e, 0x7c44, 0x4b0b, {0x8e, 0x51, 0x2d, 0x96, 0x13, 0xc7, 0x40, 0xaa}},
+                         "HXTest.Plant",
+                         "Plant of the tests",
+                         [] {
+                             return hx::com::Pointer<IUnknown>::adopt(
+                                 new hx::com::Object(std::make_shared<hx::com::Plant>(), only.border()));
+                         }}});
     return only;
 }
 

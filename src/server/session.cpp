@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: MIT
+#include "server/session.h"
+
+#include <array>
+#include <windows.h>
+
+#include "hosting/windows_text.h"
+
+namespace hx::server {
+
+namespace {
+
+constexpr sqlite::LockWait::Milliseconds longestLockWait{500};  // a window that waits does nothing else
+
+automation::NumberFormat userFormat() {
+    std::array<wchar_t, 8> point{};
+    const int size =
+        GetLocaleInfoEx(LOCALE_NAME_USER_DEFAULT, LOCALE_SDECIMAL, point.data(), static_cast<int>(point.size()));
+    return {size > 1 ? hosting::toUtf8(point.data()) : "."};
+}
+
+}  // namespace
+
+Session::Session(View& view, host::Components& components, const std::string& libraryFile)
+    : view_(view),
+      registry_(lent_, systemRegistry_),
+      iniFile_(lent_, iniTextFile_),
+      items_(lent_, view.items()),
+      folders_(lent_, view.folders()),
+      provider_(
+          [this] { return sqlite::OpenOptions{.language = view_.screen().language(), .lockWait = longestLockWait}; }),
+      services_{.screen = view.screen(),
+                .database = provider_,
+                .registry = registry_,
+                .iniFile = iniFile_,
+                .clipboard = view.clipboard(),
+                .help = view.help(),
+                .windows = view.windows(),
+                .components = components,
+                .items = items_,
+                .folders = folders_,
+                .paths = host::PathStyle('\\'),
+                .numberFormat = userFormat(),
+                .moduleFile = libraryFile,
+                .libraryName = "HXRecipeEditor.dll"} {}
+
+void Session::meet(com::Explorer* explorer) {
+    lent_ = {};
+    if (explorer == nullptr) return;
+    try {
+        lent_ = hosting::LentServices::of(explorer->services());
+    } catch (...) {  // the own services serve
+        const automation::Error error = automation::caughtError();
+        view_.screen().messageBox(error.message(view_.screen().language()), forms::message::critical,
+                                  "Connect: Initialize");
+    }
+}
+
+}  // namespace hx::server

@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+
+#include "adapters/com/explorer.h"
+#include "adapters/sqlite/provider.h"
+#include "adapters/windows/system_registry.h"
+#include "host/services.h"
+#include "hosting/ini_text_file.h"
+#include "hosting/lent_services.h"
+#include "server/view.h"
+
+namespace hx::server {
+
+/// All that one add-in is lent: what its host lends, and for the rest what Windows has. Outlives the add-in.
+class Session {
+  public:
+    /// View and components are lent; `libraryFile` is the file that the add-in was loaded from.
+    Session(View& view, host::Components& components, const std::string& libraryFile);
+
+    [[nodiscard]] const host::Services& services() const noexcept { return services_; }
+    /// From now on this host lends; null for none.
+    void meet(com::Explorer* explorer);
+
+  private:
+    View& view_;
+    hosting::LentServices lent_;
+    windows::SystemRegistry systemRegistry_;
+    hosting::IniTextFile iniTextFile_;
+    hosting::LentRegistry registry_;
+    hosting::LentIniFile iniFile_;
+    hosting::LentItemSelection items_;
+    hosting::LentPathSelection folders_;
+    sqlite::Provider provider_;
+    host::Services services_;
+};
+
+}  // namespace hx::server

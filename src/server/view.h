@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "forms/screen.h"
+#include "host/system_services.h"
+
+namespace hx::server {
+
+/// What shows the editor in a host, and takes what the user does. One serves all add-ins of the process, in one thread.
+class View {
+  public:
+    virtual ~View() = default;
+    [[nodiscard]] virtual forms::Screen& screen() = 0;
+    [[nodiscard]] virtual host::WindowOperations& windows() = 0;
+    [[nodiscard]] virtual host::Clipboard& clipboard() = 0;
+    [[nodiscard]] virtual host::HelpViewer& help() = 0;
+    /// For hosts that lend no choices of their own.
+    [[nodiscard]] virtual host::ItemSelection& items() = 0;
+    [[nodiscard]] virtual host::PathSelection& folders() = 0;
+};
+
+}  // namespace hx::server
