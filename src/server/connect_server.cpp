@@ -22,17 +22,13 @@ std::vector<com::Server::Class> ConnectServer::withConnect(std::vector<com::Serv
     return others;
 }
 
-View& ConnectServer::view() {
-    if (!view_) view_ = makeView_();
-    return *view_;
-}
-
 com::Pointer<IUnknown> ConnectServer::makeConnect() {
     if (thread_ == 0 || server_.canUnloadNow() == S_OK) thread_ = GetCurrentThreadId();
     if (thread_ != GetCurrentThreadId()) com::fail(RPC_E_WRONG_THREAD);
-    const auto session = std::make_shared<Session>(view(), components_, com::toUtf8(file_));
+    const auto session = std::make_shared<Session>(makeView_(), components_, com::toUtf8(file_));
     const std::shared_ptr<addin::Connect> addIn(new addin::Connect(session->services()),
                                                 [session](const addin::Connect* ended) { delete ended; });
+    session->view().setProject([raw = addIn.get()] { return raw->ProjectPath(); });
     const auto meet = [session](com::Explorer* explorer) { session->meet(explorer); };
     return com::Pointer<IUnknown>::adopt(new com::ExtensibilityObject(
         addIn, com::typesOf(__uuidof(::CHX4Extensibility), file_), server_.border(), meet));

@@ -14,12 +14,11 @@ namespace hx::server {
 /// The server of the class HXRecipeEditor.Connect. Its objects live in one thread at a time: that of the first of them.
 class ConnectServer {
   public:
-    /// `makeView` is called with the first add-in; `others` are classes beside Connect.
+    /// `makeView` is called for each add-in; `others` are classes beside Connect.
     using MakeView = std::function<std::unique_ptr<View>()>;
     ConnectServer(HMODULE library, MakeView makeView, std::vector<com::Server::Class> others = {});
 
     [[nodiscard]] com::Server& com() noexcept { return server_; }
-    [[nodiscard]] View& view();
 
   private:
     [[nodiscard]] std::vector<com::Server::Class> withConnect(std::vector<com::Server::Class> others);
@@ -29,7 +28,6 @@ class ConnectServer {
     MakeView makeView_;
     com::Server server_;
     com::Components components_;
-    std::unique_ptr<View> view_;
     DWORD thread_ = 0;
 };
 

@@ -21,21 +21,21 @@ automation::NumberFormat userFormat() {
 
 }  // namespace
 
-Session::Session(View& view, host::Components& components, const std::string& libraryFile)
-    : view_(view),
+Session::Session(std::unique_ptr<View> view, host::Components& components, const std::string& libraryFile)
+    : view_(std::move(view)),
       registry_(lent_, systemRegistry_),
       iniFile_(lent_, iniTextFile_),
-      items_(lent_, view.items()),
-      folders_(lent_, view.folders()),
+      items_(lent_, view_->items()),
+      folders_(lent_, view_->folders()),
       provider_(
-          [this] { return sqlite::OpenOptions{.language = view_.screen().language(), .lockWait = longestLockWait}; }),
-      services_{.screen = view.screen(),
+          [this] { return sqlite::OpenOptions{.language = view_->screen().language(), .lockWait = longestLockWait}; }),
+      services_{.screen = view_->screen(),
                 .database = provider_,
                 .registry = registry_,
                 .iniFile = iniFile_,
-                .clipboard = view.clipboard(),
-                .help = view.help(),
-                .windows = view.windows(),
+                .clipboard = view_->clipboard(),
+                .help = view_->help(),
+                .windows = view_->windows(),
                 .components = components,
                 .items = items_,
                 .folders = folders_,
@@ -51,8 +51,8 @@ void Session::meet(com::Explorer* explorer) {
         lent_ = hosting::LentServices::of(explorer->services());
     } catch (...) {  // the own services serve
         const automation::Error error = automation::caughtError();
-        view_.screen().messageBox(error.message(view_.screen().language()), forms::message::critical,
-                                  "Connect: Initialize");
+        view_->screen().messageBox(error.message(view_->screen().language()), forms::message::critical,
+                                   "Connect: Initialize");
     }
 }
 

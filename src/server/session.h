@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <memory>
 #include <string>
 
 #include "adapters/com/explorer.h"
@@ -16,15 +17,16 @@ namespace hx::server {
 /// All that one add-in is lent: what its host lends, and for the rest what Windows has. Outlives the add-in.
 class Session {
   public:
-    /// View and components are lent; `libraryFile` is the file that the add-in was loaded from.
-    Session(View& view, host::Components& components, const std::string& libraryFile);
+    /// The components are lent; `libraryFile` is the file that the add-in was loaded from.
+    Session(std::unique_ptr<View> view, host::Components& components, const std::string& libraryFile);
 
+    [[nodiscard]] View& view() noexcept { return *view_; }
     [[nodiscard]] const host::Services& services() const noexcept { return services_; }
     /// From now on this host lends; null for none.
     void meet(com::Explorer* explorer);
 
   private:
-    View& view_;
+    std::unique_ptr<View> view_;
     hosting::LentServices lent_;
     windows::SystemRegistry systemRegistry_;
     hosting::IniTextFile iniTextFile_;

@@ -12,7 +12,7 @@ namespace hx::com {
 /// A thread in which COM objects live, as that of a window, and nothing held over the border at the end.
 class ApartmentTest : public testing::Test {
   protected:
-    ApartmentTest() { EXPECT_EQ(CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED), S_OK); }
+    ApartmentTest() { EXPECT_TRUE(SUCCEEDED(CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED))); }
     ~ApartmentTest() override {
         CoFreeUnusedLibrariesEx(0, 0);
         CoUninitialize();

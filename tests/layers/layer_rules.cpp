@@ -31,6 +31,7 @@ constexpr std::size_t hostingLevel = 10;
 constexpr std::size_t adapterLevel = 11;
 constexpr std::size_t macroLevel = 12;
 constexpr std::size_t programLevel = 13;
+constexpr std::size_t serverLevel = 14;
 
 constexpr auto layers = std::to_array<Layer>({
     {"automation", Ground::StandardLibrary, 0},
@@ -54,7 +55,8 @@ constexpr auto layers = std::to_array<Layer>({
     {"report/", Ground::Anything, macroLevel},
     {"studio", Ground::Anything, programLevel},
     {"cli", Ground::Anything, programLevel, "adapters/qt"},
-    {"server", Ground::Anything, programLevel},
+    {"server", Ground::Anything, serverLevel, "adapters/qt"},
+    {"server/", Ground::Anything, serverLevel},
 });
 
 /// A room of the adapter for the toolkit sees those of the levels below its own, and itself.
@@ -263,7 +265,8 @@ bool speaksToTheSystem(std::string_view path) {
 }  // namespace
 
 std::vector<Finding> textsAsHtml(std::string_view path, std::string_view text) {
-    static constexpr std::array<std::string_view, 3> folders = {"adapters/qt/", "studio/", "report/preview/"};
+    static constexpr std::array<std::string_view, 4> folders = {"adapters/qt/", "studio/", "report/preview/",
+                                                                "server/toolkit/"};
     if (!liesIn(path, folders) || path == "adapters/qt/controls/plain_label.h") return {};
     std::vector<Finding> findings;
     for (const std::size_t place : placesOf("QLabel", text)) {

@@ -10,12 +10,19 @@
 
 namespace hx::server {
 
+/// The user of all views.
+struct ScriptedUser {
+    forms::Script script;
+    forms::Record record;
+};
+
 /// A view without anything to see: a script answers.
 class ScriptedView : public View {
   public:
-    forms::Script script;
-    forms::Record record;
+    /// The user is lent.
+    explicit ScriptedView(ScriptedUser& user) : user_(user) {}
 
+    void setProject(std::function<std::string()>) override {}
     [[nodiscard]] forms::Screen& screen() override { return screen_; }
     [[nodiscard]] host::WindowOperations& windows() override { return windows_; }
     [[nodiscard]] host::Clipboard& clipboard() override { return clipboard_; }
@@ -24,12 +31,13 @@ class ScriptedView : public View {
     [[nodiscard]] host::PathSelection& folders() override { return folders_; }
 
   private:
+    ScriptedUser& user_;
     windows::NativeWindows windows_;
-    BareScreen screen_{script, record};
+    BareScreen screen_{user_.script, user_.record};
     headless::Clipboard clipboard_;
-    headless::HelpViewer help_{record};
-    headless::ItemSelection items_{script, record};
-    headless::PathSelection folders_{script, record};
+    headless::HelpViewer help_{user_.record};
+    headless::ItemSelection items_{user_.script, user_.record};
+    headless::PathSelection folders_{user_.script, user_.record};
 };
 
 }  // namespace hx::server

@@ -13,25 +13,25 @@ namespace hx::server {
 using automation::Variant;
 
 void User::setHost(const automation::ObjectRef& host) {
-    view_.script = {};
+    user_.script = {};
     if (!host) return;
     for (const char* form : {"FRecipe", "FSubRecipe", "FMultiSelectItems", "FConfigEditor"}) {
-        view_.script.onModal[form] = [host](forms::Form& shown) {
+        user_.script.onModal[form] = [host](forms::Form& shown) {
             host->get("Dialog", std::array{Variant(shown.share())});
         };
     }
-    view_.script.onMessage = [host](const forms::ShownMessage& box) {
+    user_.script.onMessage = [host](const forms::ShownMessage& box) {
         const Variant answer = host->get("Message", std::array<Variant, 3>{box.text, box.title, box.style});
         return static_cast<forms::message::Answer>(automation::toInt32(answer));
     };
-    view_.script.onPopUp = [host](const forms::Band& band) {
+    user_.script.onPopUp = [host](const forms::Band& band) {
         return automation::toText(host->get("PopUp", std::array{Variant(band.name())}));
     };
 }
 
 User::~User() {
     if (hostWindow_ != nullptr) DestroyWindow(hostWindow_);
-    view_.script = {};
+    user_.script = {};
 }
 
 std::int32_t User::hostWindow() {
@@ -48,13 +48,13 @@ std::string User::embedded() const {
 
 std::string User::messages() {
     std::string text;
-    for (const auto& box : std::exchange(view_.record.messages, {})) text += box.title + "|" + box.text + "\n";
+    for (const auto& box : std::exchange(user_.record.messages, {})) text += box.title + "|" + box.text + "\n";
     return text;
 }
 
 std::string User::help() {
     std::string text;
-    for (const auto& call : std::exchange(view_.record.help, {}))
+    for (const auto& call : std::exchange(user_.record.help, {}))
         text += std::to_string(call.context) + " " + call.file + "\n";
     return text;
 }

@@ -9,7 +9,7 @@ namespace hx::server {
 /// What a host's test says of the user, as an object of the library under test: HXTest.User.
 class User : public automation::Dispatch {
   public:
-    explicit User(ScriptedView& view) : view_(view) {}
+    explicit User(ScriptedUser& user) : user_(user) {}
     ~User() override;
 
     /// Whom the user asks: an object with the methods Dialog(form), Message(text, title, style) -> answer,
@@ -27,7 +27,7 @@ class User : public automation::Dispatch {
     [[nodiscard]] const automation::MemberTable& members() const override;
 
   private:
-    ScriptedView& view_;
+    ScriptedUser& user_;
     HWND hostWindow_ = nullptr;
 };
 
