@@ -31,7 +31,7 @@ constexpr std::size_t hostingLevel = 10;
 constexpr std::size_t adapterLevel = 11;
 constexpr std::size_t macroLevel = 12;
 constexpr std::size_t programLevel = 13;
-constexpr std::size_t serverLevel = 14;
+constexpr std::size_t serverViewLevel = 14;
 
 constexpr auto layers = std::to_array<Layer>({
     {"automation", Ground::StandardLibrary, 0},
@@ -55,8 +55,8 @@ constexpr auto layers = std::to_array<Layer>({
     {"report/", Ground::Anything, macroLevel},
     {"studio", Ground::Anything, programLevel},
     {"cli", Ground::Anything, programLevel, "adapters/qt"},
-    {"server", Ground::Anything, serverLevel, "adapters/qt"},
-    {"server/", Ground::Anything, serverLevel},
+    {"server", Ground::Anything, programLevel, "adapters/qt"},
+    {"server/", Ground::Anything, serverViewLevel},
 });
 
 /// A room of the adapter for the toolkit sees those of the levels below its own, and itself.
@@ -178,14 +178,15 @@ static_assert(std::ranges::is_sorted(standardHeaders));
 
 bool isStandardHeader(std::string_view name) { return std::ranges::binary_search(standardHeaders, name); }
 
-/// The folder below src/ that a path lies in: one name, or two for an adapter and for what draws the report. Empty for
-/// a bare file name.
+/// The folder below src/ that a path lies in: one name, or two for an adapter and for what draws the report or the
+/// server's editor. Empty for a bare file name.
 std::string_view folderOf(std::string_view path) {
     const auto first = path.find('/');
     if (first == std::string_view::npos) return {};
     const auto name = path.substr(0, first);
     const auto second = path.find('/', first + 1);
-    if (name == "adapters" || (name == "report" && second != std::string_view::npos)) return path.substr(0, second);
+    const bool hasRooms = name == "report" || name == "server";
+    if (name == "adapters" || (hasRooms && second != std::string_view::npos)) return path.substr(0, second);
     return name;
 }
 

@@ -33,6 +33,14 @@ TEST(LayerRules, TheEditorsFoldersStandOnTheStandardLibraryAlone) {
                             "forms/grid.cpp:4: includes string.h: forms stands on the standard library alone"));
 }
 
+TEST(LayerRules, OnlyTheServersViewKnowsTheToolkit) {
+    EXPECT_THAT(
+        wrongIncludes("server/toolkit/view.cpp", "#include \"adapters/qt/text.h\"\n#include \"server/view.h\"\n"),
+        IsEmpty());
+    EXPECT_THAT(wrongIncludes("server/session.cpp", "#include \"adapters/qt/text.h\"\n"),
+                ElementsAre("server/session.cpp:1: includes adapters/qt/text.h: server may not include adapters/qt"));
+}
+
 TEST(LayerRules, OnlyTheFilesOfTheOperatingSystemIncludeItsHeaders) {
     EXPECT_THAT(wrongIncludes("hosting/posix_disk.cpp", "#include <fcntl.h>\n#include \"hosting/disk.h\"\n"),
                 IsEmpty());
