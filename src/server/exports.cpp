@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // What COM asks a library that is a server.
-#include "server/connect_server.h"
+#include "server/exports.h"
 
 namespace {
 

@@ -32,6 +32,7 @@ constexpr std::size_t adapterLevel = 11;
 constexpr std::size_t macroLevel = 12;
 constexpr std::size_t programLevel = 13;
 constexpr std::size_t serverViewLevel = 14;
+constexpr std::size_t serverLibraryLevel = 15;
 
 constexpr auto layers = std::to_array<Layer>({
     {"automation", Ground::StandardLibrary, 0},
@@ -56,7 +57,8 @@ constexpr auto layers = std::to_array<Layer>({
     {"studio", Ground::Anything, programLevel},
     {"cli", Ground::Anything, programLevel, "adapters/qt"},
     {"server", Ground::Anything, programLevel, "adapters/qt"},
-    {"server/", Ground::Anything, serverViewLevel},
+    {"server/toolkit", Ground::Anything, serverViewLevel},
+    {"server/libraries", Ground::Anything, serverLibraryLevel},
 });
 
 /// A room of the adapter for the toolkit sees those of the levels below its own, and itself.

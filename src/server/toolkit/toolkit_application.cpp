@@ -9,14 +9,15 @@
 namespace hx::server {
 
 void ToolkitApplication::require(const QString& libraryFolder, automation::Language language) {
-    if (instance() != nullptr) return;
-    addLibraryPath(libraryFolder);
     static int count = 1;
-    static char name[] = "HXRecipeEditor", *arguments[] = {name, nullptr};
-    new ToolkitApplication(count, arguments, language);  // threads of the toolkit's may outlive every object here
+    // The toolkit knows what this library has brought along, pictures and texts, and does not forget them.
     HMODULE library = nullptr;
     GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_PIN,
                        reinterpret_cast<LPCWSTR>(&count), &library);
+    if (instance() != nullptr) return;
+    addLibraryPath(libraryFolder);
+    static char name[] = "HXRecipeEditor", *arguments[] = {name, nullptr};
+    new ToolkitApplication(count, arguments, language);  // threads of the toolkit's may outlive every object here
 }
 
 ToolkitApplication::ToolkitApplication(int& argc, char** argv, automation::Language language)

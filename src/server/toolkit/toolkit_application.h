@@ -13,7 +13,7 @@ namespace hx::server {
 class ToolkitApplication : public QApplication {
   public:
     /// The one of this process; made with the first call unless the process has one. It stays to the end of the
-    /// process, and keeps this library loaded. The toolkit's plug-ins lie beside the library.
+    /// process, and so does this library. The toolkit's plug-ins lie beside the library.
     static void require(const QString& libraryFolder, automation::Language language);
 
     /// Lets the message loop delete what waits for that, also when nothing else happens.

@@ -2,6 +2,7 @@
 // The library under test: the server with a view whose user is the host's test.
 #include "adapters/com/object.h"
 #include "server/connect_server.h"
+#include "server/exports.h"
 #include "user.h"
 
 namespace hx::server {

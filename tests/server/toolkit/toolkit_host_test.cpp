@@ -1,16 +1,19 @@
 // SPDX-License-Identifier: MIT
+#include <array>
+
+#include "adapters/com/components.h"
 #include "adapters/sqlite/project_check.h"
 #include "server/plain_host.h"
 
 namespace hx::server {
 namespace {
 
-std::wstring editorLibrary() { return std::filesystem::absolute(HX_EDITOR_LIBRARY).make_preferred().wstring(); }
+std::wstring libraryAt(const char* path) { return std::filesystem::absolute(path).make_preferred().wstring(); }
 
 /// The host's own message loop serves the toolkit.
 class ToolkitHostTest : public PlainHost {
   protected:
-    ToolkitHostTest() : PlainHost(editorLibrary()) { ShowWindow(window, SW_SHOWNA); }
+    ToolkitHostTest() : PlainHost(libraryAt(HX_EDITOR_LIBRARY)) { ShowWindow(window, SW_SHOWNA); }
     ~ToolkitHostTest() override { serve(); }
 
     // What is there to be done by now.
@@ -78,6 +81,60 @@ TEST_F(ToolkitHostTest, TypesIntoTheGrid) {
     press(VK_RETURN);
     EXPECT_EQ(addIn->NodeClick(none, root, none), S_OK);
     EXPECT_EQ(variable(), "tank");
+    EXPECT_EQ(addIn->Terminate(), S_OK);
+}
+
+/// A user who closes the next dialog that opens, and sees whether the host takes input meanwhile.
+class Closer {
+  public:
+    explicit Closer(HWND host) {
+        waiting = host;
+        timer_ = SetTimer(nullptr, 0, 10, look);
+    }
+    ~Closer() { KillTimer(nullptr, timer_); }
+    Closer(const Closer&) = delete;
+    Closer& operator=(const Closer&) = delete;
+    [[nodiscard]] static bool hasClosed() { return waiting == nullptr; }
+    static inline bool isHostEnabled = false;
+
+  private:
+    static void CALLBACK look(HWND, UINT, UINT_PTR, DWORD) { EnumThreadWindows(GetCurrentThreadId(), close, 0); }
+    static BOOL CALLBACK close(HWND window, LPARAM) {
+        const bool isDialog = IsWindowVisible(window) && GetWindow(window, GW_OWNER) != nullptr;
+        if (waiting == nullptr || window == waiting || !isDialog) return TRUE;
+        isHostEnabled = IsWindowEnabled(waiting);
+        waiting = nullptr;
+        PostMessageW(window, WM_CLOSE, 0, 0);
+        return FALSE;
+    }
+    static inline HWND waiting = nullptr;  // for the dialog over this host
+    UINT_PTR timer_ = 0;
+};
+
+TEST_F(ToolkitHostTest, WaitsWhileADialogIsOpen) {
+    execute("INSERT INTO TrcpRecipe (ID, Name) VALUES (1, 'Cola')");
+    const AddIn addIn = open();
+    addIn->NodeClick(none, Text("RCPR1"), none);
+    const Closer closer(window);
+    constexpr short f9 = 120;
+    EXPECT_EQ(addIn->NodeKeyDown(none, Text("RCPR1"), none, f9, 0), S_OK);
+    EXPECT_TRUE(Closer::hasClosed());
+    EXPECT_FALSE(Closer::isHostEnabled);
+    EXPECT_TRUE(IsWindowEnabled(window));
+    EXPECT_EQ(addIn->Terminate(), S_OK);
+}
+
+TEST_F(ToolkitHostTest, ShowsTheReportThatIsASibling) {
+    execute("INSERT INTO TrcpRecipe (ID, Name) VALUES (1, 'Cola')");
+    const com::Registered report(libraryAt(HX_REPORT_LIBRARY));
+    const AddIn addIn = open();
+    {
+        const auto connect = com::Components(border).create("HXProjectReport.Connect");
+        const Closer closer(window);
+        connect->get("Show", std::array<automation::Variant, 3>{"HXRecipe", project, windows::toHandle(embedded())});
+        EXPECT_TRUE(Closer::hasClosed());
+    }
+    EXPECT_EQ(report.library.call("DllCanUnloadNow"), S_OK);
     EXPECT_EQ(addIn->Terminate(), S_OK);
 }
 
