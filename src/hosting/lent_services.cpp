@@ -2,6 +2,7 @@
 #include "hosting/lent_services.h"
 
 #include <array>
+#include <optional>
 
 #include "automation/convert.h"
 
@@ -12,8 +13,14 @@ using automation::Variant;
 
 namespace {
 
-// A user who has cancelled.
-bool isNothing(const Variant& chosen) { return chosen.isEmpty() || chosen.isNull(); }
+// Nothing for a user who has cancelled.
+std::optional<std::string> chosenBy(automation::Dispatch& selection, const LentServices& lent, host::WindowHandle owner,
+                                    const std::string& current) {
+    const host::WindowHandle window = lent.windowOf ? lent.windowOf(owner) : owner;
+    const Variant chosen = selection.get("Choose", std::array<Variant, 2>{window, current});
+    if (chosen.isEmpty() || chosen.isNull()) return std::nullopt;
+    return toText(chosen);
+}
 
 }  // namespace
 
@@ -36,7 +43,8 @@ LentServices LentServices::of(const automation::ObjectRef& services) {
     return {.registry = objectIfThere(*services, "Registry"),
             .iniFile = objectIfThere(*services, "IniFile"),
             .itemSelection = objectIfThere(*services, "ItemSelection"),
-            .pathSelection = objectIfThere(*services, "PathSelection")};
+            .pathSelection = objectIfThere(*services, "PathSelection"),
+            .windowOf = {}};
 }
 
 std::string LentRegistry::readString(std::string_view key, std::string_view value, std::string_view fallback) const {
@@ -74,14 +82,12 @@ void LentIniFile::writeAll(std::string_view section, std::span<const host::IniTe
 
 std::string LentItemSelection::choose(host::WindowHandle owner, const std::string& current) {
     if (!lent_.itemSelection) return own_.choose(owner, current);
-    const Variant chosen = lent_.itemSelection->get("Choose", std::array<Variant, 2>{owner, current});
-    return isNothing(chosen) ? std::string() : toText(chosen);
+    return chosenBy(*lent_.itemSelection, lent_, owner, current).value_or("");
 }
 
 std::string LentPathSelection::choose(host::WindowHandle owner, const std::string& current) {
     if (!lent_.pathSelection) return own_.choose(owner, current);
-    const Variant chosen = lent_.pathSelection->get("Choose", std::array<Variant, 2>{owner, current});
-    return isNothing(chosen) ? current : toText(chosen);
+    return chosenBy(*lent_.pathSelection, lent_, owner, current).value_or(current);
 }
 
 }  // namespace hx::hosting

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <functional>
+
 #include "automation/dispatch.h"
 #include "host/system_services.h"
 
@@ -13,6 +15,8 @@ struct LentServices {
     automation::ObjectRef iniFile;        ///< Read, Write
     automation::ObjectRef itemSelection;  ///< Choose
     automation::ObjectRef pathSelection;  ///< Choose
+    /// The window that the studio knows for a handle of the add-in's; without it, the handle is that window's.
+    std::function<host::WindowHandle(host::WindowHandle)> windowOf;
 
     /// Those that the object has under the names Registry, IniFile, ItemSelection and PathSelection.
     [[nodiscard]] static LentServices of(const automation::ObjectRef& services);

@@ -49,6 +49,7 @@ void Session::meet(com::Explorer* explorer) {
     if (explorer == nullptr) return;
     try {
         lent_ = hosting::LentServices::of(explorer->services());
+        lent_.windowOf = [this](host::WindowHandle handle) { return view_->nativeWindow(handle); };
     } catch (...) {  // the own services serve
         const automation::Error error = automation::caughtError();
         view_->screen().messageBox(error.message(view_->screen().language()), forms::message::critical,

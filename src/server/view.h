@@ -15,6 +15,8 @@ class View {
     virtual ~View() = default;
     [[nodiscard]] virtual forms::Screen& screen() = 0;
     [[nodiscard]] virtual host::WindowOperations& windows() = 0;
+    /// The native window that stands for a handle by now: that of a dialog changes with the window that it stands over.
+    [[nodiscard]] virtual host::WindowHandle nativeWindow(host::WindowHandle handle) const { return handle; }
     [[nodiscard]] virtual host::Clipboard& clipboard() = 0;
     [[nodiscard]] virtual host::HelpViewer& help() = 0;
     /// Tells the path of the project, whose variables the choices offer. It is asked while the add-in lives.

@@ -53,6 +53,11 @@ forms::WindowHandle HostedScreen::toolkitHandle(forms::WindowHandle native) cons
     return found == toolkits_.end() ? 0 : found->second;
 }
 
+forms::WindowHandle HostedScreen::nativeWindow(forms::WindowHandle handle) const {
+    const QWidget* const widget = windows_.widget(toolkitHandle(handle));
+    return widget == nullptr ? handle : static_cast<forms::WindowHandle>(widget->winId());
+}
+
 void HostedScreen::showModal(forms::Form& form, forms::WindowHandle owner) {
     const HostWaits waits(*this);
     screen_.showModal(form, toolkitHandle(owner));

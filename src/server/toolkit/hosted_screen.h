@@ -29,8 +29,10 @@ class HostedScreen : public forms::Screen {
     [[nodiscard]] automation::Language language() const override { return screen_.language(); }
     [[nodiscard]] double twipsPerPixel() const override { return screen_.twipsPerPixel(); }
 
-    /// The toolkit's handle of a native window; 0 for another's.
+    /// The toolkit's handle of a form's; 0 for another's.
     [[nodiscard]] forms::WindowHandle toolkitHandle(forms::WindowHandle native) const;
+    /// The window that the form has by now: a dialog gets another one with each window that it stands over.
+    [[nodiscard]] forms::WindowHandle nativeWindow(forms::WindowHandle handle) const;
 
   private:
     class HostWaits;

@@ -22,6 +22,10 @@ qt::VariableList ToolkitView::Variables::variables() const {
     return project.variables();
 }
 
+void ToolkitView::Help::showContext(host::WindowHandle owner, const std::string& file, std::int32_t context) {
+    windows::HtmlHelp::showContext(view_.nativeWindow(owner), file, context);
+}
+
 std::string ToolkitView::Items::choose(host::WindowHandle owner, const std::string& current) {
     return view_.toolkitItems_.choose(view_.hosted_.toolkitHandle(owner), current);
 }

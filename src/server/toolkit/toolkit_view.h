@@ -20,6 +20,9 @@ class ToolkitView : public View {
 
     [[nodiscard]] forms::Screen& screen() override { return hosted_; }
     [[nodiscard]] host::WindowOperations& windows() override { return native_; }
+    [[nodiscard]] host::WindowHandle nativeWindow(host::WindowHandle handle) const override {
+        return hosted_.nativeWindow(handle);
+    }
     [[nodiscard]] host::Clipboard& clipboard() override { return clipboard_; }
     [[nodiscard]] host::HelpViewer& help() override { return help_; }
     void setProject(std::function<std::string()> path) override { variables_.path = std::move(path); }
@@ -31,6 +34,12 @@ class ToolkitView : public View {
     struct Variables : qt::VariableSource {
         [[nodiscard]] qt::VariableList variables() const override;
         std::function<std::string()> path;
+    };
+    /// Its windows stand over native ones.
+    struct Help : windows::HtmlHelp {
+        explicit Help(ToolkitView& view) : view_(view) {}
+        void showContext(host::WindowHandle owner, const std::string& file, std::int32_t context) override;
+        ToolkitView& view_;
     };
     /// The choices know the toolkit's handles.
     struct Items : host::ItemSelection {
@@ -50,7 +59,7 @@ class ToolkitView : public View {
     qt::QtScreen screen_;
     HostedScreen hosted_;
     qt::QtClipboard clipboard_;
-    windows::HtmlHelp help_;
+    Help help_{*this};
     Variables variables_;
     qt::QtItemSelection toolkitItems_;
     qt::QtPathSelection toolkitFolders_;
