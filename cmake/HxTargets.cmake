@@ -91,7 +91,7 @@ function(hx_qt_headers name)
 endfunction()
 
 # hx_test(NAME [DEPENDS target...] [LABELS label]): the folder's sources as one GoogleTest program, a CTest test for each
-# case. The label "gui" is for programs that open Qt's windows: they have a CTest test for each suite, as all have on Windows. The tests themselves are not optimised: they compile in half the
+# case. The label "registry" is for programs that register COM servers. The label "gui" is for programs that open Qt's windows: they have a CTest test for each suite, as all have on Windows. The tests themselves are not optimised: they compile in half the
 # time, and what they test is the shipped code all the same.
 function(hx_test name)
   cmake_parse_arguments(ARG "" "LABELS" "DEPENDS" ${ARGN})

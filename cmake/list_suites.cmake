@@ -7,11 +7,15 @@ execute_process(COMMAND ${EMULATOR} ${PROGRAM} --gtest_list_tests ${filter} OUTP
 string(REPLACE "\r" "" listed "${listed}")
 string(REGEX REPLACE "^Running main[^\n]*\n" "" listed "${listed}")  # a greeting, no suite
 string(REGEX MATCHALL "\n[^ \n][^\n]*\\." suites "\n${listed}")
+set(lock "")
+if(LABEL STREQUAL "registry")  # which is one for all tests
+  set(lock "RESOURCE_LOCK registry")
+endif()
 set(tests "")
 foreach(suite ${suites})
   string(STRIP ${suite} suite)
   string(REGEX REPLACE "\\.$" "" suite ${suite})
   string(APPEND tests "add_test([=[${suite}]=] ${EMULATOR} [=[${PROGRAM}]=] [=[--gtest_filter=${suite}.*:-${NOT_RUN}]=])\n"
-         "set_tests_properties([=[${suite}]=] PROPERTIES TIMEOUT 300 LABELS \"${LABEL}\")\n")
+         "set_tests_properties([=[${suite}]=] PROPERTIES TIMEOUT 300 LABELS \"${LABEL}\" ${lock})\n")
 endforeach()
 file(WRITE ${OUTPUT} "${tests}")
