@@ -3,22 +3,25 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
+#include <numeric>
 
 namespace hx::ado {
 
 namespace {
 
-StoredValue storedValue(const automation::Variant& value) {
+bool fitsInt32(std::int64_t number) {
+    using Limits = std::numeric_limits<std::int32_t>;
+    return number >= Limits::min() && number <= Limits::max();
+}
+
+automation::Variant valueOf(const StoredValue& stored, DataType type) {
     using Kind = StoredValue::Kind;
-    using automation::VarType;
-    switch (value.type()) {
-        case VarType::boolean: return {Kind::integer, value.asBoolean(), value.asBoolean() ? 1.0 : 0.0, {}};
-        case VarType::int16: return {Kind::integer, value.asInt16(), static_cast<double>(value.asInt16()), {}};
-        case VarType::int32: return {Kind::integer, value.asInt32(), static_cast<double>(value.asInt32()), {}};
-        case VarType::real8: return {Kind::real, static_cast<std::int64_t>(value.asDouble()), value.asDouble(), {}};
-        case VarType::string: return {Kind::text, 0, 0, value.asString()};
-        default: return {};
-    }
+    if (stored.kind == Kind::null) return automation::Null{};
+    if (type == adBoolean) return stored.isTrue();
+    if (stored.kind == Kind::integer && fitsInt32(stored.integer)) return static_cast<std::int32_t>(stored.integer);
+    if (stored.isNumber()) return stored.real;
+    return std::string(stored.text);
 }
 
 /// Passes the rows that are read on.
@@ -49,6 +52,25 @@ class Scan : public RowSink {
 
 }  // namespace
 
+StoredValue storedValue(const automation::Variant& value) {
+    using Kind = StoredValue::Kind;
+    using automation::VarType;
+    switch (value.type()) {
+        case VarType::boolean: return {Kind::integer, value.asBoolean(), value.asBoolean() ? 1.0 : 0.0, {}};
+        case VarType::int16: return {Kind::integer, value.asInt16(), static_cast<double>(value.asInt16()), {}};
+        case VarType::int32: return {Kind::integer, value.asInt32(), static_cast<double>(value.asInt32()), {}};
+        case VarType::real8: return {Kind::real, static_cast<std::int64_t>(value.asDouble()), value.asDouble(), {}};
+        case VarType::string: return {Kind::text, 0, 0, value.asString()};
+        default: return {};
+    }
+}
+
+std::vector<StoredValue> storedValues(std::span<const automation::Variant> values) {
+    std::vector<StoredValue> stored;
+    for (const automation::Variant& value : values) stored.push_back(storedValue(value));
+    return stored;
+}
+
 bool sameValue(const automation::Variant& stored, const automation::Variant& read) {
     const auto notANumber = [](const automation::Variant& value) {
         return value.type() == automation::VarType::real8 && std::isnan(value.asDouble());
@@ -72,6 +94,23 @@ void scanByKeys(Rowset& rows, const RowKeys& keys, std::span<const std::size_t> 
 
 void Rowset::scan(std::span<const std::size_t> columns, const StoredRowReceiver& receive) {
     scanByKeys(*this, keys(nullptr), columns, receive);
+}
+
+void Rowset::readStored(std::span<const Key> keys, const StoredRowReceiver& receive) {
+    std::vector<std::size_t> all(columns().size());
+    std::iota(all.begin(), all.end(), std::size_t{0});
+    RowKeys asked;
+    for (const Key key : keys) asked.append(key);
+    scanByKeys(*this, asked, all, receive);
+}
+
+void Rowset::restore(const StoredRowSource& rows) {
+    std::vector<StoredValue> row(columns().size());
+    std::vector<ColumnValue> values(row.size());
+    while (rows(row)) {
+        for (std::size_t i = 0; i < row.size(); ++i) values[i] = {i, valueOf(row[i], columns()[i].type)};
+        (void)insert(values);
+    }
 }
 
 void Rowset::insertAll(std::span<const std::size_t> columns, RowSource& rows) {

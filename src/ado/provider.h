@@ -47,6 +47,10 @@ struct ColumnValue {
 /// Whether a column holds what was read of it. Text counts by its bytes; what is not a number is the same as itself.
 [[nodiscard]] bool sameValue(const automation::Variant& stored, const automation::Variant& read);
 
+/// A value as a database holds it; its text is lent by `value`.
+[[nodiscard]] StoredValue storedValue(const automation::Variant& value);
+[[nodiscard]] std::vector<StoredValue> storedValues(std::span<const automation::Variant> values);
+
 /// Receives the rows that Rowset::read finds.
 class RowSink {
   public:
@@ -96,11 +100,37 @@ class Rowset {
     /// dbErrRowChanged, and the row stays as it is. Nobody else writes the row in between.
     virtual void update(Key key, std::span<const ColumnValue> values, std::span<const ColumnValue> read) = 0;
     virtual void remove(Key key) = 0;
+
+    // Of rowsets with all columns of a table that has a key, for putting back what was there.
+    /// All columns of the rows with these keys, exactly as they are stored; a key without a row is left out silently.
+    virtual void readStored(std::span<const Key> keys, const StoredRowReceiver& receive);
+    /// Stores rows with all their columns, the key too: dbErrDuplicate when that is taken. Ends as insertAll() does.
+    virtual void restore(const StoredRowSource& rows);
 };
 
 /// What Rowset::scan gives, of the rows with these keys that there are.
 void scanByKeys(Rowset& rows, const RowKeys& keys, std::span<const std::size_t> columns,
                 const StoredRowReceiver& receive);
+
+/// A row that a session changes. All of it is lent for the call.
+struct RowChange {
+    std::string_view table;
+    Key key = 0;
+    std::span<const StoredValue> before, after;  ///< all columns in the table's order; empty while there is no row
+};
+
+/// Is told what a session changes, while it does: must not use it.
+class RowWatcher {
+  public:
+    virtual ~RowWatcher() = default;
+    virtual void changed(const RowChange& change) noexcept = 0;
+    /// The changes since the last of these calls hold, as long as the transaction does,
+    virtual void kept() noexcept = 0;
+    /// or have had no effect, as the statement failed.
+    virtual void dropped() noexcept = 0;
+    /// A change could not be told for want of memory.
+    virtual void missed() noexcept = 0;
+};
 
 /// An open connection to one database.
 class Session {
@@ -116,6 +146,9 @@ class Session {
     virtual void beginTransaction() = 0;
     virtual void commit() = 0;
     virtual void rollback() = 0;
+    /// Tells `watcher`, which is lent, each row that this session changes from now on, by commands too; null ends that.
+    /// False when the store cannot tell.
+    [[nodiscard]] virtual bool watch(RowWatcher* /*watcher*/) { return false; }
     /// Throws dbErrUnspecified when the database is seen to be damaged. Takes some hundredths of a second at most, so
     /// it does not see everything.
     virtual void requireUndamaged() {}

@@ -17,11 +17,24 @@ struct StoredValue {
     double real = 0;           ///< of a number; else 0
     std::string_view text;     ///< the UTF-8 of a text, the bytes of bytes; else empty. Lent until the next row
 
+    [[nodiscard]] static StoredValue of(std::int64_t number) noexcept {
+        return {Kind::integer, number, static_cast<double>(number), {}};
+    }
+    /// The same value. A whole number in a column of real ones is the same in both forms, as a store may keep it in the
+    /// shorter one; what is not a number is the same as itself.
+    [[nodiscard]] bool isSameAs(const StoredValue& other) const noexcept {
+        if (kind == Kind::integer && other.kind == Kind::integer) return integer == other.integer;
+        if (isNumber() && other.isNumber()) return real == other.real || (real != real && other.real != other.real);
+        return kind == other.kind && text == other.text;
+    }
     [[nodiscard]] bool isNumber() const noexcept { return kind == Kind::integer || kind == Kind::real; }
     [[nodiscard]] bool isTrue() const noexcept { return real != 0; }  ///< as a yes/no column means it
 };
 
 /// Receives one row, its values in the order in which their columns were asked for.
 using StoredRowReceiver = std::function<void(std::span<const StoredValue> values)>;
+
+/// Gives one row after the other: fills in a value for each column, lent until the next call; false at the end.
+using StoredRowSource = std::function<bool(std::span<StoredValue> values)>;
 
 }  // namespace hx::ado

@@ -28,11 +28,12 @@ struct Layer {
 // What a host is made of stands above the editor's folders, so that none of them sees it.
 constexpr std::string_view toolkit = "adapters/qt";
 constexpr std::size_t hostingLevel = 10;
-constexpr std::size_t adapterLevel = 11;
-constexpr std::size_t macroLevel = 12;
-constexpr std::size_t programLevel = 13;
-constexpr std::size_t serverViewLevel = 14;
-constexpr std::size_t serverLibraryLevel = 15;
+constexpr std::size_t historyLevel = 11;
+constexpr std::size_t adapterLevel = 12;
+constexpr std::size_t macroLevel = 13;
+constexpr std::size_t programLevel = 14;
+constexpr std::size_t serverViewLevel = 15;
+constexpr std::size_t serverLibraryLevel = 16;
 
 constexpr auto layers = std::to_array<Layer>({
     {"automation", Ground::StandardLibrary, 0},
@@ -47,6 +48,7 @@ constexpr auto layers = std::to_array<Layer>({
     {"editor", Ground::StandardLibrary, 8},
     {"addin", Ground::StandardLibrary, 9},
     {"hosting", Ground::StandardLibrary, hostingLevel},
+    {"history", Ground::StandardLibrary, historyLevel},
     {"adapters/", Ground::Anything, adapterLevel},
     {"report", Ground::StandardLibrary, adapterLevel},
     {"macros", Ground::Anything, macroLevel, "adapters/qt"},

@@ -6,6 +6,7 @@
 #include "adapters/sqlite/project_file.h"
 #include "adapters/sqlite/provider.h"
 #include "automation/convert.h"
+#include "history/recording_provider.h"
 #include "support/faulty_provider.h"
 #include "support/memory_provider.h"
 #include "support/temporary_folder.h"
@@ -58,6 +59,20 @@ class WrappedStore : public Store {
     support::FaultyProvider provider_{inner_.provider(), plan_};
 };
 
+/// A store whose changes are recorded: passing everything on must change nothing.
+template <class Inner>
+class RecordedStore : public Store {
+  public:
+    ado::Provider& provider() override { return provider_; }
+    std::string path() const override { return inner_.path(); }
+
+  private:
+    Inner inner_;
+    support::TemporaryFolder cache_;
+    history::History history_{inner_.provider(), inner_.path(), cache_.path()};
+    history::RecordingProvider provider_{inner_.provider(), [this](const std::string&) { return &history_; }};
+};
+
 }  // namespace
 
 const std::vector<StoreKind>& storeKinds() {
@@ -65,6 +80,8 @@ const std::vector<StoreKind>& storeKinds() {
         {"Memory", [] { return std::make_unique<MemoryStore>(); }},
         {"Sqlite", [] { return std::make_unique<SqliteStore>(); }},
         {"FaultySqlite", [] { return std::make_unique<WrappedStore<SqliteStore>>(); }},
+        {"RecordedMemory", [] { return std::make_unique<RecordedStore<MemoryStore>>(); }},
+        {"RecordedSqlite", [] { return std::make_unique<RecordedStore<SqliteStore>>(); }},
         {"FaultyMemory", [] { return std::make_unique<WrappedStore<MemoryStore>>(); }},
     };
     return kinds;

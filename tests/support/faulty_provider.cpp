@@ -75,6 +75,7 @@ class FaultySession : public ado::Session {
         return std::make_unique<FaultyRowset>(std::move(rowset), plan_);
     }
     [[nodiscard]] std::optional<std::int64_t> othersChanges() override { return inner_->othersChanges(); }
+    [[nodiscard]] bool watch(ado::RowWatcher* watcher) override { return inner_->watch(watcher); }
     void beginTransaction() override {
         plan_.pass(Kind::begin);
         inner_->beginTransaction();

@@ -22,15 +22,18 @@ const MemoryTable::Row* MemoryTable::row(ado::Key key) const {
 }
 
 ado::Key MemoryTable::insert(std::span<const ado::ColumnValue> values) {
-    const ado::Key key = lastKey_ + 1;
     Row row;
     for (const MemoryColumn& definition : definitions_) row.push_back(definition.defaultValue);
-    row[0] = static_cast<std::int32_t>(key);
+    row[0] = static_cast<std::int32_t>(lastKey_ + 1);
     for (const ado::ColumnValue& value : values) row[value.column] = value.value;
+    const ado::Key key = automation::toInt32(row[0]);
+    if (rows_.contains(key)) {
+        throw Error(ado::dbErrDuplicate, "Table \"" + name_ + "\" has a row " + std::to_string(key) + " already.");
+    }
     requireUnique(key, row);
     if (const std::string identity = identityOf(row); !identity.empty()) identities_[identity] = key;
     rows_.emplace(key, std::move(row));
-    lastKey_ = key;
+    lastKey_ = std::max(lastKey_, key);
     return key;
 }
 

@@ -19,14 +19,18 @@ class MemorySession : public ado::Session {
         if (type != ado::adCmdText) {
             MemoryCommand whole;
             whole.table = command;
-            return std::make_unique<MemoryRowset>(database(), whole);
+            return std::make_unique<MemoryRowset>(database(), whole, &watcher_);
         }
         const MemoryCommand parsed = MemoryCommand::parse(command);
-        auto rowset = std::make_unique<MemoryRowset>(database(), parsed);
+        auto rowset = std::make_unique<MemoryRowset>(database(), parsed, &watcher_);
         if (!parsed.deletes) return rowset;
         const ado::RowKeys doomed = rowset->keys(nullptr);
         for (std::size_t i = 0; i < doomed.size(); ++i) rowset->remove(doomed[i]);
         return nullptr;
+    }
+    [[nodiscard]] bool watch(ado::RowWatcher* watcher) override {
+        watcher_ = watcher;
+        return true;
     }
     void beginTransaction() override { kept_ = stored_; }
     void commit() override { kept_.reset(); }
@@ -40,6 +44,7 @@ class MemorySession : public ado::Session {
 
     MemoryDatabase& stored_;
     bool readOnly_;
+    ado::RowWatcher* watcher_ = nullptr;
     std::optional<MemoryDatabase>
         kept_;  // as of the transaction's beginning: what is read, or what a rollback restores
 };

@@ -40,8 +40,8 @@ std::optional<ado::Criterion> conditionOf(const MemoryTable& table, const std::s
 
 }  // namespace
 
-MemoryRowset::MemoryRowset(MemoryDatabase& database, const MemoryCommand& command)
-    : database_(database), table_(command.table) {
+MemoryRowset::MemoryRowset(MemoryDatabase& database, const MemoryCommand& command, ado::RowWatcher* const* watcher)
+    : database_(database), table_(command.table), watcher_(watcher) {
     const MemoryTable& source = table();
     for (std::size_t i = 0; i < source.columns().size() && command.columns.empty(); ++i) sources_.push_back(i);
     for (const std::string& name : command.columns) sources_.push_back(columnOf(source, name));
@@ -96,10 +96,38 @@ std::vector<ColumnValue> MemoryRowset::inTable(std::span<const ColumnValue> valu
     return translated;
 }
 
-Key MemoryRowset::insert(std::span<const ColumnValue> values) { return table().insert(inTable(values)); }
-void MemoryRowset::update(Key key, std::span<const ColumnValue> values, std::span<const ColumnValue> read) {
-    table().update(key, inTable(values), inTable(read));
+Key MemoryRowset::insert(std::span<const ColumnValue> values) {
+    return watched({}, [&] { return table().insert(inTable(values)); });
 }
-void MemoryRowset::remove(Key key) { table().remove(key); }
+
+void MemoryRowset::update(Key key, std::span<const ColumnValue> values, std::span<const ColumnValue> read) {
+    watched(key, [&] {
+        table().update(key, inTable(values), inTable(read));
+        return key;
+    });
+}
+
+void MemoryRowset::remove(Key key) {
+    watched(key, [&] {
+        table().remove(key);
+        return key;
+    });
+}
+
+// The action gives the key of the row.
+template <class Action>
+Key MemoryRowset::watched(std::optional<Key> key, const Action& action) {
+    if (*watcher_ == nullptr) return action();
+    const auto rowOf = [this](Key wanted) {
+        const MemoryTable::Row* row = table().row(wanted);
+        return row == nullptr ? MemoryTable::Row() : *row;
+    };
+    const MemoryTable::Row before = key ? rowOf(*key) : MemoryTable::Row();
+    const Key changed = action();
+    const MemoryTable::Row after = rowOf(changed);
+    (*watcher_)->changed({table().name(), changed, ado::storedValues(before), ado::storedValues(after)});
+    (*watcher_)->kept();
+    return changed;
+}
 
 }  // namespace hx::support

@@ -13,7 +13,8 @@ namespace hx::support {
 /// The rows of one table that a command selects.
 class MemoryRowset : public ado::Rowset {
   public:
-    MemoryRowset(MemoryDatabase& database, const MemoryCommand& command);
+    /// Tells the one that `watcher` points to what it changes; null for nobody.
+    MemoryRowset(MemoryDatabase& database, const MemoryCommand& command, ado::RowWatcher* const* watcher);
 
     [[nodiscard]] const std::vector<ado::Column>& columns() const override { return columns_; }
     [[nodiscard]] ado::RowKeys keys(const ado::Criterion* criterion) override;
@@ -27,6 +28,8 @@ class MemoryRowset : public ado::Rowset {
     MemoryTable& table() { return database_.table(table_); }
     MemoryTable::Row projected(const MemoryTable::Row& row) const;
     std::vector<ado::ColumnValue> inTable(std::span<const ado::ColumnValue> values) const;
+    template <class Action>
+    ado::Key watched(std::optional<ado::Key> key, const Action& action);
     [[nodiscard]] bool before(const MemoryTable::Row& a, const MemoryTable::Row& b) const;
 
     MemoryDatabase& database_;  // by name, not by reference: a rollback puts other tables in place
@@ -35,6 +38,7 @@ class MemoryRowset : public ado::Rowset {
     std::vector<std::size_t> sources_;  // the table's column of each of ours
     std::optional<ado::Criterion> condition_;
     std::vector<std::pair<std::size_t, bool>> order_;
+    ado::RowWatcher* const* watcher_;
 };
 
 }  // namespace hx::support

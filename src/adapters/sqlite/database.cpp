@@ -95,6 +95,17 @@ std::int64_t Database::number(const std::string& sql) {
 
 void Database::interruptWhen(std::function<bool()> asked) { work_->interrupted = std::move(asked); }
 
+void Database::watch(ado::RowWatcher* watcher) {
+    watch_.reset();
+    if (watcher != nullptr) watch_ = std::make_unique<RowWatch>(handle(), *watcher);
+}
+
+void Database::statementEnds(bool done) const noexcept {
+    if (!watch_) return;
+    if (done) watch_->watcher().kept();
+    else watch_->watcher().dropped();
+}
+
 void Database::limitWork(std::int64_t steps) {
     work_->most = steps;
     const auto ask = [](void* kept) {

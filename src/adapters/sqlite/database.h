@@ -12,6 +12,7 @@
 
 #include "adapters/sqlite/functions.h"
 #include "adapters/sqlite/lock_wait.h"
+#include "adapters/sqlite/row_watch.h"
 #include "adapters/sqlite/statement.h"
 #include "automation/error.h"
 #include "automation/sentence.h"
@@ -52,6 +53,11 @@ class Database {
 
     /// Asked now and then while a statement runs; true ends the statement with an error.
     void interruptWhen(std::function<bool()> asked);
+    /// Tells who watches each row that a statement changes; null: nobody.
+    void watch(ado::RowWatcher* watcher);
+    /// A statement that writes has run to its end, or has failed.
+    void statementEnds(bool done) const noexcept;
+
     /// How many steps of SQLite's machine one row of a statement may take: beyond them the statement ends with an
     /// error. By itself a connection allows so many that only work without end, which a file can ask for, reaches it.
     void limitWork(std::int64_t steps);
@@ -96,6 +102,7 @@ class Database {
     std::unique_ptr<Work> work_;  // SQLite holds its address
     std::unique_ptr<LockWait> lockWait_;
     std::unique_ptr<sqlite3, Closer> handle_;
+    std::unique_ptr<RowWatch> watch_;
     std::unique_ptr<Collection*> collecting_;  // where hx_keys appends to
     Statements statements_;                    // the last used one first
     std::unordered_map<std::string_view, Statements::iterator> bySql_;

@@ -24,6 +24,10 @@ class Session : public ado::Session {
     void beginTransaction() override { writes_->begin(readOnly_); }
     void commit() override { writes_->commit(); }
     void rollback() override { writes_->rollback(); }
+    [[nodiscard]] bool watch(ado::RowWatcher* watcher) override {
+        writes_->database().watch(watcher);
+        return true;
+    }
     void requireUndamaged() override;
     [[nodiscard]] std::vector<std::string> damages(int most, Check check) override;
 

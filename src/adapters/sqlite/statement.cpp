@@ -48,11 +48,31 @@ void Statement::bind(int parameter, ado::Key key) {
     database_->check(sqlite3_bind_int64(statement_.get(), parameter, key));
 }
 
+void Statement::bind(int parameter, const ado::StoredValue& value) {
+    using Kind = ado::StoredValue::Kind;
+    sqlite3_stmt* statement = statement_.get();
+    const auto bound = [&] {
+        switch (value.kind) {
+            case Kind::integer: return sqlite3_bind_int64(statement, parameter, value.integer);
+            case Kind::real: return sqlite3_bind_double(statement, parameter, value.real);
+            case Kind::text:
+                return sqlite3_bind_text64(statement, parameter, value.text.data(), value.text.size(), SQLITE_TRANSIENT,
+                                           SQLITE_UTF8);
+            case Kind::bytes:
+                return sqlite3_bind_blob64(statement, parameter, value.text.data(), value.text.size(),
+                                           SQLITE_TRANSIENT);
+            default: return sqlite3_bind_null(statement, parameter);
+        }
+    };
+    database_->check(bound());
+}
+
 bool Statement::step() {
     LockWait& wait = database_->lockWait();
     wait.begin(isReadOnly());
     database_->beginWork();
     const int code = sqlite3_step(statement_.get());
+    if (code != SQLITE_ROW && !isReadOnly()) database_->statementEnds(code == SQLITE_DONE);
     if (code != SQLITE_ROW && code != SQLITE_DONE) database_->fail(code);
     wait.letIn();
     return code == SQLITE_ROW;
@@ -113,19 +133,20 @@ void Statement::giveRows(std::span<const std::size_t> columns, const ado::Stored
 }
 
 ado::StoredValue Statement::stored(int column) const {
+    return storedValue(sqlite3_column_value(statement_.get(), column));
+}
+
+ado::StoredValue storedValue(sqlite3_value* value) {
     using Kind = ado::StoredValue::Kind;
-    sqlite3_stmt* statement = statement_.get();
-    switch (sqlite3_column_type(statement, column)) {
-        case SQLITE_INTEGER: {
-            const std::int64_t number = sqlite3_column_int64(statement, column);
-            return {Kind::integer, number, static_cast<double>(number), {}};
-        }
-        case SQLITE_FLOAT: {
-            const double number = sqlite3_column_double(statement, column);
-            return {Kind::real, sqlite3_column_int64(statement, column), number, {}};
-        }
-        case SQLITE_TEXT: return {Kind::text, 0, 0, textView(column)};
-        case SQLITE_BLOB: return {Kind::bytes, 0, 0, textView(column)};
+    const auto text = [&](const void* bytes) {
+        const auto size = static_cast<std::size_t>(sqlite3_value_bytes(value));
+        return bytes == nullptr ? std::string_view() : std::string_view(static_cast<const char*>(bytes), size);
+    };
+    switch (sqlite3_value_type(value)) {
+        case SQLITE_INTEGER: return ado::StoredValue::of(sqlite3_value_int64(value));
+        case SQLITE_FLOAT: return {Kind::real, sqlite3_value_int64(value), sqlite3_value_double(value), {}};
+        case SQLITE_TEXT: return {Kind::text, 0, 0, text(sqlite3_value_text(value))};
+        case SQLITE_BLOB: return {Kind::bytes, 0, 0, text(sqlite3_value_blob(value))};
         default: return {};
     }
 }

@@ -13,10 +13,14 @@
 #include "automation/variant.h"
 
 struct sqlite3_stmt;
+struct sqlite3_value;
 
 namespace hx::sqlite {
 
 class Database;
+
+/// A value exactly as it is stored, lent as long as SQLite lends it.
+[[nodiscard]] ado::StoredValue storedValue(sqlite3_value* value);
 
 /// A prepared statement. Parameters count from 1, columns from 0. The wrappers that libraries give (SQLiteCpp) keep the
 /// handle to themselves: where a statement ends in its text and whether it only reads cannot be asked of them, and both
@@ -28,6 +32,7 @@ class Statement {
 
     void bind(int parameter, const automation::Variant& value);
     void bind(int parameter, ado::Key key);
+    void bind(int parameter, const ado::StoredValue& value);
     /// True while there is a row.
     bool step();
     void reset() noexcept;
@@ -54,9 +59,10 @@ class Statement {
     /// What the value itself is: adInteger, adDouble, adVarWChar; adEmpty for a missing one.
     [[nodiscard]] ado::DataType storedType(int column) const noexcept;
 
-  private:
+    /// Exactly as it is stored; lent until the next step or reset.
     [[nodiscard]] ado::StoredValue stored(int column) const;
 
+  private:
     struct Finalizer {
         void operator()(sqlite3_stmt* statement) const noexcept;
     };

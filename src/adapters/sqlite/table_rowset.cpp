@@ -195,6 +195,27 @@ void TableRowset::update(Key key, std::span<const ColumnValue> values, std::span
     writes_->update(table_, columns_, key, values, read);
 }
 
+std::string TableRowset::allColumns() const {
+    std::string names;
+    for (const ado::Column& column : columns_) names += (names.empty() ? "" : ", ") + quotedName(column.name);
+    return names;
+}
+
+void TableRowset::readStored(std::span<const Key> keys, const ado::StoredRowReceiver& receive) {
+    Statement& statement = writes_->database().prepared("SELECT " + allColumns() + " FROM " + quotedName(table_.name) +
+                                                        " WHERE " + quotedName(table_.key) + " = ?1");
+    std::vector<ado::StoredValue> row(columns_.size());
+    for (const Key key : keys) {
+        const ResetGuard guard(statement);
+        statement.bind(1, key);
+        if (!statement.step()) continue;
+        for (std::size_t i = 0; i < row.size(); ++i) row[i] = statement.stored(static_cast<int>(i));
+        receive(row);
+    }
+}
+
+void TableRowset::restore(const ado::StoredRowSource& rows) { writes_->restore(table_, columns_, rows); }
+
 void TableRowset::remove(Key key) { writes_->remove(table_, key); }
 
 }  // namespace hx::sqlite

@@ -24,6 +24,8 @@ class TableRowset : public ado::Rowset {
     void update(ado::Key key, std::span<const ado::ColumnValue> values,
                 std::span<const ado::ColumnValue> read) override;
     void remove(ado::Key key) override;
+    void readStored(std::span<const ado::Key> keys, const ado::StoredRowReceiver& receive) override;
+    void restore(const ado::StoredRowSource& rows) override;
 
   private:
     enum class Order { ascendingKey, descendingKey, text, other };
@@ -33,6 +35,7 @@ class TableRowset : public ado::Rowset {
     [[nodiscard]] BoundSql conditionWith(const ado::Criterion* criterion) const;
     [[nodiscard]] BoundSql keysQuery(const ado::Criterion* criterion, Order order) const;
     [[nodiscard]] ado::RowKeys keys(const ado::Criterion* criterion, Order order);
+    [[nodiscard]] std::string allColumns() const;
     [[nodiscard]] std::string readQuery() const;
     void giveRow(Statement& statement, std::size_t index, ado::RowSink& sink);
     void readRange(const std::string& query, std::span<const ado::Key> keys, ado::RowSink& sink);

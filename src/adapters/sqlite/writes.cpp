@@ -115,6 +115,27 @@ void Writes::insertTogether(const TableInfo& table, std::span<const ado::Column>
     for (std::size_t row = 0; row < rows; ++row) (void)insert(table, columns, one(row));
 }
 
+void Writes::restore(const TableInfo& table, std::span<const ado::Column> columns, const ado::StoredRowSource& rows) {
+    requireTransaction();
+    std::vector<ColumnValue> all(columns.size());
+    for (std::size_t i = 0; i < all.size(); ++i) all[i].column = i;
+    Statement& statement = database_.prepared(insertQuery(table, columns, all));
+    std::vector<ado::StoredValue> row(columns.size());
+    while (rows(row)) {
+        const ResetGuard guard(statement);
+        for (std::size_t i = 0; i < row.size(); ++i) statement.bind(static_cast<int>(i) + 1, row[i]);
+        try {
+            statement.step();
+        } catch (const Error& error) {
+            throw namingDuplicate(error, database_, table, [&](std::string_view column) {
+                const ado::StoredValue& value = row[table.requireColumn(column)];
+                return value.isNumber() ? automation::Variant(value.real)
+                                        : automation::Variant(std::string(value.text));
+            });
+        }
+    }
+}
+
 // What was read is compared and replaced in one transaction.
 void Writes::update(const TableInfo& table, std::span<const ado::Column> columns, Key key,
                     std::span<const ColumnValue> values, std::span<const ColumnValue> read) {

@@ -1,0 +1,125 @@
+// SPDX-License-Identifier: MIT
+#include "history/history.h"
+
+#include <utility>
+
+#include "automation/error.h"
+#include "history/sentences.h"
+#include "history/step_record.h"
+
+namespace hx::history {
+
+using automation::Error;
+
+namespace {
+
+std::int64_t secondsNow() {
+    return std::chrono::duration_cast<std::chrono::seconds>(std::chrono::system_clock::now().time_since_epoch())
+        .count();
+}
+
+}  // namespace
+
+History::History(ado::Provider& provider, std::string project, const Journal::Path& cache, std::size_t mostMemory)
+    : provider_(provider),
+      project_(std::move(project)),
+      mostMemory_(mostMemory),
+      journal_(cache, project_,
+               [this](std::string_view record, const Journal::Place& place) { readRecord(record, place); }) {}
+
+History::~History() = default;
+
+void History::readRecord(std::string_view record, const Journal::Place& place) {
+    if (const auto position = positionIn(record)) {
+        position_ = std::min(*position, steps_.size());
+    } else if (auto step = stepIn(record)) {
+        dropUndone();
+        step->fromBefore = true;
+        steps_.push_back(std::move(*step));
+        kept_.push_back({place, std::nullopt});
+        position_ = steps_.size();
+    }
+}
+
+void History::dropUndone() {
+    steps_.resize(position_);
+    kept_.resize(position_);
+}
+
+void History::add(Step step, ChangeLog changes) {
+    dropUndone();
+    const auto place = journal_.append(recordOf(step, changes));
+    kept_.push_back(place ? Kept{place, std::nullopt} : Kept{std::nullopt, std::move(changes)});
+    steps_.push_back(std::move(step));
+    position_ = steps_.size();
+    limitMemory();
+    if (changed) changed();
+}
+
+// The oldest steps go first.
+void History::limitMemory() {
+    std::size_t bytes = 0;
+    for (auto kept = kept_.rbegin(); kept != kept_.rend(); ++kept) {
+        if (!kept->changes) continue;
+        bytes += kept->changes->bytes().size();
+        if (bytes > mostMemory_) kept->changes.reset();
+    }
+}
+
+void History::record(ChangeLog changes, ado::Session& session) {
+    if (changes.empty()) return;
+    if (groups_ > 0) return group_.add(changes);
+    StepName name = nameOf(changes, session);
+    add({std::move(name), secondsNow(), false}, std::move(changes));
+}
+
+void History::beginGroup(StepName name) {
+    if (groups_++ == 0) groupName_ = std::move(name);
+}
+
+void History::endGroup() {
+    if (--groups_ > 0) return;
+    ChangeLog changes = std::exchange(group_, ChangeLog());
+    if (!changes.empty()) add({std::move(*groupName_), secondsNow(), false}, std::move(changes));
+    groupName_.reset();
+}
+
+void History::forget() {
+    for (Kept& kept : kept_) kept = Kept();
+    group_ = ChangeLog();
+}
+
+std::optional<ChangeLog> History::changesOf(std::size_t step) {
+    const Kept& kept = kept_.at(step);
+    if (kept.changes) return kept.changes;
+    if (!kept.place) return std::nullopt;
+    const auto record = journal_.read(*kept.place);
+    return record ? std::optional(changesIn(*record)) : std::nullopt;
+}
+
+void History::goTo(std::size_t position) {
+    if (position > steps_.size()) return;
+    if (position == position_) return;
+    const auto session = provider_.connect("Data Source=\"" + project_ + "\";Mode=Read|Write|Share Deny None;");
+    const auto tell = [this] {
+        notePosition();
+        if (changed) changed();
+    };
+    try {
+        while (position_ != position) {
+            const bool back = position < position_;
+            const auto changes = changesOf(back ? position_ - 1 : position_);
+            if (!changes) throw Error(automation::errFail, sentence::lost);
+            carryOut(*session, *changes, back ? Direction::back : Direction::forth);
+            position_ = back ? position_ - 1 : position_ + 1;
+        }
+    } catch (const Error&) {
+        tell();
+        throw;
+    }
+    tell();
+}
+
+void History::notePosition() { (void)journal_.append(recordOf(position_)); }
+
+}  // namespace hx::history

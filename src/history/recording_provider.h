@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "history/history.h"
+
+namespace hx::history {
+
+/// Passes everything on to another provider and records what is changed: each transaction, and each change outside of
+/// one, becomes a step of the project's history.
+class RecordingProvider : public ado::Provider {
+  public:
+    /// The history of a file; null when none is kept of it. The file is as the connection string names it.
+    using HistoryOf = std::function<History*(const std::string& path)>;
+
+    /// The provider is lent. A history outlives the sessions that were connected while it was there.
+    RecordingProvider(ado::Provider& provider, HistoryOf historyOf)
+        : provider_(provider), historyOf_(std::move(historyOf)) {}
+
+    [[nodiscard]] std::unique_ptr<ado::Session> connect(std::string_view connectionString) override;
+
+  private:
+    ado::Provider& provider_;
+    HistoryOf historyOf_;
+};
+
+}  // namespace hx::history

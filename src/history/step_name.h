@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "automation/sentence.h"
+#include "history/change_log.h"
+
+namespace hx::history {
+
+/// What a step did, to be said in either language.
+struct StepName {
+    enum class Kind : std::uint8_t {
+        named,  ///< `first` as it stands: a macro, a command
+        recipeAdded,
+        recipeDeleted,
+        recipeRenamed,
+        recipeChanged,
+        variableAdded,
+        variableRemoved,
+        variableChanged,
+        subRecipeAdded,
+        subRecipeRemoved,
+        subRecipeChanged,
+        elementsAdded,
+        elementsRemoved,
+        elementsChanged,
+        listChanged,
+        manyChanged,
+        otherChanged,
+    };
+    Kind kind = Kind::otherChanged;
+    std::string first, second;  ///< names of recipes and variables
+    std::int64_t recipes = 0;   ///< changed rows of the table of recipes,
+    std::int64_t rows = 0;      ///< of all other tables
+
+    [[nodiscard]] std::string text(automation::Language language) const;
+};
+
+/// The name of what was changed. Asks the session, in which the changes have been made, for what they do not tell.
+[[nodiscard]] StepName nameOf(const ChangeLog& changes, ado::Session& session);
+
+}  // namespace hx::history
