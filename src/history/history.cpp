@@ -68,8 +68,13 @@ void History::limitMemory() {
 
 void History::record(ChangeLog changes, ado::Session& session) {
     if (changes.empty()) return;
-    if (groups_ > 0) return group_.add(changes);
     StepName name = nameOf(changes, session);
+    if (groups_ > 0) {
+        groupName_->recipes += name.recipes;
+        groupName_->rows += name.rows;
+        if (groupName_->recipe == 0) groupName_->recipe = name.recipe;
+        return group_.add(changes);
+    }
     add({std::move(name), secondsNow(), false}, std::move(changes));
 }
 

@@ -42,6 +42,7 @@ inline constexpr Sentence elementsChanged{"Elements of “%1” changed: %3", "E
 inline constexpr Sentence listChanged{"Variable list changed: %3 variables", "Variablenliste geändert: %3 Variablen"};
 inline constexpr Sentence manyChanged{"%1 recipes and %2 elements changed", "%1 Rezepte und %2 Elemente geändert"};
 inline constexpr Sentence otherChanged{"%3 rows changed", "%3 Zeilen geändert"};
+inline constexpr Sentence macroRun{"Macro “%1”", "Makro „%1“"};
 inline constexpr Sentence named{"%1", "%1"};
 
 }  // namespace hx::history::sentence

@@ -35,6 +35,7 @@ const automation::Sentence& sentenceOf(const StepName& name) {
         case StepName::Kind::listChanged: return listChanged;
         case StepName::Kind::manyChanged: return manyChanged;
         case StepName::Kind::otherChanged: return otherChanged;
+        case StepName::Kind::macro: return macroRun;
     }
     return otherChanged;
 }
@@ -92,6 +93,8 @@ class Namer {
         const Counts& recipes = recipes_;
         name.recipes = recipes.all();
         name.rows = members_.all() + list_ + others_;
+        name.recipe = members_.all() > 0 && recipes.all() == 0 ? parents_.front() : firstRecipe_;
+        name.member = recipes.all() == 0 ? firstMember_ : 0;
         if (others_ > 0) name.kind = StepName::Kind::otherChanged;
         else if (recipes.all() == 1) nameRecipe(name);
         else if (recipes.all() > 1 || parents_.size() > 1) name.kind = StepName::Kind::manyChanged;
@@ -103,6 +106,7 @@ class Namer {
   private:
     void count(const ado::RowChange& change) {
         if (automation::equalIgnoreCase(change.table, schema::recipeTable)) {
+            if (recipes_.all() == 0) firstRecipe_ = change.key;
             if (recipes_.all() == 0) recipe_ = {recipeName_.textIn(change.before), recipeName_.textIn(change.after)};
             add(recipes_, change);
         } else if (automation::equalIgnoreCase(change.table, schema::memberTable)) {
@@ -123,6 +127,7 @@ class Namer {
         const std::int64_t parent = parent_.in(row).integer;
         if (parents_.empty() || (parents_.size() == 1 && parents_.front() != parent)) parents_.push_back(parent);
         if (members_.all() == 0) {
+            firstMember_ = change.key;
             isSubRecipe_ = child_.in(row).integer != 0;
             variable_ = varRecipe_.textIn(row);
         }
@@ -174,6 +179,7 @@ class Namer {
     std::array<std::string, 2> recipe_;  // of the first one that was changed, before and after
     std::string variable_;               // of the first member that was changed
     bool isSubRecipe_ = false;
+    ado::Key firstRecipe_ = 0, firstMember_ = 0;
 };
 
 }  // namespace

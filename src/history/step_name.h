@@ -12,7 +12,7 @@ namespace hx::history {
 /// What a step did, to be said in either language.
 struct StepName {
     enum class Kind : std::uint8_t {
-        named,  ///< `first` as it stands: a macro, a command
+        named,  ///< `first` as it stands: a command
         recipeAdded,
         recipeDeleted,
         recipeRenamed,
@@ -29,11 +29,14 @@ struct StepName {
         listChanged,
         manyChanged,
         otherChanged,
+        macro,  ///< called `first`
     };
     Kind kind = Kind::otherChanged;
     std::string first, second;  ///< names of recipes and variables
     std::int64_t recipes = 0;   ///< changed rows of the table of recipes,
     std::int64_t rows = 0;      ///< of all other tables
+    /// Where it was: IDs of a recipe and of a member in it; 0 for none.
+    std::int64_t recipe = 0, member = 0;
 
     [[nodiscard]] std::string text(automation::Language language) const;
 };

@@ -45,6 +45,8 @@ Step stepOf(Parts& parts) {
     step.name.kind = static_cast<StepName::Kind>(parts.number());
     step.name.recipes = static_cast<std::int64_t>(parts.number());
     step.name.rows = static_cast<std::int64_t>(parts.number());
+    step.name.recipe = static_cast<std::int64_t>(parts.number());
+    step.name.member = static_cast<std::int64_t>(parts.number());
     step.name.first = parts.text();
     step.name.second = parts.text();
     return step;
@@ -59,6 +61,8 @@ std::string recordOf(const Step& step, const ChangeLog& changes) {
     put(record, static_cast<std::uint64_t>(step.name.kind));
     put(record, static_cast<std::uint64_t>(step.name.recipes));
     put(record, static_cast<std::uint64_t>(step.name.rows));
+    put(record, static_cast<std::uint64_t>(step.name.recipe));
+    put(record, static_cast<std::uint64_t>(step.name.member));
     put(record, step.name.first);
     put(record, step.name.second);
     return record += changes.bytes();

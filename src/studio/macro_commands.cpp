@@ -4,6 +4,7 @@
 #include <QDesktopServices>
 #include <QDir>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QMenuBar>
 #include <QProcess>
 #include <QStatusBar>
@@ -87,6 +88,7 @@ void MacroCommands::showRunning() {
     runAgain_.setEnabled(!running && !last_.isEmpty());
     stop_.setEnabled(running);
     menu_.setRunning(running);
+    if (runningChanged_) runningChanged_(running ? QFileInfo(last_).completeBaseName() : QString());
     if (running || !closing_) return;
     closing_ = false;
     QTimer::singleShot(0, &window_, &QWidget::close);

@@ -4,6 +4,7 @@
 #include <QAction>
 #include <QHash>
 #include <QMainWindow>
+#include <functional>
 
 #include "studio/macro_dock.h"
 #include "studio/macro_library.h"
@@ -24,6 +25,9 @@ class MacroCommands : public QObject, private MacroMenuCommands {
     void addTo(QMainWindow& window);
     void retranslate();
 
+    /// Called with the name of the macro that begins, and with none when it has ended.
+    using RunningChanged = std::function<void(const QString& name)>;
+    void setRunningChanged(RunningChanged changed) { runningChanged_ = std::move(changed); }
     [[nodiscard]] bool isRunning() const noexcept { return runner_.isRunning(); }
     /// Stops what runs, and closes the window once it has ended.
     void stopAndClose();
@@ -47,6 +51,7 @@ class MacroCommands : public QObject, private MacroMenuCommands {
     MacroDock dock_;
     MacroMenu menu_;
     MacroRunner runner_;
+    RunningChanged runningChanged_;
     QString last_;
     QHash<QString, QString> arguments_;  ///< of each macro that was run, by its path
     bool closing_ = false;

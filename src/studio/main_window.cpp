@@ -41,7 +41,9 @@ MainWindow::MainWindow(StudioHost& host, Preferences& preferences)
       documentsHandle_(host.windows().add(documents_)),
       explorer_(tree_, documentsHandle_, host.clipboard(), host.screen()),
       macros_(*this, *this, host, explorer_),
-      menus_(*this, *this, {explorerDock_.toggleViewAction(), &macros_.toggleOutput()}, host.wording()) {
+      history_(*this, host, explorer_, tree_, [this](const QString& text) { warn(text); }),
+      menus_(*this, *this, {explorerDock_.toggleViewAction(), &history_.toggleDock(), &macros_.toggleOutput()},
+             history_.actions(), host.wording()) {
     setUp();
     restoreWindow();
     readLanguage();
@@ -50,6 +52,7 @@ MainWindow::MainWindow(StudioHost& host, Preferences& preferences)
 
 MainWindow::~MainWindow() {
     project_.reset();
+    history_.close();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     host_.windows().remove(documentsHandle_);
 }
@@ -65,6 +68,8 @@ void MainWindow::setUp() {
     setCentralWidget(&documents_);
     addDockWidget(Qt::LeftDockWidgetArea, &explorerDock_);
     macros_.addTo(*this);
+    macros_.setRunningChanged([this](const QString& name) { history_.setMacro(name); });
+    history_.addTo(*this);
     fileLabel_.setObjectName(QStringLiteral("projectFile"));
     fileLabel_.setContentsMargins(8, 0, 8, 0);
     statusBar()->addPermanentWidget(&fileLabel_);
@@ -101,6 +106,7 @@ void MainWindow::useLanguage(std::int32_t lcid) {
     if (translated) QCoreApplication::installTranslator(&translator_);
     explorerDock_.setWindowTitle(wording_.translate("studio", "Project Explorer"));
     macros_.retranslate();
+    history_.retranslate();
     menus_.retranslate();
     tree_.setAccessibleName(wording_.translate("studio", "Project Explorer"));
     documents_.setAccessibleName(wording_.translate("studio", "Documents"));
@@ -156,7 +162,19 @@ void MainWindow::open(const QString& path) {
     showProject();
     statusBar()->showMessage(wording_.translate("studio", "Project %1 opened").arg(project_->name()), messageTime);
     tellUnlessListed(preferences_.addRecent(project_->file()));
+    history_.open(*project_);
     startAddIn();
+    tellOfLastSession();
+}
+
+// A studio that did not end as it should has left its steps behind.
+void MainWindow::tellOfLastSession() {
+    const std::size_t steps = history_.stepsFromBefore();
+    if (steps == 0) return;
+    history_.showDock();
+    statusBar()->showMessage(
+        wording_.translate("studio", "Changes of the last session: %1. They can be undone in the history.")
+            .arg(wording_.number(steps)));
 }
 
 // In the status line: the project itself is not concerned.
@@ -202,6 +220,7 @@ void MainWindow::showHelp() {
 void MainWindow::closeProject() {
     if (!project_) return;
     project_.reset();
+    history_.close();
     showProject();
     statusBar()->showMessage(wording_.translate("studio", "Project closed"), messageTime);
 }

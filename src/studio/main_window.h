@@ -11,6 +11,7 @@
 #include "adapters/qt/explorer/qt_explorer.h"
 #include "adapters/qt/wording.h"
 #include "studio/document_area.h"
+#include "studio/history_commands.h"
 #include "studio/macro_commands.h"
 #include "studio/preferences.h"
 #include "studio/project.h"
@@ -59,6 +60,7 @@ class MainWindow : public QMainWindow, private StudioCommands, private ProjectWi
     void useLanguage(std::int32_t lcid);
     void installHelp();
     void startAddIn();
+    void tellOfLastSession();
     void showProject();
     void warn(const QString& text);
     void warn(const QString& text, const QString& detail) { warn(text.arg(detail)); }
@@ -78,6 +80,7 @@ class MainWindow : public QMainWindow, private StudioCommands, private ProjectWi
     forms::WindowHandle documentsHandle_;
     qt::QtExplorer explorer_;
     MacroCommands macros_;
+    HistoryCommands history_;
     StudioMenus menus_;
     std::unique_ptr<Project> project_;
 };

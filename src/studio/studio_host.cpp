@@ -6,6 +6,7 @@
 #include <QLocale>
 
 #include "adapters/qt/text.h"
+#include "hosting/file_bytes.h"
 
 namespace hx::studio {
 
@@ -23,6 +24,7 @@ StudioHost::StudioHost(const QString& configFolder, const QStringList& moduleFol
       moduleFolders_(moduleFolders),
       screen_(windows_, wording_),
       provider_([this] { return openOptions(); }),
+      recordingProvider_(provider_, [this](const std::string& path) { return historyOf(path); }),
       registry_(qt::fromQt(configFolder + QStringLiteral("/registry.ini"))),
       projectRegistry_(registry_),
       help_(screen_, windows_, wording_),
@@ -32,7 +34,7 @@ StudioHost::StudioHost(const QString& configFolder, const QStringList& moduleFol
       items_(variables_, windows_, wording_),
       folders_(windows_, wording_),
       attendedProvider_(
-          provider_, [this] { return projectFile_.string(); },
+          recordingProvider_, [this] { return projectFile_.string(); },
           [this] { return attendance_.answers() ? &attendance_.files() : nullptr; }),
       attendedIniFile_(iniFile_, attendance_, [this] { return projectFile_.parent_path(); }),
       attendedScreen_(screen_, attendance_,
@@ -58,6 +60,14 @@ StudioHost::StudioHost(const QString& configFolder, const QStringList& moduleFol
                 .moduleFile = {}} {
     components_.setServices(services_);
     screen_.setVariables(variables_);
+}
+
+// A file has many names: links, other capitals.
+history::History* StudioHost::historyOf(const std::string& path) const {
+    if (history_ == nullptr) return nullptr;
+    std::error_code error;
+    const auto file = hosting::fileSystemPath(path), project = hosting::fileSystemPath(history_->project());
+    return file == project || std::filesystem::equivalent(file, project, error) ? history_ : nullptr;
 }
 
 sqlite::OpenOptions StudioHost::openOptions() const {

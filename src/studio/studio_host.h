@@ -14,6 +14,7 @@
 #include "adapters/qt/screen/qt_windows.h"
 #include "adapters/qt/wording.h"
 #include "adapters/sqlite/provider.h"
+#include "history/recording_provider.h"
 #include "host/services.h"
 #include "hosting/ini_text_file.h"
 #include "hosting/project_registry.h"
@@ -50,11 +51,18 @@ class StudioHost {
     [[nodiscard]] const QString& configFolder() const noexcept { return configFolder_; }
     [[nodiscard]] const QStringList& moduleFolders() const noexcept { return moduleFolders_; }
 
+    /// The store itself, of which nothing is recorded.
+    [[nodiscard]] ado::Provider& store() noexcept { return provider_; }
+    /// Where the changes of the open project are recorded; lent until the next call, null for nowhere.
+    void setHistory(history::History* history) noexcept { history_ = history; }
+    [[nodiscard]] history::History* history() const noexcept { return history_; }
+
     /// The project whose variables and folder the choices offer; empty for none.
     void setProjectFile(const QString& path);
 
   private:
     [[nodiscard]] sqlite::OpenOptions openOptions() const;
+    [[nodiscard]] history::History* historyOf(const std::string& path) const;
 
     QString configFolder_;
     QStringList moduleFolders_;
@@ -62,6 +70,8 @@ class StudioHost {
     qt::QtWindows windows_;
     qt::QtScreen screen_;
     sqlite::Provider provider_;
+    history::History* history_ = nullptr;
+    history::RecordingProvider recordingProvider_;
     hosting::RegistryFile registry_;
     hosting::ProjectRegistry projectRegistry_;
     hosting::IniTextFile iniFile_;

@@ -10,11 +10,12 @@
 namespace hx::studio {
 
 StudioMenus::StudioMenus(QMainWindow& window, StudioCommands& commands, const QList<QAction*>& views,
-                         const qt::Wording& wording)
+                         const QList<QAction*>& edits, const qt::Wording& wording)
     : commands_(commands),
       wording_(wording),
       file_(&window),
       recent_(&window),
+      edit_(&window),
       view_(&window),
       language_(&window),
       help_(&window),
@@ -27,7 +28,7 @@ StudioMenus::StudioMenus(QMainWindow& window, StudioCommands& commands, const QL
       showHelp_(&window),
       about_(&window),
       languages_(this) {
-    build(window, views);
+    build(window, views, edits);
     connect(&new_, &QAction::triggered, this, [this] { commands_.newProject(); });
     connect(&open_, &QAction::triggered, this, [this] { commands_.chooseProject(); });
     connect(&close_, &QAction::triggered, this, [this] { commands_.closeProject(); });
@@ -40,13 +41,13 @@ StudioMenus::StudioMenus(QMainWindow& window, StudioCommands& commands, const QL
     retranslate();
 }
 
-void StudioMenus::build(QMainWindow& window, const QList<QAction*>& views) {
+void StudioMenus::build(QMainWindow& window, const QList<QAction*>& views, const QList<QAction*>& edits) {
     const std::pair<QObject*, const char*> names[] = {
-        {&file_, "menuFile"},         {&recent_, "menuRecent"},     {&view_, "menuView"},
-        {&language_, "menuLanguage"}, {&help_, "menuHelp"},         {&new_, "actionNew"},
-        {&open_, "actionOpen"},       {&close_, "actionClose"},     {&exit_, "actionExit"},
-        {&german_, "actionGerman"},   {&english_, "actionEnglish"}, {&about_, "actionAbout"},
-        {&showHelp_, "actionHelp"}};
+        {&file_, "menuFile"},     {&recent_, "menuRecent"},     {&edit_, "menuEdit"},
+        {&view_, "menuView"},     {&language_, "menuLanguage"}, {&help_, "menuHelp"},
+        {&new_, "actionNew"},     {&open_, "actionOpen"},       {&close_, "actionClose"},
+        {&exit_, "actionExit"},   {&german_, "actionGerman"},   {&english_, "actionEnglish"},
+        {&about_, "actionAbout"}, {&showHelp_, "actionHelp"}};
     for (const auto& [object, name] : names) object->setObjectName(QLatin1StringView(name));
     new_.setShortcut(QKeySequence::New);
     new_.setIcon(qt::namedIcon("studio/new-project"));
@@ -63,19 +64,21 @@ void StudioMenus::build(QMainWindow& window, const QList<QAction*>& views) {
     file_.addAction(&close_);
     file_.addSeparator();
     file_.addAction(&exit_);
+    edit_.addActions(edits);
     view_.addActions(views);
     language_.addActions({&german_, &english_});
     showHelp_.setIcon(qt::namedIcon("studio/help"));
     help_.addAction(&showHelp_);
     help_.addSeparator();
     help_.addAction(&about_);
-    for (QMenu* menu : {&file_, &view_, &language_, &help_}) window.menuBar()->addMenu(menu);
+    for (QMenu* menu : {&file_, &edit_, &view_, &language_, &help_}) window.menuBar()->addMenu(menu);
 }
 
 void StudioMenus::retranslate() {
     const std::pair<QAction*, QString> actions[] = {
         {file_.menuAction(), wording_.translate("studio", "&File")},
         {recent_.menuAction(), wording_.translate("studio", "&Recent Projects")},
+        {edit_.menuAction(), wording_.translate("studio", "&Edit")},
         {view_.menuAction(), wording_.translate("studio", "&View")},
         {language_.menuAction(), wording_.translate("studio", "&Language")},
         {help_.menuAction(), wording_.translate("studio", "&Help")},

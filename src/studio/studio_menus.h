@@ -29,18 +29,18 @@ class StudioCommands {
 /// The menus of the main window, in the studio's language.
 class StudioMenus : public QObject {
   public:
-    /// All are lent. `views` show and hide the docks; they bring their texts with them.
+    /// All are lent. `views` show and hide the docks, `edits` undo and redo; they bring their texts with them.
     StudioMenus(QMainWindow& window, StudioCommands& commands, const QList<QAction*>& views,
-                const qt::Wording& wording);
+                const QList<QAction*>& edits, const qt::Wording& wording);
     void retranslate();
     void setProjectOpen(bool open) { close_.setEnabled(open); }
 
   private:
-    void build(QMainWindow& window, const QList<QAction*>& views);
+    void build(QMainWindow& window, const QList<QAction*>& views, const QList<QAction*>& edits);
     void fillRecent();
     StudioCommands& commands_;
     const qt::Wording& wording_;
-    QMenu file_, recent_, view_, language_, help_;
+    QMenu file_, recent_, edit_, view_, language_, help_;
     QAction new_, open_, close_, exit_, german_, english_, showHelp_, about_;
     QActionGroup languages_;
 };

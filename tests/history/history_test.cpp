@@ -168,15 +168,15 @@ TEST_F(HistoryTest, ANewStepTakesThePlaceOfThoseThatWereUndone) {
 TEST_F(HistoryTest, AGroupIsOneStep) {
     const std::string before = all();
     {
-        const Group macro(*history, {StepName::Kind::named, "Makro „Reihe“", "", 0, 0});
+        const Group macro(*history, {StepName::Kind::named, "Makro „Reihe“", "", 0, 0, 0, 0});
         addRecipe("A");
         {
-            const Group inner(*history, {StepName::Kind::named, "inner", "", 0, 0});
+            const Group inner(*history, {StepName::Kind::named, "inner", "", 0, 0, 0, 0});
             addMember(1, "V");
         }
         change("TrcpRecipe", "Name", "B");
     }
-    { const Group nothing(*history, {StepName::Kind::named, "nothing", "", 0, 0}); }
+    { const Group nothing(*history, {StepName::Kind::named, "nothing", "", 0, 0, 0, 0}); }
     EXPECT_EQ(names(), Texts{"Makro „Reihe“"});
     const std::string after = all();
     history->undo();

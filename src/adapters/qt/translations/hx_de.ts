@@ -642,5 +642,33 @@ Datei → Öffnen oder Datei → Neues Projekt</translation>
         <source>&amp;Clear List</source>
         <translation>Liste &amp;leeren</translation>
     </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Rückgängig</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Wiederholen</translation>
+    </message>
+    <message>
+        <source>(project as it was opened)</source>
+        <translation>(Projekt beim Öffnen)</translation>
+    </message>
+    <message>
+        <source>changed in the last session</source>
+        <translation>in der letzten Sitzung geändert</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>Verlauf</translation>
+    </message>
+    <message>
+        <source>Changes of the last session: %1. They can be undone in the history.</source>
+        <translation>Änderungen der letzten Sitzung: %1. Sie können im Verlauf zurückgenommen werden.</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Bearbeiten</translation>
+    </message>
 </context>
 </TS>

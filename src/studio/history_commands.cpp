@@ -1,0 +1,137 @@
+// SPDX-License-Identifier: MIT
+#include "studio/history_commands.h"
+
+#include <QStandardPaths>
+#include <QStatusBar>
+#include <algorithm>
+
+#include "adapters/qt/svg_icon.h"
+#include "adapters/qt/text.h"
+#include "hosting/file_bytes.h"
+
+namespace hx::studio {
+
+namespace {
+
+std::filesystem::path stepsFolder() {
+    const QString cache = QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation);
+    return hosting::fileSystemPath(qt::fromQt(cache + QStringLiteral("/HelvixStudio/steps")));
+}
+
+}  // namespace
+
+HistoryCommands::HistoryCommands(QMainWindow& window, StudioHost& host, qt::QtExplorer& explorer,
+                                 qt::ExplorerTree& tree, Warn warn)
+    : host_(host),
+      wording_(host.wording()),
+      warn_(std::move(warn)),
+      undo_(&window),
+      redo_(&window),
+      dock_(window, undo_, redo_, host.wording(), [this](std::size_t position) { goTo(position); }),
+      editor_(host, explorer, tree) {
+    undo_.setObjectName(QStringLiteral("actionUndo"));
+    redo_.setObjectName(QStringLiteral("actionRedo"));
+    undo_.setIcon(qt::namedIcon("studio/undo"));
+    redo_.setIcon(qt::namedIcon("studio/redo"));
+    undo_.setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Z));
+    redo_.setShortcuts({QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z), QKeySequence(Qt::CTRL | Qt::Key_Y)});
+    connect(&undo_, &QAction::triggered, this, [this] { goTo(history_->position() - 1); });
+    connect(&redo_, &QAction::triggered, this, [this] { goTo(history_->position() + 1); });
+    retranslate();
+}
+
+void HistoryCommands::addTo(QMainWindow& window) {
+    window.addDockWidget(Qt::LeftDockWidgetArea, &dock_);
+    dock_.hide();
+}
+
+void HistoryCommands::retranslate() {
+    dock_.retranslate();
+    refresh();
+}
+
+void HistoryCommands::open(const Project& project) {
+    project_ = &project;
+    history_ = std::make_unique<history::History>(host_.store(), qt::fromQt(project.file()), stepsFolder());
+    history_->changed = [this] { refresh(); };
+    host_.setHistory(history_.get());
+    beginMacro();
+    dock_.setHistory(history_.get());
+    refresh();
+}
+
+void HistoryCommands::close() {
+    endMacro();
+    dock_.setHistory(nullptr);
+    host_.setHistory(nullptr);
+    if (history_) history_->close();
+    history_.reset();
+    project_ = nullptr;
+    refresh();
+}
+
+std::size_t HistoryCommands::stepsFromBefore() const {
+    if (!history_) return 0;
+    return static_cast<std::size_t>(std::ranges::count(history_->steps(), true, &history::Step::fromBefore));
+}
+
+void HistoryCommands::setMacro(const QString& name) {
+    if (name == macro_) return;
+    endMacro();
+    macro_ = name;
+    beginMacro();
+    refresh();
+}
+
+void HistoryCommands::beginMacro() {
+    if (!history_ || macro_.isEmpty()) return;
+    history::StepName name;
+    name.kind = history::StepName::Kind::macro;
+    name.first = qt::fromQt(macro_);
+    history_->beginGroup(std::move(name));
+}
+
+void HistoryCommands::endMacro() {
+    if (history_ && !macro_.isEmpty()) history_->endGroup();
+}
+
+QString HistoryCommands::told(const history::StepName* step, const QString& command) const {
+    if (step == nullptr) return command;
+    const std::string name = step->text(automation::languageOf(wording_.language()));
+    return command + QStringLiteral(": ") + qt::toQt(name).replace('&', QStringLiteral("&&"));
+}
+
+void HistoryCommands::refresh() {
+    const std::size_t position = history_ ? history_->position() : 0;
+    const std::size_t count = history_ ? history_->steps().size() : 0;
+    const auto nameOf = [&](std::size_t step) { return &history_->steps()[step].name; };
+    undo_.setEnabled(position > 0 && macro_.isEmpty());
+    redo_.setEnabled(position < count && macro_.isEmpty());
+    undo_.setText(told(position > 0 ? nameOf(position - 1) : nullptr, wording_.translate("studio", "&Undo")));
+    redo_.setText(told(position < count ? nameOf(position) : nullptr, wording_.translate("studio", "&Redo")));
+    undo_.setIconText(wording_.translate("studio", "&Undo").remove('&'));
+    redo_.setIconText(wording_.translate("studio", "&Redo").remove('&'));
+    dock_.refresh();
+}
+
+// What is being typed is a step of its own first, and the one that is undone.
+void HistoryCommands::goTo(std::size_t position) {
+    if (!history_ || !macro_.isEmpty()) return;
+    std::size_t before = history_->position();
+    try {
+        const std::size_t listed = before;
+        editor_.finishEdit();
+        before = history_->position();
+        history_->goTo(before == listed ? position : before - 1);
+    } catch (const automation::Error& error) {
+        warn_(qt::toQt(error.description(host_.screen().language())));
+    }
+    const std::size_t after = history_->position();
+    if (after == before) return;
+    history::StepName shown = history_->steps()[after < before ? after : after - 1].name;
+    for (std::size_t step = std::min(before, after); step < std::max(before, after); ++step)
+        shown.recipes = std::max(shown.recipes, history_->steps()[step].name.recipes);
+    editor_.show(*project_, shown);
+}
+
+}  // namespace hx::studio

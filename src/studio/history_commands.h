@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QAction>
+#include <QMainWindow>
+#include <functional>
+#include <memory>
+
+#include "studio/editor_refresh.h"
+#include "studio/history_dock.h"
+
+namespace hx::studio {
+
+/// Undo and redo of all that is changed in the open project, and the list of it.
+class HistoryCommands : public QObject {
+  public:
+    using Warn = std::function<void(const QString& text)>;
+
+    /// All are lent. `warn` tells the user why a step is not undone.
+    HistoryCommands(QMainWindow& window, StudioHost& host, qt::QtExplorer& explorer, qt::ExplorerTree& tree, Warn warn);
+
+    [[nodiscard]] QList<QAction*> actions() { return {&undo_, &redo_}; }
+    [[nodiscard]] QAction& toggleDock() { return *dock_.toggleViewAction(); }
+    void addTo(QMainWindow& window);
+    void retranslate();
+
+    /// Before the project's add-in starts. Both are lent until close().
+    void open(const Project& project);
+    /// After the project's add-in has ended.
+    void close();
+    /// How many steps a studio has left behind that did not end as it should.
+    [[nodiscard]] std::size_t stepsFromBefore() const;
+    void showDock() { dock_.show(); }
+    /// The macro that runs; empty for none. All that it changes is one step, and nothing is undone meanwhile.
+    void setMacro(const QString& name);
+
+  private:
+    void goTo(std::size_t position);
+    void beginMacro();
+    void endMacro();
+    void refresh();
+    [[nodiscard]] QString told(const history::StepName* step, const QString& command) const;
+
+    StudioHost& host_;
+    const qt::Wording& wording_;
+    Warn warn_;
+    QAction undo_, redo_;
+    HistoryDock dock_;
+    EditorRefresh editor_;
+    const Project* project_ = nullptr;
+    std::unique_ptr<history::History> history_;
+    QString macro_;
+};
+
+}  // namespace hx::studio
