@@ -61,9 +61,9 @@ void addRecipeNodes(ado::Recordset& recipes, host::ProjectExplorer& explorer, co
     recipes.setFilter("");
     recipe::RecipeNodes nodes(explorer, texts.GetResource(text::subRecipes));
     constexpr std::array fields = {project::schema::recipe::id, project::schema::recipe::name};
+    std::string room;
     recipes.scan(fields, [&](std::span<const ado::StoredValue> row) {
-        if (row[1].isNumber()) nodes.add(automation::toInt32(row[0].real), automation::toText(row[1].real));
-        else nodes.add(automation::toInt32(row[0].real), row[1].text);
+        nodes.add(automation::toInt32(row[0].real), ado::shownText(row[1], room));
     });
 }
 

@@ -4,7 +4,10 @@
 #include <cstdint>
 #include <functional>
 #include <span>
+#include <string>
 #include <string_view>
+
+#include "automation/convert.h"
 
 namespace hx::ado {
 
@@ -30,6 +33,14 @@ struct StoredValue {
     [[nodiscard]] bool isNumber() const noexcept { return kind == Kind::integer || kind == Kind::real; }
     [[nodiscard]] bool isTrue() const noexcept { return real != 0; }  ///< as a yes/no column means it
 };
+
+/// What a text column shows of a value: also a number that another program has stored there, in digits, for which
+/// `room` is lent.
+[[nodiscard]] inline std::string_view shownText(const StoredValue& value, std::string& room) {
+    if (!value.isNumber()) return value.text;
+    room = automation::toText(value.real);
+    return room;
+}
 
 /// Receives one row, its values in the order in which their columns were asked for.
 using StoredRowReceiver = std::function<void(std::span<const StoredValue> values)>;

@@ -10,8 +10,6 @@ namespace hx::dialogs {
 
 namespace text = resources::text_id;
 
-namespace {}  // namespace
-
 FSubRecipe::FSubRecipe(const host::Services& services, const resources::ResourceTable& texts, resources::Help& help)
     : Dialog("FSubRecipe", services, help, resources::help_context::subRecipeDialog),
       fraChooseRecipe(add<forms::Frame>("fraChooseRecipe")),

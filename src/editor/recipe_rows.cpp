@@ -119,14 +119,10 @@ void deleteMembers(ado::Recordset& members, std::span<const ado::Key> rows) {
 
 void Members::add(const ado::Recordset& rows) {
     const auto fields = {schema::member::id, schema::member::childId, schema::member::varRecipe};
-    const auto all = rows.clone();
-    numbers_.reserve(size() + static_cast<std::size_t>(all->recordCount()));
-    constexpr std::size_t usualName = 40;  // what is too much is never touched
-    variables_.reserve(numbers_.capacity(), numbers_.capacity() * usualName);
-    all->scan(fields, [this](std::span<const ado::StoredValue> values) {
+    std::string room;
+    rows.clone()->scan(fields, [&](std::span<const ado::StoredValue> values) {
         numbers_.emplace_back(automation::toInt32(values[0].real), automation::toInt32(values[1].real));
-        if (values[2].isNumber()) variables_.append(automation::toText(values[2].real));
-        else variables_.append(values[2].text);
+        variables_.append(ado::shownText(values[2], room));
     });
 }
 

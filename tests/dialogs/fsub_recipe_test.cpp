@@ -57,6 +57,21 @@ TEST_F(FSubRecipeTest, IsEnglish) {
     EXPECT_EQ(dialog->cmdHelp->caption(), "&Help");
 }
 
+TEST_F(FSubRecipeTest, ItsFieldsStandInAFrameUnderTheirNames) {
+    const auto& rows = dialog->layout().rows;
+    ASSERT_EQ(rows.size(), 3U);
+    EXPECT_EQ(rows[0].field, dialog->fraChooseRecipe.get());
+    for (std::size_t row : {std::size_t{1}, std::size_t{2}}) EXPECT_EQ(rows[row].container, rows[0].field);
+    EXPECT_EQ(rows[1].label, dialog->lblChooseRecipe.get());
+    EXPECT_EQ(rows[1].field, dialog->cmbChooseRecipe.get());
+    EXPECT_EQ(rows[2].label, dialog->Label1.get());
+    EXPECT_EQ(rows[2].field, dialog->txtVarRecipe.get());
+    EXPECT_EQ(rows[2].button, dialog->cmdChooseItem.get());
+    EXPECT_EQ(dialog->fraChooseRecipe->name(), "fraChooseRecipe");
+    EXPECT_EQ(dialog->lblChooseRecipe->name(), "lblChooseRecipe");
+    EXPECT_EQ(dialog->Label1->name(), "Label1");
+}
+
 TEST_F(FSubRecipeTest, CarriesItsTextsInTags) {
     EXPECT_EQ(dialog->tag(), "C500");
     EXPECT_EQ(dialog->lblChooseRecipe->tag(), "C501");
