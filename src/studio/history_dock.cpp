@@ -32,6 +32,15 @@ QString HistoryModel::textOf(int row) const {
         history_->steps()[static_cast<std::size_t>(row) - 1].name.text(automation::languageOf(wording_.language())));
 }
 
+QString HistoryModel::toolTipOf(int row) const {
+    if (row == 0) return textOf(row);
+    const history::Step& step = history_->steps()[static_cast<std::size_t>(row) - 1];
+    QString text = textOf(row) + QLatin1Char('\n') +
+                   wording_.locale().toString(QDateTime::fromSecsSinceEpoch(step.time), QLocale::ShortFormat);
+    if (step.fromBefore) text += QLatin1Char('\n') + wording_.translate("studio", "changed in the last session");
+    return text;
+}
+
 QVariant HistoryModel::data(const QModelIndex& index, int role) const {
     if (!index.isValid() || history_ == nullptr) return {};
     const int row = index.row();
@@ -45,16 +54,7 @@ QVariant HistoryModel::data(const QModelIndex& index, int role) const {
         }
         case Qt::ForegroundRole:
             return row > currentRow() ? QVariant(QPalette().brush(QPalette::Disabled, QPalette::Text)) : QVariant();
-        case Qt::ToolTipRole: {
-            if (row == 0) return textOf(row);
-            const history::Step& step = history_->steps()[static_cast<std::size_t>(row) - 1];
-            const QString time =
-                wording_.locale().toString(QDateTime::fromSecsSinceEpoch(step.time), QLocale::ShortFormat);
-            const QString text = textOf(row) + QLatin1Char('\n') + time;
-            return step.fromBefore
-                       ? text + QLatin1Char('\n') + wording_.translate("studio", "changed in the last session")
-                       : text;
-        }
+        case Qt::ToolTipRole: return qt::plainToolTip(toolTipOf(row));
         default: return {};
     }
 }

@@ -30,6 +30,7 @@ class HistoryModel : public QAbstractListModel {
 
   private:
     [[nodiscard]] QString textOf(int row) const;
+    [[nodiscard]] QString toolTipOf(int row) const;
     const qt::Wording& wording_;
     const history::History* history_ = nullptr;
 };

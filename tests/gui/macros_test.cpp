@@ -156,7 +156,7 @@ TEST_F(StudioMacroTest, FollowsTheLanguageOfTheStudio) {
     EXPECT_THAT(status(), ContainsRegex("^test.lua: done in [0-9]+\\.[0-9] s$"));
     Texts views;
     for (const QAction* view : find<QMenu>(window(), "menuView").actions()) views.push_back(view->text().toStdString());
-    EXPECT_THAT(views, ElementsAre("Project Explorer", "Macro output"));
+    EXPECT_THAT(views, ElementsAre("Project Explorer", "History", "Macro output"));
     run("while true do end", [this] {
         EXPECT_EQ(status(), "test.lua is running… (Shift+F5 stops it)");
         press("actionStopMacro");
