@@ -95,6 +95,16 @@ Row deleteRecipe(const Project& project, int rounds) {
     return {"delete the big recipe with its members", costs[0], {}, costs[2], {.atMostOfLimit = 2.0}};
 }
 
+Row recordDeletion(const Project& project, int rounds) {
+    const auto costs = compare({record_steps::recorded(project), {}, record_steps::unrecorded(project)}, rounds, 1);
+    return {"delete its members while it is recorded", costs[0], {}, costs[2], {.atMostOfLimit = 1.1}};
+}
+
+Row undoDeletion(const Project& project, int rounds) {
+    const auto costs = compare({record_steps::undo(project), {}, record_steps::insert(project)}, rounds, 1);
+    return {"undo that", costs[0], {}, costs[2], {.atMostOfLimit = 1.5}};
+}
+
 Row openVariables(const Project& project, int rounds) {
     const Project large = plant(project);
     const auto costs = compare({choose_variables::open(large)}, rounds, fewRuns);
@@ -228,6 +238,8 @@ constexpr auto table = std::to_array<Measurement>({
     {"cancel-many", &cancelMany},
     {"replace-variables", &replaceVariables},
     {"delete-recipe", &deleteRecipe},
+    {"record", &recordDeletion},
+    {"undo", &undoDeletion},
     {"open-variables", &openVariables},
     {"filter-variables", &filterVariables},
     {"check-variables", &checkAllVariables},

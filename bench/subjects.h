@@ -67,6 +67,15 @@ namespace delete_recipe {
 [[nodiscard]] Subject limit(const Project& project);
 }  // namespace delete_recipe
 
+/// Deletes the members of the big recipe in one statement while it is recorded, or without that; and undoes it. The
+/// limit of the latter inserts the same rows in one transaction.
+namespace record_steps {
+[[nodiscard]] Subject recorded(const Project& project);
+[[nodiscard]] Subject unrecorded(const Project& project);
+[[nodiscard]] Subject undo(const Project& project);
+[[nodiscard]] Subject insert(const Project& project);
+}  // namespace record_steps
+
 /// Opens the dialog for a recipe's variables, with all variables of the project and 1,000 of them checked, from reading
 /// the list until it is painted; or types another filter in the open dialog, until the variables found are painted; or
 /// checks all variables that are found.
