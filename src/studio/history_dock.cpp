@@ -47,7 +47,7 @@ QVariant HistoryModel::data(const QModelIndex& index, int role) const {
     switch (role) {
         case Qt::DisplayRole: return textOf(row);
         case Qt::FontRole: {
-            QFont font;
+            QFont font = view_.font();
             font.setBold(row == currentRow());
             font.setItalic(row > 0 && history_->steps()[static_cast<std::size_t>(row) - 1].fromBefore);
             return font;
@@ -61,13 +61,19 @@ QVariant HistoryModel::data(const QModelIndex& index, int role) const {
 
 HistoryDock::HistoryDock(QWidget& window, QAction& undo, QAction& redo, const qt::Wording& wording,
                          std::function<void(std::size_t position)> goTo)
-    : QDockWidget(&window), wording_(wording), panel_(this), tools_(&panel_), list_(&panel_), model_(wording, this) {
+    : QDockWidget(&window),
+      wording_(wording),
+      panel_(this),
+      tools_(&panel_),
+      list_(&panel_),
+      model_(wording, list_, this) {
     setObjectName(QStringLiteral("historyDock"));
     list_.setObjectName(QStringLiteral("historyList"));
     list_.setModel(&model_);
     list_.setUniformItemSizes(true);
     list_.setFrameShape(QFrame::NoFrame);
     list_.setTextElideMode(Qt::ElideRight);
+    list_.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     constexpr int iconSize = 16;
     tools_.setIconSize(QSize(iconSize, iconSize));
     tools_.addActions({&undo, &redo});

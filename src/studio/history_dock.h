@@ -16,7 +16,9 @@ namespace hx::studio {
 /// The steps of a history as rows, the state before all of them first.
 class HistoryModel : public QAbstractListModel {
   public:
-    HistoryModel(const qt::Wording& wording, QObject* parent) : QAbstractListModel(parent), wording_(wording) {}
+    /// `view` is who shows it, in its font.
+    HistoryModel(const qt::Wording& wording, const QWidget& view, QObject* parent)
+        : QAbstractListModel(parent), wording_(wording), view_(view) {}
 
     /// Null for none; lent until the next call.
     void setHistory(const history::History* history);
@@ -32,6 +34,7 @@ class HistoryModel : public QAbstractListModel {
     [[nodiscard]] QString textOf(int row) const;
     [[nodiscard]] QString toolTipOf(int row) const;
     const qt::Wording& wording_;
+    const QWidget& view_;
     const history::History* history_ = nullptr;
 };
 
