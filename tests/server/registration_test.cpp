@@ -39,6 +39,7 @@ std::set<std::filesystem::path> files() {
 class RegistrationTest : public testing::Test {
   protected:
     const com::Library library{L"HXRecipeEditor.dll"};
+    const HRESULT cleared = library.call("DllUnregisterServer");  // what a run that was ended has left
     const Entries machine = classesOf(HKEY_LOCAL_MACHINE), user = classesOf(HKEY_CURRENT_USER);
     const std::set<std::filesystem::path> disk = files();
 
