@@ -59,10 +59,11 @@ void History::add(Step step, ChangeLog changes) {
 // The oldest steps go first.
 void History::limitMemory() {
     std::size_t bytes = 0;
-    for (auto kept = kept_.rbegin(); kept != kept_.rend(); ++kept) {
-        if (!kept->changes) continue;
-        bytes += kept->changes->bytes().size();
-        if (bytes > mostMemory_) kept->changes.reset();
+    for (std::size_t step = kept_.size(); step > 0; --step) {
+        auto& changes = kept_[step - 1].changes;
+        if (!changes) continue;
+        bytes += changes->bytes().size();
+        if (bytes > mostMemory_) changes.reset();
     }
 }
 

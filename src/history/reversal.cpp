@@ -179,7 +179,7 @@ void carryOut(ado::Session& session, const ChangeLog& changes, Direction directi
     for (TableEffects& effects : effectsOf(changes))
         tables.push_back(std::make_unique<TableReversal>(session, changes, std::move(effects), direction));
     for (const auto& table : tables) table->check();
-    for (auto table = tables.rbegin(); table != tables.rend(); ++table) (*table)->remove();
+    for (std::size_t table = tables.size(); table > 0; --table) tables[table - 1]->remove();
     for (const auto& table : tables) table->restore();
     unit.commit();
 }
