@@ -3,7 +3,6 @@
 // Recording what is changed, and undoing it.
 #include <filesystem>
 #include <memory>
-#include <optional>
 
 #include "adapters/sqlite/provider.h"
 #include "ado/connection.h"
@@ -31,7 +30,8 @@ class Recorded {
     void renew() {
         close();
         copy_.renew();
-        history_.emplace(store_, copy_.project().path, std::filesystem::path(copy_.project().path + ".steps"));
+        history_ = std::make_shared<history::History>(store_, copy_.project().path,
+                                                      std::filesystem::path(copy_.project().path + ".steps"));
         connection_ = std::make_shared<ado::Connection>(provider_);
         connection_->open("Data Source=" + copy_.project().path + ";Mode=Read|Write|Share Deny None;");
     }
@@ -55,9 +55,8 @@ class Recorded {
     WorkCopy copy_;
     bool records_;
     sqlite::Provider store_;
-    std::optional<history::History> history_;
-    history::RecordingProvider provider_{store_,
-                                         [this](const std::string&) { return records_ ? &*history_ : nullptr; }};
+    std::shared_ptr<history::History> history_;
+    history::RecordingProvider provider_{store_, [this](const std::string&) { return records_ ? history_ : nullptr; }};
     std::shared_ptr<ado::Connection> connection_;
 };
 

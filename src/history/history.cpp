@@ -46,8 +46,11 @@ void History::dropUndone() {
     kept_.resize(position_);
 }
 
+// Nothing fails once the first of the two lists has grown: each step keeps its own changes.
 void History::add(Step step, ChangeLog changes) {
     dropUndone();
+    if (kept_.capacity() == kept_.size()) kept_.reserve(2 * kept_.size() + 1);
+    if (steps_.capacity() == steps_.size()) steps_.reserve(2 * steps_.size() + 1);
     const auto place = journal_.append(recordOf(step, changes));
     kept_.push_back(place ? Kept{place, std::nullopt} : Kept{std::nullopt, std::move(changes)});
     steps_.push_back(std::move(step));
@@ -119,7 +122,7 @@ void History::goTo(std::size_t position) {
             carryOut(*session, *changes, back ? Direction::back : Direction::forth);
             position_ = back ? position_ - 1 : position_ + 1;
         }
-    } catch (const Error&) {
+    } catch (...) {
         tell();
         throw;
     }

@@ -5,6 +5,7 @@
 #include <array>
 #include <cstring>
 #include <random>
+#include <utility>
 
 #include "hosting/file_bytes.h"
 
@@ -138,7 +139,10 @@ std::optional<std::string> Journal::read(const Place& place) {
 void Journal::close() noexcept {
     std::error_code ignored;
     file_.close();
-    if (!folder_.empty()) std::filesystem::remove_all(folder_, ignored);
+    if (folder_.empty()) return;
+    std::filesystem::remove(folder_ / fileName, ignored);
+    if (lock_) disk_.close(*std::exchange(lock_, std::nullopt));
+    std::filesystem::remove(folder_, ignored);  // stays when another has taken it over meanwhile
 }
 
 }  // namespace hx::history

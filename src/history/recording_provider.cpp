@@ -48,7 +48,8 @@ class Recorder : public ado::RowWatcher {
 /// The session whose work is recorded; its rowsets share it.
 class Recording {
   public:
-    Recording(std::unique_ptr<ado::Session> inner, History& history) : inner_(std::move(inner)), history_(history) {
+    Recording(std::unique_ptr<ado::Session> inner, std::shared_ptr<History> history)
+        : history_(std::move(history)), inner_(std::move(inner)) {
         isWatched_ = inner_->watch(&recorder_);
     }
     ~Recording() {
@@ -93,16 +94,16 @@ class Recording {
         try {
             const bool complete = recorder_.isComplete();
             ChangeLog changes = recorder_.take();
-            if (complete) history_.record(std::move(changes), *inner_);
-            else history_.forget();
+            if (complete) history_->record(std::move(changes), *inner_);
+            else history_->forget();
         } catch (const std::exception&) {
-            history_.forget();
+            history_->forget();
         }
     }
 
-    std::unique_ptr<ado::Session> inner_;
-    History& history_;
+    std::shared_ptr<History> history_;
     Recorder recorder_;
+    std::unique_ptr<ado::Session> inner_;
     bool isWatched_ = false, inTransaction_ = false;
 };
 
@@ -145,8 +146,8 @@ class RecordedRowset : public ado::Rowset {
 
 class RecordedSession : public ado::Session {
   public:
-    RecordedSession(std::unique_ptr<ado::Session> inner, History& history)
-        : recording_(std::make_shared<Recording>(std::move(inner), history)) {}
+    RecordedSession(std::unique_ptr<ado::Session> inner, std::shared_ptr<History> history)
+        : recording_(std::make_shared<Recording>(std::move(inner), std::move(history))) {}
 
     [[nodiscard]] std::unique_ptr<ado::Rowset> open(std::string_view command, ado::CommandType type) override {
         auto rowset = recording_->change([&] { return inner().open(command, type); });
@@ -172,9 +173,9 @@ class RecordedSession : public ado::Session {
 
 std::unique_ptr<ado::Session> RecordingProvider::connect(std::string_view connectionString) {
     auto session = provider_.connect(connectionString);
-    History* history = historyOf_(ado::connectionStringValue(connectionString, "Data Source"));
+    std::shared_ptr<History> history = historyOf_(ado::connectionStringValue(connectionString, "Data Source"));
     if (history == nullptr || ado::connectionStringValue(connectionString, "Mode") == "Read") return session;
-    return std::make_unique<RecordedSession>(std::move(session), *history);
+    return std::make_unique<RecordedSession>(std::move(session), std::move(history));
 }
 
 }  // namespace hx::history

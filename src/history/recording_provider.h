@@ -12,10 +12,11 @@ namespace hx::history {
 /// one, becomes a step of the project's history.
 class RecordingProvider : public ado::Provider {
   public:
-    /// The history of a file; null when none is kept of it. The file is as the connection string names it.
-    using HistoryOf = std::function<History*(const std::string& path)>;
+    /// The history of a file, which its sessions keep; null when none is kept of it. The file is as the connection
+    /// string names it.
+    using HistoryOf = std::function<std::shared_ptr<History>(const std::string& path)>;
 
-    /// The provider is lent. A history outlives the sessions that were connected while it was there.
+    /// The provider is lent.
     RecordingProvider(ado::Provider& provider, HistoryOf historyOf)
         : provider_(provider), historyOf_(std::move(historyOf)) {}
 

@@ -7,6 +7,7 @@
 
 #include "adapters/qt/svg_icon.h"
 #include "adapters/qt/text.h"
+#include "forms/wait_cursor.h"
 #include "hosting/file_bytes.h"
 
 namespace hx::studio {
@@ -27,7 +28,8 @@ HistoryCommands::HistoryCommands(QMainWindow& window, StudioHost& host, qt::QtEx
       warn_(std::move(warn)),
       undo_(&window),
       redo_(&window),
-      dock_(window, undo_, redo_, host.wording(), [this](std::size_t position) { goTo(position); }),
+      dock_(window, undo_, redo_, host.wording(),
+            [this](std::size_t position) { goTo([position] { return position; }); }),
       editor_(host, explorer, tree) {
     undo_.setObjectName(QStringLiteral("actionUndo"));
     redo_.setObjectName(QStringLiteral("actionRedo"));
@@ -35,8 +37,8 @@ HistoryCommands::HistoryCommands(QMainWindow& window, StudioHost& host, qt::QtEx
     redo_.setIcon(qt::namedIcon("studio/redo"));
     undo_.setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Z));
     redo_.setShortcuts({QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z), QKeySequence(Qt::CTRL | Qt::Key_Y)});
-    connect(&undo_, &QAction::triggered, this, [this] { goTo(history_->position() - 1); });
-    connect(&redo_, &QAction::triggered, this, [this] { goTo(history_->position() + 1); });
+    connect(&undo_, &QAction::triggered, this, [this] { goTo([this] { return history_->position() - 1; }); });
+    connect(&redo_, &QAction::triggered, this, [this] { goTo([this] { return history_->position() + 1; }); });
     retranslate();
 }
 
@@ -52,9 +54,13 @@ void HistoryCommands::retranslate() {
 
 void HistoryCommands::open(const Project& project) {
     project_ = &project;
-    history_ = std::make_unique<history::History>(host_.store(), qt::fromQt(project.file()), stepsFolder());
+    try {
+        history_ = std::make_shared<history::History>(host_.store(), qt::fromQt(project.file()), stepsFolder());
+    } catch (const std::exception&) {
+        return;  // memory is short: the project opens, and nothing can be undone
+    }
     history_->changed = [this] { refresh(); };
-    host_.setHistory(history_.get());
+    host_.setHistory(history_);
     beginMacro();
     dock_.setHistory(history_.get());
     refresh();
@@ -64,7 +70,10 @@ void HistoryCommands::close() {
     endMacro();
     dock_.setHistory(nullptr);
     host_.setHistory(nullptr);
-    if (history_) history_->close();
+    if (history_) {
+        history_->changed = {};
+        history_->close();
+    }
     history_.reset();
     project_ = nullptr;
     refresh();
@@ -114,24 +123,35 @@ void HistoryCommands::refresh() {
     dock_.refresh();
 }
 
-// What is being typed is a step of its own first, and the one that is undone.
-void HistoryCommands::goTo(std::size_t position) {
+// What is being typed is a step of its own first: undo takes that back, and nothing is left to be done again.
+void HistoryCommands::goTo(const std::function<std::size_t()>& position) {
     if (!history_ || !macro_.isEmpty()) return;
-    std::size_t before = history_->position();
     try {
-        const std::size_t listed = before;
         editor_.finishEdit();
-        before = history_->position();
-        history_->goTo(before == listed ? position : before - 1);
-    } catch (const automation::Error& error) {
-        warn_(qt::toQt(error.description(host_.screen().language())));
+        carryOut(position);
+    } catch (const std::exception&) {
+        warn_(qt::toQt(automation::caughtError().description(host_.screen().language())));
     }
-    const std::size_t after = history_->position();
-    if (after == before) return;
-    history::StepName shown = history_->steps()[after < before ? after : after - 1].name;
-    for (std::size_t step = std::min(before, after); step < std::max(before, after); ++step)
-        shown.recipes = std::max(shown.recipes, history_->steps()[step].name.recipes);
-    editor_.show(*project_, shown);
+}
+
+void HistoryCommands::carryOut(const std::function<std::size_t()>& position) {
+    const std::size_t before = history_->position();
+    const auto showChanges = [&] {
+        const std::size_t after = history_->position();
+        if (after == before) return;
+        history::StepName shown = history_->steps()[after < before ? after : after - 1].name;
+        for (std::size_t step = std::min(before, after); step < std::max(before, after); ++step)
+            shown.recipes = std::max(shown.recipes, history_->steps()[step].name.recipes);
+        editor_.show(*project_, shown);
+    };
+    try {
+        const forms::WaitCursor wait(host_.screen());
+        history_->goTo(position());
+    } catch (...) {
+        showChanges();  // those before the one that was refused
+        throw;
+    }
+    showChanges();
 }
 
 }  // namespace hx::studio

@@ -35,7 +35,9 @@ class HistoryCommands : public QObject {
     void setMacro(const QString& name);
 
   private:
-    void goTo(std::size_t position);
+    /// `position` is asked for when what is being typed has been stored.
+    void goTo(const std::function<std::size_t()>& position);
+    void carryOut(const std::function<std::size_t()>& position);
     void beginMacro();
     void endMacro();
     void refresh();
@@ -48,7 +50,7 @@ class HistoryCommands : public QObject {
     HistoryDock dock_;
     EditorRefresh editor_;
     const Project* project_ = nullptr;
-    std::unique_ptr<history::History> history_;
+    std::shared_ptr<history::History> history_;
     QString macro_;
 };
 

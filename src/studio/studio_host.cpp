@@ -63,7 +63,7 @@ StudioHost::StudioHost(const QString& configFolder, const QStringList& moduleFol
 }
 
 // A file has many names: links, other capitals.
-history::History* StudioHost::historyOf(const std::string& path) const {
+std::shared_ptr<history::History> StudioHost::historyOf(const std::string& path) const {
     if (history_ == nullptr) return nullptr;
     std::error_code error;
     const auto file = hosting::fileSystemPath(path), project = hosting::fileSystemPath(history_->project());

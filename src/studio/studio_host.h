@@ -53,16 +53,15 @@ class StudioHost {
 
     /// The store itself, of which nothing is recorded.
     [[nodiscard]] ado::Provider& store() noexcept { return provider_; }
-    /// Where the changes of the open project are recorded; lent until the next call, null for nowhere.
-    void setHistory(history::History* history) noexcept { history_ = history; }
-    [[nodiscard]] history::History* history() const noexcept { return history_; }
+    /// Where the changes of the open project are recorded; null for nowhere.
+    void setHistory(std::shared_ptr<history::History> history) noexcept { history_ = std::move(history); }
 
     /// The project whose variables and folder the choices offer; empty for none.
     void setProjectFile(const QString& path);
 
   private:
     [[nodiscard]] sqlite::OpenOptions openOptions() const;
-    [[nodiscard]] history::History* historyOf(const std::string& path) const;
+    [[nodiscard]] std::shared_ptr<history::History> historyOf(const std::string& path) const;
 
     QString configFolder_;
     QStringList moduleFolders_;
@@ -70,7 +69,7 @@ class StudioHost {
     qt::QtWindows windows_;
     qt::QtScreen screen_;
     sqlite::Provider provider_;
-    history::History* history_ = nullptr;
+    std::shared_ptr<history::History> history_;
     history::RecordingProvider recordingProvider_;
     hosting::RegistryFile registry_;
     hosting::ProjectRegistry projectRegistry_;

@@ -94,6 +94,30 @@ TEST_F(StudioHistory, WhatIsBeingTypedIsAStepOfItsOwn) {
     EXPECT_EQ(stored(file, 1), (Texts{"Neu", "Später"}));
 }
 
+TEST_F(StudioHistory, RedoTakesNothingBackThatIsBeingTyped) {
+    showMembers();
+    const Texts before = texts("Variable");
+    edit(0, "Variable", "Neu");
+    QTest::keyClick(&grid(), Qt::Key_Down);
+    undo();
+    typeInCell(1, "Variable", "Später");
+    redo();
+    EXPECT_EQ(stored(file, 1), (Texts{before[0], "Später"}));
+    EXPECT_EQ(texts("Variable"), (Texts{before[0], "Später"}));
+    EXPECT_FALSE(action("actionRedo").isEnabled());
+}
+
+TEST_F(StudioHistory, IsUndoneWhereNoRecipeIsShown) {
+    showMembers();
+    const Texts before = texts("Variable");
+    edit(0, "Variable", "Neu");
+    QTest::keyClick(&grid(), Qt::Key_Down);
+    click("Rezepte");
+    undo();
+    EXPECT_EQ(stored(file, 1), before);
+    EXPECT_EQ(texts("Variable"), before);
+}
+
 TEST_F(StudioHistory, ADeletedRecipeComesBackWithItsMembersWhereItWas) {
     showMembers();
     tree().expand(node("Rezepte/Meyer's Bräu"));

@@ -29,7 +29,7 @@ class HistoryTest : public testing::Test {
     void start(std::size_t mostMemory = std::size_t{64} << 20U) {
         connection.reset();
         history.reset();
-        history = std::make_unique<History>(provider, path, cache.path(), mostMemory);
+        history = std::make_shared<History>(provider, path, cache.path(), mostMemory);
         connection = connect(recording);
     }
     std::shared_ptr<ado::Connection> connect(ado::Provider& through) const {
@@ -73,8 +73,8 @@ class HistoryTest : public testing::Test {
     support::TemporaryFolder folder, cache;
     std::string path = folder.file("plant.hxs");
     sqlite::Provider provider;
-    std::unique_ptr<History> history;
-    RecordingProvider recording{provider, [this](const std::string&) { return history.get(); }};
+    std::shared_ptr<History> history;
+    RecordingProvider recording{provider, [this](const std::string&) { return history; }};
     std::shared_ptr<ado::Connection> connection;
 };
 
@@ -257,7 +257,7 @@ TEST_F(HistoryTest, WithoutAJournalTheLastStepsStayInMemory) {
     std::ofstream(file) << "x";
     connection.reset();
     constexpr std::size_t room = 400;
-    history = std::make_unique<History>(provider, path, file, room);
+    history = std::make_shared<History>(provider, path, file, room);
     connection = connect(recording);
     for (int i = 0; i < 20; ++i) addRecipe("R" + std::to_string(i));
     history->undo();
@@ -279,6 +279,14 @@ TEST_F(HistoryTest, TellsOfEachChangeOnce) {
     history->goTo(7);
     history->goTo(0);
     EXPECT_EQ(told, 2);
+}
+
+TEST_F(HistoryTest, ASessionThatOutlivesTheProjectChangesItNevertheless) {
+    addRecipe("A");
+    history->close();
+    history.reset();
+    addRecipe("B");
+    EXPECT_EQ(open("TrcpRecipe")->recordCount(), 2);
 }
 
 TEST_F(HistoryTest, SessionsThatReadAreNotRecorded) {

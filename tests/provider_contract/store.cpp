@@ -69,8 +69,9 @@ class RecordedStore : public Store {
   private:
     Inner inner_;
     support::TemporaryFolder cache_;
-    history::History history_{inner_.provider(), inner_.path(), cache_.path()};
-    history::RecordingProvider provider_{inner_.provider(), [this](const std::string&) { return &history_; }};
+    std::shared_ptr<history::History> history_ =
+        std::make_shared<history::History>(inner_.provider(), inner_.path(), cache_.path());
+    history::RecordingProvider provider_{inner_.provider(), [this](const std::string&) { return history_; }};
 };
 
 }  // namespace
