@@ -74,6 +74,11 @@ class TableReversal {
         const auto key = std::ranges::find(columns, true, &ado::Column::isKey);
         if (key == columns.end()) throw Error(automation::errFail, sentence::noKey, {effects_.table});
         key_ = static_cast<std::size_t>(key - columns.begin());
+        const auto fits = [&](Row row) { return row.empty() || row.size() == columns.size(); };
+        for (const Effect& row : effects_.rows) {
+            if (!fits(now(row)) || !fits(then(row)))
+                throw Error(automation::errFail, sentence::otherColumns, {effects_.table});
+        }
         std::erase_if(effects_.rows, [this](const Effect& row) { return sameRow(now(row), then(row)); });
     }
 
@@ -109,7 +114,7 @@ class TableReversal {
             while (next < effects_.rows.size()) {
                 const Row row = then(effects_.rows[next++]);
                 if (row.empty()) continue;
-                std::copy_n(row.begin(), std::min(row.size(), values.size()), values.begin());
+                std::ranges::copy(row, values.begin());
                 return true;
             }
             return false;

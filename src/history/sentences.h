@@ -15,6 +15,9 @@ inline constexpr Sentence rowGone{"“%2” in %1 has been deleted since. Nothin
                                   "„%2“ in %1 wurde inzwischen gelöscht. Es wurde nichts zurückgenommen."};
 inline constexpr Sentence rowTaken{"“%2” in %1 cannot be put back: %3",
                                    "„%2“ in %1 kann nicht zurückgeholt werden: %3"};
+inline constexpr Sentence otherColumns{"The table %1 has other columns by now. Nothing was undone.",
+                                       "Die Tabelle %1 hat inzwischen andere Spalten. Es wurde nichts "
+                                       "zurückgenommen."};
 inline constexpr Sentence noKey{"The rows of the table %1 have no key, so that its changes cannot be undone.",
                                 "Die Zeilen der Tabelle %1 haben keinen Schlüssel, deshalb können ihre Änderungen "
                                 "nicht zurückgenommen werden."};

@@ -2,6 +2,7 @@
 #include <fstream>
 #include <gtest/gtest.h>
 
+#include "adapters/sqlite/project_check.h"
 #include "adapters/sqlite/project_file.h"
 #include "adapters/sqlite/provider.h"
 #include "ado/recordset.h"
@@ -215,6 +216,17 @@ TEST_F(HistoryTest, ANameThatAnotherHasTakenIsSaid) {
     const auto error = support::errorOf([&] { history->undo(); });
     EXPECT_TRUE(error.description().starts_with("“Cola” in TrcpRecipe cannot be put back: ")) << error.description();
     EXPECT_EQ(all(), before);
+    EXPECT_EQ(history->position(), 2U);
+}
+
+TEST_F(HistoryTest, NothingComesBackToATableWithOtherColumns) {
+    addRecipe("Cola");
+    open("TrcpRecipe")->remove();
+    connection.reset();
+    sqlite::ProjectDatabase(path).execute("ALTER TABLE TrcpRecipe ADD COLUMN Extra TEXT DEFAULT 'x'");
+    EXPECT_EQ(support::errorOf([&] { history->undo(); }).description(),
+              "The table TrcpRecipe has other columns by now. Nothing was undone.");
+    EXPECT_EQ(stored("TrcpRecipe"), "");
     EXPECT_EQ(history->position(), 2U);
 }
 
