@@ -24,6 +24,15 @@ automation::Variant valueOf(const StoredValue& stored, DataType type) {
     return std::string(stored.text);
 }
 
+std::vector<ColumnValue> valuesOf(const Rowset& rows, std::span<const std::size_t> columns,
+                                  std::span<const StoredValue> row) {
+    std::vector<ColumnValue> values(columns.size());
+    for (std::size_t i = 0; i < values.size(); ++i) {
+        values[i] = {columns[i], valueOf(row[i], rows.columns()[columns[i]].type)};
+    }
+    return values;
+}
+
 /// Passes the rows that are read on.
 class Scan : public RowSink {
   public:
@@ -92,25 +101,36 @@ void scanByKeys(Rowset& rows, const RowKeys& keys, std::span<const std::size_t> 
     }
 }
 
+std::vector<std::size_t> allColumns(const Rowset& rows) {
+    std::vector<std::size_t> all(rows.columns().size());
+    std::iota(all.begin(), all.end(), std::size_t{0});
+    return all;
+}
+
 void Rowset::scan(std::span<const std::size_t> columns, const StoredRowReceiver& receive) {
     scanByKeys(*this, keys(nullptr), columns, receive);
 }
 
 void Rowset::readStored(std::span<const Key> keys, const StoredRowReceiver& receive) {
-    std::vector<std::size_t> all(columns().size());
-    std::iota(all.begin(), all.end(), std::size_t{0});
     RowKeys asked;
     for (const Key key : keys) asked.append(key);
-    scanByKeys(*this, asked, all, receive);
+    scanByKeys(*this, asked, allColumns(*this), receive);
 }
 
-void Rowset::restore(const StoredRowSource& rows) {
-    std::vector<StoredValue> row(columns().size());
-    std::vector<ColumnValue> values(row.size());
-    while (rows(row)) {
-        for (std::size_t i = 0; i < row.size(); ++i) values[i] = {i, valueOf(row[i], columns()[i].type)};
-        (void)insert(values);
-    }
+void Rowset::restore(std::span<const std::size_t> columns, const StoredRowSource& rows) {
+    std::vector<StoredValue> row(columns.size());
+    while (rows(row)) (void)insert(valuesOf(*this, columns, row));
+}
+
+void Rowset::rewrite(Key key, std::span<const std::size_t> columns, std::span<const StoredValue> values) {
+    update(key, valuesOf(*this, columns, values), {});
+}
+
+Key Rowset::lastKey() {
+    Key last = 0;
+    const RowKeys all = keys(nullptr);
+    for (std::size_t i = 0; i < all.size(); ++i) last = std::max(last, all[i]);
+    return last;
 }
 
 void Rowset::insertAll(std::span<const std::size_t> columns, RowSource& rows) {

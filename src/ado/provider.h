@@ -27,6 +27,7 @@ struct Column {
     std::int32_t definedSize = 0;  ///< characters for text, bytes otherwise
     bool isKey = false;            ///< the integer that identifies a row and is assigned by the database
     bool updatable = true;         ///< false for the key and for computed columns
+    bool keepsAnything = false;    ///< values of any kind, whatever its type
 };
 
 /// A set of column numbers of one rowset, as bits. Rowsets have at most 64 columns that can be told apart; a
@@ -101,12 +102,19 @@ class Rowset {
     virtual void update(Key key, std::span<const ColumnValue> values, std::span<const ColumnValue> read) = 0;
     virtual void remove(Key key) = 0;
 
-    // Of rowsets with all columns of a table that has a key, for putting back what was there.
-    /// All columns of the rows with these keys, exactly as they are stored; a key without a row is left out silently.
+    // Of rowsets with all columns of a table that has a key: values exactly as they are stored.
+    /// All columns of the rows with these keys; a key without a row is left out silently.
     virtual void readStored(std::span<const Key> keys, const StoredRowReceiver& receive);
-    /// Stores rows with all their columns, the key too: dbErrDuplicate when that is taken. Ends as insertAll() does.
-    virtual void restore(const StoredRowSource& rows);
+    /// Stores rows with values for these columns, the key too when it is among them: dbErrDuplicate when that is taken.
+    /// Else and in its end as insertAll().
+    virtual void restore(std::span<const std::size_t> columns, const StoredRowSource& rows);
+    /// Stores these values in a row; dbErrDeletedRow when it is gone.
+    virtual void rewrite(Key key, std::span<const std::size_t> columns, std::span<const StoredValue> values);
+    /// A key that none of the rows that are there or have been there exceeds, as far as the store remembers.
+    [[nodiscard]] virtual Key lastKey();
 };
+
+[[nodiscard]] std::vector<std::size_t> allColumns(const Rowset& rows);
 
 /// What Rowset::scan gives, of the rows with these keys that there are.
 void scanByKeys(Rowset& rows, const RowKeys& keys, std::span<const std::size_t> columns,

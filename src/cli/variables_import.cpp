@@ -102,29 +102,18 @@ class Importer : public VariableReceiver {
     std::size_t moreNotes_ = 0;
 };
 
-void runImport(const VariablesImport& plan, VariableWriter& writer, const Output& output,
-               const std::function<void()>& finish) {
-    Importer importer(writer, plan, output);
-    lists::readVariables(plan.list, plan.encoding, writer.limits(), importer);
-    importer.requireSome();
-    finish();
-    importer.print();
-}
-
 }  // namespace
 
 void importVariables(const VariablesImport& plan, const Output& output) {
-    sqlite::Session session(plan.project);
-    sqlite::Database& database = session.database();
-    if (plan.dryRun) {
-        VariableWriter writer(database, plan.list);
-        writer.practise();
-        database.execute("BEGIN");  // reads alone: others may write meanwhile
-        return runImport(plan, writer, output, [] {});
-    }
+    sqlite::Session session(plan.project, plan.dryRun);  // who only reads keeps nobody out
     session.beginTransaction();
-    VariableWriter writer(database, plan.list);
-    runImport(plan, writer, output, [&] { session.commit(); });
+    VariableWriter writer(session, plan.project, plan.list,
+                          plan.dryRun ? VariableWriter::Mode::practise : VariableWriter::Mode::write);
+    Importer importer(writer, plan, output);
+    lists::readVariables(plan.list, plan.encoding, writer.limits(), importer);
+    importer.requireSome();
+    session.commit();
+    importer.print();
 }
 
 }  // namespace hx::cli

@@ -4,6 +4,7 @@
 #include <optional>
 
 #include "adapters/sqlite/provider.h"
+#include "adapters/sqlite/session.h"
 #include "cli/differences_output.h"
 #include "cli/export.h"
 #include "cli/findings.h"
@@ -106,12 +107,17 @@ void import(const ImportArguments& arguments, const Output& output) {
                             : arguments.mode == "update" ? ImportMode::update
                                                          : ImportMode::replace;
     std::optional<Progress> progress(std::in_place, output);
+    // Names are compared with those of the project before anything is written.
+    const auto session = std::make_shared<sqlite::Session>(
+        arguments.project, false,
+        sqlite::OpenOptions{.comparesNames = false, .keepsChangesInMemory = arguments.dryRun});
     if (arguments.dryRun) {
-        const auto differences = exchange::previewImport(arguments.project, arguments.file, mode, progress->hearer());
+        const auto differences =
+            exchange::previewImport(session, arguments.project, arguments.file, mode, progress->hearer());
         progress.reset();
         return print(differences, arguments.json, output);
     }
-    const auto counts = exchange::importContent(arguments.project, arguments.file, mode, progress->hearer());
+    const auto counts = exchange::importContent(session, arguments.project, arguments.file, mode, progress->hearer());
     progress.reset();
     output.results << "Imported " << arguments.file << ": " << counts.added << " recipes added, " << counts.changed
                    << " changed, " << counts.removed << " removed.\n";

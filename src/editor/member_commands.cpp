@@ -68,7 +68,7 @@ std::string namesMissing(const Members& members, const Members& others,
     std::ranges::set_difference(those, these, std::back_inserter(missing));
     std::string names;
     for (const Member& member : std::span(missing).first(std::min(missing.size(), mostNames))) {
-        const auto recipe = member.child == 0 ? std::nullopt : nameOfRecipe(connection, member.child);
+        const auto recipe = nameOfRecipe(connection, member.child);  // none for a variable
         names += (names.empty() ? "" : ", ") + recipe.value_or(std::string(member.variable));
     }
     return missing.empty() ? "-" : missing.size() > mostNames ? names + ", ..." : names;
@@ -151,9 +151,7 @@ ado::Bookmark Commands::rowLeftByDeletion() const {
     const ado::Recordset& members = window_.memberRecordset();
     const forms::SelectedRows& selected = window_.tdbRM->selectedRows();
     const auto count = static_cast<std::size_t>(members.recordCount());
-    const std::int32_t current = window_.tdbRM->row();
-    if (current < 0) return {};
-    const auto from = static_cast<std::size_t>(current);
+    const auto from = static_cast<std::size_t>(std::max(window_.tdbRM->row(), 0));
     const auto stays = [&](std::size_t row) { return !selected.contains(members.bookmarkAt(row)); };
     for (std::size_t row = from; row < count; ++row) {
         if (stays(row)) return members.bookmarkAt(row);

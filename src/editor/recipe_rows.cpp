@@ -138,7 +138,7 @@ namespace {
 
 void addWhere(Members& to, const std::string& condition, const std::shared_ptr<ado::Connection>& connection) {
     ado::Recordset rows;
-    rows.open("SELECT * FROM " + std::string(schema::memberTable) + " WHERE " + condition + " ORDER BY ID", connection);
+    rows.open("SELECT * FROM " + std::string(schema::memberTable) + " WHERE " + condition, connection);
     to.add(rows);
 }
 

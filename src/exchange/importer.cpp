@@ -23,15 +23,14 @@ void addColumnsOf(const ContentMember& old, std::vector<Cell>& cells) {
 
 }  // namespace
 
-Importer::Importer(sqlite::Database& database, const Content& before, const Content& file, const std::string& path,
+Importer::Importer(ado::Session& session, const Content& before, const Content& file, const std::string& path,
                    ImportMode mode, const Progress& progress)
-    : database_(database),
-      before_(before),
+    : before_(before),
       file_(file),
       path_(path),
       mode_(mode),
-      recipeRows_(database, schema::recipeTable, path),
-      memberRows_(database, schema::memberTable, path),
+      recipeRows_(session, schema::recipeTable, path),
+      memberRows_(session, schema::memberTable, path),
       progress_(progress) {}
 
 ImportCounts Importer::run() {
@@ -62,10 +61,8 @@ void Importer::collectIds() {
     }
     for (const ContentMember& member : before_.orphans) takeMember(member);
     // IDs that were given once are not given to others.
-    for (auto [table, ids] :
-         {std::pair{schema::recipeTable, &recipeIds_}, std::pair{schema::memberTable, &memberIds_}}) {
-        ids->reserve(database_.number("SELECT seq FROM sqlite_sequence WHERE name = '" + std::string(table) + "'"));
-    }
+    recipeIds_.reserve(recipeRows_.lastId());
+    memberIds_.reserve(memberRows_.lastId());
     for (const ContentRecipe& recipe : file_.recipes) {
         recipeIds_.reserve(recipe.id.value_or(0));
         for (const ContentMember& member : recipe.members) reserve(member);
@@ -92,28 +89,22 @@ void Importer::removeOthers() {
     for (const ContentRecipe& recipe : before_.recipes) {
         if (names.contains(foldCase(recipe.name()))) continue;
         deleteMembers(recipe);
-        remove(schema::recipeTable, schema::recipe::id, *recipe.id);
+        recipeRows_.remove(*recipe.id);
         recipeIds_.release(*recipe.id);
         idsByName_.erase(foldCase(recipe.name()));
         ++counts_.removed;
     }
     for (const ContentMember& member : before_.orphans) {
-        remove(schema::memberTable, schema::member::id, *member.id);
+        memberRows_.remove(*member.id);
         memberIds_.release(*member.id);
     }
 }
 
 void Importer::deleteMembers(const ContentRecipe& recipe) {
-    remove(schema::memberTable, schema::member::parentId, *recipe.id);
-    for (const ContentMember& member : recipe.members) memberIds_.release(*member.id);
-}
-
-void Importer::remove(std::string_view table, std::string_view column, std::int64_t id) {
-    const std::string rows = std::string(table) + " WHERE " + std::string(column);
-    sqlite::Statement& statement = database_.prepared("DELETE FROM " + rows + " = ?1");
-    const sqlite::ResetGuard guard(statement);
-    statement.bind(1, id);
-    statement.step();
+    for (const ContentMember& member : recipe.members) {
+        memberRows_.remove(*member.id);
+        memberIds_.release(*member.id);
+    }
 }
 
 void Importer::writeRecipes() {
@@ -192,14 +183,14 @@ void Importer::writeMember(const ContentMember& member, const std::vector<Cell>&
         cells, member.line);
 }
 
-std::int64_t Importer::childOf(const ContentMember& member) const {
+std::int64_t Importer::childOf(const ContentMember& member) {
     if (!member.isSubRecipe()) return 0;
     if (member.childName) {
         const auto found = idsByName_.find(foldCase(*member.childName));
         if (found != idsByName_.end()) return found->second;
         fail(member, "\"subRecipe\": there is no recipe " + hosting::inQuotes(*member.childName));
     }
-    if (isRecipe(member.child)) {
+    if (recipeRows_.has(member.child)) {
         fail(member, "\"ChildID\": the missing recipe's ID " + std::to_string(member.child) +
                          " belongs to a recipe of the project");
     }
@@ -222,17 +213,12 @@ void Importer::updateOrphan(const ContentMember& old, const ContentMember& membe
 }
 
 void Importer::writeOrphan(const ContentMember& member) {
-    if (isRecipe(member.parent)) {
+    if (recipeRows_.has(member.parent)) {
         fail(member, "\"ParentID\": the missing recipe's ID " + std::to_string(member.parent) +
                          " belongs to a recipe of the project");
     }
     const bool keeps = member.id && memberIds_.isFree(*member.id);
     writeMember(member, member.cells, member.parent, keeps ? *member.id : newId(memberIds_, member.line));
-}
-
-bool Importer::isRecipe(std::int64_t id) const {
-    return database_.number("SELECT count(*) FROM " + std::string(schema::recipeTable) +
-                            " WHERE ID = " + std::to_string(id)) != 0;
 }
 
 void Importer::fail(const ContentMember& member, const std::string& problem) const {

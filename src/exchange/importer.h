@@ -38,7 +38,7 @@ class Ids {
 /// for messages; all is lent.
 class Importer {
   public:
-    Importer(sqlite::Database& database, const Content& before, const Content& file, const std::string& path,
+    Importer(ado::Session& session, const Content& before, const Content& file, const std::string& path,
              ImportMode mode, const Progress& progress);
 
     /// Throws automation::Error, with line and field when something in the file is wrong.
@@ -57,7 +57,6 @@ class Importer {
     void takeMember(const ContentMember& member);
     void removeOthers();
     void deleteMembers(const ContentRecipe& recipe);
-    void remove(std::string_view table, std::string_view column, std::int64_t id);
     void writeRecipes();
     void addRecipe(const ContentRecipe& recipe);
     void updateRecipe(const ContentRecipe& old, const ContentRecipe& recipe);
@@ -67,14 +66,12 @@ class Importer {
     [[nodiscard]] std::int64_t newId(const Ids& ids, int line) const;
     [[nodiscard]] bool canKeepIds(const std::vector<ContentMember>& members) const;
     void writeMember(const ContentMember& member, const std::vector<Cell>& cells, std::int64_t parent, std::int64_t id);
-    [[nodiscard]] std::int64_t childOf(const ContentMember& member) const;
+    [[nodiscard]] std::int64_t childOf(const ContentMember& member);
     void writeOrphans();
     void updateOrphan(const ContentMember& old, const ContentMember& member);
     void writeOrphan(const ContentMember& member);
-    [[nodiscard]] bool isRecipe(std::int64_t id) const;
     [[noreturn]] void fail(const ContentMember& member, const std::string& problem) const;
 
-    sqlite::Database& database_;
     const Content& before_;
     const Content& file_;
     const std::string& path_;

@@ -129,9 +129,13 @@ class RecordedRowset : public ado::Rowset {
     void insertAll(std::span<const std::size_t> columns, ado::RowSource& rows) override {
         recording_->change([&] { inner_->insertAll(columns, rows); });
     }
-    void restore(const ado::StoredRowSource& rows) override {
-        recording_->change([&] { inner_->restore(rows); });
+    void restore(std::span<const std::size_t> columns, const ado::StoredRowSource& rows) override {
+        recording_->change([&] { inner_->restore(columns, rows); });
     }
+    void rewrite(Key key, std::span<const std::size_t> columns, std::span<const ado::StoredValue> values) override {
+        recording_->change([&] { inner_->rewrite(key, columns, values); });
+    }
+    [[nodiscard]] Key lastKey() override { return inner_->lastKey(); }
     void update(Key key, std::span<const ColumnValue> values, std::span<const ColumnValue> read) override {
         recording_->change([&] { inner_->update(key, values, read); });
     }

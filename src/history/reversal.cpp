@@ -120,7 +120,7 @@ class TableReversal {
             return false;
         };
         try {
-            rowset_->restore(source);
+            rowset_->restore(ado::allColumns(*rowset_), source);
         } catch (const Error& error) {
             if (error.number() != ado::dbErrDuplicate || next == 0) throw;
             refuse(sentence::rowTaken, effects_.rows[next - 1], error);

@@ -2,9 +2,9 @@
 #include "lists/variable_writer.h"
 
 #include <algorithm>
+#include <array>
 #include <limits>
 
-#include "adapters/sqlite/table_info.h"
 #include "automation/text.h"
 #include "hosting/in_file.h"
 #include "hosting/text_file.h"
@@ -13,9 +13,6 @@
 
 namespace hx::lists {
 
-using automation::Variant;
-using sqlite::ResetGuard;
-using sqlite::Statement;
 using Kind = VariableChange::Kind;
 
 namespace {
@@ -23,17 +20,13 @@ namespace {
 namespace variable_column = project::schema::variable;
 constexpr auto table = project::schema::variableTable;
 
-VariableLimits limitsOf(sqlite::Database& database) {
-    const auto info = sqlite::TableInfo::read(database, table);
-    if (!info) {
-        throw automation::Error(automation::errFail,
-                                "There is no table \"" + std::string(table) + "\" in " + database.path());
+std::unique_ptr<ado::Rowset> openList(ado::Session& session, const std::string& project) {
+    try {
+        return session.open(table, ado::adCmdTable);
+    } catch (const automation::Error& error) {
+        if (error.number() != ado::dbErrNoTable) throw;
+        throw automation::Error(automation::errFail, "There is no table \"" + std::string(table) + "\" in " + project);
     }
-    const auto limit = [&](std::string_view column) {
-        const auto size = info->columns[info->requireColumn(column)].definedSize;
-        return size > 0 ? static_cast<std::size_t>(size) : std::numeric_limits<std::size_t>::max();
-    };
-    return {limit(variable_column::name), limit(variable_column::type), limit(variable_column::comment)};
 }
 
 bool isControl(char c) { return static_cast<unsigned char>(c) < 0x20 || c == 0x7F; }
@@ -46,20 +39,39 @@ bool isLongerThan(std::string_view text, std::size_t limit) {
 
 }  // namespace
 
-VariableWriter::VariableWriter(sqlite::Database& database, std::string file)
-    : database_(database),
-      file_(std::move(file)),
-      limits_(hosting::inFile(database.path(), [&] { return limitsOf(database); })) {
-    known_.reserve(static_cast<std::size_t>(database_.number("SELECT count(*) FROM ThxVariable")));
-    Statement rows(database_, "SELECT ID, Name FROM ThxVariable");
-    while (rows.step()) known_.emplace(hashOf(rows.text(1)), Entry{rows.key(0), 0});
+VariableWriter::VariableWriter(ado::Session& session, const std::string& project, std::string file, Mode mode)
+    : rows_(openList(session, project)), file_(std::move(file)), mode_(mode) {
+    hosting::inFile(project, [this] {
+        id_ = columnOf(variable_column::id);
+        name_ = columnOf(variable_column::name);
+        type_ = columnOf(variable_column::type);
+        comment_ = columnOf(variable_column::comment);
+    });
+    limits_ = limitsOf();
+    readKnown();
 }
 
-// Tables of the connection hide those of the file.
-void VariableWriter::practise() {
-    database_.execute(
-        "CREATE TEMP TABLE ThxVariable (ID INTEGER PRIMARY KEY, Name TEXT, Type TEXT, Comment TEXT);"
-        "INSERT INTO temp.ThxVariable SELECT ID, Name, Type, Comment FROM main.ThxVariable;");
+std::size_t VariableWriter::columnOf(std::string_view name) const {
+    const auto named = [&](const ado::Column& column) { return automation::equalIgnoreCase(column.name, name); };
+    const auto found = std::ranges::find_if(rows_->columns(), named);
+    if (found != rows_->columns().end()) return static_cast<std::size_t>(found - rows_->columns().begin());
+    throw automation::Error(ado::dbErrBadCommand,
+                            "Table \"" + std::string(table) + "\" has no column \"" + std::string(name) + "\".");
+}
+
+VariableLimits VariableWriter::limitsOf() const {
+    const auto limit = [this](std::size_t column) {
+        const auto size = rows_->columns()[column].definedSize;
+        return size > 0 ? static_cast<std::size_t>(size) : std::numeric_limits<std::size_t>::max();
+    };
+    return {limit(name_), limit(type_), limit(comment_)};
+}
+
+void VariableWriter::readKnown() {
+    rows_->scan(std::array{id_, name_}, [this](std::span<const ado::StoredValue> row) {
+        std::string room;
+        known_.emplace(hashOf(ado::shownText(row[1], room)), Entry{row[0].integer, 0});
+    });
 }
 
 VariableChange VariableWriter::take(const ListedVariable& variable) {
@@ -108,11 +120,16 @@ std::size_t VariableWriter::hashOf(std::string_view name) {
 }
 
 VariableWriter::Row VariableWriter::read(std::int64_t id) {
-    Statement& select = database_.prepared("SELECT Name, Type, Comment FROM ThxVariable WHERE ID = ?1");
-    const ResetGuard guard(select);
-    select.bind(1, id);
-    select.step();
-    return {select.text(0), select.text(1), select.text(2)};
+    if (const auto practised = practised_.find(id); practised != practised_.end()) return practised->second;
+    Row found;
+    rows_->readStored({&id, 1}, [&](std::span<const ado::StoredValue> row) {
+        const auto text = [&](std::size_t column) {
+            std::string room;
+            return std::string(ado::shownText(row[column], room));
+        };
+        found = {text(name_), text(type_), text(comment_)};
+    });
+    return found;
 }
 
 VariableChange VariableWriter::takeKnown(Entry& entry, const Row& row, const ListedVariable& variable) {
@@ -129,22 +146,21 @@ VariableChange VariableWriter::takeKnown(Entry& entry, const Row& row, const Lis
 }
 
 void VariableWriter::update(std::int64_t id, const Row& row, const ListedVariable& variable) {
-    Statement& change = database_.prepared("UPDATE ThxVariable SET Type = ?2, Comment = ?3 WHERE ID = ?1");
-    const ResetGuard guard(change);
-    change.bind(1, id);
-    change.bind(2, Variant(variable.type.value_or(row.type)));
-    change.bind(3, Variant(variable.comment.value_or(row.comment)));
-    change.step();
+    const std::string type = variable.type.value_or(row.type);
+    const std::string comment = variable.comment.value_or(row.comment);
+    if (mode_ == Mode::practise) practised_[id] = {row.name, type, comment};
+    else rows_->update(id, std::array<ado::ColumnValue, 2>{{{type_, type}, {comment_, comment}}}, {});
 }
 
 void VariableWriter::insert(std::size_t hash, const ListedVariable& variable) {
-    Statement& add = database_.prepared("INSERT INTO ThxVariable (Name, Type, Comment) VALUES (?1, ?2, ?3)");
-    const ResetGuard guard(add);
-    add.bind(1, Variant(variable.name));
-    add.bind(2, Variant(variable.type.value_or("")));
-    add.bind(3, Variant(variable.comment.value_or("")));
-    add.step();
-    known_.emplace(hash, Entry{database_.lastInsertedKey(), variable.line});
+    const std::string type = variable.type.value_or("");
+    const std::string comment = variable.comment.value_or("");
+    std::int64_t id = -1 - static_cast<std::int64_t>(practised_.size());
+    if (mode_ == Mode::practise) practised_[id] = {variable.name, type, comment};
+    else
+        id = rows_->insert(
+            std::array<ado::ColumnValue, 3>{{{name_, variable.name}, {type_, type}, {comment_, comment}}});
+    known_.emplace(hash, Entry{id, variable.line});
 }
 
 }  // namespace hx::lists

@@ -31,7 +31,10 @@ void sortAsShown(ado::Recordset& members, const forms::Grid& grid) {
     const auto [column, descending] = grid.sortColumn();
     if (column == nullptr || !column->valueItems().translates()) return;
     const auto& fields = members.columns();
-    const auto field = std::ranges::find(fields, column->dataField(), &ado::Column::name);
+    const auto isShown = [&](const ado::Column& field) {
+        return automation::equalIgnoreCase(field.name, column->dataField());
+    };
+    const auto field = std::ranges::find_if(fields, isShown);
     if (field == fields.end()) return;
     const auto shown = [column = std::static_pointer_cast<forms::Column>(column->share())](
                            const automation::Variant& value) { return column->valueItems().display(value); };

@@ -89,6 +89,13 @@ TEST_F(ChooseVariables, ReplacesTheMembersInTheOrderOfTheSelection) {
     expectAtRest();
 }
 
+TEST_F(ChooseVariables, ReplacesMembersOfWhichVariablesCameLast) {
+    addMember(mix, "Late");
+    choose(Texts{"Late"});
+    EXPECT_EQ(messages(), Texts{});
+    EXPECT_EQ(storedMembers(), (Texts{"2 Sugar.Mass 0", "1 Late 0"}));
+}
+
 TEST_F(ChooseVariables, DeletesTheSubRecipesOfTheRecipeToo) {
     choose(variables);
     EXPECT_EQ(storedMembers(), (Texts{"2 Sugar.Mass 0", "1 Tank.Level 0", "1 Tank.Temp 0", "1 Pump.Speed 0"}));

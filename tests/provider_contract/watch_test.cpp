@@ -122,12 +122,39 @@ TEST_P(Watch, RowsComeBackUnderTheirKeys) {
         std::ranges::copy(row, values.begin());
         return !std::exchange(given, true);
     };
-    members()->restore(once);
+    const auto rows = members();
+    rows->restore(ado::allColumns(*rows), once);
     EXPECT_EQ(stored("TrcpRecipeMember", "ID"), "1,2");
     EXPECT_EQ(stored("TrcpRecipeMember", "VarRecipe"), "V1,V2");
     given = false;
-    EXPECT_EQ(errorNumber([&] { members()->restore(once); }), ado::dbErrDuplicate);
+    EXPECT_EQ(errorNumber([&] { rows->restore(ado::allColumns(*rows), once); }), ado::dbErrDuplicate);
     EXPECT_EQ(add("V4"), 4);
+}
+
+TEST_P(Watch, RowsAreStoredByTheColumnsThatAreNamed) {
+    const auto rows = members();
+    const std::array columns = {columnOf(*rows, "VarRecipe"), columnOf(*rows, "ParentID")};
+    std::array values = {ado::StoredValue{ado::StoredValue::Kind::text, 0, 0, "V8"}, ado::StoredValue::of(7)};
+    bool given = false;
+    rows->restore(columns, [&](std::span<ado::StoredValue> row) {
+        std::ranges::copy(values, row.begin());
+        return !std::exchange(given, true);
+    });
+    EXPECT_EQ(stored("TrcpRecipeMember", "VarRecipe"), "V1,V2,V8");
+    EXPECT_EQ(stored("TrcpRecipeMember", "ChildID"), "0,0,0");  // the table's default
+    values[0].text = "V9";
+    rows->rewrite(3, columns, values);
+    EXPECT_EQ(stored("TrcpRecipeMember", "VarRecipe"), "V1,V2,V9");
+    values[0].text = "V1";
+    EXPECT_EQ(errorNumber([&] { rows->rewrite(3, columns, values); }), ado::dbErrDuplicate);
+    EXPECT_EQ(errorNumber([&] { rows->rewrite(4, columns, values); }), ado::dbErrDeletedRow);
+    EXPECT_EQ(stored("TrcpRecipeMember", "VarRecipe"), "V1,V2,V9");
+}
+
+TEST_P(Watch, TheLastKeyIsRememberedWhenItsRowIsGone) {
+    EXPECT_EQ(members()->lastKey(), 2);
+    members()->remove(2);
+    EXPECT_EQ(members()->lastKey(), 2);
 }
 
 TEST_P(Watch, ARowCanBeGivenAKeyThatIsFree) {

@@ -106,6 +106,17 @@ TEST_F(RefreshingTheMembers, ATranslatedColumnIsSortedByWhatItShows) {
     EXPECT_EQ(variables(), (Names{"Z.File", "File.Name", "Y.File"}));
 }
 
+TEST_F(RefreshingTheMembers, ATranslatedColumnIsItsFieldInAnyCase) {
+    view.grid.clearColumns();
+    for (const char* field : {"id", "parentid", "varrecipe", "childid"}) view.grid.addColumn(field);
+    plant.addMember(mix, "Z.File", mix);
+    view.grid.findColumn("childid")->valueItems().setSource(
+        [&](const Variant& id) -> std::optional<std::string> { return id.asInt32() == mix ? "zwei" : "Eins"; });
+    view.grid.setSortText("childid");
+    show("RCPU1");
+    EXPECT_EQ(variables(), (Names{"File.Name", "Z.File"}));
+}
+
 TEST_F(RefreshingTheMembers, OnlyTheSubRecipeViewShowsTheColumnOfTheSubRecipe) {
     show("RCPU1");
     EXPECT_TRUE(view.grid.findColumn("ChildID")->visible());
@@ -129,6 +140,22 @@ TEST_F(RefreshingTheMembers, APendingEditIsSavedBeforeTheQueryChanges) {
     EXPECT_EQ(variables(), (Names{"C.Level"}));
     show("RCPR1");
     EXPECT_EQ(variables(), (Names{"Z.Level", "A.Level"}));
+}
+
+TEST_F(RefreshingTheMembers, APendingEditIsSavedBeforeTheSameRowsAreShownAgain) {
+    show("RCPR1");
+    view.recordset->field("VarRecipe").setValue("Z.Level");
+    show("RCPR1");
+    EXPECT_EQ(variables(), (Names{"Z.Level", "A.Level"}));
+    EXPECT_EQ(view.recordset->editMode(), ado::adEditNone);
+}
+
+TEST_F(RefreshingTheMembers, RowsThatAreShownAgainAreAllThere) {
+    show("RCPR1");
+    view.recordset->setFilter("VarRecipe = 'A.Level'");
+    ASSERT_EQ(variables(), (Names{"A.Level"}));
+    show("RCPR1");
+    EXPECT_EQ(variables(), (Names{"B.Level", "A.Level"}));
 }
 
 TEST_F(RefreshingTheMembers, APendingEditIsDroppedWhenTheEditorDoesNotSaveFirst) {

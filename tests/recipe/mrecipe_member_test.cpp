@@ -133,6 +133,14 @@ TEST_F(MRecipeMember, EditingShowsTheMembersValues) {
     EXPECT_EQ(host.record.modals.size(), 1U);
 }
 
+TEST_F(MRecipeMember, EditingShowsNoOtherColumnAsTheVariable) {
+    members.setSource("SELECT ID, VarRecipe, ChildID, ParentID FROM TrcpRecipeMember WHERE ParentID = " +
+                      std::to_string(cola) + " And ChildID <> 0 ORDER BY ID");
+    lookAt([](FSubRecipe& dialog) { EXPECT_EQ(dialog.txtVarRecipe->text(), "File.Syrup"); });
+    EXPECT_FALSE(edit());
+    EXPECT_EQ(host.record.modals.size(), 1U);
+}
+
 TEST_F(MRecipeMember, EditingShowsNoVariableForNull) {
     storeMember(VarRecipe, Null{});
     lookAt([](FSubRecipe& dialog) { EXPECT_EQ(dialog.txtVarRecipe->text(), ""); });

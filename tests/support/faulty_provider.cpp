@@ -58,6 +58,7 @@ class FaultyRowset : public ado::Rowset {
         plan_.pass(Kind::remove);
         inner_->remove(key);
     }
+    [[nodiscard]] Key lastKey() override { return inner_->lastKey(); }
 
   private:
     std::unique_ptr<ado::Rowset> inner_;

@@ -32,6 +32,7 @@ class MemoryTable {
     [[nodiscard]] const std::vector<ado::Column>& columns() const { return columns_; }
     [[nodiscard]] const std::map<ado::Key, Row>& rows() const { return rows_; }
     [[nodiscard]] const Row* row(ado::Key key) const;
+    [[nodiscard]] ado::Key lastKey() const { return lastKey_; }
 
     ado::Key insert(std::span<const ado::ColumnValue> values);
     void update(ado::Key key, std::span<const ado::ColumnValue> values, std::span<const ado::ColumnValue> read = {});

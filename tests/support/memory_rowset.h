@@ -23,6 +23,7 @@ class MemoryRowset : public ado::Rowset {
     void update(ado::Key key, std::span<const ado::ColumnValue> values,
                 std::span<const ado::ColumnValue> read) override;
     void remove(ado::Key key) override;
+    [[nodiscard]] ado::Key lastKey() override { return table().lastKey(); }
 
   private:
     MemoryTable& table() { return database_.table(table_); }

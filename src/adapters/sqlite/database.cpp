@@ -62,6 +62,7 @@ Database::Database(const std::string& path, const OpenOptions& options)
     limitWork(usualWork);
     execute(settings);
     useLargeCache(false);
+    if (options.keepsChangesInMemory) execute("PRAGMA cache_spill=OFF");
 }
 
 Database::~Database() = default;

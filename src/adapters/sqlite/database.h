@@ -29,6 +29,7 @@ struct OpenOptions {
     /// Whether a session refuses a name that differs from another's only in the case of letters beyond ASCII. It looks
     /// at all names with the same beginning: who writes very many compares them himself.
     bool comparesNames = true;
+    bool keepsChangesInMemory = false;  ///< until a transaction ends, however many they are
 };
 
 /// An open SQLite file. Every failure is an automation::Error that names the file: dbErrDuplicate, dbErrIntegrity,

@@ -68,7 +68,10 @@ std::optional<std::string> storedName(Database& database, std::string_view name)
 }
 
 void readColumns(Database& database, TableInfo& info) {
-    Statement& statement = database.prepared("SELECT name, type, pk FROM pragma_table_info(?1)");
+    // SQLite makes texts of numbers in columns of these types alone.
+    Statement& statement = database.prepared(
+        "SELECT name, type, pk, type LIKE '%CHAR%' OR type LIKE '%CLOB%' OR type LIKE '%TEXT%' "
+        "FROM pragma_table_info(?1)");
     const ResetGuard guard(statement);
     statement.bind(1, automation::Variant(info.name));
     int keyParts = 0;
@@ -79,7 +82,8 @@ void readColumns(Database& database, TableInfo& info) {
             // Only exactly this type makes the column the row's own number.
             if (equalIgnoreCase(statement.text(1), "INTEGER")) integerKey = info.columns.size();
         }
-        info.columns.push_back(columnOfType(statement.text(0), statement.text(1)));
+        ado::Column& column = info.columns.emplace_back(columnOfType(statement.text(0), statement.text(1)));
+        column.keepsAnything = isText(column) && statement.key(3) == 0;
     }
     if (keyParts != 1 || !integerKey) return;
     ado::Column& key = info.columns[*integerKey];
@@ -108,6 +112,8 @@ ado::Column columnOfType(std::string name, std::string_view declaredType) {
     }
     return {std::move(name), ado::adLongVarWChar, 0, false, true};
 }
+
+bool isText(const ado::Column& column) { return column.type == ado::adVarWChar || column.type == ado::adLongVarWChar; }
 
 std::optional<std::size_t> TableInfo::column(std::string_view wanted) const {
     for (std::size_t i = 0; i < columns.size(); ++i) {

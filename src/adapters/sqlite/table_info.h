@@ -15,6 +15,8 @@ namespace hx::sqlite {
 /// LONGTEXT and their usual synonyms; anything else is long text.
 [[nodiscard]] ado::Column columnOfType(std::string name, std::string_view declaredType);
 
+[[nodiscard]] bool isText(const ado::Column& column);
+
 /// A table as the file declares it.
 struct TableInfo {
     std::string name;

@@ -22,8 +22,6 @@ constexpr std::uint64_t readAlong = 4;
 // From a key to a greater one; a key has half of the numbers.
 std::uint64_t distance(Key from, Key to) { return static_cast<std::uint64_t>(to) - static_cast<std::uint64_t>(from); }
 
-bool isText(const ado::Column& column) { return column.type == ado::adVarWChar || column.type == ado::adLongVarWChar; }
-
 void bindAll(Statement& statement, const std::vector<automation::Variant>& parameters) {
     for (std::size_t i = 0; i < parameters.size(); ++i) statement.bind(static_cast<int>(i + 1), parameters[i]);
 }
@@ -214,7 +212,24 @@ void TableRowset::readStored(std::span<const Key> keys, const ado::StoredRowRece
     }
 }
 
-void TableRowset::restore(const ado::StoredRowSource& rows) { writes_->restore(table_, columns_, rows); }
+void TableRowset::restore(std::span<const std::size_t> columns, const ado::StoredRowSource& rows) {
+    writes_->restore(table_, columns_, columns, rows);
+}
+
+void TableRowset::rewrite(Key key, std::span<const std::size_t> columns, std::span<const ado::StoredValue> values) {
+    writes_->rewrite(table_, columns_, key, columns, values);
+}
+
+Key TableRowset::lastKey() {
+    Database& database = writes_->database();
+    const Key last = database.number("SELECT max(" + quotedName(table_.key) + ") FROM " + quotedName(table_.name));
+    const bool remembers = database.number("SELECT 1 FROM sqlite_schema WHERE name = 'sqlite_sequence'") != 0;
+    if (!remembers) return last;
+    Statement& given = database.prepared("SELECT seq FROM sqlite_sequence WHERE name = ?1");
+    const ResetGuard guard(given);
+    given.bind(1, automation::Variant(table_.name));
+    return given.step() ? std::max(last, given.key(0)) : last;
+}
 
 void TableRowset::remove(Key key) { writes_->remove(table_, key); }
 

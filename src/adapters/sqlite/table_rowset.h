@@ -25,7 +25,9 @@ class TableRowset : public ado::Rowset {
                 std::span<const ado::ColumnValue> read) override;
     void remove(ado::Key key) override;
     void readStored(std::span<const ado::Key> keys, const ado::StoredRowReceiver& receive) override;
-    void restore(const ado::StoredRowSource& rows) override;
+    void restore(std::span<const std::size_t> columns, const ado::StoredRowSource& rows) override;
+    void rewrite(ado::Key key, std::span<const std::size_t> columns, std::span<const ado::StoredValue> values) override;
+    [[nodiscard]] ado::Key lastKey() override;
 
   private:
     enum class Order { ascendingKey, descendingKey, text, other };

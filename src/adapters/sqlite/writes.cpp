@@ -18,12 +18,12 @@ namespace {
 
 constexpr std::size_t rowsPerStatement = 64;
 
-// What is not among the values the row holds already, when it has a key.
+// What is not among the values, asked for when they are needed, the row holds already, when it has a key.
+template <typename Values>
 void stepNamingDuplicates(Statement& statement, Database& database, const TableInfo& table,
-                          std::span<const ado::Column> columns, std::span<const ColumnValue> values,
-                          std::optional<Key> key = {}) {
+                          std::span<const ado::Column> columns, const Values& values, std::optional<Key> key = {}) {
     const auto row = [&](std::string_view column) {
-        for (const ColumnValue& value : values) {
+        for (const ColumnValue& value : values()) {
             if (automation::equalIgnoreCase(columns[value.column].name, column)) return value.value;
         }
         return key ? storedValue(database, table, column, *key) : automation::Variant();
@@ -39,6 +39,27 @@ void stepNamingDuplicates(Statement& statement, Database& database, const TableI
 void bindAll(Statement& statement, std::span<const ColumnValue> values) {
     int parameter = 0;
     for (const ColumnValue& value : values) statement.bind(++parameter, value.value);
+}
+
+void bindAll(Statement& statement, std::span<const ado::StoredValue> values) {
+    int parameter = 0;
+    for (const ado::StoredValue& value : values) statement.bind(++parameter, value);
+}
+
+std::vector<ColumnValue> namesOnly(std::span<const std::size_t> columns) {
+    std::vector<ColumnValue> names(columns.size());
+    for (std::size_t i = 0; i < columns.size(); ++i) names[i].column = columns[i];
+    return names;
+}
+
+// For a message.
+std::vector<ColumnValue> named(std::span<const std::size_t> columns, std::span<const ado::StoredValue> values) {
+    std::vector<ColumnValue> row = namesOnly(columns);
+    for (std::size_t i = 0; i < row.size(); ++i) {
+        row[i].value = values[i].isNumber() ? automation::Variant(values[i].real)
+                                            : automation::Variant(std::string(values[i].text));
+    }
+    return row;
 }
 
 // `values` are those of one row.
@@ -73,7 +94,7 @@ Key Writes::insert(const TableInfo& table, std::span<const ado::Column> columns,
     Statement& statement = database_.prepared(insertQuery(table, columns, values));
     const ResetGuard guard(statement);
     bindAll(statement, values);
-    stepNamingDuplicates(statement, database_, table, columns, values);
+    stepNamingDuplicates(statement, database_, table, columns, [&] { return values; });
     return database_.lastInsertedKey();
 }
 
@@ -115,25 +136,29 @@ void Writes::insertTogether(const TableInfo& table, std::span<const ado::Column>
     for (std::size_t row = 0; row < rows; ++row) (void)insert(table, columns, one(row));
 }
 
-void Writes::restore(const TableInfo& table, std::span<const ado::Column> columns, const ado::StoredRowSource& rows) {
+void Writes::restore(const TableInfo& table, std::span<const ado::Column> columns,
+                     std::span<const std::size_t> assigned, const ado::StoredRowSource& rows) {
     requireTransaction();
-    std::vector<ColumnValue> all(columns.size());
-    for (std::size_t i = 0; i < all.size(); ++i) all[i].column = i;
-    Statement& statement = database_.prepared(insertQuery(table, columns, all));
-    std::vector<ado::StoredValue> row(columns.size());
+    Statement& statement = database_.prepared(insertQuery(table, columns, namesOnly(assigned)));
+    std::vector<ado::StoredValue> row(assigned.size());
     while (rows(row)) {
         const ResetGuard guard(statement);
-        for (std::size_t i = 0; i < row.size(); ++i) statement.bind(static_cast<int>(i) + 1, row[i]);
-        try {
-            statement.step();
-        } catch (const Error& error) {
-            throw namingDuplicate(error, database_, table, [&](std::string_view column) {
-                const ado::StoredValue& value = row[table.requireColumn(column)];
-                return value.isNumber() ? automation::Variant(value.real)
-                                        : automation::Variant(std::string(value.text));
-            });
-        }
+        bindAll(statement, row);
+        stepNamingDuplicates(statement, database_, table, columns, [&] { return named(assigned, row); });
     }
+}
+
+void Writes::rewrite(const TableInfo& table, std::span<const ado::Column> columns, Key key,
+                     std::span<const std::size_t> assigned, std::span<const ado::StoredValue> values) {
+    requireTransaction();
+    if (values.empty()) return;
+    Statement& statement = database_.prepared(updateQuery(table, columns, namesOnly(assigned)));
+    const ResetGuard guard(statement);
+    bindAll(statement, values);
+    statement.bind(static_cast<int>(values.size()) + 1, key);
+    stepNamingDuplicates(
+        statement, database_, table, columns, [&] { return named(assigned, values); }, key);
+    if (database_.changedRows() == 0) throw database_.error(ado::dbErrDeletedRow, sentence::rowDeleted);
 }
 
 // What was read is compared and replaced in one transaction.
@@ -149,7 +174,8 @@ void Writes::update(const TableInfo& table, std::span<const ado::Column> columns
         const ResetGuard guard(statement);
         bindAll(statement, values);
         statement.bind(static_cast<int>(values.size()) + 1, key);
-        stepNamingDuplicates(statement, database_, table, columns, values, key);
+        stepNamingDuplicates(
+            statement, database_, table, columns, [&] { return values; }, key);
     }
     if (own) own->commit();
 }

@@ -21,8 +21,10 @@ class Writes {
     /// Many rows in one statement, as often as there are any left.
     void insertAll(const TableInfo& table, std::span<const ado::Column> columns, std::span<const std::size_t> assigned,
                    ado::RowSource& rows);
-    /// Rows with all their columns.
-    void restore(const TableInfo& table, std::span<const ado::Column> columns, const ado::StoredRowSource& rows);
+    void restore(const TableInfo& table, std::span<const ado::Column> columns, std::span<const std::size_t> assigned,
+                 const ado::StoredRowSource& rows);
+    void rewrite(const TableInfo& table, std::span<const ado::Column> columns, ado::Key key,
+                 std::span<const std::size_t> assigned, std::span<const ado::StoredValue> values);
     void update(const TableInfo& table, std::span<const ado::Column> columns, ado::Key key,
                 std::span<const ado::ColumnValue> values, std::span<const ado::ColumnValue> read);
     void remove(const TableInfo& table, ado::Key key);
