@@ -172,6 +172,11 @@ class Provider {
     virtual ~Provider() = default;
     /// Opens the database of an ADO connection string ("Provider=...;Data Source=...;Mode=..."). Never creates it.
     [[nodiscard]] virtual std::unique_ptr<Session> connect(std::string_view connectionString) = 0;
+    /// Copies that database, as it is at one moment and whoever uses it, to a new file, which appears whole or not at
+    /// all; false when the store cannot. Throws when the file exists or cannot be written.
+    [[nodiscard]] virtual bool copy(std::string_view /*connectionString*/, const std::string& /*file*/) {
+        return false;
+    }
 };
 
 }  // namespace hx::ado

@@ -70,9 +70,18 @@ void History::limitMemory() {
     }
 }
 
+void History::willChange() noexcept {
+    if (!beforeChange) return;
+    try {
+        beforeChange();
+    } catch (const std::exception&) {
+        // The change does not depend on it.
+    }
+}
+
 void History::record(ChangeLog changes, ado::Session& session) {
     if (changes.empty()) return;
-    StepName name = nameOf(changes, session);
+    auto [name, surprise] = accountOf(changes, session);
     if (groups_ > 0) {
         groupName_->recipes += name.recipes;
         groupName_->rows += name.rows;
@@ -80,6 +89,7 @@ void History::record(ChangeLog changes, ado::Session& session) {
         return group_.add(changes);
     }
     add({std::move(name), secondsNow(), false}, std::move(changes));
+    if (surprise && surprised) surprised(*surprise);
 }
 
 void History::beginGroup(StepName name) {
@@ -109,6 +119,7 @@ std::optional<ChangeLog> History::changesOf(std::size_t step) {
 void History::goTo(std::size_t position) {
     if (position > steps_.size()) return;
     if (position == position_) return;
+    willChange();
     const auto session = provider_.connect("Data Source=\"" + project_ + "\";Mode=Read|Write|Share Deny None;");
     const auto tell = [this] {
         notePosition();

@@ -55,6 +55,11 @@ class History {
     /// A change was made that could not be recorded: nothing before it can be undone.
     void forget();
 
+    /// Called before something is changed; what it throws is of no effect.
+    std::function<void()> beforeChange;
+    void willChange() noexcept;
+    /// Called after a step outside of a group that has done what may not have been meant.
+    std::function<void(const Surprise& surprise)> surprised;
     /// Called after each change of steps() or position().
     std::function<void()> changed;
 

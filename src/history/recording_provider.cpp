@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "ado/connection_string.h"
+#include "automation/text.h"
 
 namespace hx::history {
 
@@ -45,6 +46,12 @@ class Recorder : public ado::RowWatcher {
     bool complete_ = true;
 };
 
+bool isQuery(std::string_view command, ado::CommandType type) {
+    constexpr std::string_view select = "SELECT";
+    return type != ado::adCmdText ||
+           automation::equalIgnoreCase(automation::trim(command).substr(0, select.size()), select);
+}
+
 /// The session whose work is recorded; its rowsets share it.
 class Recording {
   public:
@@ -71,9 +78,11 @@ class Recording {
             }
         };
         const AtEnd atEnd{*this};
+        if (!inTransaction_) history_->willChange();
         return action();
     }
     void begin() {
+        history_->willChange();
         inner_->beginTransaction();
         inTransaction_ = true;
     }
@@ -154,7 +163,8 @@ class RecordedSession : public ado::Session {
         : recording_(std::make_shared<Recording>(std::move(inner), std::move(history))) {}
 
     [[nodiscard]] std::unique_ptr<ado::Rowset> open(std::string_view command, ado::CommandType type) override {
-        auto rowset = recording_->change([&] { return inner().open(command, type); });
+        auto rowset = isQuery(command, type) ? inner().open(command, type)
+                                             : recording_->change([&] { return inner().open(command, type); });
         if (!rowset) return nullptr;
         return std::make_unique<RecordedRowset>(std::move(rowset), recording_);
     }

@@ -26,6 +26,17 @@ inline constexpr Sentence lost{"Memory was short when this was recorded: it cann
 inline constexpr Sentence damaged{"The record of the changes is damaged.",
                                   "Die Aufzeichnung der Änderungen ist beschädigt."};
 
+// --- why no copy of the day is kept; %1 is the project
+inline constexpr Sentence tooLargeToCopy{"“%1” is larger than all copies together may be.",
+                                         "„%1“ ist größer, als alle Kopien zusammen sein dürfen."};
+
+// --- what a step did that may not have been meant; %1 is the recipe, %2 a number
+inline constexpr Sentence stillIncluded{"“%1” was deleted. Members that still name it as a sub-recipe: %2.",
+                                        "„%1“ wurde gelöscht. Elemente, die es noch als Unterrezept nennen: %2."};
+inline constexpr Sentence subRecipesDropped{"The choice of variables has also removed sub-recipes of “%1”: %2.",
+                                            "Die Auswahl der Variablen hat auch Unterrezepte von „%1“ entfernt: %2."};
+inline constexpr Sentence includesItself{"“%1” includes itself now.", "„%1“ enthält sich jetzt selbst."};
+
 // --- names of steps; %1 and %2 are names of recipes or variables, %3 a number of rows
 inline constexpr Sentence recipeAdded{"Recipe “%1” added", "Rezept „%1“ angelegt"};
 inline constexpr Sentence recipeAddedWith{"Recipe “%1” added, %3 elements", "Rezept „%1“ angelegt, %3 Elemente"};

@@ -103,12 +103,16 @@ class Namer {
         return name;
     }
 
+    [[nodiscard]] std::optional<Surprise> surprise() const { return surprises_.find(session_); }
+
   private:
+    using Place = std::pair<std::int64_t, std::int64_t>;  // parent and child
     void count(const ado::RowChange& change) {
         if (automation::equalIgnoreCase(change.table, schema::recipeTable)) {
             if (recipes_.all() == 0) firstRecipe_ = change.key;
             if (recipes_.all() == 0) recipe_ = {recipeName_.textIn(change.before), recipeName_.textIn(change.after)};
             add(recipes_, change);
+            if (change.after.empty()) surprises_.recipeRemoved(change.key, recipeName_.textIn(change.before));
         } else if (automation::equalIgnoreCase(change.table, schema::memberTable)) {
             countMember(change);
         } else if (automation::equalIgnoreCase(change.table, schema::variableTable)) {
@@ -132,6 +136,13 @@ class Namer {
             variable_ = varRecipe_.textIn(row);
         }
         add(members_, change);
+        const auto placeIn = [this](std::span<const ado::StoredValue> side) {
+            return side.empty() ? Place{} : Place{parent_.in(side).integer, child_.in(side).integer};
+        };
+        const Place before = placeIn(change.before), after = placeIn(change.after);
+        if (before == after) return;
+        if (!change.before.empty()) surprises_.memberRemoved(before.first, before.second);
+        if (!change.after.empty()) surprises_.memberAdded(after.first, after.second);
     }
 
     void nameRecipe(StepName& name) const {
@@ -173,6 +184,7 @@ class Namer {
     ColumnOf parent_{session_, schema::memberTable, schema::member::parentId};
     ColumnOf child_{session_, schema::memberTable, schema::member::childId};
     ColumnOf varRecipe_{session_, schema::memberTable, schema::member::varRecipe};
+    SurpriseFinder surprises_;
     Counts recipes_, members_;
     std::int64_t list_ = 0, others_ = 0;
     std::vector<std::int64_t> parents_;  // at most two of them
@@ -190,6 +202,9 @@ std::string StepName::text(automation::Language language) const {
     return automation::say(language, sentenceOf(*this), {first, second, grouped(rows, language)});
 }
 
-StepName nameOf(const ChangeLog& changes, ado::Session& session) { return Namer(changes, session).name(); }
+Account accountOf(const ChangeLog& changes, ado::Session& session) {
+    Namer namer(changes, session);
+    return {namer.name(), namer.surprise()};
+}
 
 }  // namespace hx::history

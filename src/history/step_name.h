@@ -6,6 +6,7 @@
 
 #include "automation/sentence.h"
 #include "history/change_log.h"
+#include "history/surprise.h"
 
 namespace hx::history {
 
@@ -41,7 +42,13 @@ struct StepName {
     [[nodiscard]] std::string text(automation::Language language) const;
 };
 
-/// The name of what was changed. Asks the session, in which the changes have been made, for what they do not tell.
-[[nodiscard]] StepName nameOf(const ChangeLog& changes, ado::Session& session);
+/// What is to be said of a step.
+struct Account {
+    StepName name;
+    std::optional<Surprise> surprise;
+};
+
+/// What was changed. Asks the session, in which the changes have been made, for what they do not tell.
+[[nodiscard]] Account accountOf(const ChangeLog& changes, ado::Session& session);
 
 }  // namespace hx::history

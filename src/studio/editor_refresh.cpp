@@ -4,7 +4,10 @@
 #include <QApplication>
 #include <QPointer>
 #include <QScrollBar>
+#include <QTimer>
+#include <utility>
 
+#include "automation/convert.h"
 #include "automation/dispatch.h"
 
 namespace hx::studio {
@@ -29,31 +32,50 @@ void collectExpanded(const qt::ExplorerTree& tree, qt::ExplorerModel& model, con
     }
 }
 
+automation::ObjectRef gridOf(forms::Form* window) {
+    return window == nullptr ? nullptr : window->get(gridName).asObject();
+}
+
 }  // namespace
+
+EditorRefresh::EditorRefresh(StudioHost& host, qt::QtExplorer& explorer, qt::ExplorerTree& tree)
+    : host_(host), explorer_(explorer), tree_(tree) {
+    explorer_.listed = [this] { remember(); };
+}
 
 forms::Form* EditorRefresh::editor() const { return host_.attendedScreen().find(editorClass); }
 
-void EditorRefresh::finishEdit() {
-    host_.screen().settle();
-    forms::Form* const window = editor();
-    if (window != nullptr) (void)window->get(gridName).asObject()->get("Update");
+bool EditorRefresh::isThere(const std::string& key) const {
+    return !key.empty() && key != qt::QtExplorer::projectKey && explorer_.model().find(key).isValid();
 }
 
-void EditorRefresh::show(const Project& project, const history::StepName& step) {
+void EditorRefresh::finishEdit() {
+    host_.screen().settle();
+    if (const auto grid = gridOf(editor())) (void)grid->get("Update");
+}
+
+void EditorRefresh::show(const history::StepName& step) {
     forms::Form* const window = editor();
-    if (window == nullptr) return;
+    if (window == nullptr || project_ == nullptr) return;
     const QPointer<QWidget> keyboard = QApplication::focusWidget();
     const std::string before = explorer_.selectedNode().key;
-    if (step.recipes > 0) reopen(project);
-    else activate(*window);
-    const std::string where = std::string(recipeNode) + std::to_string(step.recipe);
-    const bool isThere = step.recipe != 0 && explorer_.model().find(where).isValid();
-    const std::string& shown = isThere ? where : before;
-    if (explorer_.model().find(shown).isValid() && shown != qt::QtExplorer::projectKey) {
-        explorer_.select(shown);
-        project.addIn()->NodeClick(explorer_.eventOf(shown));
+    if (step.recipes > 0) {
+        if (auto addIn = std::dynamic_pointer_cast<automation::Dispatch>(project_->addIn()))
+            (void)addIn->get("RefreshView");
+        putBack();
+    } else {
+        activate(*window);
     }
+    const std::string where = std::string(recipeNode) + std::to_string(step.recipe);
+    const std::string& shown = step.recipe != 0 && isThere(where) ? where : before;
+    if (shown != explorer_.selectedNode().key || step.recipes == 0) showNode(shown);
     if (keyboard) keyboard->setFocus(Qt::OtherFocusReason);
+}
+
+void EditorRefresh::showNode(const std::string& key) {
+    if (!isThere(key)) return;
+    explorer_.select(key);
+    project_->addIn()->NodeClick(explorer_.eventOf(key));
 }
 
 void EditorRefresh::activate(forms::Form& window) {
@@ -61,16 +83,37 @@ void EditorRefresh::activate(forms::Form& window) {
     (void)windows.call(windows.procedure(window.handle()), window.handle(), activateMessage, active, 0);
 }
 
-void EditorRefresh::reopen(const Project& project) {
-    std::vector<std::string> expanded;
+// What is not put back before control returns to the event loop is put back then.
+void EditorRefresh::remember() {
+    if (place_ || project_ == nullptr || editor() == nullptr) return;
+    Place& place = place_.emplace();
     qt::ExplorerModel& model = explorer_.model();
-    collectExpanded(tree_, model, model.find(qt::QtExplorer::projectKey), expanded);
-    const int scrolled = tree_.verticalScrollBar()->value();
-    if (auto addIn = std::dynamic_pointer_cast<automation::Dispatch>(project.addIn())) (void)addIn->get("RefreshView");
-    for (const std::string& key : expanded) {
-        if (model.find(key).isValid()) explorer_.showExpanded(key);
+    collectExpanded(tree_, model, model.find(qt::QtExplorer::projectKey), place.expanded);
+    place.scrolled = tree_.verticalScrollBar()->value();
+    place.node = explorer_.selectedNode().key;
+    if (const auto grid = gridOf(editor())) place.row = automation::toInt32(grid->get("Row"));
+    QTimer::singleShot(0, this, [this] {
+        try {
+            putBack();
+        } catch (const std::exception&) {
+            // The branch is there, at another place.
+        }
+    });
+}
+
+void EditorRefresh::putBack() {
+    if (!place_) return;
+    const Place place = *std::exchange(place_, std::nullopt);
+    if (project_ == nullptr || editor() == nullptr) return;
+    for (const std::string& key : place.expanded) {
+        if (isThere(key)) explorer_.showExpanded(key);
     }
-    tree_.verticalScrollBar()->setValue(scrolled);
+    showNode(place.node);
+    tree_.verticalScrollBar()->setValue(place.scrolled);
+    const auto grid = gridOf(editor());
+    if (!grid || place.row < 0 || !isThere(place.node)) return;
+    const std::int32_t last = automation::toInt32(grid->get("RowCount")) - 1;
+    if (last >= 0) grid->set("Row", automation::Variant(std::min(place.row, last)));
 }
 
 }  // namespace hx::studio

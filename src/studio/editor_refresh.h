@@ -1,33 +1,49 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QObject>
+#include <optional>
+
 #include "history/history.h"
 #include "studio/project.h"
 
 namespace hx::studio {
 
 /// Tells the editor of what was changed around it, by what every studio can: activation for a recipe's members, its own
-/// command for the recipes themselves. What is open, selected and scrolled to stays.
-class EditorRefresh {
+/// command for the recipes themselves. What is open, selected and scrolled to stays, also when the user chooses that
+/// command.
+class EditorRefresh : private QObject {
   public:
     /// All are lent.
-    EditorRefresh(StudioHost& host, qt::QtExplorer& explorer, qt::ExplorerTree& tree)
-        : host_(host), explorer_(explorer), tree_(tree) {}
+    EditorRefresh(StudioHost& host, qt::QtExplorer& explorer, qt::ExplorerTree& tree);
 
+    /// The project that is open, lent; null: none.
+    void setProject(const Project* project) noexcept { project_ = project; }
     /// Stores what has been typed. Throws automation::Error when it is refused.
     void finishEdit();
     /// After this step was undone or done again: the editor then shows where it was. Does nothing while there is no
     /// editor.
-    void show(const Project& project, const history::StepName& step);
+    void show(const history::StepName& step);
 
   private:
-    void reopen(const Project& project);
+    struct Place {
+        std::vector<std::string> expanded;
+        int scrolled = 0;
+        std::string node;
+        std::int32_t row = -1;  // in the grid
+    };
+    void remember();
+    void putBack();
+    void showNode(const std::string& key);
     void activate(forms::Form& window);
     [[nodiscard]] forms::Form* editor() const;
+    [[nodiscard]] bool isThere(const std::string& key) const;
 
     StudioHost& host_;
     qt::QtExplorer& explorer_;
     qt::ExplorerTree& tree_;
+    const Project* project_ = nullptr;
+    std::optional<Place> place_;  // while the editor builds its branch anew
 };
 
 }  // namespace hx::studio

@@ -21,16 +21,19 @@ std::filesystem::path stepsFolder() {
 
 }  // namespace
 
-HistoryCommands::HistoryCommands(QMainWindow& window, StudioHost& host, qt::QtExplorer& explorer,
+HistoryCommands::HistoryCommands(QMainWindow& window, StudioHost& host, bool keepsDailyCopies, qt::QtExplorer& explorer,
                                  qt::ExplorerTree& tree, Warn warn)
-    : host_(host),
+    : window_(window),
+      host_(host),
       wording_(host.wording()),
       warn_(std::move(warn)),
       undo_(&window),
       redo_(&window),
       dock_(window, undo_, redo_, host.wording(),
             [this](std::size_t position) { goTo([position] { return position; }); }),
-      editor_(host, explorer, tree) {
+      editor_(host, explorer, tree),
+      keepsDailyCopies_(keepsDailyCopies),
+      notice_(*window.statusBar(), undo_) {
     undo_.setObjectName(QStringLiteral("actionUndo"));
     redo_.setObjectName(QStringLiteral("actionRedo"));
     undo_.setIcon(qt::namedIcon("studio/undo"));
@@ -49,17 +52,21 @@ void HistoryCommands::addTo(QMainWindow& window) {
 
 void HistoryCommands::retranslate() {
     dock_.retranslate();
+    notice_.retranslate(wording_.translate("studio", "&Undo").remove('&'));
     refresh();
 }
 
 void HistoryCommands::open(const Project& project) {
-    project_ = &project;
+    editor_.setProject(&project);
     try {
         history_ = std::make_shared<history::History>(host_.store(), qt::fromQt(project.file()), stepsFolder());
     } catch (const std::exception&) {
         return;  // memory is short: the project opens, and nothing can be undone
     }
     history_->changed = [this] { refresh(); };
+    copies_.emplace(host_.store(), history_->project());
+    history_->beforeChange = [this] { keepCopy(); };
+    history_->surprised = [this](const history::Surprise& surprise) { tell(surprise); };
     host_.setHistory(history_);
     beginMacro();
     dock_.setHistory(history_.get());
@@ -72,10 +79,13 @@ void HistoryCommands::close() {
     host_.setHistory(nullptr);
     if (history_) {
         history_->changed = {};
+        history_->beforeChange = {};
+        history_->surprised = {};
         history_->close();
     }
     history_.reset();
-    project_ = nullptr;
+    copies_.reset();
+    editor_.setProject(nullptr);
     refresh();
 }
 
@@ -90,6 +100,18 @@ void HistoryCommands::setMacro(const QString& name) {
     macro_ = name;
     beginMacro();
     refresh();
+}
+
+// The user is told in the status line: the change itself is not concerned.
+void HistoryCommands::keepCopy() {
+    if (!keepsDailyCopies_) return;
+    try {
+        copies_->beforeChange();
+    } catch (const std::exception&) {
+        const std::string reason = automation::caughtError().description(host_.screen().language());
+        window_.statusBar()->showMessage(
+            wording_.translate("studio", "No copy of the project was kept: %1").arg(qt::toQt(reason)));
+    }
 }
 
 void HistoryCommands::beginMacro() {
@@ -121,6 +143,11 @@ void HistoryCommands::refresh() {
     undo_.setIconText(wording_.translate("studio", "&Undo").remove('&'));
     redo_.setIconText(wording_.translate("studio", "&Redo").remove('&'));
     dock_.refresh();
+    notice_.tell({});  // what it said is not about the last step any more
+}
+
+void HistoryCommands::tell(const history::Surprise& surprise) {
+    notice_.tell(qt::toQt(surprise.text(automation::languageOf(wording_.language()))));
 }
 
 // What is being typed is a step of its own first: undo takes that back, and nothing is left to be done again.
@@ -142,7 +169,7 @@ void HistoryCommands::carryOut(const std::function<std::size_t()>& position) {
         history::StepName shown = history_->steps()[after < before ? after : after - 1].name;
         for (std::size_t step = std::min(before, after); step < std::max(before, after); ++step)
             shown.recipes = std::max(shown.recipes, history_->steps()[step].name.recipes);
-        editor_.show(*project_, shown);
+        editor_.show(shown);
     };
     try {
         const forms::WaitCursor wait(host_.screen());

@@ -5,9 +5,12 @@
 #include <QMainWindow>
 #include <functional>
 #include <memory>
+#include <optional>
 
+#include "history/daily_copies.h"
 #include "studio/editor_refresh.h"
 #include "studio/history_dock.h"
+#include "studio/step_notice.h"
 
 namespace hx::studio {
 
@@ -17,7 +20,8 @@ class HistoryCommands : public QObject {
     using Warn = std::function<void(const QString& text)>;
 
     /// All are lent. `warn` tells the user why a step is not undone.
-    HistoryCommands(QMainWindow& window, StudioHost& host, qt::QtExplorer& explorer, qt::ExplorerTree& tree, Warn warn);
+    HistoryCommands(QMainWindow& window, StudioHost& host, bool keepsDailyCopies, qt::QtExplorer& explorer,
+                    qt::ExplorerTree& tree, Warn warn);
 
     [[nodiscard]] QList<QAction*> actions() { return {&undo_, &redo_}; }
     [[nodiscard]] QAction& toggleDock() { return *dock_.toggleViewAction(); }
@@ -31,6 +35,8 @@ class HistoryCommands : public QObject {
     /// How many steps a studio has left behind that did not end as it should.
     [[nodiscard]] std::size_t stepsFromBefore() const;
     void showDock() { dock_.show(); }
+    void keepDailyCopies(bool keep) noexcept { keepsDailyCopies_ = keep; }
+    [[nodiscard]] bool keepsDailyCopies() const noexcept { return keepsDailyCopies_; }
     /// The macro that runs; empty for none. All that it changes is one step, and nothing is undone meanwhile.
     void setMacro(const QString& name);
 
@@ -38,19 +44,24 @@ class HistoryCommands : public QObject {
     /// `position` is asked for when what is being typed has been stored.
     void goTo(const std::function<std::size_t()>& position);
     void carryOut(const std::function<std::size_t()>& position);
+    void keepCopy();
     void beginMacro();
     void endMacro();
     void refresh();
+    void tell(const history::Surprise& surprise);
     [[nodiscard]] QString told(const history::StepName* step, const QString& command) const;
 
+    QMainWindow& window_;
     StudioHost& host_;
     const qt::Wording& wording_;
     Warn warn_;
     QAction undo_, redo_;
     HistoryDock dock_;
     EditorRefresh editor_;
-    const Project* project_ = nullptr;
     std::shared_ptr<history::History> history_;
+    bool keepsDailyCopies_;
+    std::optional<history::DailyCopies> copies_;
+    StepNotice notice_;
     QString macro_;
 };
 

@@ -41,7 +41,8 @@ MainWindow::MainWindow(StudioHost& host, Preferences& preferences)
       documentsHandle_(host.windows().add(documents_)),
       explorer_(tree_, documentsHandle_, host.clipboard(), host.screen()),
       macros_(*this, *this, host, explorer_),
-      history_(*this, host, explorer_, tree_, [this](const QString& text) { warn(text); }),
+      history_(*this, host, preferences.keepsDailyCopies(), explorer_, tree_,
+               [this](const QString& text) { warn(text); }),
       menus_(*this, *this, {explorerDock_.toggleViewAction(), &history_.toggleDock(), &macros_.toggleOutput()},
              history_.actions(), host.wording()) {
     setUp();
@@ -274,6 +275,12 @@ void MainWindow::clearRecent() {
     if (!preferences_.clearRecent())
         warn(wording_.translate("studio", "The window and the list of projects could not be saved:\n%1"),
              preferences_.file());
+}
+
+void MainWindow::keepDailyCopies(bool keep) {
+    history_.keepDailyCopies(keep);
+    if (!preferences_.setKeepsDailyCopies(keep))
+        warn(wording_.translate("studio", "The setting could not be saved.\n%1"), preferences_.file());
 }
 
 void MainWindow::showAbout() {

@@ -46,6 +46,8 @@ class MainWindow : public QMainWindow, private StudioCommands, private ProjectWi
     void chooseProject() override;
     void openRecent(const QString& path) override { openProject(path); }
     void clearRecent() override;
+    void keepDailyCopies(bool keep) override;
+    [[nodiscard]] bool keepsDailyCopies() const override { return history_.keepsDailyCopies(); }
     void showHelp() override;
     void showAbout() override;
     [[nodiscard]] QStringList recentProjects() const override { return preferences_.recent(); }

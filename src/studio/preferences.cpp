@@ -17,6 +17,8 @@ const QString geometryKey = QStringLiteral("window/geometry");
 const QString layoutKey = QStringLiteral("window/layout");
 const QString recentKey = QStringLiteral("projects/recent");
 
+const QString dailyCopiesKey = QStringLiteral("projects/dailyCopies");
+
 QVariant read(const QString& file, const QString& key) { return QSettings(file, QSettings::IniFormat).value(key); }
 
 QStringList recentIn(const QSettings& settings) {
@@ -76,6 +78,15 @@ bool Preferences::removeRecent(const QString& path) {
 
 bool Preferences::clearRecent() {
     return write([](QSettings& settings) { settings.setValue(recentKey, QStringList()); });
+}
+
+bool Preferences::keepsDailyCopies() const {
+    const QVariant keeps = read(file_, dailyCopiesKey);
+    return keeps.isNull() || keeps.toBool();
+}
+
+bool Preferences::setKeepsDailyCopies(bool keeps) {
+    return write([&](QSettings& settings) { settings.setValue(dailyCopiesKey, keeps); });
 }
 
 // The toolkit takes a file that it cannot read for an empty one, and would write it so; it changes a copy alone.

@@ -27,6 +27,9 @@ class Preferences {
     bool addRecent(const QString& path);
     bool removeRecent(const QString& path);
     bool clearRecent();
+    /// Whether a copy of a project is kept before its first change of a day.
+    [[nodiscard]] bool keepsDailyCopies() const;
+    bool setKeepsDailyCopies(bool keeps);
     [[nodiscard]] const QString& file() const noexcept { return file_; }
 
     using Change = std::function<void(QSettings&)>;

@@ -22,6 +22,7 @@ StudioMenus::StudioMenus(QMainWindow& window, StudioCommands& commands, const QL
       new_(&window),
       open_(&window),
       close_(&window),
+      copies_(&window),
       exit_(&window),
       german_(&window),
       english_(&window),
@@ -32,6 +33,7 @@ StudioMenus::StudioMenus(QMainWindow& window, StudioCommands& commands, const QL
     connect(&new_, &QAction::triggered, this, [this] { commands_.newProject(); });
     connect(&open_, &QAction::triggered, this, [this] { commands_.chooseProject(); });
     connect(&close_, &QAction::triggered, this, [this] { commands_.closeProject(); });
+    connect(&copies_, &QAction::triggered, this, [this](bool keep) { commands_.keepDailyCopies(keep); });
     connect(&exit_, &QAction::triggered, &window, &QWidget::close);
     connect(&german_, &QAction::triggered, this, [this] { commands_.chooseLanguage(qt::Wording::german); });
     connect(&english_, &QAction::triggered, this, [this] { commands_.chooseLanguage(qt::Wording::english); });
@@ -47,7 +49,7 @@ void StudioMenus::build(QMainWindow& window, const QList<QAction*>& views, const
         {&view_, "menuView"},     {&language_, "menuLanguage"}, {&help_, "menuHelp"},
         {&new_, "actionNew"},     {&open_, "actionOpen"},       {&close_, "actionClose"},
         {&exit_, "actionExit"},   {&german_, "actionGerman"},   {&english_, "actionEnglish"},
-        {&about_, "actionAbout"}, {&showHelp_, "actionHelp"}};
+        {&about_, "actionAbout"}, {&showHelp_, "actionHelp"},   {&copies_, "actionDailyCopies"}};
     for (const auto& [object, name] : names) object->setObjectName(QLatin1StringView(name));
     new_.setShortcut(QKeySequence::New);
     new_.setIcon(qt::namedIcon("studio/new-project"));
@@ -62,6 +64,9 @@ void StudioMenus::build(QMainWindow& window, const QList<QAction*>& views, const
     file_.addMenu(&recent_);
     file_.addSeparator();
     file_.addAction(&close_);
+    file_.addSeparator();
+    copies_.setCheckable(true);
+    file_.addAction(&copies_);
     file_.addSeparator();
     file_.addAction(&exit_);
     edit_.addActions(edits);
@@ -85,6 +90,7 @@ void StudioMenus::retranslate() {
         {&new_, wording_.translate("studio", "&New Project…")},
         {&open_, wording_.translate("studio", "&Open…")},
         {&close_, wording_.translate("studio", "&Close Project")},
+        {&copies_, wording_.translate("studio", "&Keep a Copy before Each Day's First Change")},
         {&exit_, wording_.translate("studio", "E&xit")},
         {&german_, wording_.translate("studio", "&Deutsch (German)")},
         {&english_, wording_.translate("studio", "&English")},
@@ -92,6 +98,7 @@ void StudioMenus::retranslate() {
         {&about_, wording_.translate("studio", "&About HelvixStudio")}};
     for (const auto& [action, text] : actions) action->setText(text);
     (wording_.isEnglish() ? english_ : german_).setChecked(true);
+    copies_.setChecked(commands_.keepsDailyCopies());
 }
 
 void StudioMenus::fillRecent() {

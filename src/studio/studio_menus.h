@@ -20,10 +20,12 @@ class StudioCommands {
     virtual void openRecent(const QString& path) = 0;
     virtual void clearRecent() = 0;
     virtual void closeProject() = 0;
+    virtual void keepDailyCopies(bool keep) = 0;
     virtual void chooseLanguage(std::int32_t lcid) = 0;
     virtual void showHelp() = 0;
     virtual void showAbout() = 0;
     [[nodiscard]] virtual QStringList recentProjects() const = 0;
+    [[nodiscard]] virtual bool keepsDailyCopies() const = 0;
 };
 
 /// The menus of the main window, in the studio's language.
@@ -41,7 +43,7 @@ class StudioMenus : public QObject {
     StudioCommands& commands_;
     const qt::Wording& wording_;
     QMenu file_, recent_, edit_, view_, language_, help_;
-    QAction new_, open_, close_, exit_, german_, english_, showHelp_, about_;
+    QAction new_, open_, close_, copies_, exit_, german_, english_, showHelp_, about_;
     QActionGroup languages_;
 };
 

@@ -211,6 +211,30 @@ TEST_F(StudioHistory, WhatAnotherHasChangedIsNotTakenBack) {
     EXPECT_EQ(steps(), Texts());
 }
 
+TEST_F(StudioHistory, ARefreshOfTheViewKeepsItsPlace) {
+    showMembers();
+    tree().expand(node("Rezepte/Meyer's Bräu"));
+    tree().expand(node("Rezepte/Apfelschorle"));
+    click("Rezepte/Limonade");
+    grid().setCurrentIndex(grid().model()->index(1, 0));
+    run("editor.abr.Click('mnuOptionActualize')");
+    handleEvents();
+    EXPECT_EQ(tree().currentIndex(), node("Rezepte/Limonade"));
+    EXPECT_TRUE(tree().isExpanded(node("Rezepte/Meyer's Bräu")));
+    EXPECT_TRUE(tree().isExpanded(node("Rezepte/Apfelschorle")));
+    EXPECT_EQ(titleOfEditor(), "HelvixStudio Rezepteditor: Limonade");
+    EXPECT_EQ(grid().currentIndex().row(), 1);
+}
+
+TEST_F(StudioHistory, ARefreshOfTheViewShowsWhatOthersHaveDone) {
+    showMembers();
+    execute("DELETE * FROM TrcpRecipe WHERE ID = 1");
+    run("editor.abr.Click('mnuOptionActualize')");
+    handleEvents();
+    EXPECT_FALSE(isThere("Rezepte/Limonade"));
+    EXPECT_TRUE(node("Rezepte/Apfelschorle").isValid());
+}
+
 TEST_F(StudioHistory, InAnOpenCellTheKeyIsTheCells) {
     showMembers();
     edit(0, "Variable", "Neu");

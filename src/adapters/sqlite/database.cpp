@@ -122,6 +122,26 @@ void Database::useLargeCache(bool large) noexcept {
     (void)sqlite3_exec(handle(), large ? largeCache : smallCache, nullptr, nullptr, nullptr);
 }
 
+void Database::copyTo(const std::string& path) {
+    sqlite3* opened = nullptr;
+    const std::string absolute = std::filesystem::absolute(hosting::fileSystemPath(path)).string();
+    int code = sqlite3_open_v2(absolute.c_str(), &opened, openFlags, nullptr);
+    const std::unique_ptr<sqlite3, Closer> copy(opened);
+    if (code == SQLITE_OK)
+        code = sqlite3_exec(opened, "PRAGMA journal_mode=OFF; PRAGMA synchronous=OFF;", nullptr, nullptr, nullptr);
+    lockWait_->begin(false);
+    beginWork();
+    if (sqlite3_backup* backup = code == SQLITE_OK ? sqlite3_backup_init(opened, "main", handle(), "main") : nullptr) {
+        (void)sqlite3_backup_step(backup, -1);
+        code = sqlite3_backup_finish(backup);
+    } else if (code == SQLITE_OK) {
+        code = sqlite3_errcode(opened);
+    }
+    if (code == SQLITE_OK) return;
+    const bool ours = code == SQLITE_BUSY || code == SQLITE_LOCKED || isDamage(code);
+    throw errorOf(code, sqlite3_errstr(code), ours ? path_ : path, language_);
+}
+
 Collection Database::collect(Statement& statement) {
     Collection collection;
     const automation::Restore collecting(*collecting_, &collection);

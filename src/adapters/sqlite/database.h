@@ -67,6 +67,9 @@ class Database {
     /// Lets the connection keep more pages of the file in memory, or as few as before, the rest being given back.
     void useLargeCache(bool large) noexcept;
 
+    /// Copies everything, as it is at one moment, into a file that is empty. Only a flush is left to make it safe.
+    void copyTo(const std::string& path);
+
     /// Runs a statement that hands its rows to the function hx_keys.
     [[nodiscard]] Collection collect(Statement& statement);
 

@@ -20,6 +20,7 @@ class Provider : public ado::Provider {
     using Options = std::function<OpenOptions()>;
     explicit Provider(Options options = [] { return OpenOptions(); }) : options_(std::move(options)) {}
     [[nodiscard]] std::unique_ptr<ado::Session> connect(std::string_view connectionString) override;
+    [[nodiscard]] bool copy(std::string_view connectionString, const std::string& file) override;
 
   private:
     Options options_;

@@ -61,6 +61,7 @@ void QtExplorer::requireRoomBelow(std::string_view key) const {
 }
 
 std::vector<std::string> QtExplorer::childKeys(std::string_view key, std::int32_t levels) const {
+    if (levels == 1 && listed) listed();
     return model_.childKeys(key.empty() ? projectKey : key, levels);
 }
 

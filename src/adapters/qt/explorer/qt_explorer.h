@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QIcon>
+#include <functional>
 #include <string>
 
 #include "adapters/qt/explorer/explorer_model.h"
@@ -33,6 +34,7 @@ class QtExplorer : public host::ProjectExplorer, private NodeListener {
     void takeClipboardImage(std::string_view key) override;
     void addNode(const host::NewNode& node) override;
     void removeNode(std::string_view key) override { model_.remove(key); }
+    /// Tells `listed` when it is the nodes directly below one.
     [[nodiscard]] std::vector<std::string> childKeys(std::string_view key, std::int32_t levels) const override;
     void setNodeProperty(std::string_view key, std::int32_t property, const automation::Variant& value) override;
     [[nodiscard]] host::NodeEvent selectedNode() const override;
@@ -45,6 +47,9 @@ class QtExplorer : public host::ProjectExplorer, private NodeListener {
     /// Shows the nodes below a node without an event; errBadIndex when unknown.
     void showExpanded(std::string_view key);
     [[nodiscard]] ExplorerModel& model() noexcept { return model_; }
+
+    /// The add-in asks which nodes there are before it puts others in their place.
+    std::function<void()> listed;
 
   private:
     void nodeClicked(const QModelIndex& node) override;

@@ -670,5 +670,13 @@ Datei → Öffnen oder Datei → Neues Projekt</translation>
         <source>&amp;Edit</source>
         <translation>&amp;Bearbeiten</translation>
     </message>
+    <message>
+        <source>No copy of the project was kept: %1</source>
+        <translation>Es wurde keine Kopie des Projekts aufbewahrt: %1</translation>
+    </message>
+    <message>
+        <source>&amp;Keep a Copy before Each Day&apos;s First Change</source>
+        <translation>Vor der ersten Änderung des Tages &amp;Kopie aufbewahren</translation>
+    </message>
 </context>
 </TS>
