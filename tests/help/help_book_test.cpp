@@ -32,7 +32,8 @@ const Titles germanTitles = {{context::root, "Rezepte"},
                              {context::menus, "Menüs und Befehle"},
                              {context::report, "Report"},
                              {context::settings, "Einstellungen und Sprache"},
-                             {context::messages, "Meldungen und was zu tun ist"}};
+                             {context::messages, "Meldungen und was zu tun ist"},
+                             {context::history, "Rückgängig und Verlauf"}};
 
 const Titles englishTitles = {{context::root, "Recipes"},
                               {context::recipe, "A Recipe"},
@@ -47,7 +48,8 @@ const Titles englishTitles = {{context::root, "Recipes"},
                               {context::menus, "Menus and Commands"},
                               {context::report, "Report"},
                               {context::settings, "Settings and Language"},
-                              {context::messages, "Messages and What to Do"}};
+                              {context::messages, "Messages and What to Do"},
+                              {context::history, "Undo and History"}};
 
 QStringList linksOf(const QString& html) {
     static const QRegularExpression pattern(QStringLiteral("\\b(?:href|src)=\"([^\"]*)\""));
@@ -108,7 +110,7 @@ TEST_P(CompiledHelp, EveryTopicHasAContextNumber) {
 TEST_P(CompiledHelp, TheContextNumbersNameTopicsWithoutAFolder) {
     const qt::HelpArchive archive(compiledHelp(GetParam()));
     const auto contexts = qt::readHelpContexts(archive.read("/#IVB").value(), archive.read("/#STRINGS").value());
-    EXPECT_EQ(contexts.size(), 14);
+    EXPECT_EQ(contexts.size(), 15);
     for (const QString& path : contexts) EXPECT_FALSE(path.contains('/')) << qt::fromQt(path);
 }
 

@@ -77,7 +77,8 @@ TEST(Help, KnowsTheTopicsByTheNumbersThatBothHelpFilesAreMadeWith) {
                                                        {"menus", menus},
                                                        {"report", report},
                                                        {"settings", settings},
-                                                       {"messages", messages}};
+                                                       {"messages", messages},
+                                                       {"history", history}};
     EXPECT_EQ(known, numbersIn(HX_HELP_FOLDER "/de/Rezeptsystem.hhp"));
     EXPECT_EQ(known, numbersIn(HX_HELP_FOLDER "/en/Rezeptsystem.hhp"));
 }
