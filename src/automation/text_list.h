@@ -3,6 +3,8 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <limits>
+#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -11,23 +13,23 @@
 
 namespace hx::automation {
 
-/// Many texts in one piece of memory, numbered from 0.
+/// Many texts in one piece of memory, numbered from 0; no more than 4 GB (std::length_error).
 class TextList {
   public:
     void append(std::string_view text) {
         bytes_ += text;
-        ends_.push_back(bytes_.size());
+        ends_.push_back(end());
     }
     /// The text without case.
     void appendFolded(std::string_view text) {
         automation::appendFolded(bytes_, text);
-        ends_.push_back(bytes_.size());
+        ends_.push_back(end());
     }
     /// Puts a character and a text without case behind the last one.
     void extendFolded(char separator, std::string_view text) {
         bytes_ += separator;
         automation::appendFolded(bytes_, text);
-        ends_.back() = bytes_.size();
+        ends_.back() = end();
     }
     void reserve(std::size_t texts, std::size_t bytes = 0) {
         ends_.reserve(texts);
@@ -41,8 +43,12 @@ class TextList {
     }
 
   private:
+    [[nodiscard]] std::uint32_t end() const {
+        if (bytes_.size() > std::numeric_limits<std::uint32_t>::max()) throw std::length_error("TextList");
+        return static_cast<std::uint32_t>(bytes_.size());
+    }
     std::string bytes_;
-    std::vector<std::size_t> ends_;
+    std::vector<std::uint32_t> ends_;  // half the memory of sizes, which a million texts notice
 };
 
 /// The numbers of all texts in ascending or descending order of their bytes. Equal ones keep their order.

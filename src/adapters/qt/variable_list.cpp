@@ -25,12 +25,16 @@ void VariableList::add(std::string_view name, std::string_view type, std::string
 void VariableList::arrange(std::vector<std::uint32_t> order) {
     order_ = std::move(order);
     folded_ = {};
+    foldedNames_ = {};
+    foldedNames_.reserve(size(), texts_.bytes());  // what is too much is never touched
+    for (std::size_t row = 0; row < size(); ++row) foldedNames_.appendFolded(text(row, VariableField::name));
+}
+
+void VariableList::fold() const {
+    folded_ = {};
     folded_.reserve(size(), texts_.bytes() + size() * fields);
-    nameSizes_.clear();
-    nameSizes_.reserve(size());
     for (std::size_t row = 0; row < size(); ++row) {
-        folded_.appendFolded(text(row, VariableField::name));
-        nameSizes_.push_back(static_cast<std::uint32_t>(folded_[row].size()));
+        folded_.append(foldedName(row));
         for (const VariableField field : {VariableField::type, VariableField::comment}) {
             folded_.extendFolded(lineEnd, text(row, field));
         }

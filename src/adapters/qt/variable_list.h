@@ -37,18 +37,23 @@ class VariableList {
         return texts_[order_[row] * fields + static_cast<std::size_t>(field)];
     }
     [[nodiscard]] std::string_view longest(VariableField field) const;
-    /// Name, type and comment of a variable as one text without case, a line each.
-    [[nodiscard]] std::string_view folded(std::size_t row) const { return folded_[row]; }
-    [[nodiscard]] std::string_view foldedName(std::size_t row) const { return folded_[row].substr(0, nameSizes_[row]); }
+    /// Name, type and comment of a variable as one text without case, a line each. All are made when the first is asked
+    /// for: a list is shown more often than it is searched.
+    [[nodiscard]] std::string_view folded(std::size_t row) const {
+        if (folded_.size() != size()) fold();
+        return folded_[row];
+    }
+    [[nodiscard]] std::string_view foldedName(std::size_t row) const { return foldedNames_[row]; }
     /// Ignoring case; the first of several.
     [[nodiscard]] std::optional<std::size_t> find(std::string_view name) const;
 
   private:
     static constexpr std::size_t fields = 3;
-    automation::TextList texts_;            // name, type and comment of each, in the order of adding
-    std::vector<std::uint32_t> order_;      // by row
-    automation::TextList folded_;           // by row
-    std::vector<std::uint32_t> nameSizes_;  // of the folded names, by row
+    void fold() const;
+    automation::TextList texts_;           // name, type and comment of each, in the order of adding
+    std::vector<std::uint32_t> order_;     // by row
+    automation::TextList foldedNames_;     // by row
+    mutable automation::TextList folded_;  // by row, or none yet
 };
 
 }  // namespace hx::qt

@@ -12,6 +12,7 @@ namespace hx::qt {
 class VariableFilter {
   public:
     explicit VariableFilter(std::string_view text);
+    [[nodiscard]] bool holdsForAll() const noexcept { return wanted_.empty() && unwanted_.empty(); }
     /// `folded` is VariableList::folded of a row.
     [[nodiscard]] bool matches(std::string_view folded) const;
 

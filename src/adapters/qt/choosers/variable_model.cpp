@@ -59,7 +59,7 @@ void VariableModel::collect() {
     const VariableFilter filter(fromQt(text_));
     shown_.clear();
     for (std::size_t number = 0; number < list_.size(); ++number) {
-        if (offers(number) && filter.matches(list_.folded(number))) shown_.push_back(number);
+        if (offers(number) && (filter.holdsForAll() || filter.matches(list_.folded(number)))) shown_.push_back(number);
     }
 }
 
