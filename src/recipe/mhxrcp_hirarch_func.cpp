@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "automation/text.h"
 #include "project/schema.h"
 #include "recipe/node_key.h"
 #include "resources/text_ids.h"
