@@ -14,6 +14,8 @@ target_compile_options(hx_flags INTERFACE -Wall -Wextra -Wpedantic -Wconversion 
 target_compile_options(hx_flags INTERFACE -Wno-restrict)
 # And its cross compiler, of texts compared in such code and of an own operator new; the other looks at the same sources.
 if(WIN32)
+  # Windows 10 is the oldest that runs the programs.
+  target_compile_definitions(hx_flags INTERFACE _WIN32_WINNT=0x0A00 UNICODE _UNICODE STRICT NOMINMAX WIN32_LEAN_AND_MEAN)
   target_compile_options(hx_flags INTERFACE -Wno-maybe-uninitialized -Wno-mismatched-new-delete)
 endif()
 # Sources are compiled several at once, and what is in their unnamed namespaces is taken for a header's.
@@ -50,14 +52,41 @@ function(hx_system_files list)
   set(${list} ${files} PARENT_SCOPE)
 endfunction()
 
-# hx_windows_resources(NAME FILE "description"): what Windows shows of the program or library FILE, and how it treats it.
+# hx_windows_resources(NAME FILE "description" [drawing...]): what Windows shows of the program or library FILE, and how it treats the
+# program. The drawings are its icons; the first stands for the program.
 function(hx_windows_resources name file description)
-  if(WIN32)
-    set(HX_FILE ${file})
-    set(HX_DESCRIPTION ${description})
-    configure_file(${CMAKE_SOURCE_DIR}/packaging/windows/resources.rc.in ${CMAKE_CURRENT_BINARY_DIR}/${name}.rc @ONLY)
-    target_sources(${name} PRIVATE ${CMAKE_CURRENT_BINARY_DIR}/${name}.rc)
+  if(NOT WIN32)
+    return()
   endif()
+  set(HX_FILE ${file})
+  set(HX_DESCRIPTION ${description})
+  set(HX_RESOURCES "")
+  get_target_property(type ${name} TYPE)
+  if(type STREQUAL "EXECUTABLE")
+    string(APPEND HX_RESOURCES "1 24 \"${CMAKE_SOURCE_DIR}/packaging/windows/program.manifest\"\n")
+  endif()
+  set(result ${CMAKE_CURRENT_BINARY_DIR}/${name}.rc)
+  set(number 0)
+  foreach(drawing ${ARGN})
+    math(EXPR number "${number} + 1")
+    set(icon ${CMAKE_CURRENT_BINARY_DIR}/${name}-${number}.ico)
+    add_custom_command(OUTPUT ${icon} COMMAND ${CMAKE_SOURCE_DIR}/packaging/windows/icon ${drawing} ${icon}
+                       DEPENDS ${drawing} ${CMAKE_SOURCE_DIR}/packaging/windows/icon VERBATIM)
+    set_property(SOURCE ${result} APPEND PROPERTY OBJECT_DEPENDS ${icon})
+    string(APPEND HX_RESOURCES "${number} ICON \"${icon}\"\n")
+  endforeach()
+  configure_file(${CMAKE_SOURCE_DIR}/packaging/windows/resources.rc.in ${result} @ONLY)
+  target_sources(${name} PRIVATE ${result})
+endfunction()
+
+# hx_module(NAME "description" source...): an add-in that the studio loads from a file of this name.
+function(hx_module name description)
+  add_library(${name} MODULE ${ARGN})
+  set_target_properties(${name} PROPERTIES PREFIX "")
+  if(WIN32)
+    target_sources(${name} PRIVATE ${CMAKE_SOURCE_DIR}/src/host/module.def)
+  endif()
+  hx_windows_resources(${name} ${name}.dll ${description})
 endfunction()
 
 # hx_library(NAME [ROOMS folder...] [DEPENDS target...]): the sources of the folder, and of the rooms in it, as one target that sees

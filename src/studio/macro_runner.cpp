@@ -6,9 +6,9 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QScopedValueRollback>
-#include <filesystem>
 
 #include "adapters/qt/text.h"
+#include "hosting/file_bytes.h"
 #include "macros/globals.h"
 #include "studio/input_hold.h"
 
@@ -64,7 +64,7 @@ void MacroRunner::runEngine(WindowStudio& studio, const QByteArray& text, const 
     const InputHold hold(dock_, stopKey_, [this] { stop(); });
     const auto quiet = host_.windows().quiet();
     macros::Attendance& attendance = host_.attendance();
-    const lua::MacroFiles files(std::filesystem::path(studio.file()).parent_path());
+    const lua::MacroFiles files(hosting::fileSystemPath(studio.file()).parent_path());
     lua::Engine engine({.print = [this](std::string_view printed) { dock_.print(printed); },
                         .files = files,
                         .stopRequested = [this] { return stopRequested(); }});

@@ -2,7 +2,7 @@
 #include "studio/preferences.h"
 
 #include <QSettings>
-#include <QTemporaryFile>
+#include <QTemporaryDir>
 #include <QVariant>
 
 #include "adapters/qt/text.h"
@@ -25,21 +25,18 @@ QStringList recentIn(const QSettings& settings) {
     return settings.value(recentKey).toStringList().mid(0, Preferences::recentCount);
 }
 
-// The bytes of a settings file after a change.
+// The bytes of a settings file after a change. The toolkit replaces the copy, which may be open nowhere then.
 std::string changed(std::string_view bytes, const Preferences::Change& change) {
-    QTemporaryFile copy;
-    if (!copy.open() || copy.write(bytes.data(), static_cast<qint64>(bytes.size())) < 0 || !copy.flush()) {
-        throw automation::Error(automation::errFail, qt::fromQt(copy.errorString()));
-    }
+    const QTemporaryDir folder;
+    const std::string copy = qt::fromQt(folder.filePath(QStringLiteral("copy.ini")));
+    hosting::replaceFile(hosting::fileSystemPath(copy), bytes);
     {
-        QSettings settings(copy.fileName(), QSettings::IniFormat);
+        QSettings settings(qt::toQt(copy), QSettings::IniFormat);
         change(settings);
         settings.sync();
-        if (settings.status() != QSettings::NoError) {
-            throw automation::Error(automation::errFail, qt::fromQt(copy.fileName()));
-        }
+        if (settings.status() != QSettings::NoError) throw automation::Error(automation::errFail, copy);
     }
-    return hosting::readFile(hosting::fileSystemPath(qt::fromQt(copy.fileName()))).value_or("");
+    return hosting::readFile(hosting::fileSystemPath(copy)).value_or("");
 }
 
 }  // namespace

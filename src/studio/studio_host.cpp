@@ -34,9 +34,9 @@ StudioHost::StudioHost(const QString& configFolder, const QStringList& moduleFol
       items_(variables_, windows_, wording_),
       folders_(windows_, wording_),
       attendedProvider_(
-          recordingProvider_, [this] { return projectFile_.string(); },
+          recordingProvider_, [this] { return projectFile_; },
           [this] { return attendance_.answers() ? &attendance_.files() : nullptr; }),
-      attendedIniFile_(iniFile_, attendance_, [this] { return projectFile_.parent_path(); }),
+      attendedIniFile_(iniFile_, attendance_, [this] { return hosting::fileSystemPath(projectFile_).parent_path(); }),
       attendedScreen_(screen_, attendance_,
                       [this](forms::Form& form, forms::WindowHandle owner, const std::function<void()>& work) {
                           screen_.showFor(form, owner, work);

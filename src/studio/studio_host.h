@@ -3,7 +3,7 @@
 
 #include <QString>
 #include <QStringList>
-#include <filesystem>
+#include <string>
 
 #include "adapters/qt/help/qt_help_viewer.h"
 #include "adapters/qt/module_components.h"
@@ -82,7 +82,7 @@ class StudioHost {
     qt::QtItemSelection items_;
     qt::QtPathSelection folders_;
     macros::Attendance attendance_;
-    std::filesystem::path projectFile_;
+    std::string projectFile_;
     macros::MacroProvider attendedProvider_;
     macros::AttendedIniFile attendedIniFile_;
     macros::AttendedScreen attendedScreen_;

@@ -23,6 +23,7 @@ class Application : public testing::Environment {
         if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
         // Another one than C, which every system has.
         if (!qEnvironmentVariableIsSet("LC_ALL")) qputenv("LC_NUMERIC", "C.UTF-8");
+        QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);  // the tests are the user of the toolkit's own
         application_ = std::make_unique<studio::StudioApplication>(count_, arguments_.data());
         application_->setReport(
             [](const automation::Error& error) { ADD_FAILURE() << error.message(automation::Language::english); });

@@ -7,7 +7,6 @@
 #include <gtest/gtest.h>
 
 #include "adapters/qt/text.h"
-#include "support/processes.h"
 
 namespace hx::gui {
 namespace {
@@ -43,20 +42,6 @@ TEST_F(PreferencesTest, KeepsBytesAndWhatItDoesNotKnow) {
     ASSERT_TRUE(ini.open(QIODevice::ReadOnly));
     EXPECT_TRUE(ini.readAll().contains("mine=1"));
     EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden), QStringList{"studio.ini"});
-}
-
-TEST_F(PreferencesTest, SharesTheListWithAStudioBesideIt) {
-    support::Processes studios;
-    for (int studio = 0; studio < 4; ++studio) {
-        studios.start([this, studio] {
-            studio::Preferences own(folder.path());
-            for (int i = 0; i < 10; ++i) own.addRecent(QStringLiteral("/%1.hxs").arg(studio));
-        });
-    }
-    EXPECT_EQ(studios.wait(), 0);
-    QStringList recent = preferences.recent();
-    recent.sort();
-    EXPECT_EQ(recent, (QStringList{"/0.hxs", "/1.hxs", "/2.hxs", "/3.hxs"}));
 }
 
 TEST_F(PreferencesTest, DoNotWriteOverAFileThatCannotBeRead) {

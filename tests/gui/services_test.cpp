@@ -95,7 +95,7 @@ TEST_F(ServicesTest, AFolderOfTheProjectBeginsWithItsPlaceholder) {
     qt::QtPathSelection folders(windows, wording);
     folders.setProjectFolder("/plant/project");
     EXPECT_EQ(folders.shorten("/plant/project", ""), "<ProjectDir>");
-    EXPECT_EQ(folders.shorten("/plant/project2", "<ProjectDir>\\rcp"), "/plant/project2");
+    EXPECT_EQ(folders.shorten("/plant/project2", "<ProjectDir>\\rcp"), QDir::toNativeSeparators("/plant/project2"));
     EXPECT_EQ(folders.expand("<ProjectDir>\\rcp"), "/plant/project/rcp");
     EXPECT_EQ(folders.expand("/elsewhere"), "/elsewhere");
 }
@@ -113,32 +113,34 @@ TEST_F(ServicesTest, AModuleThatIsMissingIsAnErrorWithTheSystemsNumber) {
     qt::ModuleComponents components({folder.path()});
     const auto [number, text] = errorOf(components, "HXProjectReport.Connect");
     EXPECT_EQ(static_cast<std::uint32_t>(number), 0x80040154u);
-    EXPECT_EQ(text, "The class HXProjectReport.Connect is not installed: there is no HXProjectReport.so in " +
+    EXPECT_EQ(text, "The class HXProjectReport.Connect is not installed: there is no HXProjectReport" HX_MODULE_SUFFIX
+                    " in " +
                         qt::fromQt(folder.path()));
 }
 
 TEST_F(ServicesTest, AFileThatIsNoModuleIsAnErrorOfItsOwn) {
-    write("Broken.so", "no module");
+    write("Broken" HX_MODULE_SUFFIX, "no module");
     studio::StudioHost host(folder.path(), {folder.path()});
     const auto [number, text] = errorOf(host.components(), "Broken.Connect");
     EXPECT_EQ(static_cast<std::uint32_t>(number), 0x8007007Eu);
-    EXPECT_NE(text.find("Broken.so"), std::string::npos) << text;
+    EXPECT_NE(text.find("Broken" HX_MODULE_SUFFIX), std::string::npos) << text;
 }
 
 TEST_F(ServicesTest, ALibraryWithoutTheEntryIsNoAddIn) {
-    ASSERT_TRUE(QFile::copy(HX_SOME_LIBRARY, folder.filePath("Other.so")));
+    ASSERT_TRUE(QFile::copy(HX_SOME_LIBRARY, folder.filePath("Other" HX_MODULE_SUFFIX)));
     studio::StudioHost host(folder.path(), {folder.path()});
     const auto [number, text] = errorOf(host.components(), "Other.Connect");
     EXPECT_EQ(static_cast<std::uint32_t>(number), 0x8007007Fu);
-    EXPECT_EQ(text,
-              "The file " + qt::fromQt(folder.filePath("Other.so")) + " is no add-in module: it has no hxCreateObject");
+    EXPECT_EQ(text, "The file " + qt::fromQt(folder.filePath("Other" HX_MODULE_SUFFIX)) +
+                        " is no add-in module: it has no hxCreateObject");
 }
 
 TEST_F(ServicesTest, AModuleThatDoesNotKnowTheClassSaysSo) {
     studio::StudioHost host(folder.path(), {QStringLiteral(HX_MODULE_FOLDER)});
     const auto [number, text] = errorOf(host.components(), "HXRecipeEditor.Nothing");
     EXPECT_EQ(static_cast<std::uint32_t>(number), 0x80040154u);
-    EXPECT_EQ(text, "The module " HX_MODULE_FOLDER "/HXRecipeEditor.so does not know the class HXRecipeEditor.Nothing");
+    EXPECT_EQ(text, "The module " HX_MODULE_FOLDER "/HXRecipeEditor" HX_MODULE_SUFFIX
+                    " does not know the class HXRecipeEditor.Nothing");
 }
 
 }  // namespace

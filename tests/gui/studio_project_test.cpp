@@ -11,7 +11,6 @@
 #include "adapters/sqlite/project_file.h"
 #include "automation/convert.h"
 #include "gui/studio_fixture.h"
-#include "support/rival.h"
 
 namespace hx::gui {
 namespace {
@@ -39,17 +38,6 @@ TEST_F(StudioTest, OpensAProjectWhoseNameLooksLikeAFile) {
     click("Rezepte");
     EXPECT_EQ(stored(folder.filePath("Anlage.hxs.hxs"), 1), (Texts{"Mischer.Honig", "Mischer.Wasser"}));
     EXPECT_EQ(stored(folder.filePath("Anlage.hxs"), 1), (Texts{"Mischer.Zucker", "Mischer.Wasser"}));
-}
-
-TEST_F(StudioTest, WorksOnItsProjectWhileAnotherProgramRecordsOneOfThatNameAllTheTime) {
-    start();
-    const support::Rival rival(qt::fromQt(folder.filePath("config/registry.ini")), "Anlage");
-    const QString file = makeProject();
-    for (int i = 0; i < 10; ++i) {
-        open(file);
-        EXPECT_EQ(automation::toText(window().project()->addIn()->get("ProjectPath")), qt::fromQt(file));
-        EXPECT_EQ(automation::toText(window().project()->addIn()->get("ProjectName")), "Anlage");
-    }
 }
 
 TEST_F(StudioTest, SaysInItsStatusLineThatTheListOfProjectsCannotBeSaved) {

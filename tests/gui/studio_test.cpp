@@ -141,7 +141,8 @@ TEST_F(StudioTest, AMissingModuleIsSaidAndTheStudioStaysUsable) {
     const BoxAnswers answers({"OK"});
     ASSERT_TRUE(window().openProject(makeProject()));
     ASSERT_EQ(answers.shown().size(), 1u);
-    EXPECT_NE(answers.shown()[0].text.find("HXRecipeEditor.so gibt es nicht in " + qt::fromQt(folder.path())),
+    EXPECT_NE(answers.shown()[0].text.find("HXRecipeEditor" HX_MODULE_SUFFIX " gibt es nicht in " +
+                                           qt::fromQt(folder.path())),
               std::string::npos)
         << answers.shown()[0].text;
     EXPECT_EQ(tree().model()->rowCount(tree().model()->index(0, 0)), 0);

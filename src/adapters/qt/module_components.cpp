@@ -10,7 +10,7 @@ namespace hx::qt {
 
 namespace {
 
-const QString moduleExtension = QStringLiteral(".so");
+const QString moduleExtension = QStringLiteral(HX_MODULE_SUFFIX);
 
 constexpr automation::Sentence unknownClass{"The module %1 does not know the class %2",
                                             "Das Modul %1 kennt die Klasse %2 nicht"};
@@ -55,6 +55,7 @@ const ModuleComponents::Module& ModuleComponents::load(const QString& path) {
     }
     host::Services services = *services_;
     services.moduleFile = fromQt(path);
+    services.libraryName = "HXRecipeEditor" HX_MODULE_SUFFIX;
     return modules_.emplace(path, Module{std::move(library), services, entry}).first->second;
 }
 

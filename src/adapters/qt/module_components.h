@@ -13,8 +13,8 @@
 
 namespace hx::qt {
 
-/// Creates components from modules: "HXRecipeEditor.Connect" comes from the file HXRecipeEditor.so in the first of the
-/// folders that has it. A module stays loaded.
+/// Creates components from modules: "HXRecipeEditor.Connect" comes from the file HXRecipeEditor.so, on Windows
+/// HXRecipeEditor.dll, in the first of the folders that has it. A module stays loaded.
 class ModuleComponents : public host::Components {
   public:
     static constexpr std::int32_t errClassNotRegistered = automation::hresult(0x80040154);

@@ -4,15 +4,25 @@
 #include <QFile>
 #include <QIconEngine>
 #include <QPainter>
-#include <QSvgRenderer>
 #include <map>
 #include <tuple>
+
+#include "adapters/qt/svg_painter.h"
 
 namespace hx::qt {
 
 namespace {
 
 constexpr double disabledOpacity = 0.35;
+
+/// A null image for what is no SVG.
+QImage draw(const QByteArray& svg, QSize size, double opacity = 1) {
+    QImage image(size, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    painter.setOpacity(opacity);
+    return paintSvg(svg, painter) ? image : QImage();
+}
 
 class SvgIconEngine : public QIconEngine {
   public:
@@ -24,7 +34,7 @@ class SvgIconEngine : public QIconEngine {
     }
     QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State) override {
         QPixmap& known = drawn_[{size.width(), size.height(), mode == QIcon::Disabled}];
-        if (known.isNull()) known = draw(size, mode == QIcon::Disabled ? disabledOpacity : 1);
+        if (known.isNull()) known = QPixmap::fromImage(draw(svg_, size, mode == QIcon::Disabled ? disabledOpacity : 1));
         return known;
     }
     QPixmap scaledPixmap(const QSize& size, QIcon::Mode mode, QIcon::State state, qreal) override {
@@ -34,16 +44,6 @@ class SvgIconEngine : public QIconEngine {
     bool isNull() override { return false; }
 
   private:
-    [[nodiscard]] QPixmap draw(const QSize& size, double opacity) const {
-        QSvgRenderer renderer(svg_);
-        renderer.setAspectRatioMode(Qt::KeepAspectRatio);
-        QPixmap result(size);
-        result.fill(Qt::transparent);
-        QPainter painter(&result);
-        painter.setOpacity(opacity);
-        renderer.render(&painter);
-        return result;
-    }
     QByteArray svg_;
     std::map<std::tuple<int, int, bool>, QPixmap> drawn_;  // width, height, faded
 };
@@ -51,7 +51,7 @@ class SvgIconEngine : public QIconEngine {
 }  // namespace
 
 QIcon svgIcon(const QByteArray& svg) {
-    if (svg.isEmpty() || !QSvgRenderer(svg).isValid()) return {};
+    if (svg.isEmpty() || draw(svg, {1, 1}).isNull()) return {};
     return QIcon(new SvgIconEngine(svg));
 }
 
@@ -62,15 +62,6 @@ QIcon namedIcon(const char* name) {
 
 QIcon svgIcon(const forms::Picture& picture) { return svgIcon(QByteArray::fromStdString(picture.svg)); }
 
-QImage svgImage(const QByteArray& svg, int size) {
-    QSvgRenderer renderer(svg);
-    if (!renderer.isValid()) return {};
-    renderer.setAspectRatioMode(Qt::KeepAspectRatio);
-    QImage image(size, size, QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
-    QPainter painter(&image);
-    renderer.render(&painter);
-    return image;
-}
+QImage svgImage(const QByteArray& svg, int size) { return draw(svg, {size, size}); }
 
 }  // namespace hx::qt

@@ -2,23 +2,17 @@
 #include <QDir>
 #include <QStandardPaths>
 #include <QTimer>
-#include <cstdio>
 
 #include "adapters/qt/text.h"
 #include "studio/main_window.h"
 #include "studio/options.h"
 #include "studio/preferences.h"
+#include "studio/program/console.h"
 #include "studio/studio_application.h"
 #include "studio/studio_host.h"
 
 namespace hx::studio {
 namespace {
-
-QStringList argumentsOf(int argc, char** argv) {
-    QStringList arguments;
-    for (int i = 0; i < argc; ++i) arguments.append(QString::fromLocal8Bit(argv[i]));
-    return arguments;
-}
 
 QString userConfigFolder() {
     return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + QStringLiteral("/HelvixStudio");
@@ -53,13 +47,13 @@ int runStudio(StudioApplication& application, const Options& options) {
 }  // namespace
 
 static int run(int argc, char** argv) {
-    const Options options = parseOptions(argumentsOf(argc, argv));
+    const Options options = parseOptions(commandLine(argc, argv));
     if (!options.error.isEmpty()) {
-        std::fprintf(stderr, "HelvixStudio: %s\n\n%s", qPrintable(options.error), qPrintable(usageText()));
+        complain(QStringLiteral("HelvixStudio: ") + options.error + QStringLiteral("\n\n") + usageText());
         return 2;
     }
     if (options.help || options.version) {
-        std::printf("%s%s", qPrintable(options.help ? usageText() : versionText()), options.help ? "" : "\n");
+        answer(options.help ? usageText() : versionText() + '\n');
         return 0;
     }
     StudioApplication application(argc, argv);

@@ -33,7 +33,7 @@ HelpArchive::HelpArchive(const QString& file) {
 void HelpArchive::load(const QByteArray& bytes) {
     if (!isSoundHelpFile(bytesOf(bytes)) || !copy_.open()) return;
     if (copy_.write(bytes) != bytes.size() || !copy_.flush()) return;
-    file_.reset(chm_open(QFile::encodeName(copy_.fileName()).constData()));
+    file_.reset(chm_open(copy_.fileName().toUtf8().constData()));
     if (file_) list();
 }
 

@@ -11,7 +11,7 @@ namespace hx::qt {
 
 namespace {
 
-constexpr int pathRole = Qt::UserRole;
+constexpr int foundPathRole = Qt::UserRole;
 
 }  // namespace
 
@@ -62,7 +62,7 @@ void HelpSearchPane::search() {
     if (!index_) index_ = std::make_unique<HelpSearch>(*book_);
     for (const HelpHit& hit : index_->find(query)) {
         auto* item = new QListWidgetItem(namedIcon("help/topic"), hit.title, &list_);
-        item->setData(pathRole, hit.path);
+        item->setData(foundPathRole, hit.path);
         item->setToolTip(titledToolTip(hit.title, hit.excerpt));
     }
     const int count = list_.count();
@@ -72,7 +72,7 @@ void HelpSearchPane::search() {
 
 void HelpSearchPane::choose(const QListWidgetItem* item) {
     if (item != nullptr && chosen) {
-        chosen(item->data(pathRole).toString(), field_.text().split(' ', Qt::SkipEmptyParts));
+        chosen(item->data(foundPathRole).toString(), field_.text().split(' ', Qt::SkipEmptyParts));
     }
 }
 
