@@ -7,9 +7,12 @@ execute_process(COMMAND ${EMULATOR} ${PROGRAM} --gtest_list_tests ${filter} OUTP
 string(REPLACE "\r" "" listed "${listed}")
 string(REGEX REPLACE "^Running main[^\n]*\n" "" listed "${listed}")  # a greeting, no suite
 string(REGEX MATCHALL "\n[^ \n][^\n]*\\." suites "\n${listed}")
+# There is one registry for all tests, and on Windows one keyboard for all windows.
 set(lock "")
-if(LABEL STREQUAL "registry")  # which is one for all tests
-  set(lock "RESOURCE_LOCK registry")
+if(LABEL STREQUAL "registry")
+  set(lock "RESOURCE_LOCK \"registry;desktop\"")
+elseif(LABEL STREQUAL "gui" AND EMULATOR)
+  set(lock "RESOURCE_LOCK desktop")
 endif()
 set(tests "")
 foreach(suite ${suites})

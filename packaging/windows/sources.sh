@@ -4,13 +4,20 @@
 
 here=$(dirname "$(readlink -f "${BASH_SOURCE[0]}")")
 script=$(readlink -f "$0")
-readonly here script compiler=x86_64-w64-mingw32
+readonly here script
 
 # What made the folder's contents: the script and this file.
 makers() { cat "$script" "$here/sources.sh"; }
 
-# begin FOLDER: ends the script when it has been here before, unchanged.
+# begin FOLDER [32]: ends the script when it has been here before, unchanged.
 begin() {
+    compiler=x86_64-w64-mingw32
+    toolchain=$here/../../cmake/windows.cmake
+    if [ "${2:-}" = 32 ]; then
+        compiler=i686-w64-mingw32
+        toolchain=$here/../../cmake/windows-32.cmake
+    fi
+    readonly compiler toolchain
     mkdir -p "$1"
     folder=$(cd "$1" && pwd)
     prefix=$folder/prefix
@@ -58,7 +65,7 @@ sources() {
 built() {
     local source=$folder/sources/$1
     shift
-    cmake -S "$source" -B "$source-build" -G Ninja --log-level=ERROR -DCMAKE_TOOLCHAIN_FILE="$here/../../cmake/windows.cmake" \
+    cmake -S "$source" -B "$source-build" -G Ninja --log-level=ERROR -DCMAKE_TOOLCHAIN_FILE="$toolchain" \
         -DCMAKE_INSTALL_PREFIX="$prefix" -DCMAKE_BUILD_TYPE=Release -DCMAKE_C_COMPILER_LAUNCHER=ccache \
         -DCMAKE_CXX_COMPILER_LAUNCHER=ccache "$@" >"$source-build.log" 2>&1 || { tail -n 40 "$source-build.log" >&2; return 1; }
     cmake --build "$source-build" --target install >>"$source-build.log" 2>&1 || { tail -n 40 "$source-build.log" >&2; return 1; }
