@@ -40,8 +40,10 @@ OutFile "${OUTPUT}"
 
 LangString projectType ${LANG_ENGLISH} "HelvixStudio project"
 LangString projectType ${LANG_GERMAN} "HelvixStudio-Projekt"
-LangString inUse ${LANG_ENGLISH} "HelvixStudio or hxrecipe is running from $INSTDIR. Please close it first."
-LangString inUse ${LANG_GERMAN} "HelvixStudio oder hxrecipe läuft aus $INSTDIR. Bitte beenden Sie es zuerst."
+LangString inUse ${LANG_ENGLISH} "HelvixStudio, hxrecipe or an add-in of theirs is running from $INSTDIR. Please close it first."
+LangString inUse ${LANG_GERMAN} "HelvixStudio, hxrecipe oder ein Add-in davon läuft aus $INSTDIR. Bitte beenden Sie es zuerst."
+LangString notRegistered ${LANG_ENGLISH} "The add-ins could not be entered for other studios, or removed there."
+LangString notRegistered ${LANG_GERMAN} "Die Add-ins ließen sich für andere Studios nicht eintragen oder dort nicht entfernen."
 
 VIProductVersion "${VERSION}.0.0"
 VIAddVersionKey "ProductName" "HelvixStudio"
@@ -67,15 +69,24 @@ VIAddVersionKey "LegalCopyright" ""
   !insertmacro REQUIRE_CLOSED "HelvixStudio.exe"
   !insertmacro REQUIRE_CLOSED "hxrecipe.exe"
   !insertmacro REQUIRE_CLOSED "HXRecipeEditor.dll"
+  !insertmacro REQUIRE_CLOSED "HXProjectReport.dll"
 !macroend
 
-; The add-in for other studios; ACTION is empty or /u.
-!macro REGISTER ACTION
+; An add-in for other studios; ACTION is empty or /u.
+!macro REGISTER ACTION FILE
   ${If} $MultiUser.InstallMode == "AllUsers"
-    ExecWait '"$SYSDIR\regsvr32.exe" /s ${ACTION} "$INSTDIR\HXRecipeEditor.dll"'
+    ExecWait '"$SYSDIR\regsvr32.exe" /s ${ACTION} "$INSTDIR\${FILE}"' $0
   ${Else}
-    ExecWait '"$SYSDIR\regsvr32.exe" /s ${ACTION} /n /i:user "$INSTDIR\HXRecipeEditor.dll"'
+    ExecWait '"$SYSDIR\regsvr32.exe" /s ${ACTION} /n /i:user "$INSTDIR\${FILE}"' $0
   ${EndIf}
+  ${If} $0 != 0
+    MessageBox MB_OK|MB_ICONEXCLAMATION "$(notRegistered)" /SD IDOK
+    SetErrorLevel 3
+  ${EndIf}
+!macroend
+!macro REGISTER_ALL ACTION
+  !insertmacro REGISTER "${ACTION}" "HXRecipeEditor.dll"
+  !insertmacro REGISTER "${ACTION}" "HXProjectReport.dll"
 !macroend
 
 !macro REFRESH_ICONS
@@ -98,7 +109,7 @@ Section
   ${EndIf}
   SetOutPath "$INSTDIR"
   File /r "${SOURCE}/*"
-  !insertmacro REGISTER ""
+  !insertmacro REGISTER_ALL ""
   WriteUninstaller "$INSTDIR\uninstall.exe"
   CreateShortcut "$SMPROGRAMS\HelvixStudio.lnk" "$INSTDIR\HelvixStudio.exe"
 
@@ -126,7 +137,7 @@ SectionEnd
 
 Section Uninstall
   !insertmacro REQUIRE_ALL_CLOSED
-  !insertmacro REGISTER "/u"
+  !insertmacro REGISTER_ALL "/u"
   !include "${REMOVAL}"
   Delete "$INSTDIR\uninstall.exe"
   RMDir "$INSTDIR"

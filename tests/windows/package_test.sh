@@ -23,22 +23,26 @@ run() {
     "$server" -w
 }
 
-# What programs enter into the registry: their classes, how they are removed, and whatever names ours. The rest is Wine's, which
-# notes fonts and devices as it meets them.
+# The registry, a line a value behind its key, without the times of its changes.
 entries() {
-    awk '/^\[/ { kept = /^\[Software\\\\(Classes|Microsoft\\\\Windows\\\\CurrentVersion\\\\(Uninstall|Run|App Paths))/ }
-         (kept || /HelvixStudio|HXRecipe|HXProject|Tarnwell/) && !/PendingFileRename/' "$WINEPREFIX"/{system,user}.reg |
-        sed -E 's/^(\[.*\]) [0-9]+$/\1/; /^#time=/d; /^$/d'
+    sed -E 's/^(\[.*\]) [0-9]+$/\1/; /^#/d; /^$/d' "$WINEPREFIX"/{system,user}.reg | awk '/^\[/ { key = $0 } { print key, $0 }' | sort
 }
 
 # state NAME: what registry and disks hold. What an uninstaller has run from goes when Windows starts the next time.
 state() {
     "$server" -w
     entries >"$work/$1.registry"
-    (cd "$WINEPREFIX/drive_c" && find . \( -path ./windows -o -name Temp \) -prune -o -printf '%P %s\n' | sort) >"$work/$1.disk"
+    (cd "$WINEPREFIX/drive_c" && find . -iname temp -prune -o -printf '%P %s\n' | sort) >"$work/$1.disk"
 }
 
 says_version() { [ "$(wine "$1" --version | tr -d '\r')" = "hxrecipe $version" ] || fail "$1 does not tell its version"; }
+
+# In a host that has nothing of the studio's beside itself. What is registered for one user, Wine does not find.
+creates_add_ins() {
+    local said
+    said=$(wine cscript //nologo "Z:${sources//\//\\}\\tests\\windows\\create.js" | tr -d '\r') || true
+    [ "$said" = created ] || fail "the add-ins cannot be created: $said"
+}
 
 # installs_and_removes /CurrentUser|/AllUsers FOLDER
 installs_and_removes() {
@@ -50,7 +54,10 @@ installs_and_removes() {
     state between
     grep -qF 'HelvixStudio.exe\" \"%1\"' "$work/between.registry" || fail "projects do not open in the studio"
     grep -q 'HelvixStudio.lnk' "$work/between.disk" || fail "the studio is not in the start menu"
-    grep -qF '[Software\\Classes\\HXRecipeEditor.Connect' "$work/between.registry" || fail "the add-in is not registered"
+    for class in HXRecipeEditor HXProjectReport; do
+        grep -qF "[Software\\\\Classes\\\\$class.Connect" "$work/between.registry" || fail "$class is not registered"
+    done
+    if [ "$1" = /AllUsers ]; then creates_add_ins; fi
     echo mine >"$folder/mine.txt"
     run "$folder/uninstall.exe" "$1" /S
     [ "$(cat "$folder/mine.txt")" = mine ] || fail "the user's file is gone"
@@ -64,10 +71,11 @@ installs_and_removes() {
 
 rm -rf "$work" "$WINEPREFIX"
 mkdir -p "$work"
-# Keys that every user of Windows has.
+# Keys and a folder that every user of Windows has.
 for key in Classes 'Classes\CLSID' 'Classes\TypeLib' 'Classes\Interface' 'Microsoft\Windows\CurrentVersion\Uninstall'; do
     wine reg add "HKCU\\Software\\$key" /f
 done
+mkdir -p "$WINEPREFIX/drive_c/users/$(id -un)/AppData/Local/Programs"
 unzip -q "$archive" -d "$work/a folder"
 says_version "$work/a folder/$(basename "$archive" .zip)/hxrecipe.exe"
 installs_and_removes /CurrentUser "$WINEPREFIX/drive_c/users/$(id -un)/AppData/Local/Programs/HelvixStudio"
