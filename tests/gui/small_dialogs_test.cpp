@@ -197,8 +197,10 @@ TEST_F(PathSelectionTest, AFolderInTheProjectHasTheSeparatorsOfTheGivenText) {
 }
 
 TEST_F(PathSelectionTest, AFolderElsewhereIsAsTheSystemWritesIt) {
-    EXPECT_EQ(folders.shorten("/elsewhere/x", "<ProjectDir>\\x"), "/elsewhere/x");
-    EXPECT_EQ(folders.shorten(project.path() + "2", ""), project.path() + "2");
+    for (const QString& folder : {QStringLiteral("/elsewhere/x"), project.path() + "2"}) {
+        EXPECT_EQ(folders.shorten(folder, "<ProjectDir>\\x"), QDir::toNativeSeparators(folder));
+        EXPECT_EQ(folders.shorten(folder, ""), QDir::toNativeSeparators(folder));
+    }
 }
 
 TEST_F(PathSelectionTest, AFolderOfTheProjectThatIsReachedByALinkIsOneOfTheProject) {
@@ -213,7 +215,7 @@ TEST_F(PathSelectionTest, StartsAtTheNearestFolderThatExists) {
     EXPECT_EQ(folders.startFolder("<projectdir>\\Rezepte"), project.path() + "/Rezepte");
     EXPECT_EQ(folders.startFolder("<ProjectDir>\\Rezepte\\fehlt\\noch"), project.path() + "/Rezepte");
     EXPECT_EQ(folders.startFolder(""), project.path());
-    EXPECT_EQ(folders.startFolder("D:\\Rezepte"), project.path());
+    EXPECT_EQ(folders.startFolder("Q:\\Rezepte"), project.path()) << "no such disk";
     folders.setProjectFolder("");
     EXPECT_EQ(folders.startFolder("<ProjectDir>"), QDir::homePath());
 }

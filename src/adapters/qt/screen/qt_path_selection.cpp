@@ -42,10 +42,11 @@ QString QtPathSelection::shorten(const QString& folder, const QString& like) con
 
 QString QtPathSelection::startFolder(const QString& path) const {
     QString folder = QDir::cleanPath(expand(path.trimmed()));
-    while (QDir::isAbsolutePath(folder) && !QDir(folder).exists() && folder.contains('/')) {
-        folder = QFileInfo(folder).path();
+    // A whole disk may be missing, which has nothing above it.
+    for (QString below; QDir::isAbsolutePath(folder) && folder != below; folder = QFileInfo(folder).path()) {
+        if (QDir(folder).exists()) return folder;
+        below = folder;
     }
-    if (QDir::isAbsolutePath(folder) && QDir(folder).exists()) return folder;
     return projectFolder_.isEmpty() ? QDir::homePath() : projectFolder_;
 }
 
