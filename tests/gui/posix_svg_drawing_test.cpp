@@ -11,7 +11,8 @@
 namespace hx::gui {
 namespace {
 
-constexpr int closeEnough = 24;  // of 255: the edge of a curve, put together of other pieces
+// Of 255. Qt's reader cuts the radius of a rectangle's corners to whole hundredths of its sides, so their edges differ.
+constexpr int closeEnough = 2, closeEnoughAtCorners = 24;
 
 QImage blank(int size) {
     QImage image(size, size, QImage::Format_ARGB32_Premultiplied);
@@ -42,8 +43,9 @@ int difference(const QImage& a, const QImage& b) {
 }
 
 void expectTheSame(const QByteArray& svg) {
+    const int most = svg.contains(" rx=") ? closeEnoughAtCorners : closeEnough;
     for (const int size : {16, 20, 48}) {
-        EXPECT_LE(difference(drawnByQt(svg, size), drawnByUs(svg, size)), closeEnough) << svg.constData() << size;
+        EXPECT_LE(difference(drawnByQt(svg, size), drawnByUs(svg, size)), most) << svg.constData() << size;
     }
 }
 

@@ -50,7 +50,9 @@ void addArc(QPainterPath& path, QPointF radii, bool large, bool clockwise, QPoin
     const auto place = [&](double x, double y) {
         return (start + end) / 2 + QPointF((middle.x() + x) * radii.x(), (middle.y() + y) * radii.y());
     };
-    const int curves = std::max(1, static_cast<int>(std::ceil(std::abs(turn) / M_PI_2)));
+    // A quarter is one curve, whatever rounding adds to it: a line that is wide looks different along two.
+    constexpr double quarter = M_PI_2 + 0.001;
+    const int curves = std::max(1, static_cast<int>(std::ceil(std::abs(turn) / quarter)));
     const double reach = 4.0 / 3 * std::tan(turn / curves / 4);
     for (int i = 1; i <= curves; ++i) {
         const double a = from + turn * (i - 1) / curves, b = from + turn * i / curves;
