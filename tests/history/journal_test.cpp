@@ -28,7 +28,7 @@ class JournalTest : public testing::Test {
     }
     [[nodiscard]] std::filesystem::path file() const {
         for (const auto& entry : std::filesystem::recursive_directory_iterator(folder.path())) {
-            if (entry.is_regular_file()) return entry.path();
+            if (entry.path().filename() == "steps") return entry.path();
         }
         return {};
     }
