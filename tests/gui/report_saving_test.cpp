@@ -29,7 +29,8 @@ TEST_F(ReportSaving, IsSavedAsPdf) {
     const QString path = folder.filePath("Bericht.pdf");
     inPreview([&](QWidget& preview) {
         saveWith(preview, "reportPdf", choosing(path));
-        EXPECT_EQ(find<QStatusBar>(preview, "reportStatus").currentMessage(), "Gespeichert: " + path);
+        EXPECT_EQ(find<QStatusBar>(preview, "reportStatus").currentMessage(),
+                  "Gespeichert: " + QDir::toNativeSeparators(path));
     });
     const QByteArray pdf = contentOf(path);
     EXPECT_TRUE(pdf.startsWith("%PDF-"));
@@ -82,8 +83,9 @@ TEST_F(ReportSaving, AFileIsReplacedOnlyWhenTheUserSaysSo) {
             const NextModal<QFileDialog> next(choosing(path));
             find<QAction>(preview, "reportHtml").trigger();
             ASSERT_EQ(answers.shown().size(), 1u);
-            EXPECT_EQ(answers.shown()[0].text,
-                      "Die Datei gibt es schon:\n" + qt::fromQt(path) + "\n\nSoll sie ersetzt werden?");
+            EXPECT_EQ(answers.shown()[0].text, "Die Datei gibt es schon:\n" +
+                                                   qt::fromQt(QDir::toNativeSeparators(path)) +
+                                                   "\n\nSoll sie ersetzt werden?");
         }
         EXPECT_EQ(contentOf(path), "old");
         const BoxAnswers answers({"Ja"});
