@@ -3,14 +3,14 @@
 
 #include <gtest/gtest.h>
 
-#include "adapters/qt/choosers/variable_filter.h"
+#include "automation/word_filter.h"
 
 namespace hx::qt {
 namespace {
 
 /// The names that a filter lets through.
 std::vector<std::string> found(const VariableList& list, const char* text) {
-    const VariableFilter filter(text);
+    const automation::WordFilter filter(text);
     std::vector<std::string> names;
     for (std::size_t row = 0; row < list.size(); ++row) {
         if (filter.matches(list.folded(row))) names.emplace_back(list.text(row, VariableField::name));

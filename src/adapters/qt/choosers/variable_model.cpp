@@ -4,8 +4,8 @@
 #include <algorithm>
 #include <numeric>
 
-#include "adapters/qt/choosers/variable_filter.h"
 #include "adapters/qt/text.h"
+#include "automation/word_filter.h"
 
 namespace hx::qt {
 
@@ -56,7 +56,7 @@ void VariableModel::prepend(const std::vector<Variable>& variables) {
 }
 
 void VariableModel::collect() {
-    const VariableFilter filter(fromQt(text_));
+    const automation::WordFilter filter(fromQt(text_));
     shown_.clear();
     for (std::size_t number = 0; number < list_.size(); ++number) {
         if (offers(number) && (filter.holdsForAll() || filter.matches(list_.folded(number)))) shown_.push_back(number);
