@@ -11,8 +11,6 @@ using project::Severity;
 
 namespace {
 
-constexpr int mostDamages = 20;
-
 std::string_view nameOf(Severity severity) { return severity == Severity::error ? "error" : "warning"; }
 
 std::string placeOf(const project::Finding& finding) {
@@ -24,15 +22,6 @@ std::string placeOf(const project::Finding& finding) {
 
 std::string counted(std::int64_t count, const std::string& what) {
     return std::to_string(count) + " " + what + (count == 1 ? "" : "s");
-}
-
-project::Finding damaged(std::string problem) {
-    return {Severity::error,
-            "damaged",
-            nullptr,
-            {},
-            std::move(problem),
-            "Go back to a copy of it; \"hxrecipe export\" saves what can still be read."};
 }
 
 }  // namespace
@@ -77,13 +66,11 @@ int check(const CheckOptions& options, const Output& output) {
     project::Reader reader(provider, options.path, project::Reader::Damage::read);
     FindingWriter findings(options.json, output);
     using Check = ado::Session::Check;
-    const auto damages = reader.session().damages(mostDamages, options.thorough ? Check::thorough : Check::usual);
-    for (const std::string& damage : damages) findings.add(damaged("The file is damaged: " + damage + "."));
-    // What a damaged file seems to hold says nothing.
-    if (damages.empty()) {
+    project::Check check(reader, [&](const auto& finding) { findings.add(finding); });
+    if (!check.findDamage(options.thorough ? Check::thorough : Check::usual)) {
         Progress progress(output);
         reader.tell(progress.hearer());
-        project::Check(reader, [&](const auto& finding) { findings.add(finding); }).run();
+        check.run();
     }
     findings.finish();
     return findings.isEmpty() ? succeeded : found;

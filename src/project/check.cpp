@@ -5,16 +5,18 @@
 #include <array>
 
 #include "automation/text.h"
+#include "project/columns.h"
 #include "project/cycles.h"
 #include "project/schema.h"
+#include "project/sentences.h"
 
 namespace hx::project {
 
 namespace {
 
-bool isBlank(std::string_view text) { return automation::trim(text).empty(); }
+constexpr int mostDamages = 20;
 
-std::string quoted(std::string_view name) { return '"' + std::string(name) + '"'; }
+bool isBlank(std::string_view text) { return automation::trim(text).empty(); }
 
 }  // namespace
 
@@ -24,6 +26,29 @@ void Check::run() {
     readMembers();
     compareTriggers();
     findCycles();
+}
+
+bool Check::findDamage(ado::Session::Check thorough) {
+    const auto damages = reader_.session().damages(mostDamages, thorough);
+    for (const std::string& damage : damages)
+        report({Severity::error, "damaged", nullptr, {}, say(sentence::damaged, {damage}), {}}, sentence::goBack);
+    return !damages.empty();
+}
+
+void Check::report(Finding finding, const automation::Sentence& advice) {
+    finding.advice = words_.language == automation::Language::english ? advice.english : advice.german;
+    receive_(finding);
+}
+
+void Check::report(Severity severity, std::string_view kind, const Member& member, std::string problem,
+                   const automation::Sentence& advice) {
+    report({severity, kind, entryOf(member), member.id, std::move(problem), {}, member.child != 0}, advice);
+}
+
+std::string_view Check::shown(std::string_view column) const {
+    if (!words_.captions) return column;
+    const automation::Sentence caption = captionOf(column);
+    return words_.language == automation::Language::english ? caption.english : caption.german;
 }
 
 void Check::readVariables() {
@@ -51,12 +76,15 @@ void Check::readVariable(std::size_t recipe, std::string_view column, std::strin
         triggerUses_[trigger].push_back({recipe, column, std::string(variable)});
     }
     if (variables_.contains(variable)) return;
-    receive_({Severity::warning,
-              "unknown-variable",
-              &recipes_[recipe],
-              {},
-              std::string(column) + " names the variable " + quoted(variable) + ", which is not in the variable list.",
-              "Add the variable to the list or choose another one."});
+    report({Severity::warning,
+            "unknown-variable",
+            &recipes_[recipe],
+            {},
+            say(sentence::unknownInColumn, {shown(column), variable}),
+            {},
+            false,
+            column},
+           sentence::addVariable);
 }
 
 // In blocks: while one name is looked up, the memory that the next ones need is on its way.
@@ -91,17 +119,14 @@ void Check::checkMember(Member& member) {
 void Check::readInclusion(const Member& member) {
     const auto child = numberOf(recipes_, member.child);
     if (!child) {
-        receive_({Severity::error, "missing-sub-recipe", entryOf(member), member.id,
-                  "The sub-recipe with the ID " + std::to_string(member.child) + " does not exist.",
-                  "Delete the member or choose an existing recipe."});
+        report(Severity::error, "missing-sub-recipe", member,
+               say(sentence::missingSubRecipe, {std::to_string(member.child)}), sentence::chooseRecipe);
     }
     if (!member.recipe) return;
     if (child) inclusions_.push_back({*member.recipe, *child});
     if (saves_[*member.recipe] || !isBlank(member.variable)) return;
-    const std::string name = child ? " " + quoted(recipes_[*child].name) : std::string();
-    receive_({Severity::error, "no-file-name", entryOf(member), member.id,
-              "The sub-recipe" + name + " has no variable for its file name.",
-              "Choose one, or let the recipe save the values of its sub-recipes."});
+    const std::string name = child ? say(sentence::quoted, {recipes_[*child].name}) : std::string();
+    report(Severity::error, "no-file-name", member, say(sentence::noFileName, {name}), sentence::chooseFileName);
 }
 
 const RecipeEntry* Check::entryOf(const Member& member) const {
@@ -109,16 +134,13 @@ const RecipeEntry* Check::entryOf(const Member& member) const {
 }
 
 void Check::reportOrphan(const Member& member) {
-    receive_(
-        {Severity::error, "no-recipe", nullptr, member.id,
-         "The recipe with the ID " + std::to_string(member.parent) + ", to which the member belongs, does not exist.",
-         "Delete the member."});
+    report(Severity::error, "no-recipe", member, say(sentence::noRecipe, {std::to_string(member.parent)}),
+           sentence::deleteMember);
 }
 
 void Check::reportUnknown(const Member& member) {
-    receive_({Severity::warning, "unknown-variable", entryOf(member), member.id,
-              "The variable " + quoted(member.variable) + " is not in the variable list.",
-              "Add the variable to the list or choose another one."});
+    report(Severity::warning, "unknown-variable", member, say(sentence::unknownVariable, {member.variable}),
+           sentence::addVariable);
 }
 
 void Check::compareTriggers() {
@@ -127,30 +149,29 @@ void Check::compareTriggers() {
         std::string others;
         for (const TriggerUse& use : uses) {
             if (use.recipe == first.recipe) continue;
-            others +=
-                (others.empty() ? "" : ", ") + quoted(recipes_[use.recipe].name) + " (" + std::string(use.column) + ")";
+            if (!others.empty()) others += ", ";
+            others += say(sentence::trigger, {recipes_[use.recipe].name, shown(use.column)});
         }
         if (others.empty()) continue;
-        receive_({Severity::warning,
-                  "shared-trigger",
-                  &recipes_[first.recipe],
-                  {},
-                  "The trigger variable " + quoted(first.variable) + " (" + std::string(first.column) +
-                      ") also triggers " + others + ".",
-                  "Give each recipe a trigger of its own."});
+        report({Severity::warning,
+                "shared-trigger",
+                &recipes_[first.recipe],
+                {},
+                say(sentence::sharedTrigger, {first.variable, shown(first.column), others}),
+                {},
+                false,
+                first.column},
+               sentence::ownTrigger);
     }
 }
 
 void Check::findCycles() {
     for (const auto& cycle : cyclesOf({recipes_.size(), inclusions_}).ways) {
         std::string way;
-        for (const std::size_t recipe : cycle) way += quoted(recipes_[recipe].name) + " > ";
-        receive_({Severity::error,
-                  "cycle",
-                  &recipes_[cycle.front()],
-                  {},
-                  "The recipe contains itself: " + way + quoted(recipes_[cycle.front()].name) + ".",
-                  "Delete one of these sub-recipes."});
+        for (const std::size_t recipe : cycle) way += say(sentence::named, {recipes_[recipe].name}) + " > ";
+        way += say(sentence::named, {recipes_[cycle.front()].name});
+        report({Severity::error, "cycle", &recipes_[cycle.front()], {}, say(sentence::cycle, {way}), {}},
+               sentence::breakCycle);
     }
 }
 

@@ -9,6 +9,7 @@
 #include <string_view>
 #include <vector>
 
+#include "automation/sentence.h"
 #include "project/links.h"
 #include "project/name_set.h"
 #include "project/reader.h"
@@ -26,6 +27,14 @@ struct Finding {
     std::optional<std::int64_t> member;   ///< where, when it is a member
     std::string problem;
     std::string_view advice;
+    bool ofSubRecipe = false;   ///< the member is one
+    std::string_view column{};  ///< where, when it is a column of the recipe
+};
+
+/// How findings are put into words.
+struct FindingWords {
+    automation::Language language = automation::Language::english;
+    bool captions = false;  ///< columns are called as in the dialogs, not as in the tables
 };
 
 /// Looks for what is wrong in a project whose tables can be read: cycles, missing sub-recipes and file names, members
@@ -35,9 +44,14 @@ class Check {
   public:
     using Receiver = std::function<void(const Finding&)>;
 
-    Check(Reader& reader, Receiver receive) : reader_(reader), receive_(std::move(receive)) {}
+    Check(Reader& reader, Receiver receive, FindingWords words = {})
+        : reader_(reader), receive_(std::move(receive)), words_(words) {}
     /// What the reader throws is passed on.
     void run();
+    /// Reports what is damaged; true when anything is. What a damaged file seems to hold then says nothing.
+    [[nodiscard]] bool findDamage(ado::Session::Check thorough);
+    /// The names of the variable list, once it has run.
+    [[nodiscard]] NameSet takeVariables() noexcept { return std::move(variables_); }
 
   private:
     struct TriggerUse {
@@ -62,9 +76,18 @@ class Check {
     void reportUnknown(const Member& member);
     void compareTriggers();
     void findCycles();
+    void report(Finding finding, const automation::Sentence& advice);
+    void report(Severity severity, std::string_view kind, const Member& member, std::string problem,
+                const automation::Sentence& advice);
+    [[nodiscard]] std::string say(const automation::Sentence& sentence,
+                                  std::initializer_list<std::string_view> names) const {
+        return automation::say(words_.language, sentence, names);
+    }
+    [[nodiscard]] std::string_view shown(std::string_view column) const;
 
     Reader& reader_;
     Receiver receive_;
+    FindingWords words_;
     NameSet variables_;
     std::vector<RecipeEntry> recipes_;
     std::vector<bool> saves_;              // the values of sub-recipes

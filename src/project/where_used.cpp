@@ -23,6 +23,17 @@ WhereUsed::WhereUsed(Reader& reader, std::string name)
     known_ = !references_.empty() || recipe_ || isListed(reader);
 }
 
+WhereUsed::WhereUsed(Reader& reader, std::int64_t recipe)
+    : recipes_(reader.recipes()),
+      inclusions_(reader.inclusions()),
+      recipe_(numberOf(recipes_, recipe)),
+      known_(recipe_.has_value()) {
+    if (!recipe_) return;
+    name_ = recipes_[*recipe_].name;
+    findInclusions();
+    findIndirect();
+}
+
 bool WhereUsed::isName(const ado::StoredValue& value) const {
     return value.kind == ado::StoredValue::Kind::text && automation::equalIgnoreCase(value.text, name_);
 }

@@ -26,6 +26,8 @@ class WhereUsed {
   public:
     /// What the reader throws is passed on.
     WhereUsed(Reader& reader, std::string name);
+    /// What refers to the recipe with this ID, and to nothing else of its name.
+    WhereUsed(Reader& reader, std::int64_t recipe);
 
     [[nodiscard]] const std::vector<RecipeEntry>& recipes() const noexcept { return recipes_; }  ///< all, by ID
     /// The number in recipes() of the recipe of that name or ID.

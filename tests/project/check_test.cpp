@@ -84,6 +84,33 @@ TEST_F(WholeProject, KnowsWhereARecipeIsUsed) {
     EXPECT_THAT(textsOf(used), ElementsAre("sub-recipe 2 1 3", "indirect 1 0 2"));
 }
 
+TEST_F(WholeProject, KnowsWhereOneRecipeIsUsedWhateverElseHasItsName) {
+    Reader& reader = with(std::string(someRecipes) + "(2, 3, 'F'), (1, 2, 'F'), (1, 0, 'C')");
+    const WhereUsed used(reader, 3);
+    EXPECT_EQ(used.recipe(), 2U);
+    EXPECT_THAT(textsOf(used), ElementsAre("sub-recipe 2 1 3", "indirect 1 0 2"));
+    EXPECT_FALSE(WhereUsed(reader, 9).isKnown());
+}
+
+TEST_F(WholeProject, TellsItInGermanWithTheCaptionsOfTheDialogs) {
+    Reader& reader = with(
+        "INSERT INTO TrcpRecipe (Name, VarLoad) VALUES ('A', 'X');"
+        "INSERT INTO TrcpRecipeMember (ParentID, ChildID, VarRecipe) VALUES (1, 0, 'Y'), (1, 1, 'Z')");
+    std::vector<std::string> told;
+    Check check(
+        reader,
+        [&](const Finding& finding) {
+            told.push_back(finding.problem + "|" + std::string(finding.column) + (finding.ofSubRecipe ? "|sub" : ""));
+        },
+        {automation::Language::german, true});
+    check.run();
+    EXPECT_THAT(told, ElementsAre("Ladetrigger nennt die Variable „X“, die nicht in der Variablenliste steht.|VarLoad",
+                                  "Die Variable „Y“ steht nicht in der Variablenliste.|",
+                                  "Die Variable „Z“ steht nicht in der Variablenliste.||sub",
+                                  "Das Rezept enthält sich selbst: „A“ > „A“.|"));
+    EXPECT_TRUE(check.takeVariables().contains("v"));
+}
+
 TEST_F(WholeProject, KnowsWhichNamesItHas) {
     Reader& reader = with(std::string(someRecipes) + "(1, 0, NULL)");
     EXPECT_TRUE(WhereUsed(reader, "f").isKnown());
