@@ -9,6 +9,8 @@
 
 #include "automation/convert.h"
 #include "automation/dispatch.h"
+#include "studio/expanded_nodes.h"
+#include "studio/recipe_branch.h"
 
 namespace hx::studio {
 
@@ -16,21 +18,8 @@ namespace {
 
 constexpr std::string_view editorClass = "frmtabgrid", gridName = "tdbRM";
 
-// What the key of a recipe's node begins with; its ID follows.
-constexpr std::string_view recipeNode = "RCPR";
-
 // The message that a window's procedure gets when the window becomes the active one.
 constexpr std::uint32_t activateMessage = 6, active = 1;
-
-void collectExpanded(const qt::ExplorerTree& tree, qt::ExplorerModel& model, const QModelIndex& parent,
-                     std::vector<std::string>& keys) {
-    for (int row = 0; row < model.rowCount(parent); ++row) {
-        const QModelIndex node = model.index(row, 0, parent);
-        if (!tree.isExpanded(node)) continue;
-        keys.push_back(model.key(node));
-        collectExpanded(tree, model, node, keys);
-    }
-}
 
 automation::ObjectRef gridOf(forms::Form* window) {
     return window == nullptr ? nullptr : window->get(gridName).asObject();
@@ -66,7 +55,7 @@ void EditorRefresh::show(const history::StepName& step) {
     } else {
         activate(*window);
     }
-    const std::string where = std::string(recipeNode) + std::to_string(step.recipe);
+    const std::string where = branch::keyOf(branch::recipe, step.recipe);
     const std::string& shown = step.recipe != 0 && isThere(where) ? where : before;
     if (shown != explorer_.selectedNode().key || step.recipes == 0) showNode(shown);
     if (keyboard) keyboard->setFocus(Qt::OtherFocusReason);
@@ -87,8 +76,7 @@ void EditorRefresh::activate(forms::Form& window) {
 void EditorRefresh::remember() {
     if (place_ || project_ == nullptr || editor() == nullptr) return;
     Place& place = place_.emplace();
-    qt::ExplorerModel& model = explorer_.model();
-    collectExpanded(tree_, model, model.find(qt::QtExplorer::projectKey), place.expanded);
+    place.expanded = expandedNodes(tree_, explorer_);
     place.scrolled = tree_.verticalScrollBar()->value();
     place.node = explorer_.selectedNode().key;
     if (const auto grid = gridOf(editor())) place.row = automation::toInt32(grid->get("Row"));
@@ -105,9 +93,7 @@ void EditorRefresh::putBack() {
     if (!place_) return;
     const Place place = *std::exchange(place_, std::nullopt);
     if (project_ == nullptr || editor() == nullptr) return;
-    for (const std::string& key : place.expanded) {
-        if (isThere(key)) explorer_.showExpanded(key);
-    }
+    expandNodes(place.expanded, explorer_);
     showNode(place.node);
     tree_.verticalScrollBar()->setValue(place.scrolled);
     const auto grid = gridOf(editor());

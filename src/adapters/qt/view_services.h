@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "adapters/qt/cell_marks.h"
 #include "adapters/qt/popup_place.h"
 #include "adapters/qt/units.h"
 #include "adapters/qt/variable_source.h"
@@ -13,6 +14,7 @@ struct ViewServices {
     Units units;
     const Wording& wording;
     const VariableSource* variables = nullptr;  ///< null: lists of variables are empty
+    const CellMarks* marks = nullptr;           ///< null: none
     PopUpPlace popUps{};
 };
 

@@ -64,7 +64,8 @@ bool ExplorerModel::isGoing(Id id) const {
 void ExplorerModel::setCaption(std::string_view key, std::string_view caption) {
     const Id id = require(key);
     tree_.setCaption(id, caption);
-    if (isNew(id)) return;
+    arrangement_.changed();
+    if (isNew(id) || isHidden(id)) return;
     const QModelIndex changed = indexOf(id);
     emit dataChanged(changed, changed, {Qt::DisplayRole});
 }
@@ -85,6 +86,8 @@ int ExplorerModel::depth(std::string_view key) const {
 
 void ExplorerModel::clear() {
     beginResetModel();
+    arrangement_.end();
+    arrangement_.changed();
     tree_.clear();
     images_.clear();
     new_.clear();
@@ -104,24 +107,80 @@ void ExplorerModel::publishNew() {
     if (published_.empty()) return;
     const auto grown = published_;
     new_.clear();
-    for (const auto& [parent, known] : grown) {
-        const int count = static_cast<int>(tree_.childCount(parent));
-        if (count > known) beginInsertRows(indexOf(parent), known, count - 1);
+    for (const auto& [parent, known] : grown) publishNewOf(parent, known);
+}
+
+void ExplorerModel::publishNewOf(Id parent, int known) {
+    const int count = static_cast<int>(tree_.childCount(parent));
+    const auto ends = [&] {
         published_.erase(parent);
         growing_ = hosting::NodeTree::none;
-        if (count > known) endInsertRows();
+    };
+    if (known == 0 && tree_.key(parent) == arrangement_.key()) {
+        arrangement_.changed();
+        arrangement_.arrange(parent, static_cast<std::size_t>(count));
+    }
+    if (arrangement_.isOf(parent) && known > 0) {
+        arrangement_.changed();
+        for (int row = known; row < count; ++row) reveal(tree_.child(parent, static_cast<std::size_t>(row)));
+        return ends();
+    }
+    const int shown = arrangement_.isOf(parent) ? arrangement_.count() : count;
+    if (shown > known) beginInsertRows(indexOf(parent), known, shown - 1);
+    ends();
+    if (shown > known) endInsertRows();
+}
+
+void ExplorerModel::arrange(const std::string& key, const automation::WordFilter& filter, bool byName) {
+    publish();
+    arrangement_.want(key, filter, byName);
+    const Id parent = tree_.find(key);
+    if (parent == hosting::NodeTree::none) return;
+    emit layoutAboutToBeChanged();
+    const QModelIndexList before = persistentIndexList();
+    arrangement_.arrange(parent, tree_.childCount(parent));
+    QModelIndexList after;
+    for (const QModelIndex& index : before) after.append(isHidden(idOf(index)) ? QModelIndex() : indexOf(idOf(index)));
+    changePersistentIndexList(before, after);
+    emit layoutChanged();
+}
+
+std::size_t ExplorerModel::childCount(std::string_view key) {
+    publish();
+    const Id id = tree_.find(key);
+    return id == hosting::NodeTree::none ? 0 : tree_.childCount(id);
+}
+
+bool ExplorerModel::isHidden(Id id) const {
+    for (; id != hosting::NodeTree::none && id != hosting::NodeTree::root; id = tree_.parent(id)) {
+        if (arrangement_.hides(id)) return true;
+    }
+    return false;
+}
+
+void ExplorerModel::reveal(Id id) {
+    for (; id != hosting::NodeTree::none && id != hosting::NodeTree::root; id = tree_.parent(id)) {
+        if (!arrangement_.hides(id)) continue;
+        beginInsertRows(indexOf(tree_.parent(id)), arrangement_.count(), arrangement_.count());
+        arrangement_.append(id);
+        endInsertRows();
     }
 }
 
 void ExplorerModel::publishGoing() {
     if (going_.empty()) return;
+    arrangement_.changed();
     std::unordered_map<Id, std::vector<std::size_t>> rows;
+    std::vector<Id> hidden;
     for (const Id id : going_) {
         goingMarks_[id] = false;
         const bool withParent = isGoing(tree_.parent(id));
         goingMarks_[id] = true;
-        if (!withParent) rows[tree_.parent(id)].push_back(tree_.row(id));
+        if (withParent) continue;
+        if (isHidden(id)) hidden.push_back(id);
+        else rows[tree_.parent(id)].push_back(static_cast<std::size_t>(indexOf(id).row()));
     }
+    for (const Id id : hidden) tree_.remove(id);
     going_.clear();
     goingMarks_.clear();
     for (auto& [parent, list] : rows) removeRowsOf(parent, std::move(list));
@@ -135,7 +194,12 @@ void ExplorerModel::removeRowsOf(Id parent, std::vector<std::size_t> rows) {
         const std::size_t first = rows[begin];
         const std::size_t last = rows[end - 1];
         beginRemoveRows(indexOf(parent), static_cast<int>(first), static_cast<int>(last));
-        for (std::size_t i = first; i <= last; ++i) tree_.remove(tree_.child(parent, first));
+        if (arrangement_.isOf(parent)) {
+            for (const Id id : arrangement_.take(first, last - first + 1)) tree_.remove(id);
+        } else {
+            for (std::size_t i = first; i <= last; ++i) tree_.remove(tree_.child(parent, first));
+        }
+        if (!arrangement_.isOf(tree_.find(arrangement_.key()))) arrangement_.end();
         endRemoveRows();
         end = begin;
     }
@@ -149,7 +213,8 @@ std::vector<std::string> ExplorerModel::childKeys(std::string_view key, std::int
 QModelIndex ExplorerModel::find(std::string_view key) {
     publish();
     const Id id = tree_.find(key);
-    return id == hosting::NodeTree::none ? QModelIndex() : indexOf(id);
+    reveal(id);
+    return indexOf(id);
 }
 
 void ExplorerModel::setImage(const std::string& key, const QIcon& icon) { images_[key] = icon; }
@@ -160,12 +225,15 @@ ExplorerModel::Id ExplorerModel::idOf(const QModelIndex& index) const {
 
 QModelIndex ExplorerModel::indexOf(Id id) const {
     if (id == hosting::NodeTree::root || id == hosting::NodeTree::none) return {};
-    return createIndex(static_cast<int>(tree_.row(id)), 0, static_cast<quintptr>(id));
+    const auto arranged = arrangement_.isOf(tree_.parent(id)) ? arrangement_.rowOf(id) : std::nullopt;
+    return createIndex(arranged.value_or(static_cast<int>(tree_.row(id))), 0, static_cast<quintptr>(id));
 }
 
 QModelIndex ExplorerModel::index(int row, int column, const QModelIndex& parent) const {
     if (column != 0 || row < 0 || row >= rowCount(parent)) return {};
-    return createIndex(row, 0, static_cast<quintptr>(tree_.child(idOf(parent), static_cast<std::size_t>(row))));
+    const auto at = static_cast<std::size_t>(row);
+    const Id child = arrangement_.isOf(idOf(parent)) ? arrangement_.at(at) : tree_.child(idOf(parent), at);
+    return createIndex(row, 0, static_cast<quintptr>(child));
 }
 
 QModelIndex ExplorerModel::parent(const QModelIndex& index) const {
@@ -174,6 +242,7 @@ QModelIndex ExplorerModel::parent(const QModelIndex& index) const {
 
 int ExplorerModel::rowCount(const QModelIndex& parent) const {
     const Id id = idOf(parent);
+    if (arrangement_.isOf(id)) return arrangement_.count();
     const auto known = published_.empty() ? published_.end() : published_.find(id);
     return known != published_.end() ? known->second : static_cast<int>(tree_.childCount(id));
 }
@@ -182,9 +251,27 @@ bool ExplorerModel::hasChildren(const QModelIndex& parent) const {
     return rowCount(parent) > 0 || (parent.isValid() && tree_.options(idOf(parent))[0]);
 }
 
+void ExplorerModel::setRenaming(CanRename canRename, Rename rename) {
+    canRename_ = std::move(canRename);
+    rename_ = std::move(rename);
+}
+
+Qt::ItemFlags ExplorerModel::flags(const QModelIndex& index) const {
+    const Qt::ItemFlags flags = QAbstractItemModel::flags(index);
+    return index.isValid() && canRename_(key(index)) ? flags | Qt::ItemIsEditable : flags;
+}
+
+bool ExplorerModel::setData(const QModelIndex& index, const QVariant& value, int role) {
+    const std::string after = fromQt(value.toString());
+    if (role != Qt::EditRole || !index.isValid() || after.empty() || after == caption(index)) return false;
+    QMetaObject::invokeMethod(
+        this, [this, key = key(index), after] { rename_(key, after); }, Qt::QueuedConnection);
+    return false;
+}
+
 QVariant ExplorerModel::data(const QModelIndex& index, int role) const {
     if (!index.isValid()) return {};
-    if (role == Qt::DisplayRole) return toQt(caption(index));
+    if (role == Qt::DisplayRole || role == Qt::EditRole) return toQt(caption(index));
     if (role == Qt::DecorationRole) {
         const auto found = images_.find(tree_.image(idOf(index)));
         return found == images_.end() ? QVariant() : QVariant(found->second);

@@ -40,6 +40,12 @@ void ExplorerTree::setListener(NodeListener* listener, PopUpPlace* popUps) {
     popUps_ = popUps;
 }
 
+void ExplorerTree::choose(const QModelIndex& node) {
+    setCurrentIndex(node);
+    scrollTo(node);
+    followCurrent();
+}
+
 void ExplorerTree::click(const QModelIndex& node) {
     clicked_ = node;
     if (listener_ != nullptr) listener_->nodeClicked(node);
@@ -89,7 +95,9 @@ void ExplorerTree::releaseRight(const QPersistentModelIndex& node) {
     if (again) click(node);
 }
 
+// What the field of a caption does not take is meant for nobody else.
 void ExplorerTree::keyPressEvent(QKeyEvent* event) {
+    if (state() == EditingState) return;
     followCurrent();
     const QPersistentModelIndex before = currentIndex();
     if (listener_ != nullptr && before.isValid()) {
@@ -107,6 +115,7 @@ void ExplorerTree::keyPressEvent(QKeyEvent* event) {
 }
 
 void ExplorerTree::keyReleaseEvent(QKeyEvent* event) {
+    if (state() == EditingState) return;
     QTreeView::keyReleaseEvent(event);
     followCurrent();
     const auto code = virtualKey(*event);

@@ -30,6 +30,8 @@ class ExplorerTree : public QTreeView {
     ExplorerTree();
     /// Both are lent; null ends the reports.
     void setListener(NodeListener* listener, PopUpPlace* popUps);
+    /// Makes a node the current one and brings it into sight, as the user's click does.
+    void choose(const QModelIndex& node);
 
   protected:
     void mousePressEvent(QMouseEvent* event) override;

@@ -20,7 +20,8 @@ bool showsNumbers(const forms::Column& column, const ado::Recordset* rows) {
 
 }  // namespace
 
-GridModel::GridModel(forms::Grid& grid, GridErrors::Report report) : grid_(&grid), errors_(std::move(report)) {
+GridModel::GridModel(forms::Grid& grid, const CellMarks* marks, GridErrors::Report report)
+    : grid_(&grid), marks_(marks), errors_(std::move(report)) {
     refresh();
 }
 
@@ -34,12 +35,24 @@ QString GridModel::text(int row, int column) const noexcept {
     return shown;
 }
 
+bool GridModel::isMarked(int column, const QString& text) const {
+    if (marks_ == nullptr || grid_ == nullptr || text.isEmpty()) return false;
+    return marks_->isMarked(grid_->columns()[static_cast<std::size_t>(column)]->dataField(), fromQt(text));
+}
+
+QString GridModel::reason(const QModelIndex& index) const {
+    const QString shown = text(index.row(), index.column());
+    return isMarked(index.column(), shown) ? marks_->reason(fromQt(shown)) : QString();
+}
+
 QVariant GridModel::data(const QModelIndex& index, int role) const {
     if (grid_ == nullptr || !index.isValid()) return {};
     if (role == Qt::DisplayRole || role == Qt::EditRole) return text(index.row(), index.column());
     if (role == Qt::TextAlignmentRole) {
         return QVariant::fromValue(isRightAligned(index.column()) ? Qt::AlignRight : Qt::AlignLeft);
     }
+    if (role == Qt::ToolTipRole) return plainToolTip(reason(index));
+    if (role == Qt::AccessibleDescriptionRole) return reason(index);
     return {};
 }
 

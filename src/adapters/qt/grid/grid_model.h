@@ -4,6 +4,7 @@
 #include <QAbstractTableModel>
 #include <vector>
 
+#include "adapters/qt/cell_marks.h"
 #include "adapters/qt/grid/grid_errors.h"
 #include "forms/grid.h"
 
@@ -13,7 +14,8 @@ namespace hx::qt {
 /// nothing: what fails is reported.
 class GridModel : public QAbstractTableModel {
   public:
-    GridModel(forms::Grid& grid, GridErrors::Report report);
+    /// The marks are lent; null for none.
+    GridModel(forms::Grid& grid, const CellMarks* marks, GridErrors::Report report);
 
     [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
     [[nodiscard]] int columnCount(const QModelIndex& parent = {}) const override;
@@ -24,6 +26,8 @@ class GridModel : public QAbstractTableModel {
 
     /// The text of a cell as shown; empty when it cannot be read.
     [[nodiscard]] QString text(int row, int column) const noexcept;
+    /// Whether a cell of the column that shows this text is marked.
+    [[nodiscard]] bool isMarked(int column, const QString& text) const;
     [[nodiscard]] bool isRightAligned(int column) const { return rightAligned_[static_cast<std::size_t>(column)]; }
     [[nodiscard]] GridErrors& errors() const noexcept { return errors_; }
 
@@ -43,7 +47,10 @@ class GridModel : public QAbstractTableModel {
 
   private:
     [[nodiscard]] std::vector<bool> readAlignments() const;
+    /// Why a cell is marked; empty when it is not.
+    [[nodiscard]] QString reason(const QModelIndex& index) const;
     forms::Grid* grid_;
+    const CellMarks* marks_;
     mutable GridErrors errors_;
     std::vector<bool> rightAligned_;
     int rows_ = 0;

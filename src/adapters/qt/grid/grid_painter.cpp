@@ -11,6 +11,15 @@
 
 namespace hx::qt {
 
+namespace {
+
+// Read well on either background.
+constexpr QColor markedInLight(0xB3, 0x26, 0x1E), markedInDark(0xFF, 0x8A, 0x80);
+
+bool isDark(const QColor& color) { return color.lightness() < 128; }
+
+}  // namespace
+
 void GridPainter::paint(QPainter& painter, const QRect& part) {
     colors_ = colors();
     metrics_ = table_.fontMetrics();
@@ -77,6 +86,7 @@ GridPainter::Colors GridPainter::colors() const {
             .text = palette.color(group, QPalette::Text),
             .highlight = palette.color(group, QPalette::Highlight),
             .highlightedText = palette.color(group, QPalette::HighlightedText),
+            .marked = isDark(palette.color(group, QPalette::Base)) ? markedInDark : markedInLight,
             .line = QColor::fromRgb(static_cast<QRgb>(line)),
             .frame = palette.color(group, table_.hasFocus() ? QPalette::Highlight : QPalette::Mid)};
 }
@@ -92,7 +102,11 @@ void GridPainter::paintRow(QPainter& painter, int row, const QRect& rect, const 
         const bool button = column.button && (current || row == hoveredRow_);
         QRect text = cell.adjusted(cellMargin, 0, -cellMargin, 0);
         if (button) text.setRight(buttonRect(cell).left() - cellMargin);
-        paintText(painter, model_.text(row, column.number), text, column.rightAligned);
+        const QString shown = model_.text(row, column.number);
+        const bool marked = !selected && model_.isMarked(column.number, shown);
+        if (marked) painter.setPen(colors_.marked);
+        paintText(painter, shown, text, column.rightAligned);
+        if (marked) painter.setPen(colors_.text);
         if (button) paintButton(painter, cell, row, column.number);
         if (current && column.number == model_.grid()->col()) paintFrame(painter, cell);
     }

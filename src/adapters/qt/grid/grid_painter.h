@@ -36,7 +36,7 @@ class GridPainter {
         bool rightAligned, button;
     };
     struct Colors {
-        QColor base, alternate, text, highlight, highlightedText, line, frame;
+        QColor base, alternate, text, highlight, highlightedText, marked, line, frame;
     };
 
     [[nodiscard]] std::vector<Column> columnsIn(const QRect& part) const;

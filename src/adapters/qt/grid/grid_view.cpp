@@ -39,7 +39,7 @@ bool isOfTheMouse(const QEvent& event) {
 GridView::GridView(forms::Grid& grid, SurroundingForm& form, QWidget& area)
     : ControlView(grid, form),
       box_(&area),
-      model_(grid, [this](const automation::Error& error) { report(error); }),
+      model_(grid, form.services().marks, [this](const automation::Error& error) { report(error); }),
       selection_(model_) {
     addPane(right_, 1);
     box_.setFocusPolicy(Qt::StrongFocus);

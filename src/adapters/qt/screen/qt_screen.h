@@ -37,6 +37,8 @@ class QtScreen : public forms::Screen {
     void showFor(forms::Form& form, forms::WindowHandle owner, const std::function<void()>& work);
     /// The project's variables, lent: what dialogs that are shown from now on offer.
     void setVariables(const VariableSource& variables) { views_.variables = &variables; }
+    /// Lent, null for none: what grids that are shown from now on mark.
+    void setMarks(const CellMarks* marks) { views_.marks = marks; }
     /// Gives to the models what is being typed in any window.
     void settle();
     [[nodiscard]] const Units& units() const noexcept { return views_.units; }
