@@ -1,16 +1,18 @@
 // SPDX-License-Identifier: MIT
 
-// The check of a project for what is wrong in it.
+// What is looked for in all tables of a project: what is wrong in it, or a text.
 #include <filesystem>
 #include <iostream>
 #include <memory>
 #include <sstream>
 
+#include "adapters/sqlite/provider.h"
 #include "bench/limit_database.h"
 #include "bench/require.h"
 #include "bench/subjects.h"
 #include "cli/findings.h"
 #include "cli/generate.h"
+#include "project/text_search.h"
 
 namespace hx::bench {
 
@@ -90,6 +92,31 @@ Subject check_project::limit(const Project& project) {
             database.readAll("SELECT Name FROM ThxVariable");
             database.readAll("SELECT ID, Name, VarLoad, VarSave, VarRead, VarWrite, SaveSubRecipes FROM TrcpRecipe");
             database.readAll("SELECT ID, ParentID, ChildID, VarRecipe FROM TrcpRecipeMember");
+        };
+    };
+}
+
+Subject find_text::ours(const Project& project, const std::string& text) {
+    return [=]() -> Work {
+        return [=] {
+            sqlite::Provider provider;
+            project::Reader reader(provider, project.path, project::Reader::Damage::read);
+            project::PlainPattern pattern(text, false, false);
+            const project::TextSearch search(reader, pattern, {});
+            require(!search.hits().empty(), "nothing was found");
+        };
+    };
+}
+
+Subject find_text::limit(const Project& project) {
+    return [=]() -> Work {
+        return [=] {
+            LimitDatabase database(project);
+            database.readAll(
+                "SELECT ID, Name, Comment, VarRecipeName, VarDescription, VarLoad, VarSave, VarRead, "
+                "VarWrite, VarSetValue FROM TrcpRecipe");
+            database.readAll("SELECT ID, ParentID, ChildID, VarRecipe FROM TrcpRecipeMember");
+            database.readAll("SELECT ID, Name, Comment FROM ThxVariable");
         };
     };
 }

@@ -70,6 +70,16 @@ Row fillExplorer(const Project& project, int rounds) {
     return {"add all recipes to the explorer", costs[0], costs[1], {}, {.atLeastPeer = 4.0}};
 }
 
+Row filterExplorer(const Project& project, int rounds) {
+    const auto costs = compare({filter_explorer::ours(project, false)}, rounds, manyRuns);
+    return {"filter them by their names", costs[0], {}, {}, {.atMostMilliseconds = 50.0}};
+}
+
+Row filterOrdered(const Project& project, int rounds) {
+    const auto costs = compare({filter_explorer::ours(project, true)}, rounds, manyRuns);
+    return {"the same, ordered by their names", costs[0], {}, {}, {.atMostMilliseconds = 50.0}};
+}
+
 /// A project with as many variables as a large plant has, all of them in the big recipe.
 Project plant(const Project& project) {
     constexpr std::int64_t variables = 100'000;
@@ -208,6 +218,18 @@ Row checkProject(const Project& project, int rounds) {
             {.atMostMilliseconds = 1000.0, .worstCounts = true}};
 }
 
+Row findText(const Project& project, int rounds) {
+    namespace subject = find_text;
+    constexpr std::int64_t membersEach = 9;
+    const auto costs =
+        compare({subject::ours(project, "temperatur.soll"), {}, subject::limit(project)}, rounds, fewRuns);
+    return {"find a text in " + std::to_string(project.big + project.recipes * membersEach) + " members",
+            costs[0],
+            {},
+            costs[2],
+            {.atMostMilliseconds = 1000.0}};
+}
+
 Row findLastByNumber(const Project& project, int rounds) {
     return findRecipe(project, rounds, "open the recipes and find the last by number",
                       "ID=" + std::to_string(project.recipes + 1));
@@ -225,6 +247,8 @@ constexpr auto table = std::to_array<Measurement>({
     {"read-page", &readPage},
     {"select-small", &selectSmall},
     {"explorer", &fillExplorer},
+    {"filter-explorer", &filterExplorer},
+    {"filter-ordered", &filterOrdered},
     {"read-recipes", &readRecipes},
     {"find-number", &findLastByNumber},
     {"find-name", &findLastByName},
@@ -244,6 +268,7 @@ constexpr auto table = std::to_array<Measurement>({
     {"filter-variables", &filterVariables},
     {"check-variables", &checkAllVariables},
     {"check", &checkProject},
+    {"find-text", &findText},
     {"report-read", &readForReport},
     {"report", &showReport},
     {"report-scroll", &scrollReport},

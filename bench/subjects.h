@@ -48,6 +48,11 @@ namespace fill_explorer {
 [[nodiscard]] Subject peer(const Project& project);
 }  // namespace fill_explorer
 
+/// Types into the filter above the explorer of all recipes, until those found are painted.
+namespace filter_explorer {
+[[nodiscard]] Subject ours(const Project& project, bool byName);
+}  // namespace filter_explorer
+
 /// Selects the big recipe and shows its first page in the grid; or scrolls to another page.
 namespace show_grid {
 [[nodiscard]] Subject firstPage(const Project& project);
@@ -120,6 +125,13 @@ namespace check_project {
 [[nodiscard]] Subject peer(const Project& project);
 [[nodiscard]] Subject limit(const Project& project);
 }  // namespace check_project
+
+/// Looks for a text, ignoring case, in names, comments and variables of recipes, members and the variable list. The
+/// limit reads the tables once.
+namespace find_text {
+[[nodiscard]] Subject ours(const Project& project, const std::string& text);
+[[nodiscard]] Subject limit(const Project& project);
+}  // namespace find_text
 
 /// Makes the report on a project: reads it; reads it, lays it out and draws the first page; draws another page; writes
 /// it as HTML; lays it out and writes it as PDF.

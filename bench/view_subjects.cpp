@@ -7,6 +7,7 @@
 #include <QSqlQuery>
 #include <QTableView>
 #include <QTreeWidget>
+#include <array>
 #include <memory>
 #include <stdexcept>
 
@@ -19,6 +20,7 @@
 #include "bench/subjects.h"
 #include "forms/form.h"
 #include "recipe/node_key.h"
+#include "studio/explorer_filter.h"
 
 namespace hx::bench {
 
@@ -122,6 +124,7 @@ class ExplorerWindow {
         tree_.resize(width, height);
         explorer.openProject("Plant", {});
         explorer.addNode({.parent = {}, .caption = "Rezepte", .key = recipe::rootKey, .tag = {}, .image = {}});
+        sort_.setCheckable(true);
         tree_.show();
         Desktop::settle();
     }
@@ -129,15 +132,27 @@ class ExplorerWindow {
         tree_.expand(explorer.model().find(recipe::rootKey));
         Desktop::settle();
     }
+    void filter(const char* words) {
+        filter_.findChild<QLineEdit*>("explorerFilter")->setText(QLatin1StringView(words));
+        Desktop::settle();
+    }
+    void orderByName(bool byName) {
+        sort_.setChecked(byName);
+        Desktop::settle();
+    }
 
   private:
     Desktop desktop_;
     qt::ExplorerTree tree_;
     qt::QtClipboard clipboard_;
+    QAction sort_;
 
   public:
     EditorData editor;
     qt::QtExplorer explorer{tree_, 0, clipboard_, desktop_.screen};
+
+  private:
+    studio::ExplorerFilter filter_{explorer, tree_, sort_, desktop_.wording};
 };
 
 /// Qt's own tree, filled the fast way: all items at once.
@@ -190,6 +205,18 @@ Subject fill_explorer::ours(const Project& project) {
             addin::addRecipeNodes(*window->editor.data().rsRecipes, window->explorer, window->editor.texts());
             window->paint();
         };
+    };
+}
+
+Subject filter_explorer::ours(const Project& project, bool byName) {
+    return [=]() -> Work {
+        const auto window = std::make_shared<ExplorerWindow>(project);
+        addin::addRecipeNodes(*window->editor.data().rsRecipes, window->explorer, window->editor.texts());
+        window->paint();
+        window->orderByName(byName);
+        // Hits all, many, few and none.
+        constexpr std::array words{"a", "l", "cola", "cola -1", "nothing", ""};
+        return [=, next = std::make_shared<std::size_t>(0)] { window->filter(words[(*next)++ % words.size()]); };
     };
 }
 

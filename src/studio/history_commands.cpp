@@ -63,9 +63,15 @@ void HistoryCommands::open(const Project& project) {
     } catch (const std::exception&) {
         return;  // memory is short: the project opens, and nothing can be undone
     }
-    history_->changed = [this] { refresh(); };
+    history_->changed = [this] {
+        refresh();
+        changed_();
+    };
     copies_.emplace(host_.store(), history_->project());
-    history_->beforeChange = [this] { keepCopy(); };
+    history_->beforeChange = [this] {
+        writing_();
+        keepCopy();
+    };
     history_->surprised = [this](const history::Surprise& surprise) { tell(surprise); };
     host_.setHistory(history_);
     beginMacro();
@@ -112,6 +118,11 @@ void HistoryCommands::keepCopy() {
         window_.statusBar()->showMessage(
             wording_.translate("studio", "No copy of the project was kept: %1").arg(qt::toQt(reason)));
     }
+}
+
+void HistoryCommands::setWatch(std::function<void()> changed, std::function<void()> writing) {
+    changed_ = std::move(changed);
+    writing_ = std::move(writing);
 }
 
 void HistoryCommands::beginMacro() {

@@ -39,6 +39,12 @@ class HistoryCommands : public QObject {
     [[nodiscard]] bool keepsDailyCopies() const noexcept { return keepsDailyCopies_; }
     /// The macro that runs; empty for none. All that it changes is one step, and nothing is undone meanwhile.
     void setMacro(const QString& name);
+    /// Called when the project has been changed, and before something is written to it.
+    void setWatch(std::function<void()> changed, std::function<void()> writing);
+    /// Null while no project is open.
+    [[nodiscard]] history::History* history() noexcept { return history_.get(); }
+    /// Who tells the editor of what was changed around it.
+    [[nodiscard]] EditorRefresh& editor() noexcept { return editor_; }
 
   private:
     /// `position` is asked for when what is being typed has been stored.
@@ -63,6 +69,7 @@ class HistoryCommands : public QObject {
     std::optional<history::DailyCopies> copies_;
     StepNotice notice_;
     QString macro_;
+    std::function<void()> changed_ = [] {}, writing_ = [] {};
 };
 
 }  // namespace hx::studio

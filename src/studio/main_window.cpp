@@ -11,6 +11,7 @@
 #include <QScreen>
 #include <QStandardPaths>
 #include <QStatusBar>
+#include <QVBoxLayout>
 
 #include "adapters/qt/svg_icon.h"
 #include "adapters/qt/text.h"
@@ -43,7 +44,10 @@ MainWindow::MainWindow(StudioHost& host, Preferences& preferences)
       macros_(*this, *this, host, explorer_),
       history_(*this, host, preferences.keepsDailyCopies(), explorer_, tree_,
                [this](const QString& text) { warn(text); }),
-      menus_(*this, *this, {explorerDock_.toggleViewAction(), &history_.toggleDock(), &macros_.toggleOutput()},
+      find_(*this, *this, host, explorer_, tree_, history_, [this](const QString& text) { warn(text); }),
+      menus_(*this, *this,
+             QList<QAction*>{explorerDock_.toggleViewAction(), &history_.toggleDock(), &macros_.toggleOutput()} +
+                 find_.toggles(),
              history_.actions(), host.wording()) {
     setUp();
     restoreWindow();
@@ -53,6 +57,7 @@ MainWindow::MainWindow(StudioHost& host, Preferences& preferences)
 
 MainWindow::~MainWindow() {
     project_.reset();
+    find_.close();
     history_.close();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     host_.windows().remove(documentsHandle_);
@@ -64,11 +69,18 @@ void MainWindow::setUp() {
     tree_.setObjectName(QStringLiteral("projectExplorer"));
     tree_.setFrameShape(QFrame::NoFrame);
     explorerDock_.setObjectName(QStringLiteral("explorerDock"));
-    explorerDock_.setWidget(&tree_);
+    auto* const rows = new QVBoxLayout(&explorerPanel_);
+    rows->setContentsMargins(0, 0, 0, 0);
+    rows->setSpacing(0);
+    rows->addWidget(&find_.filter());
+    rows->addWidget(&tree_, 1);
+    explorerPanel_.setFocusProxy(&tree_);
+    explorerDock_.setWidget(&explorerPanel_);
     explorerDock_.setAllowedAreas(Qt::LeftDockWidgetArea | Qt::RightDockWidgetArea);
     setCentralWidget(&documents_);
     addDockWidget(Qt::LeftDockWidgetArea, &explorerDock_);
     macros_.addTo(*this);
+    find_.addTo(*this, menus_.viewMenu());
     macros_.setRunningChanged([this](const QString& name) { history_.setMacro(name); });
     history_.addTo(*this);
     fileLabel_.setObjectName(QStringLiteral("projectFile"));
@@ -108,6 +120,7 @@ void MainWindow::useLanguage(std::int32_t lcid) {
     explorerDock_.setWindowTitle(wording_.translate("studio", "Project Explorer"));
     macros_.retranslate();
     history_.retranslate();
+    find_.retranslate();
     menus_.retranslate();
     tree_.setAccessibleName(wording_.translate("studio", "Project Explorer"));
     documents_.setAccessibleName(wording_.translate("studio", "Documents"));
@@ -165,6 +178,7 @@ void MainWindow::open(const QString& path) {
     tellUnlessListed(preferences_.addRecent(project_->file()));
     history_.open(*project_);
     startAddIn();
+    find_.open(project_->file());
     tellOfLastSession();
 }
 
@@ -221,6 +235,7 @@ void MainWindow::showHelp() {
 void MainWindow::closeProject() {
     if (!project_) return;
     project_.reset();
+    find_.close();
     history_.close();
     showProject();
     statusBar()->showMessage(wording_.translate("studio", "Project closed"), messageTime);

@@ -11,6 +11,7 @@
 #include "adapters/qt/explorer/qt_explorer.h"
 #include "adapters/qt/wording.h"
 #include "studio/document_area.h"
+#include "studio/find_commands.h"
 #include "studio/history_commands.h"
 #include "studio/macro_commands.h"
 #include "studio/preferences.h"
@@ -76,6 +77,7 @@ class MainWindow : public QMainWindow, private StudioCommands, private ProjectWi
     const qt::Wording& wording_;
     DocumentArea documents_;
     QDockWidget explorerDock_;
+    QWidget explorerPanel_;
     qt::ExplorerTree tree_;
     qt::PlainLabel fileLabel_;
     QTranslator translator_;
@@ -83,6 +85,7 @@ class MainWindow : public QMainWindow, private StudioCommands, private ProjectWi
     qt::QtExplorer explorer_;
     MacroCommands macros_;
     HistoryCommands history_;
+    FindCommands find_;
     StudioMenus menus_;
     std::unique_ptr<Project> project_;
 };

@@ -53,6 +53,10 @@ class StudioHost {
 
     /// The store itself, of which nothing is recorded.
     [[nodiscard]] ado::Provider& store() noexcept { return provider_; }
+    /// How projects are opened, with errors in the user's language.
+    [[nodiscard]] sqlite::OpenOptions openOptions() const;
+    /// The store that records what is changed.
+    [[nodiscard]] ado::Provider& recordingStore() noexcept { return recordingProvider_; }
     /// Where the changes of the open project are recorded; null for nowhere.
     void setHistory(std::shared_ptr<history::History> history) noexcept { history_ = std::move(history); }
 
@@ -60,7 +64,6 @@ class StudioHost {
     void setProjectFile(const QString& path);
 
   private:
-    [[nodiscard]] sqlite::OpenOptions openOptions() const;
     [[nodiscard]] std::shared_ptr<history::History> historyOf(const std::string& path) const;
 
     QString configFolder_;

@@ -35,6 +35,8 @@ class StudioMenus : public QObject {
     StudioMenus(QMainWindow& window, StudioCommands& commands, const QList<QAction*>& views,
                 const QList<QAction*>& edits, const qt::Wording& wording);
     void retranslate();
+    /// For further menus to stand before it.
+    [[nodiscard]] QAction* viewMenu() const { return view_.menuAction(); }
     void setProjectOpen(bool open) { close_.setEnabled(open); }
 
   private:

@@ -161,7 +161,8 @@ TEST_F(StudioMacroTest, FollowsTheLanguageOfTheStudio) {
     EXPECT_THAT(status(), HasPattern("^test.lua: done in [0-9]+\\.[0-9] s$"));
     Texts views;
     for (const QAction* view : find<QMenu>(window(), "menuView").actions()) views.push_back(view->text().toStdString());
-    EXPECT_THAT(views, ElementsAre("Project Explorer", "History", "Macro output"));
+    EXPECT_THAT(views, ElementsAre("Project Explorer", "History", "Macro output", "Problems", "Where Used",
+                                   "Find and Replace"));
     run("while true do end", [this] {
         EXPECT_EQ(status(), "test.lua is running… (Shift+F5 stops it)");
         press("actionStopMacro");

@@ -17,14 +17,14 @@ void Arrangement::want(std::string key, automation::WordFilter filter, bool byNa
 
 void Arrangement::arrange(Id parent, std::size_t children) {
     end();
-    if (filter_.empty() && !byName_) return;
+    if (filter_.holdsForAll() && !byName_) return;
     parent_ = parent;
     if (byName_ && inOrder_.size() != children) order(children);
     std::string folded;
     for (std::size_t i = 0; i < children; ++i) {
         const Id id = byName_ ? inOrder_[i] : tree_.child(parent, i);
         folded.clear();
-        if (!filter_.empty()) automation::appendFolded(folded, tree_.caption(id));
+        if (!filter_.holdsForAll()) automation::appendFolded(folded, tree_.caption(id));
         if (filter_.matches(folded)) shown_.push_back(id);
     }
     number(0);

@@ -678,5 +678,289 @@ Datei → Öffnen oder Datei → Neues Projekt</translation>
         <source>&amp;Keep a Copy before Each Day&apos;s First Change</source>
         <translation>Vor der ersten Änderung des Tages &amp;Kopie aufbewahren</translation>
     </message>
+    <message>
+        <source>Filter: words of the name, -word excludes</source>
+        <translation>Filter: Wörter des Namens, -Wort schließt aus</translation>
+    </message>
+    <message>
+        <source>Filter recipes</source>
+        <translation>Rezepte filtern</translation>
+    </message>
+    <message>
+        <source>Shows the recipes whose names contain all of these words, and none with &quot;-&quot; (%1)</source>
+        <translation>Zeigt die Rezepte, deren Namen alle diese Wörter enthalten und keines mit „-“ davor (%1)</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 von %2</translation>
+    </message>
+    <message>
+        <source>&amp;Search</source>
+        <translation>Su&amp;chen</translation>
+    </message>
+    <message>
+        <source>&amp;Filter Explorer</source>
+        <translation>Explorer &amp;filtern</translation>
+    </message>
+    <message>
+        <source>Explorer by &amp;Name</source>
+        <translation>Explorer nach &amp;Namen</translation>
+    </message>
+    <message>
+        <source>Find and &amp;Replace</source>
+        <translation>Suchen und &amp;Ersetzen</translation>
+    </message>
+    <message>
+        <source>&amp;Where Used</source>
+        <translation>&amp;Verwendung</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>&amp;Zurück</translation>
+    </message>
+    <message>
+        <source>F&amp;orward</source>
+        <translation>V&amp;orwärts</translation>
+    </message>
+    <message>
+        <source>&amp;Go to Sub-Recipe</source>
+        <translation>Zum &amp;Unterrezept</translation>
+    </message>
+    <message>
+        <source>Rena&amp;me Recipe</source>
+        <translation>Rezept u&amp;mbenennen</translation>
+    </message>
+    <message>
+        <source>Orders the recipes by their names instead of as they were made</source>
+        <translation>Ordnet die Rezepte nach ihren Namen statt so, wie sie angelegt wurden</translation>
+    </message>
+    <message>
+        <source>Find and Replace</source>
+        <translation>Suchen und Ersetzen</translation>
+    </message>
+    <message>
+        <source>Fi&amp;nd</source>
+        <translation>S&amp;uchen</translation>
+    </message>
+    <message>
+        <source>Re&amp;place by</source>
+        <translation>Erset&amp;zen durch</translation>
+    </message>
+    <message>
+        <source>Replace Selecte&amp;d</source>
+        <translation>Markier&amp;te ersetzen</translation>
+    </message>
+    <message>
+        <source>Repla&amp;ce All</source>
+        <translation>A&amp;lle ersetzen</translation>
+    </message>
+    <message>
+        <source>Ma&amp;tch case</source>
+        <translation>Groß-/Klei&amp;nschreibung</translation>
+    </message>
+    <message>
+        <source>&amp;Whole word</source>
+        <translation>Ganzes &amp;Wort</translation>
+    </message>
+    <message>
+        <source>Regular e&amp;xpression</source>
+        <translation>Regulärer Ausdruc&amp;k</translation>
+    </message>
+    <message>
+        <source>Recipes</source>
+        <translation>Rezepte</translation>
+    </message>
+    <message>
+        <source>Members</source>
+        <translation>Rezeptelemente</translation>
+    </message>
+    <message>
+        <source>Variable list</source>
+        <translation>Variablenliste</translation>
+    </message>
+    <message>
+        <source>Text in names, comments and variables</source>
+        <translation>Text in Namen, Kommentaren und Variablen</translation>
+    </message>
+    <message>
+        <source>Text to find</source>
+        <translation>Gesuchter Text</translation>
+    </message>
+    <message>
+        <source>New text; \1 for the first group of a regular expression</source>
+        <translation>Neuer Text; \1 für die erste Gruppe eines regulären Ausdrucks</translation>
+    </message>
+    <message>
+        <source>New text</source>
+        <translation>Neuer Text</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>Ort</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>This is no regular expression: %1</source>
+        <translation>Das ist kein regulärer Ausdruck: %1</translation>
+    </message>
+    <message>
+        <source>Replaced: “%1” by “%2”</source>
+        <translation>Ersetzt: „%1“ durch „%2“</translation>
+    </message>
+    <message>
+        <source>Searching …</source>
+        <translation>Sucht …</translation>
+    </message>
+    <message>
+        <source>Not found</source>
+        <translation>Nicht gefunden</translation>
+    </message>
+    <message>
+        <source>%1 found</source>
+        <translation>%1 gefunden</translation>
+    </message>
+    <message>
+        <source>(missing recipe %1)</source>
+        <translation>(fehlendes Rezept %1)</translation>
+    </message>
+    <message>
+        <source>File name of a sub-recipe</source>
+        <translation>Dateiname eines Unterrezepts</translation>
+    </message>
+    <message>
+        <source>Recipes that name it</source>
+        <translation>Rezepte, die sie nennen</translation>
+    </message>
+    <message>
+        <source>Recipes that contain it</source>
+        <translation>Rezepte, die sie enthalten</translation>
+    </message>
+    <message>
+        <source>File name of sub-recipes</source>
+        <translation>Dateiname von Unterrezepten</translation>
+    </message>
+    <message>
+        <source>Recipes that include it</source>
+        <translation>Rezepte, die es enthalten</translation>
+    </message>
+    <message>
+        <source>Through sub-recipes</source>
+        <translation>Über Unterrezepte</translation>
+    </message>
+    <message>
+        <source>Variable</source>
+        <translation>Variable</translation>
+    </message>
+    <message>
+        <source>Sub-recipe</source>
+        <translation>Unterrezept</translation>
+    </message>
+    <message>
+        <source>through %1</source>
+        <translation>über %1</translation>
+    </message>
+    <message>
+        <source>The variable %1 is not in the variable list</source>
+        <translation>Die Variable %1 steht nicht in der Variablenliste</translation>
+    </message>
+    <message>
+        <source>Damage</source>
+        <translation>Beschädigung</translation>
+    </message>
+    <message>
+        <source>Recipes that contain themselves</source>
+        <translation>Rezepte, die sich selbst enthalten</translation>
+    </message>
+    <message>
+        <source>Missing sub-recipes</source>
+        <translation>Fehlende Unterrezepte</translation>
+    </message>
+    <message>
+        <source>Members without a recipe</source>
+        <translation>Elemente ohne Rezept</translation>
+    </message>
+    <message>
+        <source>Sub-recipes without a file name</source>
+        <translation>Unterrezepte ohne Dateinamen</translation>
+    </message>
+    <message>
+        <source>Unknown variables</source>
+        <translation>Unbekannte Variablen</translation>
+    </message>
+    <message>
+        <source>Shared triggers</source>
+        <translation>Gemeinsame Trigger</translation>
+    </message>
+    <message>
+        <source>Others</source>
+        <translation>Andere</translation>
+    </message>
+    <message>
+        <source>Problems</source>
+        <translation>Probleme</translation>
+    </message>
+    <message>
+        <source>Filter: words, -word excludes</source>
+        <translation>Filter: Wörter, -Wort schließt aus</translation>
+    </message>
+    <message>
+        <source>Filter problems</source>
+        <translation>Probleme filtern</translation>
+    </message>
+    <message>
+        <source>Shows what is wrong in the project</source>
+        <translation>Zeigt, was im Projekt nicht stimmt</translation>
+    </message>
+    <message>
+        <source>Recipe</source>
+        <translation>Rezept</translation>
+    </message>
+    <message>
+        <source>Problem</source>
+        <translation>Problem</translation>
+    </message>
+    <message>
+        <source>No problems</source>
+        <translation>Keine Probleme</translation>
+    </message>
+    <message>
+        <source>1 problem</source>
+        <translation>1 Problem</translation>
+    </message>
+    <message>
+        <source>%1 problems</source>
+        <translation>%1 Probleme</translation>
+    </message>
+    <message>
+        <source>Where Used</source>
+        <translation>Verwendung</translation>
+    </message>
+    <message>
+        <source>Name of a variable or recipe</source>
+        <translation>Name einer Variable oder eines Rezepts</translation>
+    </message>
+    <message>
+        <source>Use</source>
+        <translation>Verwendung</translation>
+    </message>
+    <message>
+        <source>There is neither a variable nor a recipe of this name</source>
+        <translation>Weder eine Variable noch ein Rezept heißt so</translation>
+    </message>
+    <message>
+        <source>Not used</source>
+        <translation>Nicht verwendet</translation>
+    </message>
+    <message>
+        <source>1 use</source>
+        <translation>1 Verwendung</translation>
+    </message>
+    <message>
+        <source>%1 uses</source>
+        <translation>%1 Verwendungen</translation>
+    </message>
 </context>
 </TS>
