@@ -36,7 +36,7 @@ void ProjectReading::start(const QString& file, const sqlite::OpenOptions& optio
     };
     try {
         thread_ = std::thread(run);
-    } catch (const std::system_error&) {
+    } catch (const std::exception&) {
         return failed(automation::caughtError());
     }
     givenUp_ = givenUp;

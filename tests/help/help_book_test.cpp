@@ -33,7 +33,8 @@ const Titles germanTitles = {{context::root, "Rezepte"},
                              {context::report, "Report"},
                              {context::settings, "Einstellungen und Sprache"},
                              {context::messages, "Meldungen und was zu tun ist"},
-                             {context::history, "Rückgängig und Verlauf"}};
+                             {context::history, "Rückgängig und Verlauf"},
+                             {context::find, "Suchen und Probleme"}};
 
 const Titles englishTitles = {{context::root, "Recipes"},
                               {context::recipe, "A Recipe"},
@@ -49,7 +50,8 @@ const Titles englishTitles = {{context::root, "Recipes"},
                               {context::report, "Report"},
                               {context::settings, "Settings and Language"},
                               {context::messages, "Messages and What to Do"},
-                              {context::history, "Undo and History"}};
+                              {context::history, "Undo and History"},
+                              {context::find, "Search and Problems"}};
 
 QStringList linksOf(const QString& html) {
     static const QRegularExpression pattern(QStringLiteral("\\b(?:href|src)=\"([^\"]*)\""));
@@ -110,7 +112,7 @@ TEST_P(CompiledHelp, EveryTopicHasAContextNumber) {
 TEST_P(CompiledHelp, TheContextNumbersNameTopicsWithoutAFolder) {
     const qt::HelpArchive archive(compiledHelp(GetParam()));
     const auto contexts = qt::readHelpContexts(archive.read("/#IVB").value(), archive.read("/#STRINGS").value());
-    EXPECT_EQ(contexts.size(), 15);
+    EXPECT_EQ(contexts.size(), 16);
     for (const QString& path : contexts) EXPECT_FALSE(path.contains('/')) << qt::fromQt(path);
 }
 

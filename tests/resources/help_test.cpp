@@ -78,7 +78,8 @@ TEST(Help, KnowsTheTopicsByTheNumbersThatBothHelpFilesAreMadeWith) {
                                                        {"report", report},
                                                        {"settings", settings},
                                                        {"messages", messages},
-                                                       {"history", history}};
+                                                       {"history", history},
+                                                       {"find", find}};
     EXPECT_EQ(known, numbersIn(HX_HELP_FOLDER "/de/Rezeptsystem.hhp"));
     EXPECT_EQ(known, numbersIn(HX_HELP_FOLDER "/en/Rezeptsystem.hhp"));
 }
