@@ -93,7 +93,7 @@ void EditorRefresh::putBack() {
     if (!place_) return;
     const Place place = *std::exchange(place_, std::nullopt);
     if (project_ == nullptr || editor() == nullptr) return;
-    expandNodes(place.expanded, explorer_);
+    expandNodes(place.expanded, tree_, explorer_);
     showNode(place.node);
     tree_.verticalScrollBar()->setValue(place.scrolled);
     const auto grid = gridOf(editor());

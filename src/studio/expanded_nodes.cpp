@@ -24,9 +24,10 @@ std::vector<std::string> expandedNodes(const qt::ExplorerTree& tree, qt::QtExplo
     return keys;
 }
 
-void expandNodes(const std::vector<std::string>& keys, qt::QtExplorer& explorer) {
+void expandNodes(const std::vector<std::string>& keys, const qt::ExplorerTree& tree, qt::QtExplorer& explorer) {
     for (const std::string& key : keys) {
-        if (explorer.model().find(key).isValid()) explorer.showExpanded(key);
+        const QModelIndex node = explorer.model().find(key);
+        if (node.isValid() && !tree.isExpanded(node)) explorer.showExpanded(key);
     }
 }
 

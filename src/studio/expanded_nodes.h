@@ -10,7 +10,7 @@ namespace hx::studio {
 
 /// The nodes below the project's that are open in the explorer, each behind the one that it lies in.
 [[nodiscard]] std::vector<std::string> expandedNodes(const qt::ExplorerTree& tree, qt::QtExplorer& explorer);
-/// Opens those of them that there are, without an event.
-void expandNodes(const std::vector<std::string>& keys, qt::QtExplorer& explorer);
+/// Opens those of them that there are and that are closed, without an event.
+void expandNodes(const std::vector<std::string>& keys, const qt::ExplorerTree& tree, qt::QtExplorer& explorer);
 
 }  // namespace hx::studio

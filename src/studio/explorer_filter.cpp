@@ -71,7 +71,7 @@ void ExplorerFilter::apply() {
     const std::string key = current.isValid() ? model.key(current) : std::string();
     model.arrange(root, automation::WordFilter(qt::fromQt(field_.text())), sort_.isChecked());
     keepCurrent(key);
-    if (filtering_ && !isFiltering()) expandNodes(std::exchange(expanded_, {}), explorer_);
+    if (filtering_ && !isFiltering()) expandNodes(std::exchange(expanded_, {}), tree_, explorer_);
     filtering_ = isFiltering();
     showCount();
 }

@@ -2,6 +2,7 @@
 #include "studio/found_list.h"
 
 #include <QHeaderView>
+#include <QVBoxLayout>
 #include <algorithm>
 
 #include "adapters/qt/text.h"
@@ -109,6 +110,21 @@ void FoundView::showAll() {
     if (model_.things() == nullptr || model_.things()->size() > most) return;
     for (int group = 0; group < model_.rowCount(); ++group) setFirstColumnSpanned(group, {}, true);
     expandAll();
+}
+
+void arrangeList(QWidget& panel, QWidget& field, QWidget& state, FoundView& list) {
+    constexpr int margin = 4, recipeWidth = 220;
+    list.setColumnWidth(0, recipeWidth);
+    auto* const top = new QHBoxLayout;
+    top->setContentsMargins(margin, margin, margin, margin);
+    top->setSpacing(2 * margin);
+    top->addWidget(&field, 1);
+    top->addWidget(&state);
+    auto* const rows = new QVBoxLayout(&panel);
+    rows->setContentsMargins(0, 0, 0, 0);
+    rows->setSpacing(0);
+    rows->addLayout(top);
+    rows->addWidget(&list, 1);
 }
 
 }  // namespace hx::studio

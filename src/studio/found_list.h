@@ -73,4 +73,7 @@ class FoundView : public QTreeView {
     FoundModel& model_;
 };
 
+/// A field with what is said of the list beside it, above the list.
+void arrangeList(QWidget& panel, QWidget& field, QWidget& state, FoundView& list);
+
 }  // namespace hx::studio

@@ -3,7 +3,6 @@
 
 #include <QFileInfo>
 #include <QScrollBar>
-#include <QVBoxLayout>
 
 #include "adapters/qt/svg_icon.h"
 #include "adapters/qt/text.h"
@@ -31,7 +30,11 @@ ProblemsDock::ProblemsDock(QWidget& window, LiveProject& live, KnownVariables& k
     state_.setObjectName(QStringLiteral("problemsState"));
     list_.setObjectName(QStringLiteral("problemsList"));
     count_.setObjectName(QStringLiteral("problemsCount"));
-    arrange();
+    field_.setClearButtonEnabled(true);
+    count_.setAutoRaise(true);
+    count_.setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    arrangeList(panel_, field_, state_, list_);
+    setWidget(&panel_);
     connect(&field_, &QLineEdit::textChanged, this, [this] { filter(); });
     connect(&count_, &QToolButton::clicked, this, [this] {
         show();
@@ -40,25 +43,6 @@ ProblemsDock::ProblemsDock(QWidget& window, LiveProject& live, KnownVariables& k
     changes_ = live_.changed.subscribe([this] { read(); });
     retranslate();
     hide();
-}
-
-void ProblemsDock::arrange() {
-    constexpr int margin = 4, recipeWidth = 220;
-    field_.setClearButtonEnabled(true);
-    count_.setAutoRaise(true);
-    count_.setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    list_.setColumnWidth(0, recipeWidth);
-    auto* const top = new QHBoxLayout;
-    top->setContentsMargins(margin, margin, margin, margin);
-    top->setSpacing(2 * margin);
-    top->addWidget(&field_, 1);
-    top->addWidget(&state_);
-    auto* const rows = new QVBoxLayout(&panel_);
-    rows->setContentsMargins(0, 0, 0, 0);
-    rows->setSpacing(0);
-    rows->addLayout(top);
-    rows->addWidget(&list_, 1);
-    setWidget(&panel_);
 }
 
 void ProblemsDock::retranslate() {

@@ -24,7 +24,6 @@ class ProblemsDock : public QDockWidget {
     void retranslate();
 
   private:
-    void arrange();
     void read();
     void take(std::shared_ptr<const Problems> problems);
     void filter();

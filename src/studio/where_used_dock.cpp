@@ -2,7 +2,6 @@
 #include "studio/where_used_dock.h"
 
 #include <QScrollBar>
-#include <QVBoxLayout>
 
 #include "adapters/qt/text.h"
 
@@ -14,7 +13,9 @@ WhereUsedDock::WhereUsedDock(QWidget& window, LiveProject& live, const qt::Wordi
     field_.setObjectName(QStringLiteral("whereUsedName"));
     state_.setObjectName(QStringLiteral("whereUsedState"));
     list_.setObjectName(QStringLiteral("whereUsedList"));
-    arrange();
+    field_.setClearButtonEnabled(true);
+    arrangeList(panel_, field_, state_, list_);
+    setWidget(&panel_);
     connect(&field_, &QLineEdit::returnPressed, this, [this] { showUsesOf(field_.text().trimmed()); });
     connect(this, &QDockWidget::visibilityChanged, this, [this](bool visible) {
         if (visible) read();
@@ -22,23 +23,6 @@ WhereUsedDock::WhereUsedDock(QWidget& window, LiveProject& live, const qt::Wordi
     changes_ = live_.changed.subscribe([this] { read(); });
     retranslate();
     hide();
-}
-
-void WhereUsedDock::arrange() {
-    constexpr int margin = 4, recipeWidth = 220;
-    field_.setClearButtonEnabled(true);
-    list_.setColumnWidth(0, recipeWidth);
-    auto* const top = new QHBoxLayout;
-    top->setContentsMargins(margin, margin, margin, margin);
-    top->setSpacing(2 * margin);
-    top->addWidget(&field_, 1);
-    top->addWidget(&state_);
-    auto* const rows = new QVBoxLayout(&panel_);
-    rows->setContentsMargins(0, 0, 0, 0);
-    rows->setSpacing(0);
-    rows->addLayout(top);
-    rows->addWidget(&list_, 1);
-    setWidget(&panel_);
 }
 
 void WhereUsedDock::retranslate() {

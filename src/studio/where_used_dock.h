@@ -24,7 +24,6 @@ class WhereUsedDock : public QDockWidget {
     void retranslate();
 
   private:
-    void arrange();
     void showUses();
     void read();
     void take(std::shared_ptr<const FoundUses> uses);
