@@ -49,6 +49,7 @@ constexpr auto layers = std::to_array<Layer>({
     {"addin", Ground::StandardLibrary, 9},
     {"hosting", Ground::StandardLibrary, hostingLevel},
     {"history", Ground::StandardLibrary, historyLevel},
+    {"adapters/jet", Ground::StandardLibrary, historyLevel},  // mounted where there is SQL
     {"adapters/", Ground::Anything, adapterLevel},
     {"report", Ground::StandardLibrary, adapterLevel},
     {"macros", Ground::Anything, macroLevel, "adapters/qt"},
