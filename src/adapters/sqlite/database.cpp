@@ -4,6 +4,8 @@
 #include <filesystem>
 #include <sqlite3.h>
 
+#include "adapters/sqlite/jet_mount.h"
+#include "adapters/sqlite/project_file.h"
 #include "adapters/sqlite/project_schema.h"
 #include "adapters/sqlite/sqlite_error.h"
 #include "automation/restore.h"
@@ -45,12 +47,8 @@ Database::Database(const std::string& path, const OpenOptions& options)
       work_(std::make_unique<Work>()),
       lockWait_(std::make_unique<LockWait>(options.lockWait, options.sleep)),
       collecting_(std::make_unique<Collection*>(nullptr)) {
-    sqlite3* handle = nullptr;
-    // An absolute name is never taken for a URI or for a database in memory.
-    const std::string absolute = std::filesystem::absolute(hosting::fileSystemPath(path)).string();
-    const int code = sqlite3_open_v2(absolute.c_str(), &handle, openFlags, nullptr);
-    handle_.reset(handle);
-    check(code);
+    open();
+    sqlite3* const handle = this->handle();
     lockWait_->serve(handle);
     check(sqlite3_db_config(handle, SQLITE_DBCONFIG_DQS_DML, 0, nullptr));
     check(sqlite3_db_config(handle, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr));
@@ -63,6 +61,18 @@ Database::Database(const std::string& path, const OpenOptions& options)
     execute(settings);
     useLargeCache(false);
     if (options.keepsChangesInMemory) execute("PRAGMA cache_spill=OFF");
+    if (beginsLikeJet(path)) jet_ = std::make_unique<JetMount>(handle, path, *lockWait_, language_, options.readOnly);
+}
+
+// What decides how a project is opened is how it begins. SQLite's connection to a Jet project is one to nothing.
+void Database::open() {
+    sqlite3* handle = nullptr;
+    // An absolute name is never taken for a URI or for a database in memory.
+    const std::string name =
+        beginsLikeJet(path_) ? ":memory:" : std::filesystem::absolute(hosting::fileSystemPath(path_)).string();
+    const int code = sqlite3_open_v2(name.c_str(), &handle, openFlags, nullptr);
+    handle_.reset(handle);
+    check(code);
 }
 
 Database::~Database() = default;
@@ -85,6 +95,7 @@ Statement& Database::prepared(const std::string& sql) {
 void Database::execute(const std::string& sql) {
     lockWait_->begin(false);
     beginWork();
+    if (jet_) jet_->before(sql);
     check(sqlite3_exec(handle(), sql.c_str(), nullptr, nullptr, nullptr));
 }
 
@@ -98,10 +109,12 @@ void Database::interruptWhen(std::function<bool()> asked) { work_->interrupted =
 
 void Database::watch(ado::RowWatcher* watcher) {
     watch_.reset();
+    if (jet_) return jet_->project().watch(watcher);
     if (watcher != nullptr) watch_ = std::make_unique<RowWatch>(handle(), *watcher);
 }
 
 void Database::statementEnds(bool done) const noexcept {
+    if (jet_) return jet_->tellEnd(done);
     if (!watch_) return;
     if (done) watch_->watcher().kept();
     else watch_->watcher().dropped();
@@ -123,6 +136,7 @@ void Database::useLargeCache(bool large) noexcept {
 }
 
 void Database::copyTo(const std::string& path) {
+    if (jet_) return jet_->copyTo(path);
     sqlite3* opened = nullptr;
     const std::string absolute = std::filesystem::absolute(hosting::fileSystemPath(path)).string();
     int code = sqlite3_open_v2(absolute.c_str(), &opened, openFlags, nullptr);
@@ -156,6 +170,11 @@ void Database::expectTransaction(bool expected) {
     lostBy_.reset();
 }
 
+void Database::loseTransaction(const automation::Error& error) {
+    execute("ROLLBACK");
+    if (expectsTransaction_ && !lostBy_) lostBy_ = error.description(language_);
+}
+
 std::int64_t Database::lastInsertedKey() const noexcept { return sqlite3_last_insert_rowid(handle()); }
 std::int64_t Database::changedRows() const noexcept { return sqlite3_changes64(handle()); }
 
@@ -171,10 +190,12 @@ automation::Error Database::error(std::int32_t number, const automation::Sentenc
 std::string_view Database::nameOf(std::string_view column) const { return columnName(language_, column); }
 
 void Database::fail(int code) const {
+    const std::exception_ptr failure = jet_ ? jet_->takeFailure() : nullptr;
     const auto error =
-        errorOf(code, handle() == nullptr ? std::string_view() : sqlite3_errmsg(handle()), path_, language_);
+        failure ? jet_->explained(failure)
+                : errorOf(code, handle() == nullptr ? std::string_view() : sqlite3_errmsg(handle()), path_, language_);
     if (expectsTransaction_ && !inTransaction() && !lostBy_) lostBy_ = error.description();
-    if (isDamage(code)) throw DamagedFile(error);
+    if (isDamage(code) || (failure && jet_->isDamage(failure))) throw DamagedFile(error);
     throw error;
 }
 

@@ -30,10 +30,14 @@ struct OpenOptions {
     /// at all names with the same beginning: who writes very many compares them himself.
     bool comparesNames = true;
     bool keepsChangesInMemory = false;  ///< until a transaction ends, however many they are
+    bool readOnly = false;              ///< nothing is written beside the file either, where that can be helped
 };
 
-/// An open SQLite file. Every failure is an automation::Error that names the file: dbErrDuplicate, dbErrIntegrity,
-/// dbErrNoTable, dbErrBadCommand, else dbErrUnspecified.
+class JetMount;
+
+/// An open project: a SQLite file, or a Jet database, which is mounted in a connection to nothing. Every failure is an
+/// automation::Error that names the file: dbErrDuplicate, dbErrIntegrity, dbErrNoTable, dbErrBadCommand, else
+/// dbErrUnspecified.
 class Database {
   public:
     /// Opens an existing file for reading and writing (for reading when it is write-protected). Writes are on the disk
@@ -44,6 +48,8 @@ class Database {
     Database& operator=(const Database&) = delete;
 
     [[nodiscard]] const std::string& path() const noexcept { return path_; }
+    /// Null unless the project is a Jet database.
+    [[nodiscard]] JetMount* jet() const noexcept { return jet_.get(); }
 
     /// A statement ready to be bound and run; the last used ones are kept. Reset it after use (ResetGuard).
     [[nodiscard]] Statement& prepared(const std::string& sql);
@@ -76,6 +82,8 @@ class Database {
     [[nodiscard]] bool inTransaction() const noexcept;
     /// Whether a transaction is meant to be open from now on: SQLite takes it back by itself after some errors.
     void expectTransaction(bool expected);
+    /// The transaction is lost by the error.
+    void loseTransaction(const automation::Error& error);
     /// The error that an expected transaction was lost by; nothing while it is there.
     [[nodiscard]] const std::optional<std::string>& lostBy() const noexcept { return lostBy_; }
     [[nodiscard]] std::int64_t lastInsertedKey() const noexcept;
@@ -95,6 +103,7 @@ class Database {
     struct Closer {
         void operator()(sqlite3* handle) const noexcept;
     };
+    void open();
     struct Work {
         std::int64_t most = 0, done = 0;
         std::function<bool()> interrupted;
@@ -105,6 +114,7 @@ class Database {
     automation::Language language_;
     std::unique_ptr<Work> work_;  // SQLite holds its address
     std::unique_ptr<LockWait> lockWait_;
+    std::unique_ptr<JetMount> jet_;
     std::unique_ptr<sqlite3, Closer> handle_;
     std::unique_ptr<RowWatch> watch_;
     std::unique_ptr<Collection*> collecting_;  // where hx_keys appends to

@@ -25,6 +25,8 @@ class LockWait {
     void serve(sqlite3* connection) noexcept;
     /// A statement is about to be carried out.
     void begin(bool reading) noexcept { limit_ = reading && inVain_ ? shortest : longest_; }
+    /// Waits a little, when it has not waited for long enough yet: false then.
+    [[nodiscard]] bool again(int earlierPauses) { return wait(earlierPauses); }
     /// It got its lock.
     void letIn() noexcept { inVain_ = false; }
 

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "adapters/sqlite/jet_mount.h"
 #include "adapters/sqlite/project_schema.h"
 #include "adapters/sqlite/sentences.h"
 #include "adapters/sqlite/sqlite_error.h"
@@ -63,6 +64,7 @@ std::vector<std::string> linesOf(Database& database, const std::string& pragma) 
 }  // namespace
 
 void requireProject(Database& database) {
+    if (database.jet() != nullptr) return;  // has been looked at when it was opened
     if (database.number("PRAGMA application_id") != projectApplicationId) {
         refuse(database, sentence::noProject, {database.path()});
     }
@@ -75,6 +77,7 @@ void requireProject(Database& database) {
 }
 
 void requireUndamaged(Database& database, std::int64_t checkedWhole) {
+    if (JetMount* const jet = database.jet()) return jet->requireUndamaged(checkedWhole);
     const std::int64_t size = sizeOf(database);
     if (size > checkedWhole && !TableInfo::read(database, "TrcpRecipe")) return;
     const auto damages =
@@ -83,6 +86,7 @@ void requireUndamaged(Database& database, std::int64_t checkedWhole) {
 }
 
 std::vector<std::string> damagesOf(Database& database, int most, std::int64_t comparedWhole) {
+    if (JetMount* const jet = database.jet()) return jet->damages(most);
     const char* const check = sizeOf(database) > comparedWhole ? "quick_check" : "integrity_check";
     return linesOf(database, std::string("PRAGMA ") + check + "(" + std::to_string(most) + ")");
 }

@@ -4,7 +4,9 @@
 #include <filesystem>
 #include <system_error>
 
+#include "adapters/jet/header.h"
 #include "adapters/sqlite/database.h"
+#include "adapters/sqlite/jet_project.h"
 #include "adapters/sqlite/project_schema.h"
 #include "adapters/sqlite/sentences.h"
 #include "ado/types.h"
@@ -12,9 +14,15 @@
 
 namespace hx::sqlite {
 
+bool beginsLikeJet(const std::string& path) {
+    constexpr std::size_t told = 24;
+    const std::string start = hosting::startOf(hosting::fileSystemPath(path), told);
+    return jet::fileKindOf({reinterpret_cast<const jet::Byte*>(start.data()), start.size()}) != jet::FileKind::none;
+}
+
 bool beginsLikeProject(const std::string& path) {
     constexpr std::string_view mark = "SQLite format 3";
-    return hosting::startOf(hosting::fileSystemPath(path), mark.size()) == mark;
+    return hosting::startOf(hosting::fileSystemPath(path), mark.size()) == mark || beginsLikeJet(path);
 }
 
 namespace {
@@ -58,9 +66,10 @@ void ProjectDraft::publish() {
     if (!file_->publishNew()) refuseTaken(path_);
 }
 
-void createProject(const std::string& path) {
+void createProject(const std::string& path, ProjectFormat format) {
     ProjectDraft draft(path);
-    draft.createTables();
+    if (format == ProjectFormat::jet) fillJetProject(draft.temporaryPath());
+    else draft.createTables();
     draft.publish();
 }
 

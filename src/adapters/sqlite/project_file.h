@@ -9,12 +9,17 @@
 
 namespace hx::sqlite {
 
+/// Whether it is a file that begins as a Jet database does, of whatever version.
+[[nodiscard]] bool beginsLikeJet(const std::string& path);
 /// Whether it is a file that begins as a project does.
 [[nodiscard]] bool beginsLikeProject(const std::string& path);
 
+/// What a project is kept in.
+enum class ProjectFormat { sqlite, jet };
+
 /// Makes an empty project. Throws dbErrUnspecified when the path is taken (the file there stays as it is) or cannot be
 /// written. The project appears whole or not at all.
-void createProject(const std::string& path);
+void createProject(const std::string& path, ProjectFormat format = ProjectFormat::sqlite);
 
 /// A project that is built in a temporary file beside its place and appears there when it is finished.
 class ProjectDraft {

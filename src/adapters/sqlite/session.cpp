@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <fstream>
 
+#include "adapters/sqlite/jet_mount.h"
 #include "adapters/sqlite/project_check.h"
 #include "adapters/sqlite/query_rowset.h"
 #include "adapters/sqlite/sentences.h"
@@ -43,15 +44,16 @@ std::string uniquenessTrigger(const TableInfo& table, const std::string& column,
            quotedName(table.key) + " <> NEW." + quotedName(table.key) + "); END;";
 }
 
-std::shared_ptr<Writes> writesTo(const std::string& path, const OpenOptions& options) {
+std::shared_ptr<Writes> writesTo(const std::string& path, bool readOnly, OpenOptions options) {
     requireFile(path, options.language);
+    options.readOnly = options.readOnly || readOnly;
     return std::make_shared<Writes>(path, options);
 }
 
 }  // namespace
 
 Session::Session(const std::string& path, bool readOnly, const OpenOptions& options)
-    : writes_(writesTo(path, options)), readOnly_(readOnly) {
+    : writes_(writesTo(path, readOnly, options)), readOnly_(readOnly) {
     Database& database = writes_->database();
     requireProject(database);
     if (readOnly) {
@@ -60,6 +62,12 @@ Session::Session(const std::string& path, bool readOnly, const OpenOptions& opti
         requireUndamaged();
         if (options.comparesNames) compareNamesBeyondAscii();
     }
+}
+
+std::optional<std::int64_t> Session::othersChanges() {
+    Database& database = writes_->database();
+    if (JetMount* const jet = database.jet()) return jet->project().pages().othersChanges();
+    return database.number("PRAGMA data_version");
 }
 
 void Session::requireUndamaged() { sqlite::requireUndamaged(writes_->database()); }
@@ -82,6 +90,9 @@ void Session::compareNamesBeyondAscii() {
 
 const TableInfo* Session::findTable(std::string_view name) {
     Database& database = writes_->database();
+    if (JetMount* const jet = database.jet()) {
+        if (const auto reason = jet->unavailable(name)) throw *reason;
+    }
     if (const auto version = database.number("PRAGMA schema_version"); version != schemaVersion_) {
         tables_.clear();
         schemaVersion_ = version;

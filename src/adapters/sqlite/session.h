@@ -18,9 +18,7 @@ class Session : public ado::Session {
     explicit Session(const std::string& path, bool readOnly = false, const OpenOptions& options = {});
 
     [[nodiscard]] std::unique_ptr<ado::Rowset> open(std::string_view command, ado::CommandType type) override;
-    [[nodiscard]] std::optional<std::int64_t> othersChanges() override {
-        return writes_->database().number("PRAGMA data_version");
-    }
+    [[nodiscard]] std::optional<std::int64_t> othersChanges() override;
     void beginTransaction() override { writes_->begin(readOnly_); }
     void commit() override { writes_->commit(); }
     void rollback() override { writes_->rollback(); }

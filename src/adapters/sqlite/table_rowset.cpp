@@ -5,6 +5,7 @@
 
 #include "adapters/sqlite/criterion_sql.h"
 #include "adapters/sqlite/functions.h"
+#include "adapters/sqlite/jet_mount.h"
 #include "adapters/sqlite/writes.h"
 #include "automation/text.h"
 
@@ -223,6 +224,7 @@ void TableRowset::rewrite(Key key, std::span<const std::size_t> columns, std::sp
 Key TableRowset::lastKey() {
     Database& database = writes_->database();
     const Key last = database.number("SELECT max(" + quotedName(table_.key) + ") FROM " + quotedName(table_.name));
+    if (JetMount* const jet = database.jet()) return std::max(last, jet->lastCounter(table_.name));
     const bool remembers = database.number("SELECT 1 FROM sqlite_schema WHERE name = 'sqlite_sequence'") != 0;
     if (!remembers) return last;
     Statement& given = database.prepared("SELECT seq FROM sqlite_sequence WHERE name = ?1");

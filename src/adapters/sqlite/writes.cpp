@@ -4,6 +4,7 @@
 #include <optional>
 
 #include "adapters/sqlite/duplicates.h"
+#include "adapters/sqlite/jet_rows.h"
 #include "adapters/sqlite/sentences.h"
 #include "adapters/sqlite/transaction.h"
 #include "automation/text.h"
@@ -18,16 +19,20 @@ namespace {
 
 constexpr std::size_t rowsPerStatement = 64;
 
-// What is not among the values, asked for when they are needed, the row holds already, when it has a key.
+// What is not among the values the row holds already, when it has a key.
+automation::Variant valueIn(Database& database, const TableInfo& table, std::span<const ado::Column> columns,
+                            std::span<const ColumnValue> values, std::string_view column, std::optional<Key> key) {
+    for (const ColumnValue& value : values) {
+        if (automation::equalIgnoreCase(columns[value.column].name, column)) return value.value;
+    }
+    return key ? storedValue(database, table, column, *key) : automation::Variant();
+}
+
+// The values are asked for when they are needed.
 template <typename Values>
 void stepNamingDuplicates(Statement& statement, Database& database, const TableInfo& table,
                           std::span<const ado::Column> columns, const Values& values, std::optional<Key> key = {}) {
-    const auto row = [&](std::string_view column) {
-        for (const ColumnValue& value : values()) {
-            if (automation::equalIgnoreCase(columns[value.column].name, column)) return value.value;
-        }
-        return key ? storedValue(database, table, column, *key) : automation::Variant();
-    };
+    const auto row = [&](std::string_view column) { return valueIn(database, table, columns, values(), column, key); };
     try {
         statement.step();
     } catch (const Error& error) {
@@ -89,8 +94,32 @@ std::string updateQuery(const TableInfo& table, std::span<const ado::Column> col
 
 }  // namespace
 
+// In a Jet project: an error that has left a change half done has lost the transaction.
+template <typename Values, typename Change>
+auto Writes::changeJet(const TableInfo& table, std::span<const ado::Column> columns, const Values& values,
+                       std::optional<Key> key, Change&& change) {
+    JetMount& jet = *database_.jet();
+    try {
+        JetRows rows(jet, table, columns);
+        return jet.change([&] { return change(rows); });
+    } catch (const Error& error) {
+        if (database_.inTransaction() && !jet.project().pages().isWriting()) database_.loseTransaction(error);
+        throw namingDuplicate(error, database_, table, [&](std::string_view column) {
+            return valueIn(database_, table, columns, values(), column, key);
+        });
+    }
+}
+
+void Writes::requireChanged(bool changed) const {
+    if (!changed) throw database_.error(ado::dbErrDeletedRow, sentence::rowDeleted);
+}
+
 Key Writes::insert(const TableInfo& table, std::span<const ado::Column> columns, std::span<const ColumnValue> values) {
     requireTransaction();
+    if (database_.jet() != nullptr) {
+        return changeJet(
+            table, columns, [&] { return values; }, {}, [&](JetRows& rows) { return rows.insert(values); });
+    }
     Statement& statement = database_.prepared(insertQuery(table, columns, values));
     const ResetGuard guard(statement);
     bindAll(statement, values);
@@ -100,6 +129,7 @@ Key Writes::insert(const TableInfo& table, std::span<const ado::Column> columns,
 
 void Writes::insertAll(const TableInfo& table, std::span<const ado::Column> columns,
                        std::span<const std::size_t> assigned, ado::RowSource& rows) {
+    if (database_.jet() != nullptr) return insertAllJet(table, columns, assigned, rows);
     const std::size_t width = assigned.size();
     std::vector<automation::Variant> row(width);
     std::vector<ColumnValue> values;
@@ -113,6 +143,22 @@ void Writes::insertAll(const TableInfo& table, std::span<const ado::Column> colu
         insertTogether(table, columns, values, count);
         values.clear();
     }
+}
+
+void Writes::insertAllJet(const TableInfo& table, std::span<const ado::Column> columns,
+                          std::span<const std::size_t> assigned, ado::RowSource& rows) {
+    std::vector<automation::Variant> row(assigned.size());
+    std::vector<ColumnValue> values = namesOnly(assigned);
+    const auto insertEach = [&](JetRows& target) {
+        while (rows.next(row)) {
+            for (std::size_t i = 0; i < values.size(); ++i) values[i].value = std::move(row[i]);
+            (void)target.insert(values);
+        }
+        return true;
+    };
+    requireTransaction();
+    (void)changeJet(
+        table, columns, [&] { return values; }, {}, insertEach);
 }
 
 // A statement takes much of its time for itself: for many rows it pays to share it.
@@ -139,8 +185,16 @@ void Writes::insertTogether(const TableInfo& table, std::span<const ado::Column>
 void Writes::restore(const TableInfo& table, std::span<const ado::Column> columns,
                      std::span<const std::size_t> assigned, const ado::StoredRowSource& rows) {
     requireTransaction();
-    Statement& statement = database_.prepared(insertQuery(table, columns, namesOnly(assigned)));
     std::vector<ado::StoredValue> row(assigned.size());
+    if (database_.jet() != nullptr) {
+        const auto insertEach = [&](JetRows& target) {
+            while (rows(row)) target.restore(assigned, row);
+            return true;
+        };
+        return void(changeJet(
+            table, columns, [&] { return named(assigned, row); }, {}, insertEach));
+    }
+    Statement& statement = database_.prepared(insertQuery(table, columns, namesOnly(assigned)));
     while (rows(row)) {
         const ResetGuard guard(statement);
         bindAll(statement, row);
@@ -152,6 +206,11 @@ void Writes::rewrite(const TableInfo& table, std::span<const ado::Column> column
                      std::span<const std::size_t> assigned, std::span<const ado::StoredValue> values) {
     requireTransaction();
     if (values.empty()) return;
+    if (database_.jet() != nullptr) {
+        return requireChanged(changeJet(
+            table, columns, [&] { return named(assigned, values); }, key,
+            [&](JetRows& rows) { return rows.rewrite(key, assigned, values); }));
+    }
     Statement& statement = database_.prepared(updateQuery(table, columns, namesOnly(assigned)));
     const ResetGuard guard(statement);
     bindAll(statement, values);
@@ -166,6 +225,14 @@ void Writes::update(const TableInfo& table, std::span<const ado::Column> columns
                     std::span<const ColumnValue> values, std::span<const ColumnValue> read) {
     requireTransaction();
     if (values.empty()) return;
+    if (database_.jet() != nullptr) {
+        return requireChanged(changeJet(
+            table, columns, [&] { return values; }, key,
+            [&](JetRows& rows) {
+                requireRead(table, columns, key, read);
+                return rows.update(key, values);
+            }));
+    }
     std::optional<Transaction> own;
     if (!database_.inTransaction()) own.emplace(database_);
     requireRead(table, columns, key, read);
@@ -201,6 +268,11 @@ void Writes::requireRead(const TableInfo& table, std::span<const ado::Column> co
 
 void Writes::remove(const TableInfo& table, Key key) {
     requireTransaction();
+    if (database_.jet() != nullptr) {
+        return requireChanged(changeJet(
+            table, table.columns, [] { return std::vector<ColumnValue>(); }, {},
+            [&](JetRows& rows) { return rows.remove(key); }));
+    }
     Statement& statement =
         database_.prepared("DELETE FROM " + quotedName(table.name) + " WHERE " + quotedName(table.key) + " = ?");
     const ResetGuard guard(statement);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <optional>
 #include <span>
 #include <string>
 
@@ -37,6 +38,12 @@ class Writes {
   private:
     void insertTogether(const TableInfo& table, std::span<const ado::Column> columns,
                         std::span<const ado::ColumnValue> values, std::size_t rows);
+    template <typename Values, typename Change>
+    auto changeJet(const TableInfo& table, std::span<const ado::Column> columns, const Values& values,
+                   std::optional<ado::Key> key, Change&& change);
+    void insertAllJet(const TableInfo& table, std::span<const ado::Column> columns,
+                      std::span<const std::size_t> assigned, ado::RowSource& rows);
+    void requireChanged(bool changed) const;
     void requireTransaction() const;
     void requireRead(const TableInfo& table, std::span<const ado::Column> columns, ado::Key key,
                      std::span<const ado::ColumnValue> read);
