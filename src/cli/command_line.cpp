@@ -23,10 +23,15 @@ constexpr std::int64_t most = 100'000'000;  // rows of one kind
 void addNew(CLI::App& app, Command& chosen, const Output& output) {
     CLI::App* command = app.add_subcommand("new", "Make an empty project.");
     const auto path = std::make_shared<std::string>();
+    const auto format = std::make_shared<std::string>("sqlite");
+    command->add_option("--format", *format, "What it is kept in: sqlite, or jet as the studio on Windows does.")
+        ->check(CLI::IsMember({"sqlite", "jet"}))
+        ->type_name("FORMAT");
     command->add_option("FILE", *path, "The project file to make; it must not exist yet.")->required();
-    command->callback([path, &chosen, &output] {
-        chosen = Command::doing([path, &output] {
-            sqlite::createProject(*path);
+    command->callback([path, format, &chosen, &output] {
+        chosen = Command::doing([path, format, &output] {
+            const bool jet = *format == "jet";
+            sqlite::createProject(*path, jet ? sqlite::ProjectFormat::jet : sqlite::ProjectFormat::sqlite);
             output.results << "Made " << *path << ".\n";
         });
     });

@@ -139,10 +139,16 @@ TEST_P(Schema, WhetherTwoNamesAreTheSameDoesNotDependOnWhichComesFirst) {
     addRecipes({"i", "İ", "DİE", "die", "ſ", "s", "ß", "ẞ1"});
     const auto recordset = recipes();
     for (const char* name : {"I", "İ", "dİe", "DIE", "S", "ſ", "ẞ", "ß1"}) {
-        EXPECT_EQ(errorNumber([&] { recordset->addNew(Values{{"Name", name}}); }), ado::dbErrDuplicate) << name;
-        recordset->cancelUpdate();
+        const bool young = std::string_view(name).starts_with("ß") || std::string_view(name).starts_with("ẞ");
+        const bool same = !young || store_->knowsCaseOfAllLetters();
+        EXPECT_EQ(errorNumber([&] {
+                      recordset->addNew(Values{{"Name", name}});
+                  }),
+                  same ? ado::dbErrDuplicate : 0)
+            << name;
+        if (same) recordset->cancelUpdate();
     }
-    EXPECT_EQ(recordset->recordCount(), 8);
+    EXPECT_EQ(recordset->recordCount(), store_->knowsCaseOfAllLetters() ? 8 : 10);
 }
 
 TEST_P(Schema, NamesAreUniqueIgnoringCaseAlsoOfUmlauts) {

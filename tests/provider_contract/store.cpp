@@ -28,11 +28,13 @@ class MemoryStore : public Store {
 };
 
 /// A project file in a folder of its own.
-class SqliteStore : public Store {
+template <sqlite::ProjectFormat format>
+class FileStore : public Store {
   public:
-    SqliteStore() { sqlite::createProject(path()); }
+    FileStore() { sqlite::createProject(path(), format); }
     ado::Provider& provider() override { return provider_; }
     std::string path() const override { return folder_.file("plant.hxs"); }
+    bool knowsCaseOfAllLetters() const override { return format == sqlite::ProjectFormat::sqlite; }
 
   private:
     // One connection after the other: whoever waits would wait for ever.
@@ -46,12 +48,16 @@ class SqliteStore : public Store {
     sqlite::Provider provider_{withoutWaiting};
 };
 
+using SqliteStore = FileStore<sqlite::ProjectFormat::sqlite>;
+using JetStore = FileStore<sqlite::ProjectFormat::jet>;
+
 /// A store whose faults never fire: passing everything on must change nothing.
 template <class Inner>
 class WrappedStore : public Store {
   public:
     ado::Provider& provider() override { return provider_; }
     std::string path() const override { return inner_.path(); }
+    bool knowsCaseOfAllLetters() const override { return inner_.knowsCaseOfAllLetters(); }
 
   private:
     Inner inner_;
@@ -65,6 +71,7 @@ class RecordedStore : public Store {
   public:
     ado::Provider& provider() override { return provider_; }
     std::string path() const override { return inner_.path(); }
+    bool knowsCaseOfAllLetters() const override { return inner_.knowsCaseOfAllLetters(); }
 
   private:
     Inner inner_;
@@ -80,6 +87,8 @@ const std::vector<StoreKind>& storeKinds() {
     static const std::vector<StoreKind> kinds = {
         {"Memory", [] { return std::make_unique<MemoryStore>(); }},
         {"Sqlite", [] { return std::make_unique<SqliteStore>(); }},
+        {"Jet", [] { return std::make_unique<JetStore>(); }},
+        {"RecordedJet", [] { return std::make_unique<RecordedStore<JetStore>>(); }},
         {"FaultySqlite", [] { return std::make_unique<WrappedStore<SqliteStore>>(); }},
         {"RecordedMemory", [] { return std::make_unique<RecordedStore<MemoryStore>>(); }},
         {"RecordedSqlite", [] { return std::make_unique<RecordedStore<SqliteStore>>(); }},

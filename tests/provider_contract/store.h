@@ -23,6 +23,9 @@ class Store {
     virtual ~Store() = default;
     [[nodiscard]] virtual ado::Provider& provider() = 0;
     [[nodiscard]] virtual std::string path() const = 0;
+    /// Whether names are the same by the case of all letters. A Jet index has an order of its own, in which a few
+    /// letters that are younger than it have no case.
+    [[nodiscard]] virtual bool knowsCaseOfAllLetters() const { return true; }
 };
 
 /// A kind of store that the suite runs against.

@@ -55,8 +55,10 @@ TEST_F(Opening, AFileOfAnotherKindIsNoProject) {
     EXPECT_EQ(refusal(text), "The file '" + text + "' is not a project file.");
     const std::string empty = write("empty.hxs", "");
     EXPECT_EQ(refusal(empty), "The file '" + empty + "' is not a project file.");
-    const std::string jet = write("jet.hxs", std::string("\0\1\0\0Standard Jet DB\0", 20) + std::string(4096, 'x'));
-    EXPECT_EQ(refusal(jet), "The file '" + jet + "' is not a project file.");
+    const std::string jet = write("jet.hxs", std::string("\0\1\0\0Standard Jet DB\0\0", 21) + std::string(4096, 'x'));
+    EXPECT_EQ(refusal(jet), "The project '" + jet +
+                                "' is a Jet 3 database, which this program does not read. The studio that made it can "
+                                "convert it.");
 }
 
 TEST_F(Opening, AnotherProgramsDatabaseIsNoProject) {
