@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include <array>
+#include <filesystem>
 
+#include "adapters/jet/database.h"
 #include "adapters/sqlite/jet_sql.h"
+#include "adapters/sqlite/jet_storage.h"
 #include "ado/criterion.h"
 #include "fuzz/targets.h"
 
-/// What reaches the database as text.
+/// What reaches the database as text, and as a file.
 namespace hx::fuzz {
 
 namespace {
@@ -46,6 +49,27 @@ void sql(std::string_view bytes) {
         const sqlite::TableInfo info = table();
         if (command.table) (void)sqlite::translateCondition(command.table->condition, info);
         (void)sqlite::translateCommand(command.tokens, command.target.empty() ? nullptr : &info);
+    });
+}
+
+// What is read of a damaged file may be changed: that must come to an end as well.
+void jetFile(std::string_view bytes) {
+    const std::string path = fileOf(bytes);
+    std::filesystem::remove(path + "-journal");
+    sqlite::LockWait wait(sqlite::LockWait::Milliseconds(0), {});
+    (void)accepted([&] {
+        sqlite::JetStorage storage(path, wait, automation::Language::english);
+        jet::Database database(storage, false);
+        (void)database.damages(5);
+        database.pages().beginWrite();
+        for (const std::string& name : database.tableNames()) {
+            jet::Table& changed = *database.table(name);
+            jet::Table::Found found;
+            jet::Table::Scan scan(changed);
+            if (scan.next(found)) (void)changed.remove(found.place);
+            (void)changed.insert({});
+        }
+        database.pages().rollback();
     });
 }
 

@@ -19,6 +19,7 @@ std::span<const Target> targets() {
         {"node-key", nodeKey},
         {"criterion", criterion},
         {"sql", sql},
+        {"jet-file", jetFile},
         {"json", json},
         {"csv", csv},
         {"plcopen", plcopen},

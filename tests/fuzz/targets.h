@@ -30,6 +30,7 @@ void registryFile(std::string_view bytes);
 void nodeKey(std::string_view bytes);
 void criterion(std::string_view bytes);
 void sql(std::string_view bytes);
+void jetFile(std::string_view bytes);
 void json(std::string_view bytes);
 void csv(std::string_view bytes);
 void plcopen(std::string_view bytes);
