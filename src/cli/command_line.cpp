@@ -8,6 +8,7 @@
 #include "automation/cancelled.h"
 #include "automation/error.h"
 #include "cli/application.h"
+#include "cli/convert.h"
 #include "cli/generate.h"
 #include "cli/help_formatter.h"
 #include "cli/run_macro.h"
@@ -34,6 +35,19 @@ void addNew(CLI::App& app, Command& chosen, const Output& output) {
             sqlite::createProject(*path, jet ? sqlite::ProjectFormat::jet : sqlite::ProjectFormat::sqlite);
             output.results << "Made " << *path << ".\n";
         });
+    });
+}
+
+void addConvert(CLI::App& app, Command& chosen, const Output& output) {
+    CLI::App* command = app.add_subcommand("convert", "Copy a project into a new one of the other format.");
+    struct Arguments {
+        std::string from, to;
+    };
+    const auto arguments = std::make_shared<Arguments>();
+    command->add_option("A", arguments->from, "The project file, SQLite or Jet; it is only read.")->required();
+    command->add_option("B", arguments->to, "The project file to make; it must not exist yet.")->required();
+    command->callback([arguments, &chosen, &output] {
+        chosen = Command::doing([arguments, &output] { convertProject(arguments->from, arguments->to, output); });
     });
 }
 
@@ -109,6 +123,7 @@ std::unique_ptr<CLI::App> makeApplication(Command& chosen, const Output& output)
     app->set_version_flag("--version", "hxrecipe " HX_VERSION, "Print the version and exit.");
     app->footer("Exit status: 0 done, 1 failed, 2 wrong usage.");  // of every command that has none of its own
     addNew(*app, chosen, output);
+    addConvert(*app, chosen, output);
     addGenerate(*app, chosen, output);
     addVerbs(*app, chosen, output);
     addRunMacro(*app, chosen, output);

@@ -31,7 +31,7 @@ std::string RandomChanges::text() {
         else text += words[random(std::size(words))];
     }
     if (kind > 6) text += std::to_string(random(1000));
-    if (kind == 2) return utf8Of(units) + std::to_string(++texts_);
+    if (kind == 2) return std::to_string(++texts_) + utf8Of(units);
     return text;
 }
 
