@@ -136,7 +136,7 @@ bool IndexPage::equalsKey(std::uint32_t number, Bytes key) const noexcept {
 // All but the first stand without what is shared: so the place of a new first entry is behind that, too.
 bool IndexPage::insert(std::uint32_t number, Bytes entry) noexcept {
     const std::uint32_t shared = count_ == 0 ? 0 : sharedSize();
-    if (entry.size() <= shared + tailSize() && shared > 0) return false;
+    if (entry.size() <= shared) return false;
     if (shared > 0 && std::memcmp(area(), entry.data(), shared) != 0) return false;
     const Bytes own = entry.subspan(shared);
     if (used() + own.size() > room) return false;
