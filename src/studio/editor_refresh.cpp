@@ -9,6 +9,7 @@
 
 #include "automation/convert.h"
 #include "automation/dispatch.h"
+#include "studio/editor_names.h"
 #include "studio/expanded_nodes.h"
 #include "studio/recipe_branch.h"
 
@@ -16,13 +17,11 @@ namespace hx::studio {
 
 namespace {
 
-constexpr std::string_view editorClass = "frmtabgrid", gridName = "tdbRM";
-
 // The message that a window's procedure gets when the window becomes the active one.
 constexpr std::uint32_t activateMessage = 6, active = 1;
 
 automation::ObjectRef gridOf(forms::Form* window) {
-    return window == nullptr ? nullptr : window->get(gridName).asObject();
+    return window == nullptr ? nullptr : window->get(editor_name::grid).asObject();
 }
 
 }  // namespace
@@ -32,7 +31,7 @@ EditorRefresh::EditorRefresh(StudioHost& host, qt::QtExplorer& explorer, qt::Exp
     explorer_.listed = [this] { remember(); };
 }
 
-forms::Form* EditorRefresh::editor() const { return host_.attendedScreen().find(editorClass); }
+forms::Form* EditorRefresh::editor() const { return host_.attendedScreen().find(editor_name::window); }
 
 bool EditorRefresh::isThere(const std::string& key) const {
     return !key.empty() && key != qt::QtExplorer::projectKey && explorer_.model().find(key).isValid();
@@ -75,7 +74,7 @@ void EditorRefresh::activate(forms::Form& window) {
 // What is not put back before control returns to the event loop is put back then.
 void EditorRefresh::remember() {
     if (place_ || project_ == nullptr || editor() == nullptr) return;
-    Place& place = place_.emplace();
+    ExplorerState& place = place_.emplace();
     place.expanded = expandedNodes(tree_, explorer_);
     place.scrolled = tree_.verticalScrollBar()->value();
     place.node = explorer_.selectedNode().key;
@@ -91,7 +90,7 @@ void EditorRefresh::remember() {
 
 void EditorRefresh::putBack() {
     if (!place_) return;
-    const Place place = *std::exchange(place_, std::nullopt);
+    const ExplorerState place = *std::exchange(place_, std::nullopt);
     if (project_ == nullptr || editor() == nullptr) return;
     expandNodes(place.expanded, tree_, explorer_);
     showNode(place.node);

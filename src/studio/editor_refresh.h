@@ -9,6 +9,14 @@
 
 namespace hx::studio {
 
+/// What the user sees of the recipe branch.
+struct ExplorerState {
+    std::vector<std::string> expanded;  ///< keys of nodes
+    int scrolled = 0;
+    std::string node;
+    std::int32_t row = -1;  ///< in the grid
+};
+
 /// Tells the editor of what was changed around it, by what every studio can: activation for a recipe's members, its own
 /// command for the recipes themselves. What is open, selected and scrolled to stays, also when the user chooses that
 /// command.
@@ -26,12 +34,6 @@ class EditorRefresh : private QObject {
     void show(const history::StepName& step);
 
   private:
-    struct Place {
-        std::vector<std::string> expanded;
-        int scrolled = 0;
-        std::string node;
-        std::int32_t row = -1;  // in the grid
-    };
     void remember();
     void putBack();
     void showNode(const std::string& key);
@@ -43,7 +45,7 @@ class EditorRefresh : private QObject {
     qt::QtExplorer& explorer_;
     qt::ExplorerTree& tree_;
     const Project* project_ = nullptr;
-    std::optional<Place> place_;  // while the editor builds its branch anew
+    std::optional<ExplorerState> place_;  // while the editor builds its branch anew
 };
 
 }  // namespace hx::studio

@@ -27,7 +27,7 @@ namespace {
 constexpr QSize usualSize(1280, 800);
 constexpr QSize frameRoom(32, 64);  // what a frame takes at most; it is not there yet when the size is chosen
 constexpr int explorerWidth = 280;
-constexpr int messageTime = 8000;
+constexpr int noticeTime = 8000;
 const QString title = QStringLiteral("HelvixStudio");
 constexpr std::string_view languageValue = "LCID";
 
@@ -140,7 +140,7 @@ void MainWindow::chooseLanguage(std::int32_t lcid) {
         project_ ? wording_.translate("studio",
                                       "The recipe editor's language takes effect with the next project that is opened.")
                  : wording_.translate("studio", "Ready"),
-        messageTime);
+        noticeTime);
 }
 
 bool MainWindow::openProject(const QString& path) { return reported(&MainWindow::open, path); }
@@ -174,7 +174,7 @@ void MainWindow::open(const QString& path) {
         fail(wording_.translate("studio", "The setting could not be saved.\n%1"), told(error));
     }
     showProject();
-    statusBar()->showMessage(wording_.translate("studio", "Project %1 opened").arg(project_->name()), messageTime);
+    statusBar()->showMessage(wording_.translate("studio", "Project %1 opened").arg(project_->name()), noticeTime);
     tellUnlessListed(preferences_.addRecent(project_->file()));
     history_.open(*project_);
     startAddIn();
@@ -198,7 +198,7 @@ void MainWindow::tellUnlessListed(bool listed) {
     const QString text = wording_.translate("studio", "The window and the list of projects could not be saved:\n%1")
                              .replace('\n', ' ')
                              .arg(preferences_.file());
-    statusBar()->showMessage(text, messageTime);
+    statusBar()->showMessage(text, noticeTime);
 }
 
 void MainWindow::startAddIn() {
@@ -218,7 +218,7 @@ void MainWindow::installHelp() {
     help.nameCommonFolder();
     if (help.install(wording_.language()) == HelpFile::Result::failed) {
         statusBar()->showMessage(
-            wording_.translate("studio", "The help could not be put in its place: %1").arg(help.path()), messageTime);
+            wording_.translate("studio", "The help could not be put in its place: %1").arg(help.path()), noticeTime);
     }
 }
 
@@ -238,7 +238,7 @@ void MainWindow::closeProject() {
     find_.close();
     history_.close();
     showProject();
-    statusBar()->showMessage(wording_.translate("studio", "Project closed"), messageTime);
+    statusBar()->showMessage(wording_.translate("studio", "Project closed"), noticeTime);
 }
 
 bool MainWindow::createProject(const QString& path) { return reported(&MainWindow::create, path); }

@@ -8,6 +8,7 @@
 #include "adapters/qt/text.h"
 #include "automation/convert.h"
 #include "project/schema.h"
+#include "studio/editor_names.h"
 #include "studio/recipe_branch.h"
 
 namespace hx::studio {
@@ -16,8 +17,6 @@ namespace {
 
 namespace schema = project::schema;
 
-constexpr std::string_view editorClass = "frmtabgrid", gridName = "tdbRM", barName = "abr", editTool = "mnuRecipeEdit";
-constexpr std::string_view dialogClass = "FRecipe";
 constexpr std::size_t mostVisits = 200;
 
 /// Where a column of a recipe stands in its dialog.
@@ -38,7 +37,7 @@ constexpr auto fields = std::to_array<Field>({
 });
 
 void focusField(StudioHost& host, std::string_view column) {
-    forms::Form* const dialog = host.attendedScreen().find(dialogClass);
+    forms::Form* const dialog = host.attendedScreen().find(editor_name::recipeDialog);
     const auto field = std::ranges::find(fields, column, &Field::column);
     if (dialog == nullptr || field == fields.end()) return;
     dialog->get("tab").asObject()->set("Tab", automation::Variant(field->page));
@@ -56,15 +55,16 @@ Navigator::Navigator(ProjectWindow& window, StudioHost& host, qt::QtExplorer& ex
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, const QWidget* now) {
         if (now == &tree_) inGrid_ = false;
         for (; now != nullptr && !inGrid_ && now != &tree_; now = now->parentWidget())
-            inGrid_ = now->objectName() == qt::toQt(gridName);
+            inGrid_ = now->objectName() == qt::toQt(editor_name::grid);
     });
     connect(tree_.selectionModel(), &QItemSelectionModel::currentChanged, this, [this] { visitSoon_.start(); });
 }
 
 std::shared_ptr<forms::Grid> Navigator::grid() const {
-    forms::Form* const editor = window_.project() == nullptr ? nullptr : host_.attendedScreen().find(editorClass);
+    forms::Form* const editor =
+        window_.project() == nullptr ? nullptr : host_.attendedScreen().find(editor_name::window);
     if (editor == nullptr) return nullptr;
-    return std::dynamic_pointer_cast<forms::Grid>(editor->get(gridName).asObject());
+    return std::dynamic_pointer_cast<forms::Grid>(editor->get(editor_name::grid).asObject());
 }
 
 bool Navigator::show(const Place& place, bool into) {
@@ -108,11 +108,11 @@ bool Navigator::showMember(std::int64_t member, bool into) {
 
 // The dialog is modal: its field is chosen once it waits for the user.
 void Navigator::showColumn(std::string_view column) {
-    forms::Form* const editor = host_.attendedScreen().find(editorClass);
+    forms::Form* const editor = host_.attendedScreen().find(editor_name::window);
     if (editor == nullptr) return;
     QTimer::singleShot(0, this, [this, column] { focusField(host_, column); });
-    const std::array tool{automation::Variant(std::string(editTool))};
-    (void)editor->get(barName).asObject()->get("Click", tool);
+    const std::array tool{automation::Variant(std::string(editor_name::editRecipe))};
+    (void)editor->get(editor_name::bar).asObject()->get("Click", tool);
 }
 
 void Navigator::noteVisit() {

@@ -5,14 +5,9 @@
 #include <algorithm>
 
 #include "adapters/qt/text.h"
+#include "studio/editor_names.h"
 
 namespace hx::studio {
-
-namespace {
-
-constexpr std::string_view editorClass = "frmtabgrid";
-
-}  // namespace
 
 // Relative paths begin where a choice of a file does.
 std::string WindowStudio::pathOf(const std::string& path) const {
@@ -50,7 +45,7 @@ std::shared_ptr<host::CHX4Extensibility> WindowStudio::addIn() const {
 }
 
 automation::ObjectRef WindowStudio::editorWindow() {
-    forms::Form* form = addIn() == nullptr ? nullptr : host_.attendedScreen().find(editorClass);
+    forms::Form* form = addIn() == nullptr ? nullptr : host_.attendedScreen().find(editor_name::window);
     if (form == nullptr) return nullptr;
     const automation::ObjectRef window = form->share();
     if (std::ranges::find(windows_, window) == windows_.end()) windows_.push_back(window);

@@ -163,17 +163,6 @@ TEST_F(ReportPreview, ARecipeIsShownAsSoonAsItsPageIsKnown) {
     });
 }
 
-/// Cancels the progress of the report as soon as it is shown.
-class CancelProgress : public QObject {
-  public:
-    CancelProgress() { qApp->installEventFilter(this); }
-    bool eventFilter(QObject* object, QEvent* event) override {
-        if (event->type() == QEvent::Show && object->objectName() == "reportProgress")
-            static_cast<QProgressDialog*>(object)->cancel();
-        return false;
-    }
-};
-
 TEST_F(ReportPreview, EscapeClosesIt) {
     openEditor();
     inPreview([](QWidget& preview) {
