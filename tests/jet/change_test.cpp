@@ -27,6 +27,32 @@ TEST_P(Changes, LeaveEveryIndexRight) {
     EXPECT_EQ(damagesOf(*again), std::vector<std::string>());
 }
 
+TEST_P(Changes, ThatDoNotFitIntoMemoryLeaveEveryIndexRight) {
+    const Sample sample(GetParam());
+    {
+        Opened opened(sample.path());
+        opened->pages().keepWriting(24);
+        (void)RandomChanges(*opened, 12).run(600);
+        EXPECT_EQ(damagesOf(*opened), std::vector<std::string>());
+    }
+    Opened again(sample.path());
+    EXPECT_EQ(damagesOf(*again), std::vector<std::string>());
+}
+
+TEST_P(Changes, ThatDoNotFitIntoMemoryAndAreTakenBackLeaveNoTrace) {
+    const Sample sample(GetParam());
+    const std::string before = sample.bytes();
+    {
+        Opened opened(sample.path());
+        opened->pages().keepWriting(24);
+        opened->pages().beginWrite();
+        Table& table = *opened->table("TrcpRecipeMember");
+        for (int i = 0; i < 3000; ++i) (void)table.insert({});
+        opened->pages().rollback();
+    }
+    EXPECT_TRUE(sample.bytes() == before);
+}
+
 TEST_P(Changes, ThatAreTakenBackLeaveNoTrace) {
     const Sample sample(GetParam());
     const std::string before = sample.bytes();

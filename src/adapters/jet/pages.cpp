@@ -13,8 +13,6 @@ namespace {
 
 using automation::Error;
 
-// Reading needs little; who changes many rows goes to all indexes at random.
-constexpr std::size_t keptReading = 512, keptWriting = 8192;
 constexpr std::uint32_t mostPages = 0x80000;  // two gigabytes
 
 }  // namespace
@@ -136,7 +134,7 @@ void Pages::commit() {
     failed_ = true;
     if (journal_.isOpen() || count_ != countBefore_) {
         journal_.start();
-        writeOut();
+        writeOut(Which::all);
         if (file_->size() > std::uint64_t{count_} * pageSize) file_->truncate(std::uint64_t{count_} * pageSize);
         file_->sync();
         if (users_) users_->countChange();
@@ -146,11 +144,10 @@ void Pages::commit() {
     leaveTransaction();
 }
 
-// What somebody still holds is not finished: it stays.
-void Pages::writeOut() {
+void Pages::writeOut(Which which) {
     std::vector<Frame*> changed;
     cache_.forEach([&](Frame& frame) {
-        if (frame.changed && (frame.users == 0 || failed_)) changed.push_back(&frame);
+        if (frame.changed && (frame.users == 0 || which == Which::all)) changed.push_back(&frame);
     });
     std::ranges::sort(changed, {}, &Frame::number);
     journal_.sync();
@@ -267,11 +264,11 @@ Frame& Pages::frame(std::uint32_t page) {
 }
 
 void Pages::makeRoom() {
-    const std::size_t kept = writing_ ? keptWriting : keptReading;
+    const std::size_t kept = writing_ ? keptWriting_ : keptReading;
     if (cache_.size() < kept) return;
     cache_.shrink(kept - kept / 16);
     if (!writing_ || cache_.size() < kept) return;
-    writeOut();
+    writeOut(Which::unheld);
     cache_.shrink(kept - kept / 16);
 }
 

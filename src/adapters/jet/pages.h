@@ -29,6 +29,9 @@ class Pages {
     void endRead() noexcept;
     [[nodiscard]] bool isReading() const noexcept { return readers_ > 0; }
 
+    /// About so many pages stay in memory in a transaction that writes; those beyond go to the file before it holds.
+    void keepWriting(std::size_t pages) noexcept { keptWriting_ = pages; }
+
     /// A transaction that writes. It reads as well.
     void beginWrite();
     [[nodiscard]] bool isWriting() const noexcept { return writing_; }
@@ -76,7 +79,9 @@ class Pages {
     void keepBefore(const Frame& frame);
     [[nodiscard]] Frame& frame(std::uint32_t page);
     void makeRoom();
-    void writeOut();
+    /// Puts what has changed into the file: all, or what nobody holds, as he may go on to change it.
+    enum class Which : std::uint8_t { all, unheld };
+    void writeOut(Which which);
     void takeBack(Savepoint& savepoint);
     void putOriginalsBack();
     void forgetChanges() noexcept;
@@ -89,6 +94,9 @@ class Pages {
     Journal journal_;
     PageCache cache_;
     std::vector<Savepoint> savepoints_;
+    // Reading needs little; who changes many rows goes to all indexes at random.
+    static constexpr std::size_t keptReading = 512;
+    std::size_t keptWriting_ = 8192;
     int readers_ = 0;
     std::uint32_t count_ = 0, countBefore_ = 0;  // now, and before the transaction
     std::uint64_t generation_ = 1, changes_ = 0;
