@@ -78,11 +78,12 @@ void DailyCopies::removeOld() const {
     std::vector<fs::path> all = copies();
     std::uintmax_t bytes = 0;
     std::size_t kept = 0;
-    for (auto copy = all.rbegin(); copy != all.rend(); ++copy) {
-        bytes += sizeOf(*copy);
+    std::ranges::reverse(all);
+    for (const fs::path& copy : all) {
+        bytes += sizeOf(copy);
         if (++kept == 1 || (kept <= limits_.copies && bytes <= limits_.bytes)) continue;
         std::error_code ignored;
-        fs::remove(*copy, ignored);
+        fs::remove(copy, ignored);
     }
 }
 

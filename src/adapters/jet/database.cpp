@@ -66,9 +66,9 @@ std::vector<std::string> Database::tableNames() {
 
 Table* Database::table(std::string_view name) {
     const Catalog::Entry* const entry = catalog().find(name);
-    const bool isTable =
+    const bool found =
         entry != nullptr && (entry->kind == Catalog::Kind::table || entry->kind == Catalog::Kind::systemTable);
-    return isTable ? &tableAt(entry->page) : nullptr;
+    return found ? &tableAt(entry->page) : nullptr;
 }
 
 Table& Database::tableAt(std::uint32_t page) {
@@ -77,8 +77,8 @@ Table& Database::tableAt(std::uint32_t page) {
     std::string name = page == Catalog::objectsPage ? "MSysObjects" : "";
     Bytes properties;
     for (const Catalog::Entry& entry : catalog_.entries) {
-        const bool isTable = entry.kind == Catalog::Kind::table || entry.kind == Catalog::Kind::systemTable;
-        if (!isTable || entry.page != page) continue;
+        const bool hasRows = entry.kind == Catalog::Kind::table || entry.kind == Catalog::Kind::systemTable;
+        if (!hasRows || entry.page != page) continue;
         name = entry.name;
         properties = entry.properties;
     }

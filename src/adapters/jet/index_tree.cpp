@@ -179,18 +179,19 @@ bool IndexTree::insert(Bytes key, Place place) {
 
 // The last entry of the leaf becomes this one: no page may tell an earlier one.
 void IndexTree::grow(Bytes keyAndPlace) {
-    for (auto step = path_.rbegin(); step != path_.rend(); ++step) {
-        const IndexPage page = read(step->page);
-        if (step->slot == page.entries()) continue;
-        if (page.find(keyAndPlace) <= step->slot) return;
+    for (std::size_t level = path_.size(); level > 0; --level) {
+        Step& step = path_[level - 1];
+        const IndexPage page = read(step.page);
+        if (step.slot == page.entries()) continue;
+        if (page.find(keyAndPlace) <= step.slot) return;
         if (page.entries() == 1) {
-            replaceKey(*step, keyAndPlace);
+            replaceKey(step, keyAndPlace);
             continue;
         }
-        IndexPage changed = write(step->page);
-        changed.setTail(changed.child(step->slot));
-        changed.erase(step->slot);
-        step->slot = changed.entries();
+        IndexPage changed = write(step.page);
+        changed.setTail(changed.child(step.slot));
+        changed.erase(step.slot);
+        step.slot = changed.entries();
     }
 }
 
@@ -215,7 +216,7 @@ void IndexTree::nestRoot() {
     const PageRef page = newPage(root.isLeaf());
     IndexPage below(page, table_);
     below.setTail(root.tail());
-    const PageRef rootPage = root.page();
+    const PageRef& rootPage = root.page();
     IndexPage::make(rootPage, table_, false);
     IndexPage(rootPage, table_).setTail(page.number());
     path_.front().page = page.number();
@@ -301,11 +302,12 @@ bool IndexTree::remove(Bytes key, Place place) {
 
 // The last entry below is this one now: the pages that tell it tell the right one.
 void IndexTree::shrink(Bytes keyAndPlace) {
-    for (auto step = path_.rbegin(); step != path_.rend(); ++step) {
-        const IndexPage page = read(step->page);
-        const bool isTail = step->slot == page.entries();
-        const bool isLast = isTail || (step->slot + 1 == page.entries() && page.tail() == 0);
-        if (!isTail) replaceKey(*step, keyAndPlace);
+    for (std::size_t level = path_.size(); level > 0; --level) {
+        const Step& step = path_[level - 1];
+        const IndexPage page = read(step.page);
+        const bool isTail = step.slot == page.entries();
+        const bool isLast = isTail || (step.slot + 1 == page.entries() && page.tail() == 0);
+        if (!isTail) replaceKey(step, keyAndPlace);
         if (!isLast) return;
     }
 }

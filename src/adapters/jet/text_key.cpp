@@ -26,7 +26,7 @@ const Codes& codesOf(std::uint16_t unit) noexcept {
     static const std::array<std::uint16_t, 256> small = [] {
         std::array<std::uint16_t, 256> numbers{};
         std::uint16_t at = 0;
-        for (std::uint16_t i = 0; i < numbers.size(); ++i) {
+        for (std::size_t i = 0; i < numbers.size(); ++i) {
             while (codes[at].last < i) ++at;
             numbers[i] = at;
         }
