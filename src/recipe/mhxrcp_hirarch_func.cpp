@@ -32,8 +32,8 @@ void sortAsShown(ado::Recordset& members, const forms::Grid& grid) {
     const auto [column, descending] = grid.sortColumn();
     if (column == nullptr || !column->valueItems().translates()) return;
     const auto& fields = members.columns();
-    const auto isShown = [&](const ado::Column& field) {
-        return automation::equalIgnoreCase(field.name, column->dataField());
+    const auto isShown = [name = column->dataField()](const ado::Column& field) {
+        return automation::equalIgnoreCase(field.name, name);
     };
     const auto field = std::ranges::find_if(fields, isShown);
     if (field == fields.end()) return;
