@@ -13,6 +13,18 @@ using automation::Error;
 
 namespace {
 
+// The project may be locked by another program by now: the step is kept all the same, under a plainer name.
+Account account(const ChangeLog& changes, ado::Session& session) {
+    try {
+        return accountOf(changes, session);
+    } catch (const Error&) {
+        Account plain;
+        ChangeReader reader(changes);
+        while (reader.next() != nullptr) ++plain.name.rows;
+        return plain;
+    }
+}
+
 std::int64_t secondsNow() {
     return std::chrono::duration_cast<std::chrono::seconds>(std::chrono::system_clock::now().time_since_epoch())
         .count();
@@ -81,7 +93,7 @@ void History::willChange() noexcept {
 
 void History::record(ChangeLog changes, ado::Session& session) {
     if (changes.empty()) return;
-    auto [name, surprise] = accountOf(changes, session);
+    auto [name, surprise] = account(changes, session);
     if (groups_ > 0) {
         groupName_->recipes += name.recipes;
         groupName_->rows += name.rows;

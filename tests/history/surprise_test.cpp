@@ -6,6 +6,7 @@
 #include "adapters/sqlite/project_file.h"
 #include "adapters/sqlite/provider.h"
 #include "history/recording_provider.h"
+#include "support/faulty_provider.h"
 #include "support/temporary_folder.h"
 
 namespace hx::history {
@@ -121,6 +122,23 @@ TEST_F(Surprises, NoneInAGroup) {
     const Group group(*history, {});
     (void)member(2, "F", 2);
     EXPECT_EQ(told, Texts{});
+}
+
+TEST_F(Surprises, AStepThatCannotBeLookedIntoIsKept) {
+    support::FaultPlan faults;
+    support::FaultyProvider faulty(provider, faults);
+    RecordingProvider unsure(faulty, [this](const std::string&) { return history; });
+    const auto rows = unsure.connect("Data Source=\"" + project + "\";");
+    const auto recipes = rows->open("TrcpRecipe", ado::adCmdTable);
+    const std::size_t before = history->steps().size();
+    faults.arm(1, support::FaultPlan::Kind::open);
+    const ado::ColumnValue name{1, automation::Variant("D")};
+    (void)recipes->insert({&name, 1});
+    EXPECT_TRUE(faults.fired());
+    ASSERT_EQ(history->steps().size(), before + 1);
+    EXPECT_EQ(history->steps().back().name.text(automation::Language::english), "1 rows changed");
+    history->goTo(0);
+    EXPECT_TRUE(session->open("TrcpRecipe", ado::adCmdTable)->keys(nullptr).empty());
 }
 
 TEST_F(Surprises, SayThemselvesInGerman) {
