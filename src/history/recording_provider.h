@@ -21,6 +21,9 @@ class RecordingProvider : public ado::Provider {
         : provider_(provider), historyOf_(std::move(historyOf)) {}
 
     [[nodiscard]] std::unique_ptr<ado::Session> connect(std::string_view connectionString) override;
+    [[nodiscard]] bool copy(std::string_view connectionString, const std::string& file) override {
+        return provider_.copy(connectionString, file);
+    }
 
   private:
     ado::Provider& provider_;
