@@ -26,6 +26,8 @@ class DailyCopies {
     DailyCopies(ado::Provider& provider, std::string project, Today today = localDate);
     DailyCopies(ado::Provider& provider, std::string project, Today today, Limits limits);
 
+    /// Whether this is the first change of the day.
+    [[nodiscard]] bool isDue() const { return today_() != done_; }
     /// To be called before each change. Throws what keeps today's copy from being made, once a day.
     void beforeChange();
 

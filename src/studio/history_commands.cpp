@@ -110,8 +110,9 @@ void HistoryCommands::setMacro(const QString& name) {
 
 // The user is told in the status line: the change itself is not concerned.
 void HistoryCommands::keepCopy() {
-    if (!keepsDailyCopies_) return;
+    if (!keepsDailyCopies_ || !copies_->isDue()) return;
     try {
+        const forms::WaitCursor wait(host_.screen());
         copies_->beforeChange();
     } catch (const std::exception&) {
         const std::string reason = automation::caughtError().description(host_.screen().language());
