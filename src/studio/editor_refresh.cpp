@@ -73,7 +73,7 @@ void EditorRefresh::activate(forms::Form& window) {
 
 // What is not put back before control returns to the event loop is put back then.
 void EditorRefresh::remember() {
-    if (place_ || project_ == nullptr || editor() == nullptr) return;
+    if (place_ || macroRuns_ || project_ == nullptr || editor() == nullptr) return;
     ExplorerState& place = place_.emplace();
     place.expanded = expandedNodes(tree_, explorer_);
     place.scrolled = tree_.verticalScrollBar()->value();

@@ -27,6 +27,8 @@ class EditorRefresh : private QObject {
 
     /// The project that is open, lent; null: none.
     void setProject(const Project* project) noexcept { project_ = project; }
+    /// Whether a macro runs: what it refreshes stands where the editor puts it, as without a studio.
+    void setMacroRuns(bool runs) noexcept { macroRuns_ = runs; }
     /// Stores what has been typed. Throws automation::Error when it is refused.
     void finishEdit();
     /// After this step was undone or done again: the editor then shows where it was. Does nothing while there is no
@@ -45,6 +47,7 @@ class EditorRefresh : private QObject {
     qt::QtExplorer& explorer_;
     qt::ExplorerTree& tree_;
     const Project* project_ = nullptr;
+    bool macroRuns_ = false;
     std::optional<ExplorerState> place_;  // while the editor builds its branch anew
 };
 

@@ -104,6 +104,7 @@ void HistoryCommands::setMacro(const QString& name) {
     if (name == macro_) return;
     endMacro();
     macro_ = name;
+    editor_.setMacroRuns(!name.isEmpty());
     beginMacro();
     refresh();
 }

@@ -34,6 +34,14 @@ class StudioHistory : public StudioMacroTest {
             texts.push_back(model.index(row, 0).data().toString().toStdString());
         return texts;
     }
+    /// As the tool bar does.
+    void refreshView() {
+        forms::Form* const editor = host().attendedScreen().find("frmtabgrid");
+        ASSERT_NE(editor, nullptr);
+        const automation::Variant tool("mnuOptionActualize");
+        (void)editor->get("abr").asObject()->get("Click", automation::Args(&tool, 1));
+        handleEvents();
+    }
     void undo() {
         action("actionUndo").trigger();
         handleEvents();
@@ -217,8 +225,7 @@ TEST_F(StudioHistory, ARefreshOfTheViewKeepsItsPlace) {
     tree().expand(node("Rezepte/Apfelschorle"));
     click("Rezepte/Limonade");
     grid().setCurrentIndex(grid().model()->index(1, 0));
-    run("editor.abr.Click('mnuOptionActualize')");
-    handleEvents();
+    refreshView();
     EXPECT_EQ(tree().currentIndex(), node("Rezepte/Limonade"));
     EXPECT_TRUE(tree().isExpanded(node("Rezepte/Meyer's Bräu")));
     EXPECT_TRUE(tree().isExpanded(node("Rezepte/Apfelschorle")));
@@ -226,11 +233,18 @@ TEST_F(StudioHistory, ARefreshOfTheViewKeepsItsPlace) {
     EXPECT_EQ(grid().currentIndex().row(), 1);
 }
 
+TEST_F(StudioHistory, ARefreshByAMacroLeavesTheMacroWhereItGoes) {
+    showMembers();
+    run("editor.abr.Click('mnuOptionActualize') studio.Click('RCPE0') studio.Click('RCPR2')");
+    handleEvents();
+    EXPECT_EQ(tree().currentIndex(), node("Rezepte/Apfelschorle"));
+    EXPECT_EQ(titleOfEditor(), "HelvixStudio Rezepteditor: Apfelschorle");
+}
+
 TEST_F(StudioHistory, ARefreshOfTheViewShowsWhatOthersHaveDone) {
     showMembers();
     execute("DELETE * FROM TrcpRecipe WHERE ID = 1");
-    run("editor.abr.Click('mnuOptionActualize')");
-    handleEvents();
+    refreshView();
     EXPECT_FALSE(isThere("Rezepte/Limonade"));
     EXPECT_TRUE(node("Rezepte/Apfelschorle").isValid());
 }
