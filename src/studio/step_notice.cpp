@@ -12,6 +12,7 @@ StepNotice::StepNotice(QStatusBar& bar, QAction& undo) : bar_(bar) {
     setObjectName(QStringLiteral("stepNotice"));
     text_.setObjectName(QStringLiteral("stepNoticeText"));
     text_.setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Preferred);
+    text_.setMinimumWidth(1);  // a long name must not widen the window
     undo_.setObjectName(QStringLiteral("stepNoticeUndo"));
     undo_.setAutoDefault(false);
     const int size = style()->pixelMetric(QStyle::PM_SmallIconSize);

@@ -5,6 +5,7 @@
 #include <QTest>
 #include <filesystem>
 
+#include "adapters/sqlite/provider.h"
 #include "gui/macro_fixture.h"
 
 namespace hx::gui {
@@ -72,6 +73,19 @@ TEST_F(StepNotice, SaysItInTheLanguageOfTheStudio) {
     deleteRecipe("Limonade", "Yes");
     EXPECT_EQ(told(), "“Limonade” was deleted. Members that still name it as a sub-recipe: 1.");
     EXPECT_EQ(find<QPushButton>(window(), "stepNoticeUndo").text(), "Undo");
+}
+
+TEST_F(StepNotice, ALongNameDoesNotWidenTheWindow) {
+    sqlite::Provider provider;
+    const auto rows =
+        provider.connect("Data Source=\"" + file_.toStdString() + "\";")->open("TrcpRecipe", ado::adCmdTable);
+    const ado::ColumnValue name{1, automation::Variant(std::string(255, 'W'))};
+    rows->update(1, {&name, 1}, {});
+    const int before = window().minimumSizeHint().width();
+    deleteRecipe("Limonade");
+    ASSERT_TRUE(isTold());
+    handleEvents();
+    EXPECT_LT(window().minimumSizeHint().width(), before + 300);
 }
 
 TEST_F(StepNotice, AMacroIsNoSurprise) {
