@@ -42,7 +42,6 @@ bool isLongerThan(std::string_view text, std::size_t limit) {
 VariableWriter::VariableWriter(ado::Session& session, const std::string& project, std::string file, Mode mode)
     : rows_(openList(session, project)), file_(std::move(file)), mode_(mode) {
     hosting::inFile(project, [this] {
-        id_ = columnOf(variable_column::id);
         name_ = columnOf(variable_column::name);
         type_ = columnOf(variable_column::type);
         comment_ = columnOf(variable_column::comment);
@@ -67,11 +66,26 @@ VariableLimits VariableWriter::limitsOf() const {
     return {limit(name_), limit(type_), limit(comment_)};
 }
 
+// By the rows' keys, which are not the IDs where the table's key is another column.
 void VariableWriter::readKnown() {
-    rows_->scan(std::array{id_, name_}, [this](std::span<const ado::StoredValue> row) {
+    struct Names : ado::RowSink {
+        explicit Names(VariableWriter& to) : writer(to) {}
+        void row(std::size_t index, std::span<automation::Variant> values) override {
+            const ado::StoredValue name = ado::storedValue(values[writer.name_]);
+            writer.known_.emplace(writer.hashOf(ado::shownText(name, room)), Entry{keys[index], 0});
+        }
+        VariableWriter& writer;
+        std::vector<ado::Key> keys;
         std::string room;
-        known_.emplace(hashOf(ado::shownText(row[1], room)), Entry{row[0].integer, 0});
-    });
+    };
+    const ado::RowKeys all = rows_->keys(nullptr);
+    known_.reserve(all.size());
+    Names names(*this);
+    for (std::size_t at = 0; at < all.size(); at += names.keys.size()) {
+        names.keys.resize(std::min(ado::rowsReadTogether, all.size() - at));
+        for (std::size_t i = 0; i < names.keys.size(); ++i) names.keys[i] = all[at + i];
+        rows_->read(names.keys, ado::columnBit(name_), names);
+    }
 }
 
 VariableChange VariableWriter::take(const ListedVariable& variable) {
@@ -89,7 +103,7 @@ VariableChange VariableWriter::write(const ListedVariable& variable) {
     const std::size_t hash = hashOf(variable.name);
     const auto [first, last] = known_.equal_range(hash);
     for (auto at = first; at != last; ++at) {
-        const Row row = read(at->second.id);
+        const Row row = read(at->second.key);
         if (automation::equalIgnoreCase(row.name, variable.name)) return takeKnown(at->second, row, variable);
     }
     insert(hash, variable);
@@ -119,10 +133,10 @@ std::size_t VariableWriter::hashOf(std::string_view name) {
     return std::hash<std::string>()(folded_);
 }
 
-VariableWriter::Row VariableWriter::read(std::int64_t id) {
-    if (const auto practised = practised_.find(id); practised != practised_.end()) return practised->second;
+VariableWriter::Row VariableWriter::read(ado::Key key) {
+    if (const auto practised = practised_.find(key); practised != practised_.end()) return practised->second;
     Row found;
-    rows_->readStored({&id, 1}, [&](std::span<const ado::StoredValue> row) {
+    rows_->readStored({&key, 1}, [&](std::span<const ado::StoredValue> row) {
         const auto text = [&](std::size_t column) {
             std::string room;
             return std::string(ado::shownText(row[column], room));
@@ -141,26 +155,26 @@ VariableChange VariableWriter::takeKnown(Entry& entry, const Row& row, const Lis
     }
     if (entry.line != 0) return {Kind::repeated, {}, {}, {}};
     entry.line = variable.line;
-    if (differs) update(entry.id, row, variable);
+    if (differs) update(entry.key, row, variable);
     return {differs ? Kind::changed : Kind::unchanged, row.name, row.type, row.comment};
 }
 
-void VariableWriter::update(std::int64_t id, const Row& row, const ListedVariable& variable) {
+void VariableWriter::update(ado::Key key, const Row& row, const ListedVariable& variable) {
     const std::string type = variable.type.value_or(row.type);
     const std::string comment = variable.comment.value_or(row.comment);
-    if (mode_ == Mode::practise) practised_[id] = {row.name, type, comment};
-    else rows_->update(id, std::array<ado::ColumnValue, 2>{{{type_, type}, {comment_, comment}}}, {});
+    if (mode_ == Mode::practise) practised_[key] = {row.name, type, comment};
+    else rows_->update(key, std::array<ado::ColumnValue, 2>{{{type_, type}, {comment_, comment}}}, {});
 }
 
 void VariableWriter::insert(std::size_t hash, const ListedVariable& variable) {
     const std::string type = variable.type.value_or("");
     const std::string comment = variable.comment.value_or("");
-    std::int64_t id = -1 - static_cast<std::int64_t>(practised_.size());
-    if (mode_ == Mode::practise) practised_[id] = {variable.name, type, comment};
+    ado::Key key = -1 - static_cast<ado::Key>(practised_.size());
+    if (mode_ == Mode::practise) practised_[key] = {variable.name, type, comment};
     else
-        id = rows_->insert(
+        key = rows_->insert(
             std::array<ado::ColumnValue, 3>{{{name_, variable.name}, {type_, type}, {comment_, comment}}});
-    known_.emplace(hash, Entry{id, variable.line});
+    known_.emplace(hash, Entry{key, variable.line});
 }
 
 }  // namespace hx::lists

@@ -33,7 +33,7 @@ class VariableWriter {
 
   private:
     struct Entry {
-        std::int64_t id;
+        ado::Key key;
         int line;  // that named it; 0: none
     };
     struct Row {
@@ -46,20 +46,20 @@ class VariableWriter {
     [[nodiscard]] VariableLimits limitsOf() const;
     void readKnown();
     [[nodiscard]] std::size_t hashOf(std::string_view name);
-    [[nodiscard]] Row read(std::int64_t id);
+    [[nodiscard]] Row read(ado::Key key);
     VariableChange takeKnown(Entry& entry, const Row& row, const ListedVariable& variable);
-    void update(std::int64_t id, const Row& row, const ListedVariable& variable);
+    void update(ado::Key key, const Row& row, const ListedVariable& variable);
     void insert(std::size_t hash, const ListedVariable& variable);
 
     std::unique_ptr<ado::Rowset> rows_;
-    std::size_t id_ = 0, name_ = 0, type_ = 0, comment_ = 0;  // columns
+    std::size_t name_ = 0, type_ = 0, comment_ = 0;  // columns
     std::string file_;
     VariableLimits limits_;
     // By the hash of the folded name: the names themselves stay in the database. An equal hash is looked into.
     std::unordered_multimap<std::size_t, Entry> known_;
     std::string folded_;
     const Mode mode_;
-    std::unordered_map<std::int64_t, Row> practised_;  // what would be there by now
+    std::unordered_map<ado::Key, Row> practised_;  // what would be there by now
 };
 
 }  // namespace hx::lists

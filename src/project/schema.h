@@ -50,7 +50,6 @@ inline constexpr std::string_view varRecipe = "VarRecipe";
 
 /// Columns of `variableTable`, one row a variable.
 namespace variable {
-inline constexpr std::string_view id = "ID";      ///< assigned by the database
 inline constexpr std::string_view name = "Name";  ///< unique ignoring case
 inline constexpr std::string_view type = "Type";
 inline constexpr std::string_view comment = "Comment";

@@ -29,6 +29,14 @@ TEST_F(VariablesInCsv, AreAddedChangedOrLeftUnchanged) {
     EXPECT_EQ(import(list, {"--json"}).results, "{\"added\": 0, \"changed\": 0, \"unchanged\": 4}\n");
 }
 
+TEST_F(VariablesInCsv, AreFoundWhereTheTablesKeyIsAnotherColumn) {
+    sqlite::Database(file_).execute(
+        "DROP TABLE ThxVariable; CREATE TABLE ThxVariable (ID INT, Name VARCHAR(255), Type VARCHAR(20), Comment "
+        "VARCHAR(255)); INSERT INTO ThxVariable VALUES (2, 'A', 'INT', ''), (1, 'B', 'INT', '');");
+    EXPECT_EQ(import(write("list.csv", "Name;Type;Comment\nA;REAL;new\n")).status, 0);
+    EXPECT_EQ(query(file_, "SELECT ID, Name, Type, Comment FROM ThxVariable ORDER BY Name"), "2|A|REAL|new,1|B|INT|");
+}
+
 TEST_F(VariablesInCsv, KeepWhatTheListDoesNotSay) {
     EXPECT_EQ(import(write("list.csv", "Comment,Variable\nfast,motor.speed\n")).status, 0);
     EXPECT_EQ(query(file_, "SELECT Name, Type, Comment FROM ThxVariable WHERE ID = 1"), "Motor.Speed|REAL|fast");
