@@ -141,6 +141,16 @@ Subject select_all::ours(const Project& project) {
     };
 }
 
+Subject refresh_view::ours(const Project& project) {
+    return [=]() -> Work {
+        const auto studio = std::make_shared<StudioWindow>(project);
+        studio->showNextRecipe();
+        const int rows = studio->rows();
+        return {[] {}, [=] { studio->refreshView(); },
+                [=] { require(studio->rows() == rows, "the editor does not show the recipe any more"); }};
+    };
+}
+
 Subject choose_many::open(const Project& project) { return choice(project, &Choice::opening); }
 Subject choose_many::search(const Project& project) { return choice(project, &Choice::searching, "real soll"); }
 Subject choose_many::cancel(const Project& project) { return choice(project, &Choice::closing); }

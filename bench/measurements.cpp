@@ -152,6 +152,10 @@ Row selectAll(const Project& project, int rounds) {
     return timeRow("select all of them", select_all::ours(project), rounds, 100);
 }
 
+Row refreshView(const Project& project, int rounds) {
+    return timeRow("refresh the view of all recipes, in the studio", refresh_view::ours(project), rounds, 200);
+}
+
 Row openMany(const Project& project, int rounds) {
     return timeRow("open the choice of them, all checked", choose_many::open(project), rounds, 1000);
 }
@@ -257,6 +261,7 @@ constexpr auto table = std::to_array<Measurement>({
     {"delete-member", &deleteMember},
     {"delete-sorted", &deleteSortedMember},
     {"select-all", &selectAll},
+    {"refresh-view", &refreshView},
     {"open-many", &openMany},
     {"search-many", &searchMany},
     {"cancel-many", &cancelMany},

@@ -42,6 +42,7 @@ void endOnMessage() {
 }  // namespace
 
 StudioWindow::StudioWindow(const Project& project) : host_(folder_.path(), {QStringLiteral(HX_MODULE_FOLDER)}) {
+    require(keepsNoCopies_, "the settings cannot be written");
     askNothing(project.path);
     constexpr int interval = 100;
     QObject::connect(&watch_, &QTimer::timeout, endOnMessage);
@@ -51,13 +52,15 @@ StudioWindow::StudioWindow(const Project& project) : host_(folder_.path(), {QStr
     require(window_.openProject(QString::fromStdString(project.path)), "the studio does not open the project");
     click("Rezepte");
     click("Gesamtanlage");
-    grid_ = window_.findChild<QTableView*>("tdbRM.Splits(1)");
+    findGrid();
     require(grid_ != nullptr && rows() == project.big, "the editor does not show the recipe");
     grid_->setFocus();
     settle();
 }
 
 StudioWindow::~StudioWindow() = default;
+
+void StudioWindow::findGrid() { grid_ = window_.findChild<QTableView*>("tdbRM.Splits(1)"); }
 
 void StudioWindow::settle() {
     QPointer<QWidget> viewport = grid_ == nullptr ? nullptr : grid_->viewport();
@@ -103,6 +106,23 @@ void StudioWindow::clickHeader(const QString& caption) {
     constexpr int inside = 20;
     clickAt(*header.viewport(), {header.sectionViewportPosition(column(caption)) + inside, header.height() / 2});
     settle();
+}
+
+void StudioWindow::showNextRecipe() {
+    auto& tree = *window_.findChild<QTreeView*>("projectExplorer");
+    const QModelIndex shown = tree.currentIndex(), next = shown.siblingAtRow(shown.row() + 1);
+    require(next.isValid(), "there is no other recipe");
+    clickAt(*tree.viewport(), tree.visualRect(next).center());
+    settle();
+}
+
+void StudioWindow::refreshView() {
+    forms::Form* const editor = host_.attendedScreen().find("frmtabgrid");
+    require(editor != nullptr, "the editor is not open");
+    const automation::Variant tool("mnuOptionActualize");
+    (void)editor->get("abr").asObject()->get("Click", automation::Args(&tool, 1));
+    settle();
+    findGrid();
 }
 
 void StudioWindow::sortByNothing(const QString& caption) {

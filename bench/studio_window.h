@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QHeaderView>
+#include <QPointer>
 #include <QTableView>
 #include <QTemporaryDir>
 #include <QTimer>
@@ -30,10 +31,15 @@ class StudioWindow {
     void clickHeader(const QString& column);
     /// Clicks it until the grid is not sorted.
     void sortByNothing(const QString& column);
+    /// Clicks the recipe below the one that is shown.
+    void showNextRecipe();
+    /// As the entry of the editor's tool bar does.
+    void refreshView();
     /// Handles all that waits; the grid is painted then.
     void settle();
 
   private:
+    void findGrid();
     void click(const QString& caption);
     [[nodiscard]] int column(const QString& caption) const;
 
@@ -41,9 +47,11 @@ class StudioWindow {
     QTemporaryDir folder_;
     studio::StudioHost host_;
     studio::Preferences preferences_{folder_.path()};
+    // What a change costs, not that a day begins.
+    const bool keepsNoCopies_ = preferences_.setKeepsDailyCopies(false);
     studio::MainWindow window_{host_, preferences_};
     QTimer watch_;
-    QTableView* grid_ = nullptr;
+    QPointer<QTableView> grid_;  // the editor makes it anew when it refreshes
 };
 
 }  // namespace hx::bench

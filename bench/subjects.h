@@ -107,6 +107,11 @@ namespace select_all {
 [[nodiscard]] Subject ours(const Project& project);
 }
 
+/// In the studio: refreshes the view as a user does, who finds the branch, his node and his row where they were.
+namespace refresh_view {
+[[nodiscard]] Subject ours(const Project& project);
+}
+
 /// In the studio: opens the choice of the variables of the big recipe, in which all are checked; searches in it;
 /// cancels it, until the grid shows the variables again.
 namespace choose_many {

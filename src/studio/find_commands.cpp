@@ -54,7 +54,7 @@ FindCommands::FindCommands(QMainWindow& window, ProjectWindow& projects, StudioH
     host.screen().setMarks(&known_);
     history_.setWatch([this] { live_.noteChange(); }, [this] { live_.letWrite(); });
     explorer_.model().setRenaming(
-        [](const std::string& key) { return branch::idOf(branch::recipe, key) != 0; },
+        [](std::string_view key) { return branch::idOf(branch::recipe, key) != 0; },
         [this](const std::string& key, const std::string& name) { attempt([&] { rename(key, name); }); });
     window.installEventFilter(this);
     build(window);

@@ -256,9 +256,11 @@ void ExplorerModel::setRenaming(CanRename canRename, Rename rename) {
     rename_ = std::move(rename);
 }
 
+// Views ask for them with each node that they lay out.
 Qt::ItemFlags ExplorerModel::flags(const QModelIndex& index) const {
-    const Qt::ItemFlags flags = QAbstractItemModel::flags(index);
-    return index.isValid() && canRename_(key(index)) ? flags | Qt::ItemIsEditable : flags;
+    if (!index.isValid()) return Qt::NoItemFlags;
+    const Qt::ItemFlags flags = Qt::ItemIsSelectable | Qt::ItemIsEnabled;
+    return canRename_ && canRename_(tree_.key(idOf(index))) ? flags | Qt::ItemIsEditable : flags;
 }
 
 bool ExplorerModel::setData(const QModelIndex& index, const QVariant& value, int role) {

@@ -49,7 +49,7 @@ class ExplorerModel : public QAbstractItemModel {
     void setImage(const std::string& key, const QIcon& icon);
     /// Which nodes the user can give another caption, and what is done about it: the caption stays as it is. Called
     /// when the view has done with its field.
-    using CanRename = std::function<bool(const std::string& key)>;
+    using CanRename = std::function<bool(std::string_view key)>;
     using Rename = std::function<void(const std::string& key, const std::string& caption)>;
     void setRenaming(CanRename canRename, Rename rename);
 
@@ -79,7 +79,7 @@ class ExplorerModel : public QAbstractItemModel {
     hosting::NodeTree tree_;
     Arrangement arrangement_{tree_};
     std::map<std::string, QIcon, std::less<>> images_;
-    CanRename canRename_ = [](const std::string&) { return false; };
+    CanRename canRename_;
     Rename rename_;
     QTimer timer_;
     std::vector<bool> new_;                  ///< by number: not published yet
