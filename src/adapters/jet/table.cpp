@@ -232,10 +232,11 @@ Place Table::addRow(Bytes bytes) {
     return added.place();
 }
 
-void Table::count(std::int32_t by) {
+void Table::count(std::int32_t by, const std::optional<std::int32_t>& counter) {
     const PageRef page = database_->pages().write(definition_.page);
     Byte* const rows = page.data() + TableDefinition::rowsAt;
     put32(rows, get32(rows) + static_cast<std::uint32_t>(by));
+    if (counter) put32(page.data() + TableDefinition::lastCounterAt, static_cast<std::uint32_t>(*counter));
 }
 
 ado::Key Table::insert(Values values) {
@@ -265,7 +266,7 @@ ado::Key Table::insert(Values values) {
     for (const Index& index : definition_.indexes) {
         if (isIndexed(index, draft)) addEntry(index, keys[index.number], place);
     }
-    count(1);
+    count(1, draft.counter);
     pages.endChange();
     const ado::Key key = keyColumn_ ? static_cast<std::int32_t>(get32(draft.columns[*keyColumn_]->data()))
                                     : static_cast<ado::Key>(place.number());

@@ -24,6 +24,7 @@ struct Draft {
     Buffer bytes;                            // new values, one behind the other
     std::vector<std::optional<Part>> parts;  // of each column in them
     std::vector<bool> given;                 // which columns are new
+    std::optional<std::int32_t> counter;     // the last number that the table has given, once it is stored
     Buffer row;                              // the row as it was
     Buffer contents;                         // of long values that stood in it
     Buffer heads;                            // what the row holds of new long values
@@ -108,7 +109,7 @@ class Table {
     void storeLongValues(Draft& draft, Buffer& row);
     [[nodiscard]] Place addRow(Bytes bytes);
     void replaceRow(const Found& found, Bytes bytes);
-    void count(std::int32_t by);
+    void count(std::int32_t by, const std::optional<std::int32_t>& counter = {});
     void remember(const Found& found, Remembered& remembered) const;
     void tell(const Remembered* before, Place after, ado::Key key) const;
 

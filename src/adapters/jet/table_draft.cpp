@@ -51,12 +51,10 @@ void Table::number(Draft& draft) {
             }
             continue;
         }
-        const PageRef page = database_->pages().write(definition_.page);
-        Byte* const counter = page.data() + TableDefinition::lastCounterAt;
-        const auto last = static_cast<std::int32_t>(get32(counter));
+        const std::int32_t last = lastCounter();
         if (draft.parts[i]) {
             const auto given = static_cast<std::int32_t>(get32(draft.bytes.data() + draft.parts[i]->at));
-            put32(counter, static_cast<std::uint32_t>(std::max(last, given)));
+            draft.counter = std::max(last, given);
             continue;
         }
         if (last == std::numeric_limits<std::int32_t>::max()) {
@@ -64,7 +62,7 @@ void Table::number(Draft& draft) {
         }
         draft.parts[i] = {draft.bytes.size(), sizeof last};
         append32(draft.bytes, static_cast<std::uint32_t>(last + 1));
-        put32(counter, static_cast<std::uint32_t>(last + 1));
+        draft.counter = last + 1;
     }
 }
 
