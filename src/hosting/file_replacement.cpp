@@ -27,15 +27,16 @@ fs::path temporaryName(const fs::path& target) {
     return path += suffix.append(mark);
 }
 
-// The part of a name that temporaryName() has made for `target`; what may follow are the companions of a database.
-std::string_view temporaryIn(std::string_view name, std::string_view target) {
-    const std::size_t size = target.size() + 1 + numberSize + mark.size();
+// The name of temporaryName() for `target` that a file has, or one of the companions that databases give it: NAME-...
+// and the same with another extension.
+std::string temporaryIn(std::string_view name, std::string_view target) {
+    constexpr std::string_view users = ".ldb";
+    const std::size_t size = target.size() + 1 + numberSize;
     if (name.size() < size || !name.starts_with(target) || name[target.size()] != '.') return {};
-    const std::string_view number = name.substr(target.size() + 1, numberSize);
-    const std::string_view rest = name.substr(size);
+    const std::string_view number = name.substr(target.size() + 1, numberSize), rest = name.substr(size);
     const bool made = number.find_first_not_of(hexDigits) == number.npos &&
-                      name.substr(target.size() + 1 + numberSize).starts_with(mark);
-    return made && (rest.empty() || rest.starts_with('-')) ? name.substr(0, size) : std::string_view();
+                      (rest == users || rest == mark || rest.starts_with(std::string(mark) + '-'));
+    return made ? std::string(name.substr(0, size)).append(mark) : std::string();
 }
 
 void clearAbandoned(const fs::path& target, const Disk& disk) {
@@ -43,12 +44,11 @@ void clearAbandoned(const fs::path& target, const Disk& disk) {
     const std::string file = target.filename().string();
     std::error_code ignored;  // what cannot be cleared away is in nobody's way
     for (const std::string& name : disk.names(folder)) {
-        const std::string_view temporary = temporaryIn(name, file);
+        const std::string temporary = temporaryIn(name, file);
         if (temporary.empty()) continue;
         const fs::path path = folder / fileSystemPath(temporary);
         disk.removeAbandoned(path);
-        if (name.size() > temporary.size() && !fs::exists(path, ignored))
-            fs::remove(folder / fileSystemPath(name), ignored);
+        if (name != temporary && !fs::exists(path, ignored)) fs::remove(folder / fileSystemPath(name), ignored);
     }
 }
 

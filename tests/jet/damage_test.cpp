@@ -81,6 +81,20 @@ TEST(OtherFormats, ANewHeaderIsThatOfAJet4DatabaseWithoutPassword) {
     EXPECT_FALSE(Header(page).hasPassword());
 }
 
+TEST(OtherUsers, AreNotThereWhenTheFileThatNamesThemHasLostItsContent) {
+    const Sample sample("leer.hxs");
+    const std::string users = sample.path().substr(0, sample.path().size() - 4) + ".ldb";
+    std::ofstream(users, std::ios::binary) << std::string(56, '\0') + "\2" + std::string(7, '\0');
+    {
+        Opened opened(sample.path());
+        opened->pages().beginWrite();
+        (void)opened->table("TrcpRecipeMember")->insert({});
+        opened->pages().commit();
+        EXPECT_TRUE(std::filesystem::exists(users));
+    }
+    EXPECT_FALSE(std::filesystem::exists(users));
+}
+
 TEST(OtherUsers, MakeAProjectOneForReading) {
     const Sample sample("leer.hxs");
     std::string record(64, '\0');

@@ -19,6 +19,11 @@ std::string pathOf(const Storage& storage) {
     return (extension ? path.substr(0, dot) : path) + ".ldb";
 }
 
+// As a power failure may leave it: of what was written last to the file it keeps what it likes.
+bool isNobodys(const Byte* record) {
+    return std::all_of(record, record + counterAt, [](Byte byte) { return byte == 0; });
+}
+
 bool isOurs(const Byte* record) {
     return std::equal(ourName.begin(), ourName.end(), reinterpret_cast<const char*>(record) + nameSize);
 }
@@ -35,7 +40,7 @@ std::string UserFile::otherUser(Storage& storage) {
     if (!file || file->size() == 0) return {};
     Byte record[recordSize];
     file->read(0, record);
-    if (isOurs(record)) return {};
+    if (isOurs(record) || isNobodys(record)) return {};
     const auto* const name = reinterpret_cast<const char*>(record);
     const std::string computer(name, std::find(name, name + nameSize, '\0'));
     return computer.empty() ? "?" : computer;
@@ -47,11 +52,13 @@ std::unique_ptr<UserFile> UserFile::open(Storage& storage) {
         auto file = storage.open(Storage::Kind::users, path);
         if (!file || !file->tryLock(File::Lock::shared)) return nullptr;
         Byte record[recordSize] = {};
-        std::copy(ourName.begin(), ourName.end(), record);
-        std::copy(ourName.begin(), ourName.end(), record + nameSize);
         if (file->size() > 0) file->read(0, record);
+        if (isNobodys(record)) {
+            std::copy(ourName.begin(), ourName.end(), record);
+            std::copy(ourName.begin(), ourName.end(), record + nameSize);
+            file->write(0, record);
+        }
         if (!isOurs(record)) return nullptr;
-        if (file->size() == 0) file->write(0, record);
         if (!storage.exists(path)) continue;  // the last other user has just taken it away
         return std::unique_ptr<UserFile>(new UserFile(storage, path, std::move(file)));
     }
