@@ -66,11 +66,12 @@ std::string attempt(const std::string& original, const Damage& damage) {
     return {};
 }
 
-void makeOriginal(const std::string& folder) {
+void makeOriginal(const std::string& folder, bool jet) {
     for (Command command : {Command{"new", "~/original.hxs"},
                             {"variables", "import", "~/original.hxs", file("variables.csv")},
                             {"import", "~/original.hxs", file("plant.json")}}) {
         command.insert(command.begin(), programs::hxrecipe);
+        if (jet) command = onJet(std::move(command));
         const Ending ending = Process::run(inFolder(command, folder), folder, {});
         if (ending.told()) throw std::runtime_error("damage cannot begin: " + ending.words());
     }
@@ -79,9 +80,10 @@ void makeOriginal(const std::string& folder) {
 }  // namespace
 
 void tryDamage(const Extent& extent, Figures& figures) {
-    const support::TemporaryFolder folder;
-    makeOriginal(folder.path());
-    const std::string original = folder.file("original.hxs");
+    const support::TemporaryFolder folder, jetFolder;
+    makeOriginal(folder.path(), false);
+    makeOriginal(jetFolder.path(), true);
+    const std::string original = folder.file("original.hxs"), jet = jetFolder.file("original.hxs");
     std::mt19937 chance(extent.seed);
     std::vector<Attempt> attempts;
     for (const Damage& damage : schemas()) {
@@ -90,6 +92,7 @@ void tryDamage(const Extent& extent, Figures& figures) {
     for (int i = 0; i < (extent.isShort ? shortCount : longCount); ++i) {
         const Damage damage = accident(chance);
         attempts.push_back({"damage accident", damage.name, [original, damage] { return attempt(original, damage); }});
+        attempts.push_back({"damage jet accident", damage.name, [jet, damage] { return attempt(jet, damage); }});
     }
     makeAll(std::move(attempts), extent, figures);
 }

@@ -100,7 +100,7 @@ void Experiment::learn(int steps) {
         if (ending.told()) throw std::runtime_error(operation_.name + " fails undisturbed: " + ending.words());
     }
     states_.push_back(State::of(place.work()));
-    if (states_.back().project.starts_with("damaged"))
+    if (states_.back().project.find("damaged: ") != std::string::npos)
         throw std::runtime_error(operation_.name + ": " + states_.back().project);
 }
 

@@ -78,7 +78,27 @@ Operation studioWork(const std::string& name, const std::string& steps) {
             .environment = {{"HX_DRIVER_STEPS", steps}, {"HX_DRIVER_HTML", "~/report.html"}}};
 }
 
+// The same on a Jet project.
+Operation withJet(Operation operation) {
+    operation.name = "jet " + operation.name;
+    for (Command& command : operation.before) command = onJet(std::move(command));
+    operation.command = onJet(std::move(operation.command));
+    for (Command& command : operation.next) command = onJet(std::move(command));
+    return operation;
+}
+
+Operation converting() {
+    Operation operation = commandLine("convert", {"convert", "~/plant.hxs", "~/copy.hxs"});
+    operation.next.insert(operation.next.begin(), {"/bin/rm", "-f", "~/copy.hxs"});
+    return operation;
+}
+
 }  // namespace
+
+Command onJet(Command command) {
+    if (command.size() > 2 && command[1] == "new") command.insert(command.begin() + 2, {"--format", "jet"});
+    return command;
+}
 
 Command Operation::commandOf(int count) const {
     Command full = command;
@@ -107,6 +127,17 @@ const std::vector<Operation>& operations() {
         studioWork("edit", "macro=edit"),
         studioWork("report", "macro=report"),
         studioWork("samples", "do=actionSampleMacros"),
+        converting(),
+        withJet(converting()),
+        withJet(making("new", {"new", "~/plant.hxs"})),
+        withJet(commandLine("import update", {"import", "~/plant.hxs", file("more.json"), "--mode", "update"})),
+        withJet(commandLine("import replace", {"import", "~/plant.hxs", file("more.json"), "--mode", "replace"})),
+        withJet(commandLine("variables import", {"variables", "import", "~/plant.hxs", file("more.csv")})),
+        withJet(macroWork("recipes", 3, onlyTheRecipe)),
+        withJet(macroWork("members", 3, onlyTheFirstMember)),
+        withJet(macroWork("subrecipes", 2)),
+        withJet(macroWork("variables", 1)),
+        withJet(studioWork("edit", "macro=edit")),
     };
     return all;
 }

@@ -35,6 +35,9 @@ struct Operation {
 /// All operations: of the command line, of macros, of the studio.
 [[nodiscard]] const std::vector<Operation>& operations();
 
+/// A command that makes a project makes one in the Jet format; others stay as they are.
+[[nodiscard]] Process::Command onJet(Process::Command command);
+
 /// The text with another folder in place of the one that it names.
 [[nodiscard]] std::string inFolder(std::string text, std::string_view from, const std::string& to);
 /// The command with the folder in place of "~".

@@ -87,9 +87,9 @@ std::string sameNames() {
 }
 
 // Both change the same project; each may find it locked or changed, and says so.
-std::string oneProject(const std::vector<Command>& both) {
+std::string oneProject(const Command& makeProject, const std::vector<Command>& both) {
     const support::TemporaryFolder folder;
-    make({"new", "~/plant.hxs"}, folder.path());
+    make(makeProject, folder.path());
     make({"variables", "import", "~/plant.hxs", file("variables.csv")}, folder.path());
     make({"import", "~/plant.hxs", file("plant.json")}, folder.path());
     const auto endings = together(hxrecipe(both[0], folder.path()), hxrecipe(both[1], folder.path()), folder.path());
@@ -121,18 +121,17 @@ std::vector<Command> macros(const char* one, const char* two) {
 }  // namespace
 
 void tryPairs(const Extent& extent, Figures& figures) {
-    const std::vector<Attempt> kinds = {
-        {"pairs registry", {}, registry},
-        {"pairs of one name", {}, sameNames},
-        {"pairs of imports", {}, [] { return oneProject(imports()); }},
-        {"pairs of macros", "members", [] { return oneProject(macros("members", "members")); }},
-        {"pairs of macros", "recipes and members", [] { return oneProject(macros("recipes", "members")); }},
-        {"pairs of macros and imports",
-         {},
-         [] {
-             return oneProject({macros("recipes", "members")[0], imports()[0]});
-         }},
-    };
+    std::vector<Attempt> kinds = {{"pairs registry", {}, registry}, {"pairs of one name", {}, sameNames}};
+    for (const Command& makeProject : {Command{"new", "~/plant.hxs"}, {"new", "--format", "jet", "~/plant.hxs"}}) {
+        const auto add = [&](const std::string& kind, const std::string& text, const std::vector<Command>& both) {
+            const std::string store = makeProject.size() > 2 ? "jet " : "";
+            kinds.push_back({"pairs of " + store + kind, text, [=] { return oneProject(makeProject, both); }});
+        };
+        add("imports", {}, imports());
+        add("macros", "members", macros("members", "members"));
+        add("macros", "recipes and members", macros("recipes", "members"));
+        add("macros and imports", {}, {macros("recipes", "members")[0], imports()[0]});
+    }
     std::vector<Attempt> attempts;
     for (int i = 0; i < (extent.isShort ? shortCount : longCount); ++i)
         attempts.insert(attempts.end(), kinds.begin(), kinds.end());

@@ -10,7 +10,9 @@
 #include <sqlite3.h>
 #include <sstream>
 #include <stdexcept>
+#include <vector>
 
+#include "torture/jet_state.h"
 #include "torture/operation.h"
 
 namespace hx::torture {
@@ -58,6 +60,7 @@ std::string quotedColumns(sqlite3* database, const std::string& table) {
 
 std::string projectText(const fs::path& path) {
     if (fs::file_size(path) == 0) return "damaged: the file is empty";
+    if (isJet(path)) return jetText(path);
     sqlite3* handle = nullptr;
     const int code = sqlite3_open_v2(path.c_str(), &handle, SQLITE_OPEN_READWRITE, nullptr);
     const Database database(handle);
@@ -96,9 +99,19 @@ std::string withoutTime(const std::string& text) {
     return std::regex_replace(text, time, "now");
 }
 
-void readFile(const fs::path& path, const std::string& name, const std::string& folder, State& state) {
+using Projects = std::map<std::string, std::string>;
+
+std::string textOf(const Projects& projects) {
+    std::string all;
+    for (const auto& [name, text] : projects) all += text.starts_with("damaged") ? text + " (" + name + ")" : text;
+    return all.empty() ? "none" : all;
+}
+
+void readFile(const fs::path& path, const std::string& name, const std::string& folder, State& state,
+              Projects& projects) {
     const std::string kind = path.extension();
-    if (kind == ".hxs") state.project = projectText(path);
+    if (kind == ".ldb") return;  // who uses a project
+    if (kind == ".hxs") projects[name] = projectText(path);
     else if (kind == ".ini") readValues(name, inFolder(contents(path), folder, "~"), state);
     else if (kind == ".html") state.texts[name] = withoutTime(inFolder(contents(path), folder, "~"));
     else if (!isToolkits(name)) state.texts[name] = inFolder(contents(path), folder, "~");
@@ -109,6 +122,7 @@ void readFile(const fs::path& path, const std::string& name, const std::string& 
 bool isToolkits(const std::string& file) { return file.starts_with("home/"); }
 
 void change(const std::string& project, const std::string& sql) {
+    if (isJet(project)) return changeJet(project, sql);
     sqlite3* handle = nullptr;
     const bool opened = sqlite3_open_v2(project.c_str(), &handle, SQLITE_OPEN_READWRITE, nullptr) == SQLITE_OK;
     const Database database(handle);
@@ -117,6 +131,7 @@ void change(const std::string& project, const std::string& sql) {
 }
 
 bool isSound(const std::string& project) {
+    if (isJet(project)) return !jetText(project).starts_with("damaged");
     sqlite3* handle = nullptr;
     const bool opened = sqlite3_open_v2(project.c_str(), &handle, SQLITE_OPEN_READONLY, nullptr) == SQLITE_OK;
     const Database database(handle);
@@ -125,11 +140,15 @@ bool isSound(const std::string& project) {
 
 State State::of(const std::string& folder) {
     State state;
-    state.project = "none";
+    std::vector<fs::path> files;  // reading a project makes and removes some
     for (const auto& entry : fs::recursive_directory_iterator(folder)) {
-        if (!entry.is_regular_file()) continue;
-        readFile(entry.path(), fs::relative(entry.path(), folder), folder, state);
+        if (entry.is_regular_file()) files.push_back(entry.path());
     }
+    Projects projects;
+    for (const fs::path& file : files) {
+        if (fs::exists(file)) readFile(file, fs::relative(file, folder), folder, state, projects);
+    }
+    state.project = textOf(projects);
     // Afterwards: what a project had left is gone now.
     for (const auto& entry : fs::recursive_directory_iterator(folder)) {
         if (entry.is_regular_file()) state.files.insert(fs::relative(entry.path(), folder));

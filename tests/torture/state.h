@@ -18,7 +18,7 @@ void change(const std::string& project, const std::string& sql);
 
 /// What a folder holds for its user.
 struct State {
-    std::string project;                        ///< all rows of the project; "none" without one, "damaged: ..." else
+    std::string project;                        ///< all rows of its projects; "none" without one, "damaged: ..." else
     std::map<std::string, std::string> texts;   ///< other files, by name; not the toolkit's
     std::map<std::string, std::string> values;  ///< settings and registry, by file, section and key
     std::set<std::string> files;
