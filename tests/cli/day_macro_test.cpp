@@ -15,12 +15,27 @@ constexpr const char* macro = HX_SAMPLES_FOLDER "/../tests/cli/macros/day.lua";
 
 class DayMacro : public CliTest {
   protected:
-    Result day(const char* language, const char* last = nullptr) {
+    /// On a new project, or on the empty one that is there.
+    Result day(const char* language, const char* last = nullptr, bool isThere = false) {
         const std::string folder = std::filesystem::path(folder_.path()).make_preferred().string();
-        std::vector<const char*> arguments{"run",    "--folder", folder.c_str(), "--lcid",
-                                           language, macro,      folder.c_str()};
+        std::vector<const char*> arguments{"run", "--folder", folder.c_str(), "--lcid", language};
+        if (isThere) arguments.insert(arguments.end(), {"--project", project_.c_str()});
+        arguments.insert(arguments.end(), {macro, folder.c_str()});
         if (last != nullptr) arguments.push_back(last);
         return hxrecipe(arguments);
+    }
+    Result jetDay(const char* language) {
+        EXPECT_EQ(hxrecipe({"new", "--format", "jet", project_.c_str()}).status, 0);
+        return day(language, nullptr, true);
+    }
+    void requireDatabase() {
+        EXPECT_EQ(query(project_,
+                        "SELECT ID, Name, VarRecipeName, FilePath, FileExtension, Enabled, Comment, "
+                        "StandardValue, VarSetValue, Options FROM TrcpRecipe ORDER BY ID"),
+                  "1|Cola|Start|<ProjectDir>\\Rezepte|re|True|kühl|2.5|Start|2,3|Fill||||False||0||0");
+        EXPECT_EQ(query(project_, "SELECT ParentID, VarRecipe, ChildID FROM TrcpRecipeMember ORDER BY ID"),
+                  "1|Pump|0,1|Name.Cola|3");
+        EXPECT_EQ(query(project_, "SELECT COUNT(*) FROM ThxVariable"), "8");
     }
     const std::string project_ = folder_.file("day.hxs");
 };
@@ -44,13 +59,7 @@ TEST_F(DayMacro, GoesWellInBothLanguages) {
 
 TEST_F(DayMacro, LeavesTheDatabaseThatItHasWorkedFor) {
     ASSERT_EQ(day("1031").status, 0);
-    EXPECT_EQ(query(project_,
-                    "SELECT ID, Name, VarRecipeName, FilePath, FileExtension, Enabled, Comment, "
-                    "StandardValue, VarSetValue, Options FROM TrcpRecipe ORDER BY ID"),
-              "1|Cola|Start|<ProjectDir>\\Rezepte|re|True|kühl|2.5|Start|2,3|Fill||||False||0||0");
-    EXPECT_EQ(query(project_, "SELECT ParentID, VarRecipe, ChildID FROM TrcpRecipeMember ORDER BY ID"),
-              "1|Pump|0,1|Name.Cola|3");
-    EXPECT_EQ(query(project_, "SELECT COUNT(*) FROM ThxVariable"), "8");
+    requireDatabase();
     const std::string settings = contents(folder_.file("HXEditors.ini"));
     for (const char* line : {"Me.Font.Name=Courier New", "tdbRM.Columns(\"VarRecipe\").Width=2000",
                              "tdbRM.Columns(\"ChildID\").Visible=False", "SaveOnExit=False", "RequestOnDelete=False"}) {
@@ -59,6 +68,20 @@ TEST_F(DayMacro, LeavesTheDatabaseThatItHasWorkedFor) {
     std::vector<std::string> files = filesInFolder();
     std::ranges::sort(files);
     EXPECT_EQ(files, (std::vector<std::string>{"HXEditors.ini", "day.hxs"}));
+}
+
+TEST_F(DayMacro, GoesWellOnAJetProject) {
+    for (const char* language : {"1031", "1033"}) {
+        const Result result = jetDay(language);
+        EXPECT_EQ(result.problems, "") << language;
+        EXPECT_EQ(result.results, steps) << language;
+        requireDatabase();
+        EXPECT_TRUE(sqlite::beginsLikeJet(project_));
+        const Result checked = hxrecipe({"check", project_.c_str()});
+        EXPECT_EQ(checked.status, 0) << checked.results;
+        std::filesystem::remove(project_);
+        std::filesystem::remove(folder_.file("HXEditors.ini"));
+    }
 }
 
 TEST_F(DayMacro, LeavesAProjectThatIsInOrder) {

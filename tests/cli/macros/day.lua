@@ -2,7 +2,7 @@
 --
 --   hxrecipe run [--lcid 1031|1033] day.lua FOLDER [LAST]
 --
--- Makes FOLDER/day.hxs. LAST is the step after which the day ends; without it the day is finished. Each step prints its
+-- Makes FOLDER/day.hxs, or works on it when an empty project of that name is the one that is open. LAST is the step after which the day ends; without it the day is finished. Each step prints its
 -- name; what is not as it should be ends the macro.
 
 local folder, last = ...
@@ -140,7 +140,7 @@ local function define(name, work) steps[#steps + 1] = {name = name, work = work}
 -- The day ------------------------------------------------------------------------------------------------------------
 
 define("new project", function()
-    studio.NewProject(file)
+    if addin == nil or addin.ProjectPath ~= file then studio.NewProject(file) end
     equal(editor, nil, "editor before the first click")
     equal(addin.ProjectName, "day")
     equal(addin.ProjectPath, file)
