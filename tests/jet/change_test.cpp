@@ -3,14 +3,28 @@
 // Whatever is changed, all that others rely on stays right: rows, indexes, counts and free pages.
 #include <gtest/gtest.h>
 
+#include "adapters/sqlite/provider.h"
 #include "random_changes.h"
 #include "samples.h"
+#include "support/jet_judge.h"
 
 namespace hx::jet {
 
 namespace {
 
-class Changes : public testing::TestWithParam<std::string> {};
+class Changes : public testing::TestWithParam<std::string> {
+  protected:
+    /// Nothing is damaged, and others read the same.
+    static void requireWhole(const Sample& sample) {
+        {
+            Opened again(sample.path());
+            EXPECT_EQ(damagesOf(*again), std::vector<std::string>());
+        }
+        if (GetParam() == "sonderlich.hxs") return;  // mdb-export shows a row of it that its maker has deleted
+        sqlite::Provider provider;
+        EXPECT_EQ(support::differenceFromMdbExport(provider, sample.path()), "");
+    }
+};
 
 TEST_P(Changes, LeaveEveryIndexRight) {
     const Sample sample(GetParam());
@@ -23,8 +37,7 @@ TEST_P(Changes, LeaveEveryIndexRight) {
         EXPECT_GT(figures.removed, 20);
         EXPECT_EQ(damagesOf(*opened), std::vector<std::string>());
     }
-    Opened again(sample.path());
-    EXPECT_EQ(damagesOf(*again), std::vector<std::string>());
+    requireWhole(sample);
 }
 
 TEST_P(Changes, ThatDoNotFitIntoMemoryLeaveEveryIndexRight) {
@@ -35,8 +48,7 @@ TEST_P(Changes, ThatDoNotFitIntoMemoryLeaveEveryIndexRight) {
         (void)RandomChanges(*opened, 12).run(600);
         EXPECT_EQ(damagesOf(*opened), std::vector<std::string>());
     }
-    Opened again(sample.path());
-    EXPECT_EQ(damagesOf(*again), std::vector<std::string>());
+    requireWhole(sample);
 }
 
 TEST_P(Changes, ThatDoNotFitIntoMemoryAndAreTakenBackLeaveNoTrace) {

@@ -8,6 +8,7 @@
 #include "automation/convert.h"
 #include "history/recording_provider.h"
 #include "support/faulty_provider.h"
+#include "support/jet_judge.h"
 #include "support/memory_provider.h"
 #include "support/temporary_folder.h"
 
@@ -34,7 +35,8 @@ class FileStore : public Store {
     FileStore() { sqlite::createProject(path(), format); }
     ado::Provider& provider() override { return provider_; }
     std::string path() const override { return folder_.file("plant.hxs"); }
-    bool knowsCaseOfAllLetters() const override { return format == sqlite::ProjectFormat::sqlite; }
+    bool knowsCaseOfAllLetters() const override { return !isJet(); }
+    bool isJet() const override { return format == sqlite::ProjectFormat::jet; }
 
   private:
     // One connection after the other: whoever waits would wait for ever.
@@ -58,6 +60,7 @@ class WrappedStore : public Store {
     ado::Provider& provider() override { return provider_; }
     std::string path() const override { return inner_.path(); }
     bool knowsCaseOfAllLetters() const override { return inner_.knowsCaseOfAllLetters(); }
+    bool isJet() const override { return inner_.isJet(); }
 
   private:
     Inner inner_;
@@ -72,6 +75,7 @@ class RecordedStore : public Store {
     ado::Provider& provider() override { return provider_; }
     std::string path() const override { return inner_.path(); }
     bool knowsCaseOfAllLetters() const override { return inner_.knowsCaseOfAllLetters(); }
+    bool isJet() const override { return inner_.isJet(); }
 
   private:
     Inner inner_;
@@ -95,6 +99,13 @@ const std::vector<StoreKind>& storeKinds() {
         {"FaultyMemory", [] { return std::make_unique<WrappedStore<MemoryStore>>(); }},
     };
     return kinds;
+}
+
+void ProviderContract::TearDown() {
+    connection_.reset();
+    if (store_->isJet()) {
+        EXPECT_EQ(support::differenceFromMdbExport(store_->provider(), store_->path()), "");
+    }
 }
 
 std::string ProviderContract::connectionString() const {

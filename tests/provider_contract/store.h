@@ -26,6 +26,8 @@ class Store {
     /// Whether names are the same by the case of all letters. A Jet index has an order of its own, in which a few
     /// letters that are younger than it have no case.
     [[nodiscard]] virtual bool knowsCaseOfAllLetters() const { return true; }
+    /// Whether other programs for Jet databases read it.
+    [[nodiscard]] virtual bool isJet() const { return false; }
 };
 
 /// A kind of store that the suite runs against.
@@ -44,6 +46,8 @@ using Values = std::vector<std::pair<std::string, Variant>>;
 class ProviderContract : public testing::TestWithParam<StoreKind> {
   protected:
     ProviderContract() : store_(GetParam().make()), connection_(connect()) {}
+    /// Whatever was written: others read the same.
+    void TearDown() override;
 
     [[nodiscard]] std::shared_ptr<ado::Connection> connect() const;
     [[nodiscard]] std::string connectionString() const;
