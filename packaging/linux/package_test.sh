@@ -27,6 +27,7 @@ version=$(dpkg-deb -f "$package" Version)
 sample=$HOME/Getraenkelinie.hxs
 cp "$root/usr/share/helvixstudio/samples/Getraenkelinie.hxs" "$sample"
 hxrecipe list "$sample" | grep -q "Apfelsaft" || fail "the sample has no recipes"
+hxrecipe diff "$sample" "$root/usr/share/helvixstudio/samples/Getraenkelinie-Jet.hxs" || fail "the Jet sample is another"
 
 # The desktop knows the project by its name and by its beginning, and what opens it.
 cp -r "$root/usr/share/mime" "$HOME/mime-source"
