@@ -45,7 +45,7 @@ void RowWatch::fill(std::vector<ado::StoredValue>& row, ValueGiver give) const {
     for (std::size_t i = 0; i < row.size(); ++i) {
         sqlite3_value* value = nullptr;
         if (give(handle_, static_cast<int>(i), &value) != SQLITE_OK) throw std::bad_alloc();
-        row[i] = storedValue(value);
+        putStored(row[i], value);
         const bool isText = row[i].kind == ado::StoredValue::Kind::text;
         if (isText && row[i].text.data() == nullptr) throw std::bad_alloc();
     }

@@ -127,13 +127,13 @@ Variant Statement::value(int column, ado::DataType type) const {
 void Statement::giveRows(std::span<const std::size_t> columns, const ado::StoredRowReceiver& receive) {
     std::vector<ado::StoredValue> row(columns.size());
     while (step()) {
-        for (std::size_t i = 0; i < row.size(); ++i) row[i] = stored(static_cast<int>(columns[i]));
+        for (std::size_t i = 0; i < row.size(); ++i) putStored(row[i], static_cast<int>(columns[i]));
         receive(row);
     }
 }
 
-ado::StoredValue Statement::stored(int column) const {
-    return storedValue(sqlite3_column_value(statement_.get(), column));
+void Statement::putStored(ado::StoredValue& place, int column) const {
+    sqlite::putStored(place, sqlite3_column_value(statement_.get(), column));
 }
 
 ado::StoredValue storedValue(sqlite3_value* value) {

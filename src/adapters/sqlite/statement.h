@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <memory>
+#include <new>
 #include <span>
 #include <string>
 #include <string_view>
@@ -21,6 +22,11 @@ class Database;
 
 /// A value exactly as it is stored, lent as long as SQLite lends it.
 [[nodiscard]] ado::StoredValue storedValue(sqlite3_value* value);
+/// The same where many are read: the value is made in its place, as a copy would wait for what was just written in
+/// parts.
+inline void putStored(ado::StoredValue& place, sqlite3_value* value) {
+    new (&place) ado::StoredValue(storedValue(value));
+}
 
 /// A prepared statement. Parameters count from 1, columns from 0. The wrappers that libraries give (SQLiteCpp) keep the
 /// handle to themselves: where a statement ends in its text and whether it only reads cannot be asked of them, and both
@@ -60,7 +66,7 @@ class Statement {
     [[nodiscard]] ado::DataType storedType(int column) const noexcept;
 
     /// Exactly as it is stored; lent until the next step or reset.
-    [[nodiscard]] ado::StoredValue stored(int column) const;
+    void putStored(ado::StoredValue& place, int column) const;
 
   private:
     struct Finalizer {

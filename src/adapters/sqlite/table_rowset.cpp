@@ -208,7 +208,7 @@ void TableRowset::readStored(std::span<const Key> keys, const ado::StoredRowRece
         const ResetGuard guard(statement);
         statement.bind(1, key);
         if (!statement.step()) continue;
-        for (std::size_t i = 0; i < row.size(); ++i) row[i] = statement.stored(static_cast<int>(i));
+        for (std::size_t i = 0; i < row.size(); ++i) statement.putStored(row[i], static_cast<int>(i));
         receive(row);
     }
 }
