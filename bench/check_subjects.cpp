@@ -54,7 +54,10 @@ constexpr const char* queries[] = {
 Project check_project::plant(const Project& beside) {
     const std::string path = std::filesystem::path(beside.path).replace_filename("check.hxs").string();
     const Project project{path, beside.recipes, 0};
-    if (std::filesystem::exists(path)) return project;
+    if (std::filesystem::exists(path)) {
+        LimitDatabase(project).execute("SELECT count(*) FROM TrcpRecipeMember");  // not from the disk, as a new one
+        return project;
+    }
     const cli::Output output{std::cout, std::cerr, false};
     cli::generate({project.recipes, project.recipes * variablesEach, 0}, path, output);
     LimitDatabase database(project);

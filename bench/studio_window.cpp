@@ -54,6 +54,9 @@ StudioWindow::StudioWindow(const Project& project) : host_(folder_.path(), {QStr
     click("Gesamtanlage");
     findGrid();
     require(grid_ != nullptr && rows() == project.big, "the editor does not show the recipe");
+    // What is wrong in the project is read beside; a user finds it there when he begins.
+    const auto* const problems = window_.findChild<QWidget*>("problemsCount");
+    while (!problems->isVisibleTo(&window_)) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     grid_->setFocus();
     settle();
 }
