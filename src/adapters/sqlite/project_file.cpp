@@ -43,13 +43,15 @@ ProjectDraft::ProjectDraft(std::string path) : path_(std::move(path)) {
     requireFree(path_);
     file_.emplace(hosting::fileSystemPath(path_));
     temporary_ = file_->temporary().string();
-    journal_ = file_->temporary();
+    journal_ = users_ = file_->temporary();
     journal_ += "-journal";
+    users_.replace_extension(".ldb");
 }
 
 ProjectDraft::~ProjectDraft() {
     std::error_code ignored;
     fs::remove(journal_, ignored);
+    fs::remove(users_, ignored);
 }
 
 void ProjectDraft::createTables(bool withIndexes) {

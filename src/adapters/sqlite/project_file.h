@@ -43,7 +43,7 @@ class ProjectDraft {
     std::string path_;
     std::optional<hosting::FileReplacement> file_;
     std::string temporary_;
-    std::filesystem::path journal_;  // made early: where memory is short, taking it away asks for none
+    std::filesystem::path journal_, users_;  // made early: where memory is short, taking it away asks for none
 };
 
 }  // namespace hx::sqlite
