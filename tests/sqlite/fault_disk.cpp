@@ -66,7 +66,9 @@ int openFile(sqlite3_vfs* vfs, const char* name, sqlite3_file* file, int flags, 
 int deleteFile(sqlite3_vfs* vfs, const char* name, int syncFolder) {
     FaultDisk& disk = of(vfs);
     if (const int fault = disk.pass(); fault != SQLITE_OK) return fault;
-    return disk.real().xDelete(&disk.real(), name, syncFolder);
+    const int code = disk.real().xDelete(&disk.real(), name, 0);
+    if (code != SQLITE_OK || syncFolder == 0) return code;
+    return disk.pass() == SQLITE_OK ? SQLITE_OK : SQLITE_IOERR_DIR_FSYNC;  // the file is gone all the same
 }
 
 }  // namespace

@@ -59,6 +59,7 @@ void Journal::flush() {
 
 void Journal::read(std::uint32_t page, Byte* bytes) {
     flush();
+    if (!file_) file_ = storage_.open(Storage::Kind::journal, path_);  // it could not be removed
     file_->read(headSize + std::uint64_t{records_.at(page)} * recordSize + 4, {bytes, pageSize});
 }
 
@@ -69,8 +70,9 @@ void Journal::sync() {
 }
 
 void Journal::remove() {
-    close();
+    file_.reset();
     storage_.remove(path_);
+    close();
 }
 
 void Journal::close() noexcept {

@@ -31,7 +31,7 @@ class Journal {
     void read(std::uint32_t page, Byte* bytes);
     /// Returns when a power failure can no longer take it.
     void sync();
-    /// The transaction holds from here on, or has been undone.
+    /// The transaction holds from here on, or has been undone. After an error it does where the journal does not exist.
     void remove();
     /// Forgets it without touching the file.
     void close() noexcept;

@@ -138,10 +138,23 @@ void Pages::commit() {
         if (file_->size() > std::uint64_t{count_} * pageSize) file_->truncate(std::uint64_t{count_} * pageSize);
         file_->sync();
         if (users_) users_->countChange();
-        journal_.remove();
+        removeJournal();
         if (users_) seenChanges_ = users_->changes();
     }
     leaveTransaction();
+}
+
+// Once it is gone there is nothing to take back, even where the disk does not confirm that.
+void Pages::removeJournal() {
+    try {
+        journal_.remove();
+    } catch (const Error&) {
+        if (journal_.exists()) throw;
+        journal_.close();
+        seenChanges_ = -1;
+        leaveTransaction();
+        throw Error(ado::dbErrUnspecified, sentence::notConfirmed, {path()});
+    }
 }
 
 void Pages::writeOut(Which which) {
@@ -179,7 +192,7 @@ void Pages::putOriginalsBack() {
     std::uint32_t pages = 0;
     journal_.sync();
     const auto put = [&](std::uint32_t page, Bytes bytes) { file_->write(std::uint64_t{page} * pageSize, bytes); };
-    (void)journal_.replay(put, pages);
+    if (!journal_.replay(put, pages)) throw Error(ado::dbErrUnspecified, sentence::notWhole, {path()});
     file_->truncate(std::uint64_t{countBefore_} * pageSize);
     file_->sync();
 }

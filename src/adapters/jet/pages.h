@@ -84,6 +84,7 @@ class Pages {
     void writeOut(Which which);
     void takeBack(Savepoint& savepoint);
     void putOriginalsBack();
+    void removeJournal();
     void forgetChanges() noexcept;
     void leaveTransaction() noexcept;
 

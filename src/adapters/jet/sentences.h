@@ -25,6 +25,9 @@ inline constexpr Sentence brokenReadOnly{
     "kann nicht zurückgenommen werden, da die Datei schreibgeschützt ist."};
 inline constexpr Sentence notWhole{"The changes to '%1' were not carried out as a whole; they are taken back.",
                                    "Die Änderungen an '%1' wurden nicht ganz ausgeführt; sie werden zurückgenommen."};
+inline constexpr Sentence notConfirmed{
+    "The changes to '%1' are stored, but the disk does not confirm that it keeps them.",
+    "Die Änderungen an '%1' sind gespeichert, aber der Datenträger bestätigt nicht, dass er sie behält."};
 inline constexpr Sentence tooLarge{
     "The project '%1' is full: a Jet database holds two gigabytes at most. \"hxrecipe convert\" makes a project of it "
     "that holds more.",
