@@ -2,10 +2,12 @@
 
 // Commands that write many rows, from the click to the grid that shows what is left.
 #include <algorithm>
+#include <array>
 #include <memory>
 #include <string>
 #include <vector>
 
+#include "adapters/sqlite/provider.h"
 #include "bench/command_window.h"
 #include "bench/limit_database.h"
 #include "bench/require.h"
@@ -30,13 +32,16 @@ Names otherOrder(const Project& project) {
     return names;
 }
 
+// In projects of any format.
 void requireReplaced(const Project& project, const Names& names) {
-    LimitDatabase database(project);
-    require(database.number("SELECT COUNT(*) " + membersOfBig) == project.big, "wrong number of members");
-    const std::string first = "(SELECT MIN(ID) " + membersOfBig + ")";
-    require(database.number("SELECT COUNT(*) FROM TrcpRecipeMember WHERE ID = " + first + " AND VarRecipe = '" +
-                            names.front() + "'") == 1,
-            "the members were not replaced");
+    sqlite::Provider provider;
+    const auto rows = provider.connect("Data Source=\"" + project.path + "\";Mode=Read;")
+                          ->open("SELECT VarRecipe " + membersOfBig + " ORDER BY ID", ado::adCmdText);
+    std::int64_t count = 0;
+    rows->scan(std::array{std::size_t{0}}, [&](std::span<const ado::StoredValue> row) {
+        require(count++ > 0 || row[0].text == names.front(), "the members were not replaced");
+    });
+    require(count == project.big, "wrong number of members");
 }
 
 void requireNoMembers(const Project& project) {

@@ -244,6 +244,42 @@ Row findLastByName(const Project& project, int rounds) {
                       "Name='" + project::recipeName(project.recipes - 1) + "'");
 }
 
+Row selectInJet(const Project& project, int rounds) {
+    namespace subject = select_recipe;
+    const auto costs = compare(
+        {subject::ours(jet_project::of(project), bigRecipe), {}, subject::limit(project, bigRecipe)}, rounds, fewRuns);
+    return {"the same project in Jet: select the big recipe",
+            costs[0],
+            {},
+            costs[2],
+            {.atMostOfLimit = 2.0, .atMostMegabytes = 12.0}};
+}
+
+Row showFirstPageOfJet(const Project& project, int rounds) {
+    const auto costs = compare({show_grid::firstPage(jet_project::of(project))}, rounds, manyRuns);
+    return {"show its first page", costs[0], {}, {}, {.atMostMilliseconds = 5.0}};
+}
+
+Row fillExplorerFromJet(const Project& project, int rounds) {
+    const auto costs =
+        compare({fill_explorer::ours(jet_project::of(project)), {}, fill_explorer::ours(project)}, rounds, 1);
+    return {"add its recipes to the explorer; limit: SQLite's", costs[0], {}, costs[2], {.atMostOfLimit = 1.5}};
+}
+
+Row readJet(const Project& project, int rounds) {
+    const Project jet = jet_project::of(project);
+    const auto costs = compare({jet_project::readMembers(jet), jet_project::readMembersByPeer(jet)}, rounds, fewRuns);
+    return {"read its members; peer: mdbtools", costs[0], costs[1], {}, {.atLeastPeer = 2.0}};
+}
+
+Row replaceVariablesInJet(const Project& project, int rounds) {
+    namespace subject = replace_variables;
+    const Project large = plant(project);
+    const auto costs = compare({subject::ours(jet_project::of(large)), {}, subject::limit(large)}, rounds, fewRuns);
+    return {
+        "replace " + std::to_string(large.big) + " variables in Jet", costs[0], {}, costs[2], {.atMostOfLimit = 3.0}};
+}
+
 constexpr auto table = std::to_array<Measurement>({
     {"select-big", &selectBig},
     {"first-page", &showFirstPage},
@@ -274,6 +310,11 @@ constexpr auto table = std::to_array<Measurement>({
     {"check-variables", &checkAllVariables},
     {"check", &checkProject},
     {"find-text", &findText},
+    {"jet-select", &selectInJet},
+    {"jet-first-page", &showFirstPageOfJet},
+    {"jet-explorer", &fillExplorerFromJet},
+    {"jet-read", &readJet},
+    {"jet-replace", &replaceVariablesInJet},
     {"report-read", &readForReport},
     {"report", &showReport},
     {"report-scroll", &scrollReport},

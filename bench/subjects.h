@@ -151,4 +151,12 @@ namespace make_report {
 [[nodiscard]] Subject pdf(const std::string& path);
 }  // namespace make_report
 
+/// The project as a Jet database beside it, made once.
+namespace jet_project {
+[[nodiscard]] Project of(const Project& original);
+/// Reads all columns of all members.
+[[nodiscard]] Subject readMembers(const Project& project);
+[[nodiscard]] Subject readMembersByPeer(const Project& project);
+}  // namespace jet_project
+
 }  // namespace hx::bench

@@ -174,9 +174,9 @@ class PeerTree {
         query.setForwardOnly(true);
         if (!query.exec("SELECT ID, Name FROM TrcpRecipe ORDER BY ID"))
             throw std::runtime_error("the peer cannot read");
-        QList<QTreeWidgetItem*> recipes;
-        while (query.next()) recipes.append(recipe(query.value(0).toInt(), query.value(1).toString()));
-        root_->addChildren(recipes);
+        QList<QTreeWidgetItem*> items;
+        while (query.next()) items.append(recipe(query.value(0).toInt(), query.value(1).toString()));
+        root_->addChildren(items);
         root_->setExpanded(true);
         Desktop::settle();
     }

@@ -29,11 +29,12 @@ IndexPage::IndexPage(PageRef page, std::uint32_t table) : page_(std::move(page))
     const Byte kind = bytes()[0];
     require((kind == nodeKind || kind == leafKind) && get32(bytes() + tableAt) == table, page_.number(),
             sentence::noIndexPage);
-    readEnds();
+    if (!page_.frame().hasEnds) readEnds();
 }
 
 void IndexPage::make(const PageRef& page, std::uint32_t table, bool isLeaf) noexcept {
     std::memset(page.data(), 0, pageSize);
+    page.frame().hasEnds = false;
     page.data()[0] = isLeaf ? leafKind : nodeKind;
     page.data()[1] = 1;
     put16(page.data() + freeAt, room);
@@ -44,34 +45,35 @@ bool IndexPage::isLeaf() const noexcept { return bytes()[0] == leafKind; }
 
 // A bit for each byte of the entries: set where an entry ends.
 void IndexPage::readEnds() {
+    std::vector<std::uint16_t>& ends = this->ends();
+    ends.clear();
     for (std::size_t at = 0; at < maskSize; at += sizeof(std::uint64_t)) {
         Byte word[sizeof(std::uint64_t)] = {};
         std::memcpy(word, bytes() + maskAt + at, std::min(sizeof word, maskSize - at));
         for (std::uint64_t bits = get64(word); bits != 0; bits &= bits - 1) {
             const auto end = static_cast<std::uint32_t>(at * 8) + static_cast<std::uint32_t>(std::countr_zero(bits));
             require(end > used() && end <= room, page_.number(), sentence::noIndexPage);
-            ends_[count_++] = static_cast<std::uint16_t>(end);
+            ends.push_back(static_cast<std::uint16_t>(end));
         }
     }
     const std::uint32_t shared = sharedSize();
-    require(count_ == 0 || (shared <= ends_[0] && ends_[0] > tailSize()), page_.number(), sentence::noIndexPage);
-    for (std::uint32_t i = 1; i < count_; ++i) {
-        require(shared + ends_[i] - ends_[i - 1] > tailSize(), page_.number(), sentence::noIndexPage);
+    require(ends.empty() || (shared <= ends[0] && ends[0] > tailSize()), page_.number(), sentence::noIndexPage);
+    for (std::size_t i = 1; i < ends.size(); ++i) {
+        require(shared + ends[i] - ends[i - 1] > tailSize(), page_.number(), sentence::noIndexPage);
     }
+    page_.frame().hasEnds = true;
 }
 
 void IndexPage::writeEnds() noexcept {
     Byte* const mask = bytes() + maskAt;
     std::memset(mask, 0, maskSize);
-    for (std::uint32_t i = 0; i < count_; ++i) {
-        mask[ends_[i] / 8] = static_cast<Byte>(mask[ends_[i] / 8] | 1 << ends_[i] % 8);
-    }
+    for (const std::uint16_t end : ends()) mask[end / 8] = static_cast<Byte>(mask[end / 8] | 1 << end % 8);
     put16(bytes() + freeAt, room - used());
 }
 
 IndexPage::Entry IndexPage::entry(std::uint32_t number) const noexcept {
     const std::uint32_t from = start(number);
-    const Bytes own(area() + from, ends_[number] - from);
+    const Bytes own(area() + from, ends()[number] - from);
     return {number == 0 ? Bytes() : Bytes(area(), sharedSize()), own};
 }
 
@@ -113,7 +115,7 @@ int IndexPage::compare(std::uint32_t number, Bytes keyAndPlace) const noexcept {
 }
 
 std::uint32_t IndexPage::find(Bytes keyAndPlace) const noexcept {
-    std::uint32_t from = 0, to = count_;
+    std::uint32_t from = 0, to = entries();
     while (from < to) {
         const std::uint32_t middle = (from + to) / 2;
         if (compare(middle, keyAndPlace) < 0) from = middle + 1;
@@ -134,37 +136,37 @@ bool IndexPage::equalsKey(std::uint32_t number, Bytes key) const noexcept {
 }
 
 // All but the first stand without what is shared: so the place of a new first entry is behind that, too.
-bool IndexPage::insert(std::uint32_t number, Bytes entry) noexcept {
-    const std::uint32_t shared = count_ == 0 ? 0 : sharedSize();
+bool IndexPage::insert(std::uint32_t number, Bytes entry) {
+    std::vector<std::uint16_t>& ends = this->ends();
+    const std::uint32_t shared = ends.empty() ? 0 : sharedSize();
     if (entry.size() <= shared) return false;
     if (shared > 0 && std::memcmp(area(), entry.data(), shared) != 0) return false;
     const Bytes own = entry.subspan(shared);
     if (used() + own.size() > room) return false;
-    const std::uint32_t at = number == 0 ? shared : start(number);
-    const auto by = static_cast<std::uint32_t>(own.size());
-    std::memmove(area() + at + by, area() + at, used() - at);
+    const std::uint32_t at = number == 0 ? shared : start(number), all = used();
+    const auto by = static_cast<std::uint16_t>(own.size());
+    ends.insert(ends.begin() + number, static_cast<std::uint16_t>(at));
+    for (std::size_t i = number; i < ends.size(); ++i) ends[i] = static_cast<std::uint16_t>(ends[i] + by);
+    std::memmove(area() + at + by, area() + at, all - at);
     std::memcpy(area() + at, own.data(), own.size());
-    for (std::uint32_t i = count_; i > number; --i) ends_[i] = static_cast<std::uint16_t>(ends_[i - 1] + by);
-    ends_[number] = static_cast<std::uint16_t>(at + by);
-    ++count_;
-    if (count_ == 1) put16(bytes() + sharedAt, 0);
+    if (ends.size() == 1) put16(bytes() + sharedAt, 0);
     writeEnds();
     return true;
 }
 
 void IndexPage::erase(std::uint32_t number) {
-    const std::uint32_t at = number == 0 ? (count_ == 1 ? 0 : sharedSize()) : start(number);
-    const std::uint32_t by = ends_[number] - at;
-    std::memmove(area() + at, area() + ends_[number], used() - ends_[number]);
-    --count_;
-    for (std::uint32_t i = number; i < count_; ++i) ends_[i] = static_cast<std::uint16_t>(ends_[i + 1] - by);
-    if (count_ == 0) put16(bytes() + sharedAt, 0);
+    std::vector<std::uint16_t>& ends = this->ends();
+    const std::uint32_t at = number == 0 ? (ends.size() == 1 ? 0 : sharedSize()) : start(number), end = ends[number];
+    std::memmove(area() + at, area() + end, used() - end);
+    ends.erase(ends.begin() + number);
+    for (std::size_t i = number; i < ends.size(); ++i) ends[i] = static_cast<std::uint16_t>(ends[i] - (end - at));
+    if (ends.empty()) put16(bytes() + sharedAt, 0);
     writeEnds();
 }
 
 std::vector<Buffer> IndexPage::all() const {
-    std::vector<Buffer> entries(count_);
-    for (std::uint32_t i = 0; i < count_; ++i) entry(i).appendTo(entries[i]);
+    std::vector<Buffer> entries(ends().size());
+    for (std::uint32_t i = 0; i < entries.size(); ++i) entry(i).appendTo(entries[i]);
     return entries;
 }
 
@@ -174,14 +176,16 @@ bool IndexPage::assign(std::span<const Buffer> entries) {
     std::size_t size = shared;
     for (const Buffer& entry : entries) size += entry.size() - shared;
     if (size > room) return false;
+    std::vector<std::uint16_t>& ends = this->ends();
+    ends.reserve(entries.size());
+    ends.clear();
     put16(bytes() + sharedAt, shared);
-    count_ = 0;
     std::uint32_t at = 0;
     for (const Buffer& entry : entries) {
-        const Bytes own = Bytes(entry).subspan(count_ == 0 ? 0 : shared);
+        const Bytes own = Bytes(entry).subspan(ends.empty() ? 0 : shared);
         std::memcpy(area() + at, own.data(), own.size());
         at += static_cast<std::uint32_t>(own.size());
-        ends_[count_++] = static_cast<std::uint16_t>(at);
+        ends.push_back(static_cast<std::uint16_t>(at));
     }
     std::memset(area() + at, 0, room - at);
     writeEnds();

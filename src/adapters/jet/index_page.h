@@ -30,7 +30,7 @@ class IndexPage {
     void setNext(std::uint32_t page) noexcept { put32(bytes() + 16, page); }
     void setTail(std::uint32_t page) noexcept { put32(bytes() + 20, page); }
 
-    [[nodiscard]] std::uint32_t entries() const noexcept { return count_; }
+    [[nodiscard]] std::uint32_t entries() const noexcept { return static_cast<std::uint32_t>(ends().size()); }
     /// The whole entry in two parts: what is shared, and its own.
     struct Entry {
         Bytes shared, own;
@@ -53,7 +53,7 @@ class IndexPage {
     [[nodiscard]] bool equalsKey(std::uint32_t number, Bytes key) const noexcept;
 
     /// Puts the entry before this one; false when it does not go in as the page is.
-    [[nodiscard]] bool insert(std::uint32_t number, Bytes entry) noexcept;
+    [[nodiscard]] bool insert(std::uint32_t number, Bytes entry);
     void erase(std::uint32_t number);
 
     /// All entries, whole.
@@ -68,17 +68,16 @@ class IndexPage {
     [[nodiscard]] Byte* area() const noexcept { return bytes() + 480; }
     [[nodiscard]] std::uint32_t sharedSize() const noexcept { return get16(bytes() + 24); }
     [[nodiscard]] std::uint32_t tailSize() const noexcept { return isLeaf() ? placeSize : placeSize + childSize; }
+    [[nodiscard]] std::vector<std::uint16_t>& ends() const noexcept { return page_.frame().ends; }
     [[nodiscard]] std::uint32_t start(std::uint32_t number) const noexcept {
-        return number == 0 ? 0 : ends_[number - 1];
+        return number == 0 ? 0 : ends()[number - 1];
     }
-    [[nodiscard]] std::uint32_t used() const noexcept { return count_ == 0 ? 0 : ends_[count_ - 1]; }
+    [[nodiscard]] std::uint32_t used() const noexcept { return ends().empty() ? 0 : ends().back(); }
     [[nodiscard]] int compare(std::uint32_t number, Bytes keyAndPlace) const noexcept;
     void readEnds();
     void writeEnds() noexcept;
 
     PageRef page_;
-    std::uint32_t count_ = 0;
-    std::uint16_t ends_[room];
 };
 
 }  // namespace hx::jet

@@ -22,7 +22,7 @@ Frame& PageCache::add(std::uint32_t page) {
     Frame& frame = *free_.back();
     free_.pop_back();
     frame.number = page;
-    frame.changed = false;
+    frame.changed = frame.hasEnds = false;
     frame.used = true;
     byNumber_[page] = &frame;
     return frame;

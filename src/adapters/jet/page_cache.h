@@ -18,6 +18,10 @@ struct Frame {
     std::int32_t users = 0;
     bool changed = false;
     bool used = false;  // since the last search for room
+    // Where the entries of an index page end, once somebody has read that; whoever changes its bytes otherwise forgets
+    // it.
+    bool hasEnds = false;
+    std::vector<std::uint16_t> ends;
 };
 
 /// A page that stays in memory while it is held.
@@ -40,6 +44,7 @@ class PageRef {
     [[nodiscard]] explicit operator bool() const noexcept { return frame_ != nullptr; }
     [[nodiscard]] std::uint32_t number() const noexcept { return frame_->number; }
     [[nodiscard]] Byte* data() const noexcept { return frame_->bytes.data(); }
+    [[nodiscard]] Frame& frame() const noexcept { return *frame_; }
 
   private:
     Frame* frame_ = nullptr;

@@ -203,7 +203,7 @@ void Pages::forgetChanges() noexcept {
         const bool journaled = journal_.holds(frame.number);
         if (!frame.changed && !(writtenOut_ && (journaled || frame.number >= countBefore_))) return;
         if (frame.users == 0) return cache_.drop(frame);
-        frame.changed = false;
+        frame.changed = frame.hasEnds = false;
         try {
             if (journaled) return journal_.read(frame.number, frame.bytes.data());
         } catch (const std::exception&) {
@@ -246,6 +246,7 @@ void Pages::takeBack(Savepoint& savepoint) {
         Frame* const known = cache_.find(page);
         Frame& frame = known != nullptr ? *known : cache_.add(page);
         frame.changed = true;
+        frame.hasEnds = false;
         if (bytes) frame.bytes = *bytes;
         else journal_.read(page, frame.bytes.data());
     }

@@ -115,29 +115,6 @@ bool Table::read(Place place, Found& found) const {
     }
 }
 
-bool Table::Scan::next(Found& found) {
-    Pages& pages = table_->database_->pages();
-    const UsageMap own(pages, table_->definition_.ownPages);
-    for (;; ++row_) {
-        if (!page_ || row_ >= page_->rows()) {
-            const std::uint32_t last = page_ ? page_->page().number() : 0;
-            const std::uint32_t page = own.next(last + 1, pages.count());
-            if (page >= pages.count()) return false;
-            page_.emplace(table_->rows_.read(page));
-            row_ = 0;
-            if (page_->rows() == 0) continue;
-        }
-        if ((page_->flags(row_) & DataPage::hidden) != 0) continue;
-        const Place place{page_->page().number(), static_cast<std::uint8_t>(row_)};
-        if (table_->read(place, found)) return ++row_, true;
-    }
-}
-
-void Table::Scan::renew(const Table& table) {
-    table_ = &table;
-    if (page_) page_.emplace(table.rows_.read(page_->page().number()));
-}
-
 std::optional<Place> Table::find(ado::Key key) {
     if (key < std::numeric_limits<std::int32_t>::min() || key > std::numeric_limits<std::uint32_t>::max()) return {};
     if (!keyIndex_) return Place::of(static_cast<std::uint32_t>(key));

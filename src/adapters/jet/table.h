@@ -79,6 +79,18 @@ class Table {
         std::uint32_t row_ = 0;
     };
 
+    /// Goes through all rows in the order of their keys. Nobody may change any meanwhile.
+    class KeyScan {
+      public:
+        explicit KeyScan(Table& table);
+        [[nodiscard]] bool next(Found& found);
+
+      private:
+        Table* table_;
+        std::optional<IndexTree::Cursor> entries_;
+        std::optional<Scan> scan_;  // where the place is the key
+    };
+
     [[nodiscard]] IndexTree& tree(std::size_t index) { return trees_[index]; }
 
     /// A value for each column; nothing for one that is not given.

@@ -40,12 +40,23 @@ void appendOther(Buffer& to, char byte) {
     appendPoint(to, automation::decodeUtf8(character, 0).point);
 }
 
+// How many bytes from the first on are ASCII.
+std::size_t asciiStart(Bytes bytes) noexcept {
+    std::size_t at = 0;
+    for (; at + 8 <= bytes.size() && (get64(bytes.data() + at) & 0x8080808080808080U) == 0; at += 8) {
+    }
+    while (at < bytes.size() && bytes[at] < 0x80) ++at;
+    return at;
+}
+
 /// Calls `plain` for the bytes that stand for a unit each and `whole` for those that stand for half of one.
 template <class Plain, class Whole>
 void unpack(Bytes stored, Plain&& plain, Whole&& whole) {
     stored = stored.subspan(2);
     for (bool packed = true; !stored.empty(); packed = !packed) {
-        const auto size = static_cast<std::size_t>(std::ranges::find(stored, Byte{0}) - stored.begin());
+        const void* const end = std::memchr(stored.data(), 0, stored.size());
+        const std::size_t size =
+            end == nullptr ? stored.size() : static_cast<std::size_t>(static_cast<const Byte*>(end) - stored.data());
         if (packed) plain(stored.first(size));
         else whole(stored.first(size));
         stored = stored.subspan(std::min(size + 1, stored.size()));
@@ -99,9 +110,11 @@ void appendUtf16(Buffer& to, std::string_view text) {
 void appendText(std::string& to, Bytes stored) {
     if (!isPacked(stored)) return appendUtf8(to, stored);
     const auto plain = [&](Bytes bytes) {
-        for (const Byte byte : bytes) {
-            if (byte < 0x80) to += static_cast<char>(byte);
-            else automation::appendUtf8(to, byte);
+        for (std::size_t at = 0; at < bytes.size();) {
+            const std::size_t ascii = asciiStart(bytes.subspan(at));
+            to.append(reinterpret_cast<const char*>(bytes.data()) + at, ascii);
+            at += ascii;
+            if (at < bytes.size()) automation::appendUtf8(to, bytes[at++]);
         }
     };
     unpack(stored, plain, [&](Bytes bytes) { appendUtf8(to, bytes); });

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "adapters/sqlite/jet_rows.h"
 
+#include <new>
+
 namespace hx::sqlite {
 
 JetRows::JetRows(JetMount& mount, const TableInfo& table, std::span<const ado::Column> columns)
@@ -11,6 +13,27 @@ JetRows::JetRows(JetMount& mount, const TableInfo& table, std::span<const ado::C
 jet::Table& JetRows::table() {
     if (mount_.isMissing(info_.name)) mount_.makeMissing();
     return mount_.table(info_.name);
+}
+
+void JetRows::scan(std::span<const std::size_t> columns, const ado::StoredRowReceiver& receive) {
+    const jet::Reading reading(mount_.project().pages());
+    if (mount_.isMissing(info_.name)) return;
+    jet::Table& table = mount_.table(info_.name);
+    jet::Table::KeyScan rows(table);
+    jet::Table::Found found;
+    std::vector<ado::StoredValue> row(columns.size());
+    std::vector<std::string> rooms(columns.size());
+    const auto next = [&] {
+        try {
+            if (!rows.next(found)) return false;
+            for (std::size_t i = 0; i < row.size(); ++i)
+                new (&row[i]) ado::StoredValue(table.value(found.row, places_[columns[i]], rooms[i]));
+            return true;
+        } catch (...) {
+            throw mount_.explained(std::current_exception());
+        }
+    };
+    while (next()) receive(row);
 }
 
 void JetRows::give(std::span<const ado::ColumnValue> values) {

@@ -9,11 +9,14 @@
 
 namespace hx::sqlite {
 
-/// Changes rows of a Jet table without a statement: it is told which values are given, also of those that are missing.
+/// Reads and changes rows of a Jet table without a statement, which would take most of the time; what is changed is
+/// told which values are given, also of those that are missing.
 class JetRows {
   public:
     JetRows(JetMount& mount, const TableInfo& table, std::span<const ado::Column> columns);
 
+    /// Gives these columns of all rows in the order of their keys.
+    void scan(std::span<const std::size_t> columns, const ado::StoredRowReceiver& receive);
     ado::Key insert(std::span<const ado::ColumnValue> values);
     void restore(std::span<const std::size_t> columns, std::span<const ado::StoredValue> row);
     /// False when there is no such row, here and below.

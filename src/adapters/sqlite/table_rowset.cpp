@@ -6,6 +6,7 @@
 #include "adapters/sqlite/criterion_sql.h"
 #include "adapters/sqlite/functions.h"
 #include "adapters/sqlite/jet_mount.h"
+#include "adapters/sqlite/jet_rows.h"
 #include "adapters/sqlite/writes.h"
 #include "automation/text.h"
 
@@ -143,6 +144,9 @@ void TableRowset::read(std::span<const Key> keys, ColumnMask mask, ado::RowSink&
 }
 
 void TableRowset::scan(std::span<const std::size_t> columns, const ado::StoredRowReceiver& receive) {
+    JetMount* const jet = writes_->database().jet();
+    const bool all = condition_.sql.empty() && order() == Order::ascendingKey;
+    if (jet != nullptr && all) return JetRows(*jet, table_, columns_).scan(columns, receive);
     const BoundSql condition = conditionWith(nullptr);
     std::string wanted;
     std::vector<std::size_t> places;
