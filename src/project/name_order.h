@@ -8,7 +8,8 @@
 namespace hx::project {
 
 /// A name in the order in which a reader looks it up: case and the marks of German letters do not count, a number
-/// counts by its value ("Tank 2" comes before "Tank 10"). Names that differ in nothing else are ordered by their bytes.
+/// counts by its value ("Tank 2" comes before "Tank 10", "0,33 l" before "0,5 l"). Names that differ in nothing else
+/// are ordered by their bytes.
 class OrderedName {
   public:
     /// The name is lent.
