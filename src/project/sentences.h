@@ -50,4 +50,13 @@ inline constexpr Sentence noName{"a name is needed.", "ein Name ist nötig."};
 inline constexpr Sentence changedSince{"it has been changed meanwhile. Nothing was replaced.",
                                        "es wurde inzwischen geändert. Es wurde nichts ersetzt."};
 
+// --- why no recipes are made; %1 is a name or pattern, %2 a number
+inline constexpr Sentence notMade{"There is a recipe “%1” already. Nothing was changed.",
+                                  "Ein Rezept „%1“ gibt es schon. Es wurde nichts geändert."};
+inline constexpr Sentence noRange{"“%1” needs a range of numbers such as {1..12}.",
+                                  "„%1“ braucht einen Zahlenbereich wie {1..12}."};
+inline constexpr Sentence otherRange{"The range in “%1” must have %2 numbers, as many as the one in the name.",
+                                     "Der Bereich in „%1“ muss %2 Zahlen haben, so viele wie der im Namen."};
+inline constexpr Sentence seriesTooLong{"“%1” stands for more than %2 recipes.", "„%1“ steht für mehr als %2 Rezepte."};
+
 }  // namespace hx::project::sentence
