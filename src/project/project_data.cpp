@@ -4,6 +4,8 @@
 #include <array>
 #include <span>
 #include <string_view>
+#include <unordered_map>
+#include <unordered_set>
 
 #include "project/id_order.h"
 #include "project/project_builder.h"
@@ -65,6 +67,18 @@ RecipeData recipeOf(Row values) {
     return recipe;
 }
 
+ProjectData readWhere(Reader& reader, const std::function<bool(std::int64_t recipe)>& isWanted) {
+    ProjectBuilder builder;
+    reader.read(schema::recipeTable, recipeColumns(), [&](Row values) {
+        if (isWanted(values[0].integer)) builder.addRecipe(recipeOf(values));
+    });
+    using namespace schema::member;
+    reader.read(schema::memberTable, std::array{parentId, childId, varRecipe}, [&](Row values) {
+        if (isWanted(values[0].integer)) builder.addMember(values[0].integer, values[1].integer, values[2].text);
+    });
+    return builder.build();
+}
+
 }  // namespace
 
 std::optional<std::size_t> ProjectData::find(std::int64_t id) const {
@@ -73,12 +87,22 @@ std::optional<std::size_t> ProjectData::find(std::int64_t id) const {
 }
 
 ProjectData readProject(Reader& reader) {
-    ProjectBuilder builder;
-    reader.read(schema::recipeTable, recipeColumns(), [&](Row values) { builder.addRecipe(recipeOf(values)); });
-    using namespace schema::member;
-    reader.read(schema::memberTable, std::array{parentId, childId, varRecipe},
-                [&](Row values) { builder.addMember(values[0].integer, values[1].integer, values[2].text); });
-    return builder.build();
+    return readWhere(reader, [](std::int64_t) { return true; });
+}
+
+ProjectData readRecipes(Reader& reader, std::span<const std::int64_t> recipes) {
+    std::unordered_multimap<std::int64_t, std::int64_t> children;
+    for (const Inclusion& inclusion : reader.inclusions()) children.emplace(inclusion.parent, inclusion.child);
+    std::unordered_set<std::int64_t> wanted;
+    std::vector<std::int64_t> next(recipes.begin(), recipes.end());
+    while (!next.empty()) {
+        const std::int64_t recipe = next.back();
+        next.pop_back();
+        if (!wanted.insert(recipe).second) continue;
+        const auto [first, end] = children.equal_range(recipe);
+        for (auto child = first; child != end; ++child) next.push_back(child->second);
+    }
+    return readWhere(reader, [&](std::int64_t recipe) { return wanted.contains(recipe); });
 }
 
 }  // namespace hx::project

@@ -72,5 +72,8 @@ class ProjectData {
 };
 
 [[nodiscard]] ProjectData readProject(Reader& reader);
+/// Of these recipes alone, and of those that they include, directly or through others. Members without a recipe are
+/// not among them.
+[[nodiscard]] ProjectData readRecipes(Reader& reader, std::span<const std::int64_t> recipes);
 
 }  // namespace hx::project

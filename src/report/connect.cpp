@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "report/connect.h"
 
+#include <charconv>
 #include <utility>
 
 #include "automation/member_rows.h"
@@ -11,10 +12,12 @@ namespace hx::report {
 
 namespace {
 
-project::ProjectData read(const host::Services& services, const std::string& path) {
+// All recipes, or these.
+project::ProjectData read(const host::Services& services, const std::string& path,
+                          const std::vector<std::int64_t>* recipes) {
     const forms::WaitCursor wait(services.screen);
     project::Reader reader(services.database, path, project::Reader::Damage::read);
-    return project::readProject(reader);
+    return recipes == nullptr ? project::readProject(reader) : project::readRecipes(reader, *recipes);
 }
 
 }  // namespace
@@ -23,6 +26,21 @@ Connect::Connect(const host::Services& services, std::unique_ptr<Viewer> viewer)
     : services_(services), viewer_(std::move(viewer)) {}
 
 void Connect::Show(const std::string& subject, const std::string& path, forms::WindowHandle window) {
+    show(subject, nullptr, path, window);
+}
+
+void Connect::ShowRecipes(const std::string& ids, const std::string& path, forms::WindowHandle window) {
+    std::vector<std::int64_t> recipes;
+    for (const std::string& id : automation::split(ids, ',')) {
+        std::int64_t number = 0;
+        (void)std::from_chars(id.data(), id.data() + id.size(), number);
+        recipes.push_back(number);
+    }
+    show(std::string(recipeSubject), &recipes, path, window);
+}
+
+void Connect::show(const std::string& subject, const std::vector<std::int64_t>* recipes, const std::string& path,
+                   forms::WindowHandle window) {
     const Texts texts = readTexts();
     const auto cannot = [&](const std::string& reason) {
         say(texts, texts.text(Text::cannotMake) + "\r\n\r\n" + reason, forms::message::critical);
@@ -31,7 +49,8 @@ void Connect::Show(const std::string& subject, const std::string& path, forms::W
         if (!automation::equalIgnoreCase(subject, recipeSubject)) {
             return say(texts, texts.text(Text::unknownSubject, {subject, recipeSubject}), forms::message::exclamation);
         }
-        const Report report(read(services_, path), texts, path, Moment::now());
+        const auto extent = recipes == nullptr ? Report::Extent::project : Report::Extent::selection;
+        const Report report(read(services_, path, recipes), texts, path, Moment::now(), extent);
         if (report.recipes().empty()) {
             return say(texts, texts.text(Text::noRecipes, {report.projectName()}), forms::message::information);
         }
@@ -59,6 +78,8 @@ const automation::MemberTable& Connect::members() const {
     using automation::method;
     static constexpr automation::Member rows[] = {
         method<&Connect::Show>("Show", "Shows the report on a subject of a project file over a window"),
+        method<&Connect::ShowRecipes>("ShowRecipes",
+                                      "Shows the report on some recipes of a project file over a window"),
     };
     static constexpr automation::MemberTable table{"Connect", rows};
     return table;

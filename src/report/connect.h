@@ -4,6 +4,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "automation/dispatch.h"
 #include "host/services.h"
@@ -27,9 +28,14 @@ class Connect : public automation::Dispatch {
     /// is thrown.
     void Show(const std::string& subject, const std::string& path, forms::WindowHandle window);
 
+    /// The same on recipes alone and those that they include; `ids` are theirs, separated by commas.
+    void ShowRecipes(const std::string& ids, const std::string& path, forms::WindowHandle window);
+
     [[nodiscard]] const automation::MemberTable& members() const override;
 
   private:
+    void show(const std::string& subject, const std::vector<std::int64_t>* recipes, const std::string& path,
+              forms::WindowHandle window);
     [[nodiscard]] Texts readTexts();
     void say(const Texts& texts, const std::string& text, std::int32_t style);
 

@@ -235,7 +235,7 @@ void Writer::markSelf(std::size_t user, std::size_t self) {
 
 void Writer::writeUses(const project::Uses& uses, std::size_t self) {
     heading(texts_.text(Text::usedIn), uses.list.size());
-    if (uses.list.empty()) return none(Text::notUsed);
+    if (uses.list.empty()) return none(report_.notUsed());
     out("<ul class=\"uses\">\n");
     for (const project::Use& use : uses.direct()) {
         out("<li>");

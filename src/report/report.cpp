@@ -38,13 +38,14 @@ InclusionGraph graphOf(const project::ProjectData& data) {
 
 }  // namespace
 
-Report::Report(project::ProjectData data, Texts texts, std::string projectFile, const Moment& created)
+Report::Report(project::ProjectData data, Texts texts, std::string projectFile, const Moment& created, Extent extent)
     : data_(std::move(data)),
       graph_(graphOf(data_)),
       texts_(std::move(texts)),
       projectFile_(std::move(projectFile)),
       projectName_(nameOfFile(projectFile_)),
-      created_(created) {
+      created_(created),
+      extent_(extent) {
     find();
 }
 
@@ -58,10 +59,13 @@ std::vector<Property> Report::summary() const {
     }
     const std::string content = texts_.text(
         Text::contentSummary, {texts_.number(recipes().size()), texts_.number(variables), texts_.number(subRecipes)});
-    return {{texts_.text(Text::project), projectName_},
-            {texts_.text(Text::projectFile), projectFile_},
-            {texts_.text(Text::created), created()},
-            {texts_.text(Text::content), content}};
+    std::vector<Property> lines = {{texts_.text(Text::project), projectName_},
+                                   {texts_.text(Text::projectFile), projectFile_},
+                                   {texts_.text(Text::created), created()},
+                                   {texts_.text(Text::content), content}};
+    if (extent_ == Extent::selection)
+        lines.push_back({texts_.text(Text::selection), texts_.text(Text::selectionSummary)});
+    return lines;
 }
 
 void Report::find() {

@@ -47,7 +47,11 @@ class Report {
     /// So far goes a section; what is cut off stands with the sub-recipes themselves.
     static constexpr std::size_t mostBranches = 1000, mostIndirect = 1000, deepest = 24;
 
-    Report(project::ProjectData data, Texts texts, std::string projectFile, const Moment& created);
+    /// What the data is of: a selection knows nothing of the recipes that are not in it.
+    enum class Extent { project, selection };
+
+    Report(project::ProjectData data, Texts texts, std::string projectFile, const Moment& created,
+           Extent extent = Extent::project);
     Report(const Report&) = delete;
     Report& operator=(const Report&) = delete;
 
@@ -67,6 +71,10 @@ class Report {
     /// The name, or a text that says that there is none.
     [[nodiscard]] std::string nameOf(std::size_t recipe) const;
     [[nodiscard]] Section section(std::size_t recipe) const;
+    /// What is said of a recipe that no other one includes.
+    [[nodiscard]] Text notUsed() const noexcept {
+        return extent_ == Extent::project ? Text::notUsed : Text::notUsedHere;
+    }
     /// The name of one of a recipe's variables.
     [[nodiscard]] std::string_view variable(std::size_t number) const { return data_.variable(number); }
     /// What a branch of a tree is called, the variable that names its file, and what its mark says; empty without a
@@ -86,6 +94,7 @@ class Report {
     Texts texts_;
     std::string projectFile_, projectName_;
     Moment created_;
+    Extent extent_;
     std::vector<std::string> findings_;
 };
 

@@ -25,14 +25,19 @@ struct RecordingViewer : Viewer {
         std::string title;
         forms::WindowHandle owner;
         forms::Pointer pointer;
+        std::string recipes;
     };
     RecordingViewer(std::vector<Shown>& list, const forms::Screen& lent) : shown(list), screen(lent) {}
     void show(const Report& report, forms::WindowHandle owner) override {
-        shown.push_back({report.fullTitle(), owner, screen.pointer()});
+        shown.push_back({report.fullTitle(), owner, screen.pointer(), {}});
+        for (const project::RecipeData& recipe : report.recipes())
+            shown.back().recipes += std::string(recipe.name) + ";";
+        for (const Property& line : report.summary()) summary = line.caption + ": " + line.value;
         if (onShow) onShow();
     }
     std::vector<Shown>& shown;
     const forms::Screen& screen;
+    std::string summary;  // its last line
     std::function<void()> onShow;
 };
 
@@ -74,6 +79,25 @@ class ReportConnect : public testing::Test {
         return std::make_shared<Connect>(host.services(), std::move(made));
     }
 };
+
+TEST_F(ReportConnect, ShowsSomeRecipesAndThoseThatTheyInclude) {
+    const auto session = provider.connect("Data Source=" + path);
+    for (const char* command :
+         {"INSERT INTO TrcpRecipe (Name) VALUES ('Linie')", "INSERT INTO TrcpRecipe (Name) VALUES ('Cola')",
+          "INSERT INTO TrcpRecipe (Name) VALUES ('Tee')", "INSERT INTO TrcpRecipe (Name) VALUES ('Sirup')",
+          "INSERT INTO TrcpRecipeMember (ParentID, ChildID, VarRecipe) VALUES (1, 2, 'x')",
+          "INSERT INTO TrcpRecipeMember (ParentID, ChildID, VarRecipe) VALUES (2, 4, 'y')",
+          "INSERT INTO TrcpRecipeMember (ParentID, ChildID, VarRecipe) VALUES (3, 2, 'z')"})
+        (void)session->open(command, ado::adCmdText);
+    const std::array<Variant, 3> arguments = {"1", path, Variant(forms::WindowHandle{42})};
+    addIn->get("ShowRecipes", arguments);
+    ASSERT_EQ(shown.size(), 1U);
+    EXPECT_EQ(shown[0].recipes, "Cola;Linie;Sirup;");
+    EXPECT_EQ(viewer->summary, "Auswahl: nur die ausgewählten Rezepte und die darin enthaltenen");
+    addIn->get("ShowRecipes", std::array<Variant, 3>{"4,3", path, Variant(forms::WindowHandle{42})});
+    EXPECT_EQ(shown[1].recipes, "Cola;Sirup;Tee;");
+    EXPECT_EQ(messages(), Messages());
+}
 
 TEST_F(ReportConnect, ShowsTheReportOnTheRecipesOverTheWindow) {
     addRecipe();

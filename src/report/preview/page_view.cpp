@@ -17,6 +17,7 @@ namespace hx::report {
 namespace {
 
 constexpr int gap = 18, shadow = 4;
+const QColor matchColor(0xff, 0xe0, 0x82);  // on paper, which is white whatever the desktop is
 constexpr std::array usualZooms = {0.25, 0.33, 0.5, 0.67, 0.75, 0.9, 1.0, 1.1, 1.25, 1.5, 2.0, 3.0, 4.0};
 
 }  // namespace
@@ -62,6 +63,17 @@ void PageView::showRecipe(std::size_t recipe) {
     }
     const auto top = static_cast<int>(pages_.topOf(recipe) * scale());
     verticalScrollBar()->setValue(pages_.pageOf(recipe) * pitch() + top);
+    if (changed) changed();
+}
+
+void PageView::showMatch(const std::optional<Pages::Match>& match) {
+    match_ = match;
+    viewport()->update();
+    if (!match) return;
+    const int top = match->page * pitch() + gap + static_cast<int>(match->top * scale());
+    const int bottom = top + static_cast<int>(match->height * scale());
+    const int above = verticalScrollBar()->value(), room = viewport()->height();
+    if (top < above || bottom > above + room) verticalScrollBar()->setValue(top - room / 3);
     if (changed) changed();
 }
 
@@ -152,6 +164,8 @@ void PageView::paintPage(QPainter& painter, int page) {
     painter.setClipRect(rect);
     painter.translate(rect.topLeft());
     painter.scale(scale(), scale());
+    if (match_ && match_->page == page)
+        painter.fillRect(QRectF(0, match_->top, pages_.paper().width(), match_->height), matchColor);
     pages_.paint(painter, page);
     painter.restore();
     painter.setPen(palette().color(QPalette::Dark));

@@ -34,6 +34,9 @@ class PageView : public QAbstractScrollArea {
     /// before.
     void showRecipe(std::size_t recipe);
     [[nodiscard]] bool awaitsRecipe() const noexcept { return awaited_.has_value(); }
+    /// Brings a row into sight and marks it; none marks nothing.
+    void showMatch(const std::optional<Pages::Match>& match);
+    [[nodiscard]] const std::optional<Pages::Match>& match() const noexcept { return match_; }
     /// There are more pages, or all of them.
     void pagesChanged();
 
@@ -64,6 +67,7 @@ class PageView : public QAbstractScrollArea {
     double zoom_ = 1;
     Fit fit_ = Fit::width;
     std::optional<std::size_t> awaited_;  // the recipe to be shown
+    std::optional<Pages::Match> match_;
 };
 
 }  // namespace hx::report

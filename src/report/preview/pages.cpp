@@ -138,6 +138,19 @@ std::optional<std::size_t> Pages::targetAt(int page, const QPointF& point) const
     return target;
 }
 
+std::vector<Pages::Match> Pages::matchesOn(int page, const QString& text) const {
+    std::vector<Match> matches;
+    int number = 0;
+    forEachRow(page, [&](const Row& row, double y) {
+        const bool found = std::ranges::any_of(row.cells, [&](const Cell& cell) {
+            return cell.lines.join(QLatin1Char(' ')).contains(text, Qt::CaseInsensitive);
+        });
+        if (found) matches.push_back({page, number, y, row.height});
+        ++number;
+    });
+    return matches;
+}
+
 void Pages::paint(QPainter& painter, int page) const {
     paintFrame(painter, page);
     forEachRow(page, [&](const Row& row, double y) { paintRow(painter, row, y); });

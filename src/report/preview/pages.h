@@ -46,6 +46,15 @@ class Pages {
     /// The recipe that the text at a point of a page leads to.
     [[nodiscard]] std::optional<std::size_t> targetAt(int page, const QPointF& point) const;
 
+    /// A row in which a text stands.
+    struct Match {
+        int page = 0, row = 0;  ///< the row's number on the page
+        double top = 0, height = 0;
+        friend bool operator==(const Match&, const Match&) = default;
+    };
+    /// The rows of a page in which the text stands, ignoring case.
+    [[nodiscard]] std::vector<Match> matchesOn(int page, const QString& text) const;
+
   private:
     /// What is set as rows in one go: of the front (no recipe) or of the section of a recipe the block that begins
     /// with this line of the contents or this variable.

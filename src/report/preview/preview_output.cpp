@@ -49,10 +49,10 @@ Progress aborting(QPrinter& printer, const Progress& progress) {
 
 }  // namespace
 
-bool PreviewWindow::work(const std::function<void(const Progress&)>& task) {
+bool PreviewWindow::work(const std::function<void(const Progress&)>& task, const QString& label) {
     std::optional<forms::WaitCursor> wait(services_.screen);
-    QProgressDialog dialog(wording_.translate("report", "Writing the report …"), wording_.translate("report", "Cancel"),
-                           0, steps, this);
+    QProgressDialog dialog(label.isEmpty() ? wording_.translate("report", "Writing the report …") : label,
+                           wording_.translate("report", "Cancel"), 0, steps, this);
     dialog.setObjectName(QStringLiteral("reportProgress"));
     dialog.setWindowTitle(windowTitle());
     dialog.setWindowModality(Qt::WindowModal);

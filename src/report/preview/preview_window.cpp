@@ -8,6 +8,7 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 #include <cmath>
+#include <cstdlib>
 
 #include "adapters/qt/svg_icon.h"
 #include "adapters/qt/text.h"
@@ -51,6 +52,10 @@ PreviewWindow::PreviewWindow(const Report& report, const host::Services& service
       handle_(handle),
       pages_(report, usualPaper()),
       folder_(QFileInfo(qt::toQt(report.projectFile())).absolutePath()),
+      findBar_([this](const QString& text, bool backwards) { return find(text, backwards); }, wording_, this),
+      find_(this),
+      findNext_(this),
+      findPrevious_(this),
       print_(this),
       pdf_(this),
       html_(this),
@@ -131,6 +136,9 @@ void PreviewWindow::setUpTools() {
     addPageTools();
     bar_.addSeparator();
     addZoomTools();
+    bar_.addSeparator();
+    addTool(find_, "reportFind", "help/find", wording_.translate("report", "Find"), QKeySequence::Find,
+            [this] { findBar_.open(); });
     auto* space = new QWidget(&bar_);
     space->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     bar_.addWidget(space);
@@ -216,6 +224,7 @@ void PreviewWindow::setUpPanes() {
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
     layout->addWidget(&bar_);
+    layout->addWidget(&findBar_);
     layout->addWidget(&splitter_, 1);
     layout->addWidget(&status_);
 }
@@ -224,6 +233,15 @@ void PreviewWindow::setUpKeys() {
     // The plus of the number block, and the one that is typed with Shift on some keyboards.
     zoomIn_.setShortcuts({QKeySequence(Qt::CTRL | Qt::Key_Plus), QKeySequence(Qt::CTRL | Qt::Key_Equal),
                           QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Plus)});
+    findNext_.setShortcut(QKeySequence(Qt::Key_F3));
+    findPrevious_.setShortcut(QKeySequence(Qt::SHIFT | Qt::Key_F3));
+    connect(&findNext_, &QAction::triggered, this, [this] { findBar_.go(false); });
+    connect(&findPrevious_, &QAction::triggered, this, [this] { findBar_.go(true); });
+    addActions({&findNext_, &findPrevious_});
+    findBar_.closed = [this] {
+        view_.showMatch({});
+        view_.setFocus();
+    };
     help_.setShortcut(QKeySequence(Qt::Key_F1));
     connect(&help_, &QAction::triggered, this, [this] { showHelp(); });
     addAction(&help_);
@@ -271,6 +289,28 @@ void PreviewWindow::chooseZoom(int index) {
 
 void PreviewWindow::showRecipe(const QModelIndex& index) {
     if (index.isValid()) view_.showRecipe(static_cast<std::size_t>(index.row()));
+}
+
+// All around, behind the row that was found last while it is in sight, else from the page that is shown.
+bool PreviewWindow::find(const QString& text, bool backwards) {
+    std::optional<Pages::Match> last = view_.match(), found;
+    if (last && std::abs(last->page - view_.page()) > 1) last.reset();
+    const auto search = [&](const Progress& progress) {
+        layOutRest(progress);
+        const int first = last ? last->page : view_.page(), count = pages_.count();
+        for (int step = 0; step <= count && !found; ++step) {
+            const int page = ((backwards ? first - step : first + step) % count + count) % count;
+            auto matches = pages_.matchesOn(page, text);
+            if (step == 0 && last)
+                std::erase_if(matches, [&](const Pages::Match& match) {
+                    return backwards ? match.row >= last->row : match.row <= last->row;
+                });
+            if (!matches.empty()) found = backwards ? matches.back() : matches.front();
+            progress(step, count + 1);
+        }
+    };
+    if (work(search, wording_.translate("report", "Looking for “%1” …").arg(text))) view_.showMatch(found);
+    return found.has_value();
 }
 
 void PreviewWindow::saved(const QString& path, const QString& problem) {

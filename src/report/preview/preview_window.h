@@ -14,6 +14,7 @@
 #include "adapters/qt/controls/plain_label.h"
 #include "adapters/qt/wording.h"
 #include "host/services.h"
+#include "report/preview/find_bar.h"
 #include "report/preview/layout_progress.h"
 #include "report/preview/output.h"
 #include "report/preview/page_view.h"
@@ -53,9 +54,10 @@ class PreviewWindow : public QDialog {
     void showCount();
     void chooseZoom(int index);
     void showRecipe(const QModelIndex& index);
+    [[nodiscard]] bool find(const QString& text, bool backwards);
 
     /// Runs what may take long under a dialog that can cancel it; whether it came to its end.
-    bool work(const std::function<void(const Progress& progress)>& task);
+    bool work(const std::function<void(const Progress& progress)>& task, const QString& label = {});
     void layOutRest(const Progress& progress);
     void print();
     void printTo(QPrinter& printer);
@@ -73,6 +75,8 @@ class PreviewWindow : public QDialog {
     Pages pages_;
     QString folder_;
     QToolBar bar_;
+    FindBar findBar_;
+    QAction find_, findNext_, findPrevious_;
     QAction print_, pdf_, html_, first_, previous_, next_, last_, zoomIn_, zoomOut_, width_, whole_, close_, help_;
     QSpinBox page_;
     qt::PlainLabel pageLabel_, count_;

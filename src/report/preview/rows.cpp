@@ -286,7 +286,7 @@ void RowMaker::addUses(Rows& rows, const project::Uses& uses, std::size_t self) 
     const auto count = uses.list.size();
     const QString heading = toQt(texts_.text(Text::usedIn));
     addHeading(rows, count == 0 ? heading : heading + QStringLiteral(" (%1)").arg(toQt(texts_.number(count))));
-    if (count == 0) return addNote(rows, Text::notUsed);
+    if (count == 0) return addNote(rows, report_.notUsed());
     constexpr std::size_t columns = 2;
     const double between = 3 * gap, column = (width_ - between) / columns;
     for (std::size_t i = 0; i < uses.directCount; ++i) {
