@@ -2,9 +2,9 @@
 --
 --   hxrecipe run --project plant.hxs check_project.lua [errors]
 --
--- With "errors" warnings are neither printed nor counted. A macro with findings fails at its end, so that hxrecipe's
--- exit status is 1; without findings it is 0. Nothing is changed. To add a rule of your own, write a function like
--- those below and call it at the end.
+-- With "errors" warnings are neither printed nor counted. The studio lists the findings; a click leads to the place.
+-- With findings hxrecipe's exit status is 1, without it is 0. Nothing is changed. To add a rule of your own, write a
+-- function like those below and call it at the end.
 
 local function fail(text, ...) error(text:format(...), 0) end
 
@@ -38,10 +38,15 @@ for _, name in ipairs(studio.Variables()) do known[name:lower()] = true end
 -- Findings -----------------------------------------------------------------------------------------------------------
 
 local findings = 0
-local function found(severity, place, problem, advice)
+-- The recipe (of `recipes`) and the member (a row), where it is one, are where the studio's list leads.
+local function found(severity, recipe, member, problem, advice)
     if severity ~= "error" and onlyErrors then return end
     findings = findings + 1
+    local place = recipe and recipe.name or "no recipe"
+    if member then place = ("%s, member %d"):format(place, member.ID) end
     print(("%s: %s: %s %s"):format(severity, place, problem, advice))
+    studio.Found(("%s: %s"):format(place, problem), recipe and recipe.id or 0, member and member.ID or 0,
+                 member ~= nil and member.ChildID ~= 0)
 end
 
 local variableColumns = {"VarRecipeName", "VarDescription", "VarLoad", "VarSave", "VarRead", "VarWrite", "VarSetValue"}
@@ -50,13 +55,12 @@ local triggerColumns = {"VarLoad", "VarSave", "VarRead", "VarWrite"}
 local function checkMembers()
     for _, member in ipairs(members) do
         local recipe = recipes[member.ParentID]
-        local place = ("%s, member %d"):format(recipe and recipe.name or "no recipe", member.ID)
         if not recipe then
-            found("error", place, ("There is no recipe with the ID %d."):format(member.ParentID), "Delete the member.")
+            found("error", nil, member, ("There is no recipe with the ID %d."):format(member.ParentID), "Delete the member.")
         end
         local variable = text(member.VarRecipe)
         if variable ~= "" and not known[variable:lower()] then
-            found("warning", place, ("The variable %q is not in the variable list."):format(variable),
+            found("warning", recipe, member, ("The variable %q is not in the variable list."):format(variable),
                   "Add it to the list or choose another one.")
         end
     end
@@ -64,14 +68,13 @@ end
 
 local function checkSubRecipes(recipe)
     for _, member in ipairs(recipe.subRecipes) do
-        local place = ("%s, member %d"):format(recipe.name, member.ID)
         if not recipes[member.ChildID] then
-            found("error", place, ("The sub-recipe with the ID %d does not exist."):format(member.ChildID),
+            found("error", recipe, member, ("The sub-recipe with the ID %d does not exist."):format(member.ChildID),
                   "Delete the member or choose another recipe.")
         end
         local savesItself = recipe.row.SaveSubRecipes ~= 0 and recipe.row.SaveSubRecipes ~= false
         if text(member.VarRecipe) == "" and not savesItself then
-            found("error", place, "The sub-recipe has no variable for its file name.",
+            found("error", recipe, member, "The sub-recipe has no variable for its file name.",
                   "Choose one, or let the recipe save the values of its sub-recipes.")
         end
     end
@@ -81,7 +84,7 @@ local function checkVariables(recipe)
     for _, column in ipairs(variableColumns) do
         local variable = text(recipe.row[column])
         if variable ~= "" and not known[variable:lower()] then
-            found("warning", recipe.name, ("%s names %q, which is not in the variable list."):format(column, variable),
+            found("warning", recipe, nil, ("%s names %q, which is not in the variable list."):format(column, variable),
                   "Add it to the list or choose another one.")
         end
     end
@@ -94,7 +97,7 @@ local function checkTriggers()
             local variable = text(recipe.row[column]):lower()
             local other = first[variable]
             if variable ~= "" and other and other ~= recipe then
-                found("warning", recipe.name,
+                found("warning", recipe, nil,
                       ("%s %q triggers the recipe %q too."):format(column, text(recipe.row[column]), other.name),
                       "Give each recipe a trigger of its own.")
             end
@@ -105,7 +108,7 @@ end
 
 local function checkEmpty(recipe)
     if recipe.members == 0 then
-        found("warning", recipe.name, "The recipe has no members.", "Add variables, or delete the recipe.")
+        found("warning", recipe, nil, "The recipe has no members.", "Add variables, or delete the recipe.")
     end
 end
 
@@ -120,7 +123,7 @@ local function checkCycles()
             local included = recipes[member.ChildID]
             if included and state[included] == "on the way" then
                 local from = included.depth
-                found("error", included.name,
+                found("error", included, nil,
                       ("The recipe contains itself: %s > %s."):format(table.concat(way, " > ", from), included.name),
                       "Delete one of these sub-recipes.")
             elseif included and not state[included] then
@@ -145,4 +148,3 @@ checkTriggers()
 checkCycles()
 
 print(("%d recipes, %d members, %d findings"):format(#order, #members, findings))
-if findings > 0 then fail("The project has %d findings", findings) end

@@ -83,6 +83,8 @@ class MacroSession {
         studio_.components().clear();
         studio_.closeProject();
     }
+    /// What the macro has found counts as a failure: who runs it in a shell asks for its exit status.
+    [[nodiscard]] bool foundSomething() { return !studio_.found().empty(); }
     /// The messages that only tell something, which nobody has read: the macro goes on as if all were well.
     [[nodiscard]] std::vector<forms::ShownMessage> unread() {
         std::vector<forms::ShownMessage> left = studio_.record().messages;
@@ -153,7 +155,7 @@ int runMacro(const MacroPlan& plan, const Output& output) {
     const auto unread = session.unread();
     for (const forms::ShownMessage& box : unread)
         output.problems << "hxrecipe: " << hosting::visibleLines(box.title + ": " + box.text) << "\n";
-    return ended && unread.empty() ? succeeded : failed;
+    return ended && unread.empty() && !session.foundSomething() ? succeeded : failed;
 }
 
 void addRunMacro(CLI::App& app, Command& chosen, const Output& output) {
@@ -178,8 +180,8 @@ void addRunMacro(CLI::App& app, Command& chosen, const Output& output) {
     command->add_flag("--trust", plan->studio.trusted,
                       "Let the macro use all files and the registry, and start programs.");
     command->footer(
-        "Exit status: 0 done, 1 the macro failed, was stopped by Ctrl+C or left an error message unread, 2 wrong "
-        "usage.");
+        "Exit status: 0 done, 1 the macro failed, found something, was stopped by Ctrl+C or left an error message "
+        "unread, 2 wrong usage.");
     command->callback([plan, locale, &chosen, &output] {
         plan->studio.decimalPoint = decimalPointOf(*locale);
         plan->studio.files = filesOf(*plan);

@@ -15,7 +15,7 @@ void defineGlobals(lua::Engine& engine, Studio& studio, const lua::MacroFiles& f
 void defineProjects(lua::Engine& engine, Studio& studio, const lua::MacroFiles& files);
 /// studio.OnMessage ... studio.OnPopup: how the user answers.
 void defineAnswers(lua::Engine& engine, Studio& studio);
-/// studio.Messages ... studio.Components: what happened since the last call.
+/// studio.Messages ... studio.Components: what happened since the last call; studio.Found: what the macro has found.
 void defineRecords(lua::Engine& engine, Studio& studio);
 /// studio.Registry, studio.Variables, studio.RegisterComponent and those that set them, project.Query.
 void defineData(lua::Engine& engine, Studio& studio);

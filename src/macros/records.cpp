@@ -81,6 +81,12 @@ void defineRecords(Engine& engine, Studio& studio) {
     add("Beeps", takeBeeps);
     add("Help", takeHelp);
     add("Components", takeComponents);
+    engine.define("studio", "Found", [&studio](Values values) {
+        const Arguments arguments(values);
+        const auto id = [&](std::size_t number) { return static_cast<std::int64_t>(arguments.real(number)); };
+        studio.found().push_back({arguments.text(0), id(1), id(2), arguments.number(3) != 0});
+        return Value();
+    });
 }
 
 }  // namespace hx::macros

@@ -22,6 +22,13 @@ struct Node {
 /// The nodes below one of a tree, in tree order; those right below it have no parent.
 [[nodiscard]] std::vector<Node> nodesBelow(const hosting::NodeTree& tree, std::string_view top);
 
+/// What a macro has found, for a list that leads there.
+struct Found {
+    std::string text;
+    std::int64_t recipe = 0, member = 0;  ///< IDs of the place; 0 for none
+    bool ofSubRecipe = false;             ///< the member is one
+};
+
 /// The studio that a macro works on: a real one or one without a screen. All failures are automation::Error. What a
 /// macro still holds of a closed project must stay safe to use while the macro runs.
 class Studio {
@@ -63,9 +70,14 @@ class Studio {
     [[nodiscard]] virtual forms::Record& record() = 0;
     [[nodiscard]] virtual hosting::Components& components() = 0;
 
+    [[nodiscard]] std::vector<Found>& found() noexcept { return found_; }
+
     /// Both throw errFail while no project is open.
     [[nodiscard]] std::string requireFile() const;
     [[nodiscard]] std::shared_ptr<host::CHX4Extensibility> requireAddIn() const;
+
+  private:
+    std::vector<Found> found_;
 };
 
 }  // namespace hx::macros

@@ -28,6 +28,8 @@ class MacroCommands : public QObject, private MacroMenuCommands {
     /// Called with the name of the macro that begins, and with none when it has ended.
     using RunningChanged = std::function<void(const QString& name)>;
     void setRunningChanged(RunningChanged changed) { runningChanged_ = std::move(changed); }
+    /// Who leads to what a macro has found.
+    void setGoTo(FoundView::GoTo goTo) { dock_.setGoTo(std::move(goTo)); }
     [[nodiscard]] bool isRunning() const noexcept { return runner_.isRunning(); }
     /// Stops what runs, and closes the window once it has ended.
     void stopAndClose();

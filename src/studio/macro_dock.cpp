@@ -55,7 +55,8 @@ MacroDock::MacroDock(QWidget& window, QAction& runAgain, QAction& stop, const qt
 void MacroDock::build(QAction& runAgain, QAction& stop) {
     const std::pair<QObject*, const char*> names[] = {{&tools_, "macroTools"},      {&clear_, "actionClearOutput"},
                                                       {&copy_, "actionCopyOutput"}, {&arguments_, "macroArguments"},
-                                                      {&status_, "macroStatus"},    {&text_, "macroText"}};
+                                                      {&status_, "macroStatus"},    {&text_, "macroText"},
+                                                      {&found_, "macroFound"}};
     for (const auto& [object, name] : names) object->setObjectName(QLatin1StringView(name));
     buildTools(runAgain, stop);
     buildText();
@@ -65,6 +66,7 @@ void MacroDock::build(QAction& runAgain, QAction& stop) {
     rows->addWidget(&tools_);
     rows->addWidget(&status_);
     rows->addWidget(&text_, 1);
+    rows->addWidget(&found_, 1);
     setWidget(&panel_);
 }
 
@@ -98,10 +100,13 @@ void MacroDock::buildText() {
     text_.setTabStopDistance(text_.fontMetrics().horizontalAdvance(' ') * tabWidth);
     text_.setMaximumBlockCount(lineCount);
     text_.setFrameShape(QFrame::NoFrame);
+    found_.setHeaderHidden(true);
+    found_.hide();
 }
 
 void MacroDock::begin(const QString& name) {
     name_ = name;
+    showFound({});
     setState(State::running);
     show();
     raise();
@@ -158,7 +163,14 @@ void MacroDock::failed(const QString& message, const QString& traceback) {
     flush();
     line_ = lineOf(message);
     setState(State::failed);
-    appendError(message + (traceback.isEmpty() ? QString() : '\n' + traceback));
+    // Without a place in the text it is what the macro itself has to say.
+    appendError(message + (line_.isEmpty() || traceback.isEmpty() ? QString() : '\n' + traceback));
+}
+
+void MacroDock::showFound(std::vector<macros::Found> found) {
+    found_.setVisible(!found.empty());
+    foundModel_.setThings(found.empty() ? nullptr : std::make_shared<MacroFindings>(name_, std::move(found), wording_));
+    found_.showAll();
 }
 
 void MacroDock::showNotRead(const QString& path) {
@@ -204,6 +216,7 @@ void MacroDock::retranslate() {
     setWindowTitle(wording_.translate("studio", "Macro output"));
     tools_.setWindowTitle(wording_.translate("studio", "Macro output"));
     text_.setAccessibleName(wording_.translate("studio", "Macro output"));
+    found_.setAccessibleName(wording_.translate("studio", "What the macro has found"));
     clear_.setText(wording_.translate("studio", "Cl&ear"));
     copy_.setText(wording_.translate("studio", "Cop&y"));
     argumentsLabel_.setText(wording_.translate("studio", "Ar&guments:"));

@@ -10,6 +10,7 @@
 
 #include "adapters/qt/controls/plain_label.h"
 #include "adapters/qt/wording.h"
+#include "studio/macro_findings.h"
 #include "studio/output_buffer.h"
 
 namespace hx::studio {
@@ -32,6 +33,10 @@ class MacroDock : public QDockWidget {
     void stopped(double seconds, const QString& traceback);
     void failed(const QString& message, const QString& traceback);
     void showNotRead(const QString& path);
+    /// Lists what the macro has found; nothing hides the list.
+    void showFound(std::vector<macros::Found> found);
+    /// Who leads to a place of the list.
+    void setGoTo(FoundView::GoTo goTo) { goTo_ = std::move(goTo); }
 
     [[nodiscard]] QString arguments() const { return arguments_.text(); }
     void setArguments(const QString& text) { arguments_.setText(text); }
@@ -59,6 +64,9 @@ class MacroDock : public QDockWidget {
     QLineEdit arguments_;
     qt::PlainLabel status_;
     QPlainTextEdit text_;
+    FoundView::GoTo goTo_ = [](const Place&, bool) {};
+    FoundModel foundModel_{1};
+    FoundView found_{foundModel_, [this](const Place& place, bool into) { goTo_(place, into); }};
     OutputBuffer buffer_;
     State state_ = State::idle;
     QString name_, stopKey_, line_;

@@ -46,8 +46,8 @@ void MacroRunner::runText(const QByteArray& text, const QString& name, const QSt
     clock_.start();
     setRunning(true);
     dock_.begin(name);
+    WindowStudio studio(window_, host_, explorer_);
     try {
-        WindowStudio studio(window_, host_, explorer_);
         runEngine(studio, text, name, arguments);
         dock_.done(seconds());
     } catch (const lua::MacroError& error) {
@@ -55,6 +55,7 @@ void MacroRunner::runText(const QByteArray& text, const QString& name, const QSt
     } catch (const std::exception&) {
         dock_.failed(qt::toQt(automation::caughtError().description(host_.screen().language())), {});
     }
+    dock_.showFound(std::move(studio.found()));
     dismissals_.stop();
     setRunning(false);
 }

@@ -51,8 +51,20 @@ TEST_F(SampleMacros, CheckTheProjectAndReportIt) {
     EXPECT_THAT(runSample("check_project"),
                 testing::AllOf(HasSubstr("warning: Limonade, member 1: The variable \"Mischer.Zucker\" is not in"),
                                HasSubstr("error: Meyer's Bräu, member 5: The sub-recipe has no variable")));
+    auto& found = find<QTreeView>(window(), "macroFound");
+    EXPECT_TRUE(found.isVisible());
+    const QAbstractItemModel& model = *found.model();
+    const QModelIndex group = model.index(0, 0);
+    const auto withoutFile = model.match(model.index(0, 0, group), Qt::DisplayRole, "Meyer's Bräu, member 5", 1);
+    ASSERT_EQ(withoutFile.size(), 1);
+    found.scrollTo(withoutFile[0]);
+    QTest::mouseClick(found.viewport(), Qt::LeftButton, {}, found.visualRect(withoutFile[0]).center());
+    handleEvents();
+    EXPECT_EQ(tree().currentIndex(), node("Rezepte/Meyer's Bräu/Unterrezepte"));
+    EXPECT_EQ(grid().currentIndex().row(), 1);
     EXPECT_THAT(runSample("export_report"), HasSubstr("3 recipes written to recipes.md\n"));
     EXPECT_TRUE(QFile::exists(folder.filePath("recipes.md")));
+    EXPECT_FALSE(found.isVisible());
 }
 
 TEST_F(SampleMacros, ShowWhatARuleWouldRename) {
