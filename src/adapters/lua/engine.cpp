@@ -58,6 +58,8 @@ void pushArguments(lua_State* state, const List& arguments) {
 
 }  // namespace
 
+std::string libraryVersion() { return LUA_RELEASE; }
+
 Engine::Engine(EngineOptions options) : machine_(std::make_shared<Machine>(std::move(options))) {}
 
 // Past the globals that are asked for: no macro runs yet that a request to stop could end here.

@@ -17,6 +17,9 @@ namespace hx::lua {
 
 struct Machine;
 
+/// Name and version of the library, "Lua 5.4.4".
+[[nodiscard]] std::string libraryVersion();
+
 /// A macro ended with an error that it did not catch, or was stopped.
 class MacroError : public std::exception {
   public:

@@ -39,6 +39,8 @@ constexpr const char* largeCache = "PRAGMA cache_size=-32000";
 
 }  // namespace
 
+std::string libraryVersion() { return std::string("SQLite ") + sqlite3_libversion(); }
+
 void Database::Closer::operator()(sqlite3* handle) const noexcept { sqlite3_close_v2(handle); }
 
 Database::Database(const std::string& path, const OpenOptions& options)

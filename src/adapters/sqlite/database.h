@@ -21,6 +21,9 @@ struct sqlite3;
 
 namespace hx::sqlite {
 
+/// Name and version of the library, "SQLite 3.40.1".
+[[nodiscard]] std::string libraryVersion();
+
 /// How a file is opened.
 struct OpenOptions {
     automation::Language language = automation::Language::english;  ///< of the errors' descriptions
