@@ -10,8 +10,10 @@ namespace hx::hosting {
 
 OpenProject::OpenProject(std::string file, ProjectRegistry& registry)
     : file_(std::move(file)), name_(fileSystemPath(file_).stem().string()), registry_(registry) {
-    registry_.open(name_, fileSystemPath(file_).parent_path().string());
+    reopen();
 }
+
+void OpenProject::reopen() { registry_.open(name_, fileSystemPath(file_).parent_path().string()); }
 
 // By its name the add-in finds a project in the registry, always with a small extension; else by its file. A name that
 // looks like a file would be taken for one.

@@ -22,6 +22,8 @@ class OpenProject {
 
     /// Starts the add-in on the nodes of an explorer, which is lent until end().
     void start(std::shared_ptr<host::CHX4Extensibility> addIn, host::ProjectExplorer& explorer);
+    /// After end(): the project is recorded again, for another start(). Throws as the constructor does.
+    void reopen();
     /// Ends the add-in; somebody may still hold it afterwards.
     void end();
 

@@ -34,7 +34,7 @@ QList<UsedPart> usedParts() {
             {QStringLiteral("CHMLib"), QStringLiteral("LGPL-2.1")}};
 }
 
-QLabel& addLine(QVBoxLayout& column, const QString& text) {
+qt::PlainLabel& addLine(QVBoxLayout& column, const QString& text) {
     auto* const line = new qt::PlainLabel;
     line->setText(text);
     line->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
@@ -63,7 +63,7 @@ AboutDialog::AboutDialog(QWidget& window, const qt::Wording& wording) : QDialog(
     icon->setPixmap(qt::namedIcon("studio/studio").pixmap(QSize(aboutIconSize, aboutIconSize)));
     row->addWidget(icon, 0, Qt::AlignTop);
     auto* const column = new QVBoxLayout;
-    QLabel& title = addLine(*column, versionText());
+    qt::PlainLabel& title = addLine(*column, versionText());
     title.setObjectName(QStringLiteral("aboutVersion"));
     QFont bold = title.font();
     bold.setBold(true);

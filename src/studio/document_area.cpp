@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "studio/document_area.h"
 
-#include <QMdiSubWindow>
-#include <QPainter>
-#include <algorithm>
+#include <QEvent>
 
 namespace hx::studio {
 
@@ -13,20 +11,9 @@ DocumentArea::DocumentArea() {
     setOption(DontMaximizeSubWindowOnActivation);
 }
 
-void DocumentArea::setHint(const QString& hint) {
-    hint_ = hint;
-    viewport()->update();
-}
-
-void DocumentArea::paintEvent(QPaintEvent* event) {
-    QMdiArea::paintEvent(event);
-    const auto windows = subWindowList();
-    if (std::ranges::any_of(windows, [](const QMdiSubWindow* window) { return window->isVisible(); })) return;
-    QPainter painter(viewport());
-    painter.setPen(palette().color(QPalette::BrightText).lightness() > 128 ? palette().color(QPalette::WindowText)
-                                                                           : palette().color(QPalette::Text));
-    painter.setOpacity(0.7);
-    painter.drawText(viewport()->rect(), Qt::AlignCenter | Qt::TextWordWrap, hint_);
+void DocumentArea::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::PaletteChange) setBackground(palette().brush(QPalette::Mid));
+    QMdiArea::changeEvent(event);
 }
 
 }  // namespace hx::studio

@@ -9,6 +9,7 @@
 
 #include "automation/convert.h"
 #include "automation/dispatch.h"
+#include "forms/grid.h"
 #include "studio/editor_names.h"
 #include "studio/expanded_nodes.h"
 #include "studio/recipe_branch.h"
@@ -71,14 +72,32 @@ void EditorRefresh::activate(forms::Form& window) {
     (void)windows.call(windows.procedure(window.handle()), window.handle(), activateMessage, active, 0);
 }
 
-// What is not put back before control returns to the event loop is put back then.
-void EditorRefresh::remember() {
-    if (place_ || macroRuns_ || project_ == nullptr || editor() == nullptr) return;
-    ExplorerState& place = place_.emplace();
+ExplorerState EditorRefresh::state() const {
+    ExplorerState place;
+    if (project_ == nullptr) return place;
     place.expanded = expandedNodes(tree_, explorer_);
     place.scrolled = tree_.verticalScrollBar()->value();
     place.node = explorer_.selectedNode().key;
     if (const auto grid = gridOf(editor())) place.row = automation::toInt32(grid->get("Row"));
+    return place;
+}
+
+// The branch is filled, and the editor opened, when it is opened for the first time.
+void EditorRefresh::restore(const ExplorerState& state) {
+    if (state.expanded.empty() && state.node.empty()) return;
+    tree_.expand(explorer_.model().find(branch::root));
+    show(state);
+}
+
+bool EditorRefresh::hasOpenEdit() const {
+    const auto grid = std::dynamic_pointer_cast<forms::Grid>(gridOf(editor()));
+    return grid && (grid->dataChanged() || grid->addNewMode() || grid->editorOpen());
+}
+
+// What is not put back before control returns to the event loop is put back then.
+void EditorRefresh::remember() {
+    if (place_ || macroRuns_ || project_ == nullptr || editor() == nullptr) return;
+    place_ = state();
     QTimer::singleShot(0, this, [this] {
         try {
             putBack();
@@ -90,7 +109,10 @@ void EditorRefresh::remember() {
 
 void EditorRefresh::putBack() {
     if (!place_) return;
-    const ExplorerState place = *std::exchange(place_, std::nullopt);
+    show(*std::exchange(place_, std::nullopt));
+}
+
+void EditorRefresh::show(const ExplorerState& place) {
     if (project_ == nullptr || editor() == nullptr) return;
     expandNodes(place.expanded, tree_, explorer_);
     showNode(place.node);

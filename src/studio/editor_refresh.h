@@ -31,6 +31,11 @@ class EditorRefresh : private QObject {
     void setMacroRuns(bool runs) noexcept { macroRuns_ = runs; }
     /// Stores what has been typed. Throws automation::Error when it is refused.
     void finishEdit();
+    /// Whether something has been typed that is not stored yet.
+    [[nodiscard]] bool hasOpenEdit() const;
+    /// What the user sees now, and what he saw in the editor before it was opened afresh.
+    [[nodiscard]] ExplorerState state() const;
+    void restore(const ExplorerState& state);
     /// After this step was undone or done again: the editor then shows where it was. Does nothing while there is no
     /// editor.
     void show(const history::StepName& step);
@@ -38,6 +43,7 @@ class EditorRefresh : private QObject {
   private:
     void remember();
     void putBack();
+    void show(const ExplorerState& place);
     void showNode(const std::string& key);
     void activate(forms::Form& window);
     [[nodiscard]] forms::Form* editor() const;

@@ -23,6 +23,8 @@ class ExplorerFilter : public QWidget {
     void start();
     /// Another project is open: nothing is looked for.
     void clear();
+    [[nodiscard]] QString text() const { return field_.text(); }
+    void setText(const QString& text) { field_.setText(text); }
     void retranslate();
 
   protected:

@@ -4,11 +4,9 @@
 #include <QMenuBar>
 #include <QStatusBar>
 #include <algorithm>
-#include <optional>
 
 #include "adapters/qt/svg_icon.h"
 #include "adapters/qt/text.h"
-#include "forms/wait_cursor.h"
 #include "studio/recipe_branch.h"
 
 namespace hx::studio {
@@ -158,6 +156,11 @@ void FindCommands::close() {
     navigator_.forget();
 }
 
+void FindCommands::arrange(const QString& filter, bool byName) {
+    sort_.setChecked(byName);
+    filter_.setText(filter);
+}
+
 void FindCommands::goTo(const Place& place, bool into) {
     attempt([&] { (void)navigator_.show(place, into); });
 }
@@ -191,23 +194,15 @@ void FindCommands::rename(const std::string& key, const std::string& name) {
 void FindCommands::store(const std::vector<project::Replacement>& replacements, const QString& name) {
     const Project* const project = projects_.project();
     if (project == nullptr) return;
-    history_.editor().finishEdit();
-    const forms::WaitCursor wait(host_.screen());
-    history::StepName step;
-    step.first = qt::fromQt(name);
-    step.kind = history::StepName::Kind::named;
-    {
-        std::optional<history::Group> group;
-        if (history_.history() != nullptr && !name.isEmpty()) group.emplace(*history_.history(), step);
-        const std::string source = "Data Source=\"" + qt::fromQt(project->file()) + "\";";
-        const auto session = host_.recordingStore().connect(source + "Mode=Read|Write|Share Deny None;");
-        project::replaceTexts(*session, replacements);
-    }
     const auto isName = [](const project::Replacement& one) {
         return one.column->table == project::Table::recipes && one.column->isName;
     };
+    history::StepName step;
+    step.first = qt::fromQt(name);
+    step.kind = history::StepName::Kind::named;
     step.recipes = std::ranges::count_if(replacements, isName);
-    history_.editor().show(step);
+    history_.change(step, *project,
+                    [&](ado::Session& session, history::StepName&) { project::replaceTexts(session, replacements); });
 }
 
 void FindCommands::attempt(const std::function<void()>& action) {

@@ -33,6 +33,14 @@ class FindCommands : public QObject {
     void retranslate();
     void open(const QString& file);
     void close();
+    /// Leads to a place of the project.
+    void goTo(const Place& place, bool into);
+    [[nodiscard]] const Navigator& navigator() const noexcept { return navigator_; }
+    [[nodiscard]] const KnownVariables& known() const noexcept { return known_; }
+    /// What the explorer's filter holds, and whether it orders by name.
+    [[nodiscard]] QString filterText() const { return filter_.text(); }
+    [[nodiscard]] bool sortsByName() const { return sort_.isChecked(); }
+    void arrange(const QString& filter, bool byName);
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -40,7 +48,6 @@ class FindCommands : public QObject {
   private:
     void build(QMainWindow& window);
     void connectActions();
-    void goTo(const Place& place, bool into);
     void showWhereUsed();
     void goToSubRecipe();
     void showVisited();

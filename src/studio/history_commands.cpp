@@ -95,9 +95,14 @@ void HistoryCommands::close() {
     refresh();
 }
 
-std::size_t HistoryCommands::stepsFromBefore() const {
-    if (!history_) return 0;
-    return static_cast<std::size_t>(std::ranges::count(history_->steps(), true, &history::Step::fromBefore));
+void HistoryCommands::tellOfLastSession() {
+    if (!history_) return;
+    const auto steps = std::ranges::count(history_->steps(), true, &history::Step::fromBefore);
+    if (steps == 0) return;
+    dock_.show();
+    window_.statusBar()->showMessage(
+        wording_.translate("studio", "Changes of the last session: %1. They can be undone in the history.")
+            .arg(wording_.number(static_cast<std::size_t>(steps))));
 }
 
 void HistoryCommands::setMacro(const QString& name) {
@@ -125,6 +130,19 @@ void HistoryCommands::keepCopy() {
 void HistoryCommands::setWatch(std::function<void()> changed, std::function<void()> writing) {
     changed_ = std::move(changed);
     writing_ = std::move(writing);
+}
+
+void HistoryCommands::change(history::StepName step, const Project& project, const Work& work) {
+    editor_.finishEdit();
+    const forms::WaitCursor wait(host_.screen());
+    {
+        std::optional<history::Group> group;
+        if (history_ && !step.first.empty()) group.emplace(*history_, step);
+        const std::string source = "Data Source=\"" + qt::fromQt(project.file()) + "\";";
+        const auto session = host_.recordingStore().connect(source + "Mode=Read|Write|Share Deny None;");
+        work(*session, step);
+    }
+    editor_.show(step);
 }
 
 void HistoryCommands::beginMacro() {

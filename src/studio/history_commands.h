@@ -32,15 +32,19 @@ class HistoryCommands : public QObject {
     void open(const Project& project);
     /// After the project's add-in has ended.
     void close();
-    /// How many steps a studio has left behind that did not end as it should.
-    [[nodiscard]] std::size_t stepsFromBefore() const;
-    void showDock() { dock_.show(); }
+    /// A studio that did not end as it should has left its steps behind: shows them and tells of them.
+    void tellOfLastSession();
     void keepDailyCopies(bool keep) noexcept { keepsDailyCopies_ = keep; }
     [[nodiscard]] bool keepsDailyCopies() const noexcept { return keepsDailyCopies_; }
     /// The macro that runs; empty for none. All that it changes is one step, and nothing is undone meanwhile.
     void setMacro(const QString& name);
     /// Called when the project has been changed, and before something is written to it.
     void setWatch(std::function<void()> changed, std::function<void()> writing);
+    /// What is done to a project, and afterwards to what is shown of it: the step then says where that is.
+    using Work = std::function<void(ado::Session& session, history::StepName& shown)>;
+    /// Stores what is being typed, changes the project and shows the editor what was changed. All of it is one step of
+    /// this name; one without a name gets the name of what it did. What the work throws is passed on.
+    void change(history::StepName step, const Project& project, const Work& work);
     /// Null while no project is open.
     [[nodiscard]] history::History* history() noexcept { return history_.get(); }
     /// Who tells the editor of what was changed around it.

@@ -7,7 +7,6 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QLibraryInfo>
-#include <QMessageBox>
 #include <QScreen>
 #include <QStandardPaths>
 #include <QStatusBar>
@@ -17,8 +16,10 @@
 #include "adapters/qt/text.h"
 #include "adapters/sqlite/project_file.h"
 #include "host/project_file.h"
-#include "resources/help.h"
-#include "studio/options.h"
+#include "studio/new_project_dialog.h"
+#include "studio/recipe_branch.h"
+#include "studio/sample_project.h"
+#include "studio/window_session.h"
 
 namespace hx::studio {
 
@@ -45,10 +46,15 @@ MainWindow::MainWindow(StudioHost& host, Preferences& preferences)
       history_(*this, host, preferences.keepsDailyCopies(), explorer_, tree_,
                [this](const QString& text) { warn(text); }),
       find_(*this, *this, host, explorer_, tree_, history_, [this](const QString& text) { warn(text); }),
+      recipes_(*this, host, explorer_, tree_, history_, find_.navigator(), find_.known(),
+               [this](const QString& text) { warn(text); }),
+      status_(*statusBar(), explorer_, tree_, find_.navigator(), history_, host.wording()),
       menus_(*this, *this,
              QList<QAction*>{explorerDock_.toggleViewAction(), &history_.toggleDock(), &macros_.toggleOutput()} +
                  find_.toggles(),
-             history_.actions(), host.wording()) {
+             history_.actions(), host.wording()),
+      help_(*this, host, [this](const QString& text) { warn(text); }),
+      start_(*this, menus_.beginnings(), host.wording()) {
     setUp();
     restoreWindow();
     readLanguage();
@@ -56,6 +62,7 @@ MainWindow::MainWindow(StudioHost& host, Preferences& preferences)
 }
 
 MainWindow::~MainWindow() {
+    recipes_.setProject(nullptr);
     project_.reset();
     find_.close();
     history_.close();
@@ -77,10 +84,14 @@ void MainWindow::setUp() {
     explorerPanel_.setFocusProxy(&tree_);
     explorerDock_.setWidget(&explorerPanel_);
     explorerDock_.setAllowedAreas(Qt::LeftDockWidgetArea | Qt::RightDockWidgetArea);
-    setCentralWidget(&documents_);
+    central_.addWidget(&documents_);
+    central_.addWidget(&start_);
+    setCentralWidget(&central_);
     addDockWidget(Qt::LeftDockWidgetArea, &explorerDock_);
     macros_.addTo(*this);
     find_.addTo(*this, menus_.viewMenu());
+    recipes_.addTo(*this, menus_.viewMenu());
+    macros_.setGoTo([this](const Place& place, bool into) { find_.goTo(place, into); });
     macros_.setRunningChanged([this](const QString& name) { history_.setMacro(name); });
     history_.addTo(*this);
     fileLabel_.setObjectName(QStringLiteral("projectFile"));
@@ -95,6 +106,26 @@ void MainWindow::restoreWindow() {
         if (size() != usualSize) setWindowState(windowState() | Qt::WindowMaximized);
     }
     if (!restoreState(preferences_.layout())) resizeDocks({&explorerDock_}, {explorerWidth}, Qt::Horizontal);
+    restoreColumns(*this, preferences_.columns());
+}
+
+void MainWindow::saveWindow() {
+    Preferences::Session session;
+    if (project_) session = sessionOf(project_->file(), history_.editor().state());
+    session.filter = find_.filterText();
+    session.byName = find_.sortsByName();
+    const bool saved = preferences_.saveWindow(saveGeometry(), saveState(), columnsOf(*this));
+    if (!saved || !preferences_.saveSession(session))
+        warn(wording_.translate("studio", "The window and the list of projects could not be saved:\n%1"),
+             preferences_.file());
+}
+
+void MainWindow::reopenLast() {
+    const Preferences::Session session = preferences_.session();
+    if (!preferences_.reopens() || !QFileInfo(session.file).isFile() || !openProject(session.file)) return;
+    find_.arrange(session.filter, session.byName);
+    attempt([&] { history_.editor().restore(placeOf(session)); });
+    tree_.setFocus(Qt::OtherFocusReason);
 }
 
 void MainWindow::readLanguage() {
@@ -121,14 +152,17 @@ void MainWindow::useLanguage(std::int32_t lcid) {
     macros_.retranslate();
     history_.retranslate();
     find_.retranslate();
+    recipes_.retranslate();
     menus_.retranslate();
     tree_.setAccessibleName(wording_.translate("studio", "Project Explorer"));
     documents_.setAccessibleName(wording_.translate("studio", "Documents"));
-    documents_.setHint(
-        project_ ? QString() : wording_.translate("studio", "No project is open\n\nFile → Open or File → New Project"));
+    start_.retranslate();
+    status_.refresh();
 }
 
 void MainWindow::chooseLanguage(std::int32_t lcid) {
+    const bool other = lcid != wording_.language();
+    if (other && project_ && !storesWhatIsTyped()) return menus_.retranslate();
     try {
         host_.registry().writeNumber(host::registry_keys::helvix, languageValue, lcid);
     } catch (const automation::Error& error) {
@@ -136,11 +170,41 @@ void MainWindow::chooseLanguage(std::int32_t lcid) {
         return warn(wording_.translate("studio", "The setting could not be saved.\n%1"), told(error));
     }
     useLanguage(lcid);
-    statusBar()->showMessage(
-        project_ ? wording_.translate("studio",
-                                      "The recipe editor's language takes effect with the next project that is opened.")
-                 : wording_.translate("studio", "Ready"),
-        noticeTime);
+    if (other && project_) restartAddIn();
+    statusBar()->showMessage(wording_.translate("studio", "Ready"), noticeTime);
+}
+
+// False when it shall stay as it is, or cannot be stored.
+bool MainWindow::storesWhatIsTyped() {
+    EditorRefresh& editor = history_.editor();
+    if (!editor.hasOpenEdit()) return true;
+    const QString question = wording_.translate(
+        "studio", "The project is opened again in the other language. Shall what is being typed be stored first?");
+    const auto answer = host_.screen().messageBox(qt::fromQt(question),
+                                                  forms::message::yesNo | forms::message::question, qt::fromQt(title));
+    return answer == forms::message::Answer::yes && attempt([&] { editor.finishEdit(); });
+}
+
+// What was done can still be undone, and the user stays where he is.
+void MainWindow::restartAddIn() {
+    const ExplorerState place = history_.editor().state();
+    try {
+        help_.install();
+        project_->restartAddIn();
+        history_.editor().restore(place);
+    } catch (const automation::Error& error) {
+        warn(wording_.translate("studio", "The recipe editor is not available.\n%1"), told(error));
+    }
+}
+
+bool MainWindow::attempt(const std::function<void()>& action) {
+    try {
+        action();
+        return true;
+    } catch (const std::exception&) {
+        warn(qt::toQt(automation::caughtError().description(host_.screen().language())));
+        return false;
+    }
 }
 
 bool MainWindow::openProject(const QString& path) { return reported(&MainWindow::open, path); }
@@ -179,17 +243,8 @@ void MainWindow::open(const QString& path) {
     history_.open(*project_);
     startAddIn();
     find_.open(project_->file());
-    tellOfLastSession();
-}
-
-// A studio that did not end as it should has left its steps behind.
-void MainWindow::tellOfLastSession() {
-    const std::size_t steps = history_.stepsFromBefore();
-    if (steps == 0) return;
-    history_.showDock();
-    statusBar()->showMessage(
-        wording_.translate("studio", "Changes of the last session: %1. They can be undone in the history.")
-            .arg(wording_.number(steps)));
+    recipes_.setProject(project_.get());
+    history_.tellOfLastSession();
 }
 
 // In the status line: the project itself is not concerned.
@@ -203,7 +258,7 @@ void MainWindow::tellUnlessListed(bool listed) {
 
 void MainWindow::startAddIn() {
     try {
-        installHelp();
+        help_.install();
         project_->startAddIn();
     } catch (const automation::Error& error) {
         warn(wording_.translate("studio", "The recipe editor is not available.\n%1"), told(error));
@@ -212,28 +267,9 @@ void MainWindow::startAddIn() {
     tree_.setFocus(Qt::OtherFocusReason);
 }
 
-// Before the add-in starts: it then looks for its help.
-void MainWindow::installHelp() {
-    HelpFile& help = host_.helpFile();
-    help.nameCommonFolder();
-    if (help.install(wording_.language()) == HelpFile::Result::failed) {
-        statusBar()->showMessage(
-            wording_.translate("studio", "The help could not be put in its place: %1").arg(help.path()), noticeTime);
-    }
-}
-
-void MainWindow::showHelp() {
-    try {
-        installHelp();
-        host_.help().showContext(documentsHandle_, qt::fromQt(host_.helpFile().path()),
-                                 resources::help_context::overview);
-    } catch (const automation::Error& error) {
-        warn(wording_.translate("studio", "The setting could not be saved.\n%1"), told(error));
-    }
-}
-
 void MainWindow::closeProject() {
     if (!project_) return;
+    recipes_.setProject(nullptr);
     project_.reset();
     find_.close();
     history_.close();
@@ -262,19 +298,33 @@ void MainWindow::create(const QString& path) {
 void MainWindow::showProject() {
     setWindowTitle(project_ ? title + QStringLiteral(" - ") + project_->name() : title);
     fileLabel_.setText(project_ ? QDir::toNativeSeparators(project_->file()) : QString());
-    documents_.setHint(
-        project_ ? QString() : wording_.translate("studio", "No project is open\n\nFile → Open or File → New Project"));
+    if (!project_) start_.refresh();
+    central_.setCurrentWidget(project_ ? static_cast<QWidget*>(&documents_) : &start_);
     menus_.setProjectOpen(project_ != nullptr);
 }
 
 void MainWindow::newProject() {
-    QFileDialog dialog(this, wording_.translate("studio", "New Project"), projectFolder(),
-                       wording_.translate("studio", "HelvixStudio projects (*.hxs)"));
-    dialog.setObjectName(QStringLiteral("newProjectDialog"));
-    dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setOption(QFileDialog::DontConfirmOverwrite);  // an existing file is never overwritten
-    dialog.setDefaultSuffix(qt::toQt(host::projectExtension.substr(1)));
-    if (dialog.exec() == QDialog::Accepted) createProject(dialog.selectedFiles().constFirst());
+    NewProjectDialog dialog(*this, projectFolder(), wording_);
+    while (dialog.exec() == QDialog::Accepted) {
+        QDir().mkpath(QFileInfo(dialog.path()).absolutePath());
+        if (createProject(dialog.path())) return openBranch();
+    }
+}
+
+void MainWindow::openBranch() {
+    const QModelIndex root = explorer_.model().find(branch::root);
+    if (!root.isValid()) return;
+    tree_.expand(root);
+    tree_.choose(root);
+    tree_.setFocus(Qt::OtherFocusReason);
+}
+
+bool MainWindow::hasSample() const { return !sampleProject(host_.moduleFolders()).isEmpty(); }
+
+void MainWindow::openSample() {
+    if (!copySample(sampleProject(host_.moduleFolders())))
+        return warn(wording_.translate("studio", "The project could not be created:\n%1"), copyOfSample());
+    if (openProject(copyOfSample())) openBranch();
 }
 
 void MainWindow::chooseProject() {
@@ -298,17 +348,9 @@ void MainWindow::keepDailyCopies(bool keep) {
         warn(wording_.translate("studio", "The setting could not be saved.\n%1"), preferences_.file());
 }
 
-void MainWindow::showAbout() {
-    QMessageBox box(this);
-    box.setObjectName(QStringLiteral("aboutBox"));
-    box.setWindowTitle(wording_.translate("studio", "&About HelvixStudio").remove('&'));
-    box.setIconPixmap(windowIcon().pixmap(64, 64));
-    box.setText(
-        wording_
-            .translate("studio",
-                       "<b>HelvixStudio %1</b><p>Engineering of process visualisations with the recipe editor.</p>")
-            .arg(versionText().section(' ', 1)));
-    box.exec();
+void MainWindow::reopenAtStart(bool reopen) {
+    if (!preferences_.setReopens(reopen))
+        warn(wording_.translate("studio", "The setting could not be saved.\n%1"), preferences_.file());
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
@@ -316,9 +358,7 @@ void MainWindow::closeEvent(QCloseEvent* event) {
         macros_.stopAndClose();
         return event->ignore();
     }
-    if (!preferences_.saveWindow(saveGeometry(), saveState()))
-        warn(wording_.translate("studio", "The window and the list of projects could not be saved:\n%1"),
-             preferences_.file());
+    saveWindow();
     closeProject();
     host_.help().closeAll();
     event->accept();

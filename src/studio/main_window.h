@@ -3,6 +3,7 @@
 
 #include <QDockWidget>
 #include <QMainWindow>
+#include <QStackedWidget>
 #include <QTranslator>
 #include <memory>
 
@@ -11,12 +12,16 @@
 #include "adapters/qt/explorer/qt_explorer.h"
 #include "adapters/qt/wording.h"
 #include "studio/document_area.h"
+#include "studio/editor_status.h"
 #include "studio/find_commands.h"
+#include "studio/help_commands.h"
 #include "studio/history_commands.h"
 #include "studio/macro_commands.h"
 #include "studio/preferences.h"
 #include "studio/project.h"
 #include "studio/project_window.h"
+#include "studio/recipe_commands.h"
+#include "studio/start_page.h"
 #include "studio/studio_host.h"
 #include "studio/studio_menus.h"
 
@@ -34,7 +39,10 @@ class MainWindow : public QMainWindow, private StudioCommands, private ProjectWi
     void closeProject() override;
     /// Makes an empty project and opens it. False after a message when the file exists or cannot be written.
     bool createProject(const QString& path);
-    /// Writes the language to the registry. The studio follows at once, the add-in with the next project.
+    /// Opens the project that was open when the studio was left, where the user was; unless he does not want that.
+    void reopenLast();
+    /// Writes the language to the registry. The window follows at once, the add-in by being started again. When
+    /// something is being typed the user is asked first.
     void chooseLanguage(std::int32_t lcid) override;
 
     [[nodiscard]] const Project* project() const noexcept override { return project_.get(); }
@@ -46,11 +54,17 @@ class MainWindow : public QMainWindow, private StudioCommands, private ProjectWi
     void newProject() override;
     void chooseProject() override;
     void openRecent(const QString& path) override { openProject(path); }
+    void forgetRecent(const QString& path) override { tellUnlessListed(preferences_.removeRecent(path)); }
     void clearRecent() override;
+    void openSample() override;
+    [[nodiscard]] bool hasSample() const override;
+    void reopenAtStart(bool reopen) override;
+    [[nodiscard]] bool reopensAtStart() const override { return preferences_.reopens(); }
     void keepDailyCopies(bool keep) override;
     [[nodiscard]] bool keepsDailyCopies() const override { return history_.keepsDailyCopies(); }
-    void showHelp() override;
-    void showAbout() override;
+    void showHelp() override { help_.show(documentsHandle_); }
+    void showShortcuts() override { help_.showShortcuts(); }
+    void showAbout() override { help_.showAbout(); }
     [[nodiscard]] QStringList recentProjects() const override { return preferences_.recent(); }
 
     void open(const QString& path) override;
@@ -59,15 +73,18 @@ class MainWindow : public QMainWindow, private StudioCommands, private ProjectWi
 
     void setUp();
     void restoreWindow();
+    void saveWindow();
+    void openBranch();
     void readLanguage();
+    [[nodiscard]] bool storesWhatIsTyped();
+    void restartAddIn();
     void useLanguage(std::int32_t lcid);
-    void installHelp();
     void startAddIn();
-    void tellOfLastSession();
     void showProject();
     void warn(const QString& text);
     void warn(const QString& text, const QString& detail) { warn(text.arg(detail)); }
     [[nodiscard]] bool reported(void (MainWindow::*action)(const QString&), const QString& path);
+    bool attempt(const std::function<void()>& action);
     void tellUnlessListed(bool listed);
     [[nodiscard]] QString told(const automation::Error& error) const;
     [[noreturn]] void fail(const QString& text, const QString& detail) const;
@@ -75,6 +92,7 @@ class MainWindow : public QMainWindow, private StudioCommands, private ProjectWi
     StudioHost& host_;
     Preferences& preferences_;
     const qt::Wording& wording_;
+    QStackedWidget central_;
     DocumentArea documents_;
     QDockWidget explorerDock_;
     QWidget explorerPanel_;
@@ -86,7 +104,11 @@ class MainWindow : public QMainWindow, private StudioCommands, private ProjectWi
     MacroCommands macros_;
     HistoryCommands history_;
     FindCommands find_;
+    RecipeCommands recipes_;
+    EditorStatus status_;
     StudioMenus menus_;
+    HelpCommands help_;
+    StartPage start_;
     std::unique_ptr<Project> project_;
 };
 

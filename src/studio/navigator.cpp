@@ -67,6 +67,12 @@ std::shared_ptr<forms::Grid> Navigator::grid() const {
     return std::dynamic_pointer_cast<forms::Grid>(editor->get(editor_name::grid).asObject());
 }
 
+bool Navigator::gridHasKeyboard() const {
+    const QWidget* const widget = QApplication::focusWidget();
+    const std::shared_ptr<forms::Grid> rows = grid();
+    return inGrid_ && widget != nullptr && !tree_.hasFocus() && rows && rows->hasFocus() && !rows->editorOpen();
+}
+
 bool Navigator::show(const Place& place, bool into) {
     if (window_.project() == nullptr) return false;
     const bool subRecipes = place.member != 0 && place.ofSubRecipe;

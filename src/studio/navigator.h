@@ -39,6 +39,10 @@ class Navigator : public QObject {
         bool inGrid = false;         ///< it had the keyboard later than the explorer
     };
     [[nodiscard]] Here here() const;
+    /// The editor's grid; null while there is none.
+    [[nodiscard]] std::shared_ptr<forms::Grid> grid() const;
+    /// Whether it has the keyboard, and no cell of it is open.
+    [[nodiscard]] bool gridHasKeyboard() const;
 
   private:
     void go(int step);
@@ -46,7 +50,6 @@ class Navigator : public QObject {
     [[nodiscard]] bool chooseNode(const std::string& key);
     bool showMember(std::int64_t member, bool into);
     void showColumn(std::string_view column);
-    [[nodiscard]] std::shared_ptr<forms::Grid> grid() const;
 
     ProjectWindow& window_;
     StudioHost& host_;

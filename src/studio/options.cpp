@@ -23,13 +23,15 @@ Options parseOptions(const QStringList& arguments) {
     const QCommandLineOption config(QStringLiteral("config"), QString(), QStringLiteral("DIR"));
     const QCommandLineOption language(QStringLiteral("lang"), QString(), QStringLiteral("de|en"));
     QCommandLineParser parser;
-    parser.addOptions({help, version, config, language});
+    const QCommandLineOption empty(QStringLiteral("empty"));
+    parser.addOptions({help, version, config, language, empty});
     Options options;
     if (!parser.parse(arguments)) {
         options.error = parser.errorText();
         return options;
     }
     options.help = parser.isSet(help);
+    options.empty = parser.isSet(empty);
     options.version = parser.isSet(version);
     options.configFolder = parser.value(config);
     if (parser.isSet(language)) readLanguage(parser.value(language), options);
@@ -41,10 +43,11 @@ Options parseOptions(const QStringList& arguments) {
 
 QString usageText() {
     return QStringLiteral(
-        "Usage: HelvixStudio [--config DIR] [--lang de|en] [FILE]\n"
-        "Opens the studio, and in it the project FILE (*.hxs).\n\n"
+        "Usage: HelvixStudio [--config DIR] [--lang de|en] [--empty] [FILE]\n"
+        "Opens the studio, and in it the project FILE (*.hxs), or the one that was open last.\n\n"
         "  --config DIR   keep registry, window and list of projects in DIR\n"
         "  --lang de|en   German or English, from now on\n"
+        "  --empty        without the project that was open last\n"
         "  -h, --help     this text\n"
         "  -v, --version  the version\n");
 }

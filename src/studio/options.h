@@ -13,6 +13,7 @@ struct Options {
     QString configFolder;                  ///< empty: the user's
     std::optional<std::int32_t> language;  ///< a locale identifier, to be kept for later starts too
     QString file;                          ///< project to open; empty for none
+    bool empty = false;                    ///< without the project that was open last
     bool help = false;
     bool version = false;
     QString error;  ///< what is wrong with the command line; empty when nothing is

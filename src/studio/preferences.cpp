@@ -17,6 +17,10 @@ const QString geometryKey = QStringLiteral("window/geometry");
 const QString layoutKey = QStringLiteral("window/layout");
 const QString recentKey = QStringLiteral("projects/recent");
 
+const QString columnsGroup = QStringLiteral("columns");
+const QString sessionGroup = QStringLiteral("session");
+const QString lastFileKey = QStringLiteral("session/file");
+const QString reopensKey = QStringLiteral("projects/reopen");
 const QString dailyCopiesKey = QStringLiteral("projects/dailyCopies");
 
 QVariant read(const QString& file, const QString& key) { return QSettings(file, QSettings::IniFormat).value(key); }
@@ -47,11 +51,55 @@ QByteArray Preferences::geometry() const { return read(file_, geometryKey).toByt
 
 QByteArray Preferences::layout() const { return read(file_, layoutKey).toByteArray(); }
 
-bool Preferences::saveWindow(const QByteArray& geometry, const QByteArray& layout) {
+Preferences::Columns Preferences::columns() const {
+    QSettings settings(file_, QSettings::IniFormat);
+    settings.beginGroup(columnsGroup);
+    Columns columns;
+    for (const QString& list : settings.childKeys()) columns[list] = settings.value(list).toByteArray();
+    return columns;
+}
+
+bool Preferences::saveWindow(const QByteArray& geometry, const QByteArray& layout, const Columns& columns) {
     return write([&](QSettings& settings) {
         settings.setValue(geometryKey, geometry);
         settings.setValue(layoutKey, layout);
+        settings.beginGroup(columnsGroup);
+        for (auto list = columns.begin(); list != columns.end(); ++list) settings.setValue(list.key(), list.value());
+        settings.endGroup();
     });
+}
+
+Preferences::Session Preferences::session() const {
+    QSettings settings(file_, QSettings::IniFormat);
+    settings.beginGroup(sessionGroup);
+    return {.file = settings.value(QStringLiteral("file")).toString(),
+            .expanded = settings.value(QStringLiteral("expanded")).toStringList(),
+            .node = settings.value(QStringLiteral("node")).toString(),
+            .filter = settings.value(QStringLiteral("filter")).toString(),
+            .row = settings.value(QStringLiteral("row"), -1).toInt(),
+            .scrolled = settings.value(QStringLiteral("scrolled")).toInt(),
+            .byName = settings.value(QStringLiteral("byName")).toBool()};
+}
+
+bool Preferences::saveSession(const Session& session) {
+    return write([&](QSettings& settings) {
+        settings.beginGroup(sessionGroup);
+        const std::pair<const char*, QVariant> values[] = {
+            {"file", session.file},    {"expanded", session.expanded}, {"node", session.node},
+            {"row", session.row},      {"scrolled", session.scrolled}, {"filter", session.filter},
+            {"byName", session.byName}};
+        for (const auto& [key, value] : values) settings.setValue(QLatin1StringView(key), value);
+        settings.endGroup();
+    });
+}
+
+bool Preferences::reopens() const {
+    const QVariant reopens = read(file_, reopensKey);
+    return reopens.isNull() || reopens.toBool();
+}
+
+bool Preferences::setReopens(bool reopens) {
+    return write([&](QSettings& settings) { settings.setValue(reopensKey, reopens); });
 }
 
 QStringList Preferences::recent() const { return recentIn(QSettings(file_, QSettings::IniFormat)); }
@@ -62,6 +110,9 @@ bool Preferences::addRecent(const QString& path) {
         list.removeAll(path);
         list.prepend(path);
         settings.setValue(recentKey, QStringList(list.mid(0, recentCount)));
+        if (settings.value(lastFileKey).toString() == path) return;
+        settings.remove(sessionGroup);  // is another's
+        settings.setValue(lastFileKey, path);
     });
 }
 

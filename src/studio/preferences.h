@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QHash>
 #include <QString>
 #include <QStringList>
 #include <functional>
@@ -18,8 +19,26 @@ class Preferences {
 
     [[nodiscard]] QByteArray geometry() const;
     [[nodiscard]] QByteArray layout() const;
+    /// The columns of the window's lists, by the lists' names.
+    using Columns = QHash<QString, QByteArray>;
+    [[nodiscard]] Columns columns() const;
     /// False when the file cannot be written.
-    bool saveWindow(const QByteArray& geometry, const QByteArray& layout);
+    bool saveWindow(const QByteArray& geometry, const QByteArray& layout, const Columns& columns = {});
+
+    /// Where the user was when the studio was left.
+    struct Session {
+        QString file;  ///< the project; empty for none
+        QStringList expanded;
+        QString node, filter;
+        int row = -1, scrolled = 0;
+        bool byName = false;
+        friend bool operator==(const Session&, const Session&) = default;
+    };
+    [[nodiscard]] Session session() const;
+    bool saveSession(const Session& session);
+    /// Whether a start goes on there.
+    [[nodiscard]] bool reopens() const;
+    bool setReopens(bool reopens);
 
     /// The latest first, at most `recentCount`.
     static constexpr int recentCount = 8;

@@ -22,14 +22,27 @@ Project::Project(const QString& file, StudioHost& host, qt::QtExplorer& explorer
       explorer_(explorer),
       open_(qt::fromQt(file_), host.registry()) {
     host_.setProjectFile(file_);
-    explorer_.openProject(open_.name(), qt::namedIcon("studio/project"));
+    showNode();
 }
 
 Project::~Project() {
+    endAddIn();
+    host_.setProjectFile({});
+}
+
+void Project::showNode() { explorer_.openProject(open_.name(), qt::namedIcon("studio/project")); }
+
+void Project::endAddIn() {
     host_.screen().settle();
     open_.end();
     explorer_.closeProject();
-    host_.setProjectFile({});
+}
+
+void Project::restartAddIn() {
+    endAddIn();
+    open_.reopen();
+    showNode();
+    startAddIn();
 }
 
 void Project::startAddIn() {

@@ -24,11 +24,16 @@ class Project {
 
     /// Creates the add-in and starts it. Throws automation::Error when it cannot be loaded; the project stays open.
     void startAddIn();
+    /// Ends the add-in and starts another, which speaks the language of now. What startAddIn() throws is passed on.
+    void restartAddIn();
     [[nodiscard]] const QString& file() const noexcept { return file_; }
     [[nodiscard]] QString name() const { return qt::toQt(open_.name()); }
     [[nodiscard]] const std::shared_ptr<host::CHX4Extensibility>& addIn() const noexcept { return open_.addIn(); }
 
   private:
+    void showNode();
+    void endAddIn();
+
     QString file_;
     StudioHost& host_;
     qt::QtExplorer& explorer_;

@@ -14,6 +14,7 @@ StudioApplication::StudioApplication(int& argc, char** argv) : QApplication(argc
     setStyle(new qt::Style);  // the application owns it
     setApplicationName(QStringLiteral("HelvixStudio"));
     installEventFilter(&inputRules_);
+    installEventFilter(&toolTips_);
 }
 
 bool StudioApplication::notify(QObject* receiver, QEvent* event) {

@@ -5,6 +5,7 @@
 #include <functional>
 
 #include "adapters/qt/screen/input_rules.h"
+#include "adapters/qt/screen/tool_tips.h"
 #include "automation/error.h"
 
 namespace hx::studio {
@@ -21,6 +22,7 @@ class StudioApplication : public QApplication {
   private:
     void report(const automation::Error& error);
     qt::InputRules inputRules_;
+    qt::ToolTips toolTips_;
     Report report_;
     bool reporting_ = false;
 };

@@ -21,12 +21,15 @@ StudioMenus::StudioMenus(QMainWindow& window, StudioCommands& commands, const QL
       help_(&window),
       new_(&window),
       open_(&window),
+      sample_(&window),
       close_(&window),
       copies_(&window),
+      reopen_(&window),
       exit_(&window),
       german_(&window),
       english_(&window),
       showHelp_(&window),
+      shortcuts_(&window),
       about_(&window),
       languages_(this) {
     build(window, views, edits);
@@ -34,6 +37,9 @@ StudioMenus::StudioMenus(QMainWindow& window, StudioCommands& commands, const QL
     connect(&open_, &QAction::triggered, this, [this] { commands_.chooseProject(); });
     connect(&close_, &QAction::triggered, this, [this] { commands_.closeProject(); });
     connect(&copies_, &QAction::triggered, this, [this](bool keep) { commands_.keepDailyCopies(keep); });
+    connect(&sample_, &QAction::triggered, this, [this] { commands_.openSample(); });
+    connect(&reopen_, &QAction::triggered, this, [this](bool reopen) { commands_.reopenAtStart(reopen); });
+    connect(&shortcuts_, &QAction::triggered, this, [this] { commands_.showShortcuts(); });
     connect(&exit_, &QAction::triggered, &window, &QWidget::close);
     connect(&german_, &QAction::triggered, this, [this] { commands_.chooseLanguage(qt::Wording::german); });
     connect(&english_, &QAction::triggered, this, [this] { commands_.chooseLanguage(qt::Wording::english); });
@@ -45,11 +51,12 @@ StudioMenus::StudioMenus(QMainWindow& window, StudioCommands& commands, const QL
 
 void StudioMenus::build(QMainWindow& window, const QList<QAction*>& views, const QList<QAction*>& edits) {
     const std::pair<QObject*, const char*> names[] = {
-        {&file_, "menuFile"},     {&recent_, "menuRecent"},     {&edit_, "menuEdit"},
-        {&view_, "menuView"},     {&language_, "menuLanguage"}, {&help_, "menuHelp"},
-        {&new_, "actionNew"},     {&open_, "actionOpen"},       {&close_, "actionClose"},
-        {&exit_, "actionExit"},   {&german_, "actionGerman"},   {&english_, "actionEnglish"},
-        {&about_, "actionAbout"}, {&showHelp_, "actionHelp"},   {&copies_, "actionDailyCopies"}};
+        {&file_, "menuFile"},       {&recent_, "menuRecent"},     {&edit_, "menuEdit"},
+        {&view_, "menuView"},       {&language_, "menuLanguage"}, {&help_, "menuHelp"},
+        {&new_, "actionNew"},       {&open_, "actionOpen"},       {&close_, "actionClose"},
+        {&exit_, "actionExit"},     {&german_, "actionGerman"},   {&english_, "actionEnglish"},
+        {&about_, "actionAbout"},   {&showHelp_, "actionHelp"},   {&copies_, "actionDailyCopies"},
+        {&sample_, "actionSample"}, {&reopen_, "actionReopen"},   {&shortcuts_, "actionShortcuts"}};
     for (const auto& [object, name] : names) object->setObjectName(QLatin1StringView(name));
     new_.setShortcut(QKeySequence::New);
     new_.setIcon(qt::namedIcon("studio/new-project"));
@@ -62,18 +69,22 @@ void StudioMenus::build(QMainWindow& window, const QList<QAction*>& views, const
     }
     file_.addActions({&new_, &open_});
     file_.addMenu(&recent_);
+    sample_.setIcon(qt::namedIcon("studio/project"));
+    sample_.setVisible(commands_.hasSample());
+    file_.addAction(&sample_);
     file_.addSeparator();
     file_.addAction(&close_);
     file_.addSeparator();
     copies_.setCheckable(true);
-    file_.addAction(&copies_);
+    reopen_.setCheckable(true);
+    file_.addActions({&copies_, &reopen_});
     file_.addSeparator();
     file_.addAction(&exit_);
     edit_.addActions(edits);
     view_.addActions(views);
     language_.addActions({&german_, &english_});
     showHelp_.setIcon(qt::namedIcon("studio/help"));
-    help_.addAction(&showHelp_);
+    help_.addActions({&showHelp_, &shortcuts_});
     help_.addSeparator();
     help_.addAction(&about_);
     for (QMenu* menu : {&file_, &edit_, &view_, &language_, &help_}) window.menuBar()->addMenu(menu);
@@ -91,6 +102,9 @@ void StudioMenus::retranslate() {
         {&open_, wording_.translate("studio", "&Open…")},
         {&close_, wording_.translate("studio", "&Close Project")},
         {&copies_, wording_.translate("studio", "&Keep a Copy before Each Day's First Change")},
+        {&sample_, wording_.translate("studio", "&Sample Project")},
+        {&reopen_, wording_.translate("studio", "Open the &Last Project at Start")},
+        {&shortcuts_, wording_.translate("studio", "&Keyboard Shortcuts")},
         {&exit_, wording_.translate("studio", "E&xit")},
         {&german_, wording_.translate("studio", "&Deutsch (German)")},
         {&english_, wording_.translate("studio", "&English")},
@@ -99,7 +113,10 @@ void StudioMenus::retranslate() {
     for (const auto& [action, text] : actions) action->setText(text);
     (wording_.isEnglish() ? english_ : german_).setChecked(true);
     copies_.setChecked(commands_.keepsDailyCopies());
+    reopen_.setChecked(commands_.reopensAtStart());
 }
+
+QList<QAction*> StudioMenus::beginnings() { return {&new_, &open_, &sample_, &showHelp_}; }
 
 void StudioMenus::fillRecent() {
     recent_.clear();

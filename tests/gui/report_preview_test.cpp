@@ -56,7 +56,7 @@ TEST_F(ReportPreview, EveryToolHasANameAKeyAndAPicture) {
             EXPECT_FALSE(button->defaultAction()->shortcut().isEmpty()) << name;
             EXPECT_EQ(button->focusPolicy(), Qt::TabFocus) << name;
         }
-        EXPECT_EQ(tools, 12);
+        EXPECT_EQ(tools, 13);
     });
 }
 

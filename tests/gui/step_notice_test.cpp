@@ -27,7 +27,7 @@ class StepNotice : public StudioMacroTest {
         handleEvents();
     }
     void deleteRecipe(const QString& name, const char* yes = "Ja") {
-        click("Rezepte/" + name);
+        click((host().wording().isEnglish() ? "Recipes/" : "Rezepte/") + name);
         const BoxAnswers answers({yes});
         QTest::keyClick(&tree(), Qt::Key_Delete, Qt::ControlModifier);
         handleEvents();

@@ -190,22 +190,6 @@ TEST_F(StudioTest, TheStudioRemembersItsWindowAndItsProjects) {
     EXPECT_EQ(window().windowTitle(), "HelvixStudio - Anlage");
 }
 
-TEST_F(StudioTest, TheLanguageChangesTheStudioAtOnceAndTheEditorWithTheNextProject) {
-    start();
-    const QString file = makeProject();
-    open(file);
-    EXPECT_EQ(find<QMenu>(window(), "menuFile").title(), "&Datei");
-    find<QAction>(window(), "actionEnglish").trigger();
-    EXPECT_EQ(find<QMenu>(window(), "menuFile").title(), "&File");
-    EXPECT_EQ(window().statusBar()->currentMessage(),
-              "The recipe editor's language takes effect with the next project that is opened.");
-    EXPECT_TRUE(node("Rezepte").isValid());
-    open(file);
-    click("Recipes");
-    EXPECT_EQ(titleOfEditor(), "HelvixStudio Recipe Editor");
-    EXPECT_EQ(host().registry().readNumber("SOFTWARE\\Tarnwell\\Helvix\\4.0", "LCID", 0), 1033);
-}
-
 TEST_F(StudioTest, TheCloseBoxHidesTheEditorAndADoubleClickShowsItAgain) {
     start();
     open(makeProject());

@@ -258,7 +258,9 @@ bool liesIn(std::string_view path, std::span<const std::string_view> folders) {
     return std::ranges::any_of(folders, [&](std::string_view folder) { return path.starts_with(folder); });
 }
 
+// Also the header's name, and asking whether there is one, show nothing.
 bool isPlainToolTip(std::string_view call) {
+    if (call.starts_with("QToolTip>") || call.starts_with("ToolTipRole).isValid()")) return true;
     return !placesOf("plainToolTip", call).empty() || !placesOf("titledToolTip", call).empty();
 }
 

@@ -207,6 +207,9 @@ TEST(LayerRules, LabelsAndToolTipsShowTextAsItIs) {
                 ElementsAre("report/preview/a.cpp:2: a tool tip shows HTML: use plainToolTip",
                             "report/preview/a.cpp:4: a tool tip shows HTML: use plainToolTip"));
     EXPECT_THAT(textsAsHtml("adapters/qt/controls/plain_label.h", "QLabel"), IsEmpty());
+    EXPECT_THAT(
+        textsAsHtml("studio/a.cpp", "#include <QToolTip>\nif (index.data(Qt::ToolTipRole).isValid()) return;\n"),
+        IsEmpty());
 }
 
 TEST(LayerRules, ExceptionsAreToldByTheHelper) {

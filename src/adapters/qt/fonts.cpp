@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "adapters/qt/fonts.h"
 
+#include <QGuiApplication>
 #include <algorithm>
+#include <cmath>
 
 #include "adapters/qt/text.h"
 
@@ -14,6 +16,18 @@ QFont toQt(const forms::Font::Values& font) {
     result.setItalic(font.italic);
     result.setStrikeOut(font.strikethrough);
     result.setUnderline(font.underline);
+    return result;
+}
+
+// Sizes of settings are whole numbers when they are applied.
+QFont shownFont(const forms::Font::Values& font) {
+    QFont result = toQt(font);
+    forms::Font::Values usual;
+    const bool usualSize = font.size == usual.size || font.size == std::floor(usual.size);
+    usual.size = font.size;
+    usual.charset = font.charset;
+    const qreal desktop = QGuiApplication::font().pointSizeF();
+    if (font == usual && usualSize && desktop > font.size) result.setPointSizeF(desktop);
     return result;
 }
 

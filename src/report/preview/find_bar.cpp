@@ -21,7 +21,6 @@ FindBar::FindBar(Find find, const qt::Wording& wording, QWidget* parent)
     state_.setObjectName(QStringLiteral("reportFindState"));
     field_.setPlaceholderText(wording.translate("report", "Find in the report"));
     field_.setAccessibleName(field_.placeholderText());
-    field_.setClearButtonEnabled(true);
     field_.setMaximumWidth(fieldWidth);
     field_.installEventFilter(this);
     row_.setContentsMargins(barMargin, barMargin, barMargin, barMargin);

@@ -38,6 +38,7 @@ int runStudio(StudioApplication& application, const Options& options) {
     QTimer::singleShot(0, &window, [&] {
         if (options.language) window.chooseLanguage(*options.language);
         if (!options.file.isEmpty()) window.openProject(options.file);
+        else if (!options.empty) window.reopenLast();
     });
     const int result = QApplication::exec();
     application.setReport({});

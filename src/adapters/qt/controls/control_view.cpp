@@ -78,7 +78,7 @@ void ControlView::show(std::string_view property) {
     else if (property == "Visible") widget().setVisible(control_->visible());
     else if (property == "Enabled") widget().setEnabled(control_->enabled());
     else if (property == "ToolTipText") widget().setToolTip(plainToolTip(toQt(control_->toolTipText())));
-    else if (property == "Font") widget().setFont(toQt(control_->font().values()));
+    else if (property == "Font") widget().setFont(shownFont(control_->font().values()));
     else if (property == "TabStop" && widget().focusPolicy() != Qt::NoFocus) {
         widget().setFocusPolicy(control_->tabStop() ? Qt::StrongFocus : Qt::ClickFocus);
     }

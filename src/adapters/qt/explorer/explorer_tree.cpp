@@ -23,6 +23,7 @@ ExplorerTree::ExplorerTree() {
     setIconSize(QSize(imageSize, imageSize));
     setEditTriggers(NoEditTriggers);
     setExpandsOnDoubleClick(false);
+    setSelectionMode(ExtendedSelection);
     setAnimated(false);
     connect(this, &QTreeView::clicked, this, [this](const QModelIndex& node) {
         if (!clickedByPress_ || clicked_ != node) click(node);

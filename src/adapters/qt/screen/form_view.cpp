@@ -98,7 +98,7 @@ void FormView::orderTabs() {
 void FormView::apply(std::string_view property) {
     if (form_ == nullptr) return;
     if (property == "Caption") widget_.setWindowTitle(toQt(form_->caption()));
-    else if (property == "Font") widget_.setFont(toQt(form_->font().values()));
+    else if (property == "Font") widget_.setFont(shownFont(form_->font().values()));
     else if (property == "Enabled") widget_.setEnabled(form_->enabled());
     else if (property == "Visible" || property == "WindowState") applyVisible();
     else applyBounds();

@@ -6,11 +6,11 @@
 #include <QAction>
 #include <QHeaderView>
 #include <QHelpEvent>
-#include <QLabel>
 #include <QLineEdit>
 #include <QToolButton>
 #include <QToolTip>
 
+#include "adapters/qt/controls/plain_label.h"
 #include "adapters/qt/text.h"
 
 namespace hx::qt {
@@ -24,7 +24,7 @@ QString ofButton(const QAbstractButton& button) {
     QString tip = button.toolTip();
     if (key.isEmpty() || tip.contains(key) || Qt::mightBeRichText(tip)) return {};
     if (tip.isEmpty()) tip = button.text().remove('&');
-    return tip.isEmpty() ? QString() : plainToolTip(QStringLiteral("%1 (%2)").arg(tip, key));
+    return tip.isEmpty() ? QString() : QStringLiteral("%1 (%2)").arg(tip, key);
 }
 
 // What of a rectangle the user sees.
@@ -56,17 +56,15 @@ QString ofText(const QWidget& widget, const QString& text) {
 
 QString ToolTips::textAt(const QWidget& widget, const QPoint& place) {
     if (const auto* button = qobject_cast<const QAbstractButton*>(&widget)) return ofButton(*button);
-    if (const auto* label = qobject_cast<const QLabel*>(&widget)) {
-        return label->wordWrap() || Qt::mightBeRichText(label->text()) ? QString()
-                                                                       : plainToolTip(ofText(widget, label->text()));
-    }
+    if (const auto* label = dynamic_cast<const PlainLabel*>(&widget))
+        return label->wordWrap() ? QString() : ofText(widget, label->text());
     if (const auto* line = qobject_cast<const QLineEdit*>(&widget)) {
-        return line->echoMode() == QLineEdit::Normal ? plainToolTip(ofText(widget, line->text())) : QString();
+        return line->echoMode() == QLineEdit::Normal ? ofText(widget, line->text()) : QString();
     }
     const auto* view = qobject_cast<const QAbstractItemView*>(widget.parentWidget());
     if (view == nullptr || view->viewport() != &widget) return {};
     const auto* header = qobject_cast<const QHeaderView*>(view);
-    return plainToolTip(header != nullptr ? ofSection(*header, place) : ofItem(*view, place));
+    return header != nullptr ? ofSection(*header, place) : ofItem(*view, place);
 }
 
 bool ToolTips::eventFilter(QObject* watched, QEvent* event) {
@@ -75,7 +73,7 @@ bool ToolTips::eventFilter(QObject* watched, QEvent* event) {
     const auto& help = static_cast<const QHelpEvent&>(*event);
     const QString text = textAt(*widget, help.pos());
     if (text.isEmpty()) return false;
-    QToolTip::showText(help.globalPos(), text, widget);
+    QToolTip::showText(help.globalPos(), plainToolTip(text), widget);
     return true;
 }
 

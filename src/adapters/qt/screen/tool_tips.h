@@ -12,7 +12,7 @@ namespace hx::qt {
 /// off. An event filter for the application.
 class ToolTips : public QObject {
   public:
-    /// What is told at a place of a widget, plain or as HTML; empty when the window's own tool tip does.
+    /// What is told at a place of a widget; empty when the window's own tool tip does.
     [[nodiscard]] static QString textAt(const QWidget& widget, const QPoint& place);
 
   protected:

@@ -351,6 +351,30 @@ Soll sie ersetzt werden?</translation>
         <source>Stop</source>
         <translation>Anhalten</translation>
     </message>
+    <message>
+        <source>Find in the report</source>
+        <translation>Im Bericht suchen</translation>
+    </message>
+    <message>
+        <source>Previous Match (Shift+F3)</source>
+        <translation>Voriger Treffer (Umschalt+F3)</translation>
+    </message>
+    <message>
+        <source>Next Match (F3)</source>
+        <translation>Nächster Treffer (F3)</translation>
+    </message>
+    <message>
+        <source>Not found</source>
+        <translation>Nicht gefunden</translation>
+    </message>
+    <message>
+        <source>Find</source>
+        <translation>Suchen</translation>
+    </message>
+    <message>
+        <source>Looking for “%1” …</source>
+        <translation>Sucht „%1“ …</translation>
+    </message>
 </context>
 <context>
     <name>studio</name>
@@ -487,22 +511,10 @@ Soll sie ersetzt werden?</translation>
         <translation>Dokumente</translation>
     </message>
     <message>
-        <source>No project is open
-
-File → Open or File → New Project</source>
-        <translation>Kein Projekt geöffnet
-
-Datei → Öffnen oder Datei → Neues Projekt</translation>
-    </message>
-    <message>
         <source>The setting could not be saved.
 %1</source>
         <translation>Die Einstellung konnte nicht gespeichert werden.
 %1</translation>
-    </message>
-    <message>
-        <source>The recipe editor&apos;s language takes effect with the next project that is opened.</source>
-        <translation>Die Sprache des Rezepteditors gilt ab dem nächsten geöffneten Projekt.</translation>
     </message>
     <message>
         <source>Ready</source>
@@ -577,10 +589,6 @@ Datei → Öffnen oder Datei → Neues Projekt</translation>
     <message>
         <source>&amp;About HelvixStudio</source>
         <translation>&amp;Über HelvixStudio</translation>
-    </message>
-    <message>
-        <source>&lt;b&gt;HelvixStudio %1&lt;/b&gt;&lt;p&gt;Engineering of process visualisations with the recipe editor.&lt;/p&gt;</source>
-        <translation>&lt;b&gt;HelvixStudio %1&lt;/b&gt;&lt;p&gt;Projektierung von Prozessvisualisierungen mit dem Rezepteditor.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Unexpected Error</source>
@@ -961,6 +969,250 @@ Datei → Öffnen oder Datei → Neues Projekt</translation>
     <message>
         <source>%1 uses</source>
         <translation>%1 Verwendungen</translation>
+    </message>
+    <message>
+        <source>Engineering of process visualisations with the recipe editor.</source>
+        <translation>Projektierung von Prozessvisualisierungen mit dem Rezepteditor.</translation>
+    </message>
+    <message>
+        <source>Licence: MIT. Copyright © 2026 The HXRecipeEditor authors</source>
+        <translation>Lizenz: MIT. Copyright © 2026 The HXRecipeEditor authors</translation>
+    </message>
+    <message>
+        <source>Made with: %1</source>
+        <translation>Hergestellt mit: %1</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Schließen</translation>
+    </message>
+    <message>
+        <source>The project is opened again in the other language. Shall what is being typed be stored first?</source>
+        <translation>Das Projekt wird in der anderen Sprache neu geöffnet. Soll zuvor gespeichert werden, was gerade eingegeben wird?</translation>
+    </message>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>&amp;Name:</translation>
+    </message>
+    <message>
+        <source>&amp;Browse…</source>
+        <translation>&amp;Durchsuchen …</translation>
+    </message>
+    <message>
+        <source>&amp;Folder:</source>
+        <translation>&amp;Ordner:</translation>
+    </message>
+    <message>
+        <source>&amp;Create</source>
+        <translation>&amp;Anlegen</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Folder of the Project</source>
+        <translation>Ordner des Projekts</translation>
+    </message>
+    <message>
+        <source>A name cannot contain &quot;/&quot; or &quot;\&quot;.</source>
+        <translation>Ein Name kann kein „/“ oder „\“ enthalten.</translation>
+    </message>
+    <message>
+        <source>The project will be the file %1.</source>
+        <translation>Das Projekt wird die Datei %1.</translation>
+    </message>
+    <message>
+        <source>&amp;Keyboard Shortcuts</source>
+        <translation>&amp;Tastenkürzel</translation>
+    </message>
+    <message>
+        <source>Filter keyboard shortcuts</source>
+        <translation>Tastenkürzel filtern</translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation>Taste</translation>
+    </message>
+    <message>
+        <source>Effect</source>
+        <translation>Wirkung</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Start</translation>
+    </message>
+    <message>
+        <source>Recent projects</source>
+        <translation>Zuletzt geöffnet</translation>
+    </message>
+    <message>
+        <source>The projects that you open are listed here.</source>
+        <translation>Hier stehen die Projekte, die zuletzt geöffnet waren.</translation>
+    </message>
+    <message>
+        <source>&amp;Remove from List</source>
+        <translation>Aus der Liste &amp;entfernen</translation>
+    </message>
+    <message>
+        <source>&amp;Sample Project</source>
+        <translation>Be&amp;ispielprojekt</translation>
+    </message>
+    <message>
+        <source>Open the &amp;Last Project at Start</source>
+        <translation>Beim Start das &amp;letzte Projekt öffnen</translation>
+    </message>
+    <message>
+        <source>Paste Variables</source>
+        <translation>Variablen einfügen</translation>
+    </message>
+    <message>
+        <source>What happens</source>
+        <translation>Was geschieht</translation>
+    </message>
+    <message>
+        <source>Add &amp;unknown variables too</source>
+        <translation>Auch &amp;unbekannte Variablen hinzufügen</translation>
+    </message>
+    <message>
+        <source>&amp;Add</source>
+        <translation>&amp;Hinzufügen</translation>
+    </message>
+    <message>
+        <source>is there already</source>
+        <translation>ist schon da</translation>
+    </message>
+    <message>
+        <source>is added</source>
+        <translation>wird hinzugefügt</translation>
+    </message>
+    <message>
+        <source>is added, not in the list</source>
+        <translation>wird hinzugefügt, nicht in der Liste</translation>
+    </message>
+    <message>
+        <source>not in the list</source>
+        <translation>nicht in der Liste</translation>
+    </message>
+    <message>
+        <source>%1 of %2 lines are added.</source>
+        <translation>%1 von %2 Zeilen werden hinzugefügt.</translation>
+    </message>
+    <message>
+        <source>&amp;Duplicate</source>
+        <translation>&amp;Duplizieren</translation>
+    </message>
+    <message>
+        <source>Duplicate with &amp;Sub-Recipes</source>
+        <translation>Mit &amp;Unterrezepten duplizieren</translation>
+    </message>
+    <message>
+        <source>&amp;Create Series…</source>
+        <translation>Reihe &amp;anlegen …</translation>
+    </message>
+    <message>
+        <source>D&amp;elete Selected Recipes…</source>
+        <translation>Ausgewählte Rezepte &amp;löschen …</translation>
+    </message>
+    <message>
+        <source>&amp;Report on Selected Recipes</source>
+        <translation>Bericht über die ausgewählten &amp;Rezepte</translation>
+    </message>
+    <message>
+        <source>Cop&amp;y Rows</source>
+        <translation>Zeilen &amp;kopieren</translation>
+    </message>
+    <message>
+        <source>&amp;Paste Variables…</source>
+        <translation>Variablen &amp;einfügen …</translation>
+    </message>
+    <message>
+        <source>Recipe duplicated</source>
+        <translation>Rezept dupliziert</translation>
+    </message>
+    <message>
+        <source>%1 recipes duplicated</source>
+        <translation>%1 Rezepte dupliziert</translation>
+    </message>
+    <message>
+        <source>Delete the selected recipe with all of its members?</source>
+        <translation>Das ausgewählte Rezept mit allen seinen Elementen löschen?</translation>
+    </message>
+    <message>
+        <source>Delete %1 recipes with all of their members?</source>
+        <translation>%1 Rezepte mit allen ihren Elementen löschen?</translation>
+    </message>
+    <message>
+        <source>Delete Recipes</source>
+        <translation>Rezepte löschen</translation>
+    </message>
+    <message>
+        <source>%1 recipes deleted</source>
+        <translation>%1 Rezepte gelöscht</translation>
+    </message>
+    <message>
+        <source>Series of %1 recipes created</source>
+        <translation>Reihe von %1 Rezepten angelegt</translation>
+    </message>
+    <message>
+        <source>%1 variables pasted</source>
+        <translation>%1 Variablen eingefügt</translation>
+    </message>
+    <message>
+        <source>Create Series</source>
+        <translation>Reihe anlegen</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Vorschau</translation>
+    </message>
+    <message>
+        <source>&amp;Variables, a line each:</source>
+        <translation>&amp;Variablen, je eine Zeile:</translation>
+    </message>
+    <message>
+        <source>&amp;Preview:</source>
+        <translation>V&amp;orschau:</translation>
+    </message>
+    <message>
+        <source>%1 recipes, %2 variables in each.</source>
+        <translation>%1 Rezepte, je %2 Variablen.</translation>
+    </message>
+    <message>
+        <source>%1 of all are not in the variable list.</source>
+        <translation>%1 von allen stehen nicht in der Variablenliste.</translation>
+    </message>
+    <message>
+        <source>1 row</source>
+        <translation>1 Zeile</translation>
+    </message>
+    <message>
+        <source>%1 rows</source>
+        <translation>%1 Zeilen</translation>
+    </message>
+    <message>
+        <source>%1 marked</source>
+        <translation>%1 markiert</translation>
+    </message>
+    <message>
+        <source>Row not stored yet</source>
+        <translation>Zeile noch nicht gespeichert</translation>
+    </message>
+    <message>
+        <source>All stored</source>
+        <translation>Alles gespeichert</translation>
+    </message>
+    <message>
+        <source>All stored, changes: %1</source>
+        <translation>Alles gespeichert, Änderungen: %1</translation>
+    </message>
+    <message>
+        <source>Rec&amp;ipe</source>
+        <translation>Reze&amp;pt</translation>
+    </message>
+    <message>
+        <source>What the macro has found</source>
+        <translation>Was das Makro gefunden hat</translation>
     </message>
 </context>
 </TS>
