@@ -82,10 +82,7 @@ endfunction()
 # hx_module(NAME "description" source...): an add-in that the studio loads from a file of this name.
 function(hx_module name description)
   add_library(${name} MODULE ${ARGN})
-  set_target_properties(${name} PROPERTIES PREFIX "")
-  if(WIN32)
-    target_sources(${name} PRIVATE ${CMAKE_SOURCE_DIR}/src/host/module.def)
-  endif()
+  set_target_properties(${name} PROPERTIES PREFIX "" LINKER_LANGUAGE CXX)
   hx_windows_resources(${name} ${name}.dll ${description})
 endfunction()
 

@@ -18,6 +18,7 @@ void takeClipboardImage(ExplorerObject& object, const std::string& key) { object
 void addNode(ExplorerObject& object, const std::string& parent, const std::string& caption, const std::string& key,
              const std::string& tag, const std::string& image, bool first, bool second, bool third,
              std::int32_t number) {
+    object.nodesChange();
     object.explorer().addNode({.parent = parent,
                                .caption = caption,
                                .key = key,
@@ -31,15 +32,10 @@ std::int32_t childCount(ExplorerObject& object, const std::string& key, std::int
     return static_cast<std::int32_t>(object.explorer().childKeys(key, levels).size());
 }
 
-std::string childKey(ExplorerObject& object, const std::string& key, std::int32_t levels, std::int32_t index) {
-    const std::vector<std::string> keys = object.explorer().childKeys(key, levels);
-    if (static_cast<std::size_t>(index) >= keys.size()) {  // a negative one is beyond all
-        automation::throwBadIndex("ChildKey", automation::Variant(index));
-    }
-    return keys[static_cast<std::size_t>(index)];
+void removeNode(ExplorerObject& object, const std::string& key) {
+    object.nodesChange();
+    object.explorer().removeNode(key);
 }
-
-void removeNode(ExplorerObject& object, const std::string& key) { object.explorer().removeNode(key); }
 
 void setNodeProperty(ExplorerObject& object, const std::string& key, std::int32_t property,
                      const automation::Variant& value) {
@@ -57,6 +53,20 @@ host::ProjectExplorer& ExplorerObject::explorer() const {
     return *explorer_;
 }
 
+std::string ExplorerObject::childKey(const std::string& key, std::int32_t levels, std::int32_t number) {
+    const host::ProjectExplorer& shown = explorer();
+    const bool goesOn = number > 0 && number == next_ && key == listed_ && levels == levels_;
+    if (!goesOn) keys_ = shown.childKeys(key, levels);
+    listed_ = key;
+    levels_ = levels;
+    next_ = 0;
+    if (static_cast<std::size_t>(number) >= keys_.size()) {  // a negative one is beyond all
+        automation::throwBadIndex("ChildKey", automation::Variant(number));
+    }
+    next_ = number + 1;
+    return keys_[static_cast<std::size_t>(number)];
+}
+
 const automation::MemberTable& ExplorerObject::members() const {
     using automation::indexed;
     using automation::method;
@@ -67,7 +77,7 @@ const automation::MemberTable& ExplorerObject::members() const {
         property<&selectedKey>("SelectedKey", "Key of the selected node, empty when none is"),
         property<&selectedCaption>("SelectedCaption", "Caption of the selected node, empty when none is"),
         indexed<&childCount>("ChildCount", "How many nodes lie below a node: key, levels"),
-        indexed<&childKey>("ChildKey", "Key of a node below a node: key, levels, number from 0"),
+        indexed<&ExplorerObject::childKey>("ChildKey", "Key of a node below a node: key, levels, number from 0"),
         method<&takeClipboardImage>("TakeClipboardImage", "Takes the picture on the clipboard as a node image: key"),
         method<&addNode>("AddNode", "Adds a node: parent key, caption, key, tag, image key, three options, number"),
         method<&removeNode>("RemoveNode", "Removes a node and all below it"),

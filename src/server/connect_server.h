@@ -3,6 +3,7 @@
 
 #include <vector>
 
+#include "adapters/com/extensibility_object.h"
 #include "adapters/com/server.h"
 #include "server/sessions.h"
 
@@ -19,6 +20,9 @@ class ConnectServer {
   private:
     [[nodiscard]] std::vector<com::Server::Class> withConnect(std::vector<com::Server::Class> others);
     [[nodiscard]] com::Pointer<IUnknown> makeConnect();
+    [[nodiscard]] com::ClassFactory::Lent makeLent(const host::Services& services);
+    [[nodiscard]] com::Pointer<IUnknown> serve(std::shared_ptr<host::CHX4Extensibility> addIn,
+                                               com::ExtensibilityObject::Meet meet);
 
     com::Server server_;
     Sessions sessions_;

@@ -42,7 +42,7 @@ Session::Session(std::unique_ptr<View> view, host::Components& components, const
                 .paths = host::PathStyle('\\'),
                 .numberFormat = userFormat(),
                 .moduleFile = libraryFile,
-                .libraryName = "HXRecipeEditor.dll"} {}
+                .libraryName = builtLibrary} {}
 
 void Session::meet(com::Explorer* explorer) {
     lent_ = {};

@@ -14,6 +14,9 @@
 
 namespace hx::server {
 
+/// What the file is called that the recipe editor is shipped as.
+inline constexpr const char* builtLibrary = "HXRecipeEditor.dll";
+
 /// All that one add-in is lent: what its host lends, and for the rest what Windows has. Outlives the add-in.
 class Session {
   public:

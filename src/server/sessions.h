@@ -20,11 +20,17 @@ class Sessions {
 
     /// Throws RPC_E_WRONG_THREAD in another thread than that of the objects that there are.
     [[nodiscard]] std::shared_ptr<Session> open();
+    /// For an object whose host lends everything: its services, as of this library. What such a host keeps of the
+    /// library's is not counted, so the library stays loaded. Throws as open() does.
+    [[nodiscard]] std::shared_ptr<const host::Services> lent(const host::Services& services);
 
     /// The library's file.
     [[nodiscard]] const std::wstring& file() const noexcept { return file_; }
 
   private:
+    void requireThread();
+
+    HMODULE library_;
     std::wstring file_;
     MakeView makeView_;
     com::Border& border_;

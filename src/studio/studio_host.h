@@ -6,7 +6,6 @@
 #include <string>
 
 #include "adapters/qt/help/qt_help_viewer.h"
-#include "adapters/qt/module_components.h"
 #include "adapters/qt/screen/qt_clipboard.h"
 #include "adapters/qt/screen/qt_item_selection.h"
 #include "adapters/qt/screen/qt_path_selection.h"
@@ -22,6 +21,7 @@
 #include "macros/attended_screen.h"
 #include "macros/attended_services.h"
 #include "macros/macro_provider.h"
+#include "studio/add_ins.h"
 #include "studio/help_file.h"
 #include "studio/project_variables.h"
 
@@ -44,7 +44,7 @@ class StudioHost {
     [[nodiscard]] qt::Wording& wording() noexcept { return wording_; }
     [[nodiscard]] hosting::ProjectRegistry& registry() noexcept { return projectRegistry_; }
     [[nodiscard]] host::Clipboard& clipboard() noexcept { return clipboard_; }
-    [[nodiscard]] qt::ModuleComponents& components() noexcept { return components_; }
+    [[nodiscard]] AddIns& components() noexcept { return components_; }
     [[nodiscard]] qt::QtHelpViewer& help() noexcept { return help_; }
     [[nodiscard]] HelpFile& helpFile() noexcept { return helpFile_; }
 
@@ -80,7 +80,7 @@ class StudioHost {
     qt::QtClipboard clipboard_;
     qt::QtHelpViewer help_;
     HelpFile helpFile_;
-    qt::ModuleComponents components_;
+    AddIns components_;
     ProjectVariables variables_;
     qt::QtItemSelection items_;
     qt::QtPathSelection folders_;

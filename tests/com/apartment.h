@@ -33,17 +33,4 @@ struct Value : VARIANT {
     Value& operator=(const Value&) = delete;
 };
 
-/// A text for one call.
-class Text {
-  public:
-    explicit Text(std::string_view text) : text_(makeBstr(text)) {}
-    ~Text() { SysFreeString(text_); }
-    Text(const Text&) = delete;
-    Text& operator=(const Text&) = delete;
-    operator BSTR() const { return text_; }
-
-  private:
-    BSTR text_;
-};
-
 }  // namespace hx::com

@@ -10,7 +10,6 @@
 
 #include "adapters/qt/choosers/item_dialog.h"
 #include "adapters/qt/help/qt_help_viewer.h"
-#include "adapters/qt/module_components.h"
 #include "adapters/qt/screen/qt_item_selection.h"
 #include "adapters/qt/screen/qt_path_selection.h"
 #include "adapters/qt/text.h"
@@ -34,23 +33,10 @@ class ServicesTest : public Desktop {
     FewVariables variables;
     qt::QtItemSelection items{variables, windows, wording};
 
-    void write(const QString& name, const QByteArray& bytes) {
-        QFile file(folder.filePath(name));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(bytes);
-    }
     /// Runs a choice while `action` acts on its dialog.
     std::string choose(const std::string& current, const std::function<void(qt::ItemDialog&)>& action) {
         const NextModal<qt::ItemDialog> next(action);
         return items.choose(0, current);
-    }
-    static std::pair<std::int32_t, std::string> errorOf(qt::ModuleComponents& components, const char* programId) {
-        try {
-            (void)components.create(programId);
-        } catch (const automation::Error& error) {
-            return {error.number(), error.description()};
-        }
-        return {0, "none"};
     }
 };
 
@@ -107,40 +93,6 @@ TEST_F(ServicesTest, AMissingHelpFileIsSaid) {
     ASSERT_EQ(answers.shown().size(), 1u);
     EXPECT_EQ(answers.shown()[0].text,
               "Die Hilfedatei \"/nowhere\\helpfiles\\Rezeptsystem.chm\" wurde nicht gefunden.");
-}
-
-TEST_F(ServicesTest, AModuleThatIsMissingIsAnErrorWithTheSystemsNumber) {
-    qt::ModuleComponents components({folder.path()});
-    const auto [number, text] = errorOf(components, "HXProjectReport.Connect");
-    EXPECT_EQ(static_cast<std::uint32_t>(number), 0x80040154u);
-    EXPECT_EQ(text, "The class HXProjectReport.Connect is not installed: there is no HXProjectReport" HX_MODULE_SUFFIX
-                    " in " +
-                        qt::fromQt(folder.path()));
-}
-
-TEST_F(ServicesTest, AFileThatIsNoModuleIsAnErrorOfItsOwn) {
-    write("Broken" HX_MODULE_SUFFIX, "no module");
-    studio::StudioHost host(folder.path(), {folder.path()});
-    const auto [number, text] = errorOf(host.components(), "Broken.Connect");
-    EXPECT_EQ(static_cast<std::uint32_t>(number), 0x8007007Eu);
-    EXPECT_NE(text.find("Broken" HX_MODULE_SUFFIX), std::string::npos) << text;
-}
-
-TEST_F(ServicesTest, ALibraryWithoutTheEntryIsNoAddIn) {
-    ASSERT_TRUE(QFile::copy(HX_SOME_LIBRARY, folder.filePath("Other" HX_MODULE_SUFFIX)));
-    studio::StudioHost host(folder.path(), {folder.path()});
-    const auto [number, text] = errorOf(host.components(), "Other.Connect");
-    EXPECT_EQ(static_cast<std::uint32_t>(number), 0x8007007Fu);
-    EXPECT_EQ(text, "The file " + qt::fromQt(folder.filePath("Other" HX_MODULE_SUFFIX)) +
-                        " is no add-in module: it has no hxCreateObject");
-}
-
-TEST_F(ServicesTest, AModuleThatDoesNotKnowTheClassSaysSo) {
-    studio::StudioHost host(folder.path(), {QStringLiteral(HX_MODULE_FOLDER)});
-    const auto [number, text] = errorOf(host.components(), "HXRecipeEditor.Nothing");
-    EXPECT_EQ(static_cast<std::uint32_t>(number), 0x80040154u);
-    EXPECT_EQ(text, "The module " HX_MODULE_FOLDER "/HXRecipeEditor" HX_MODULE_SUFFIX
-                    " does not know the class HXRecipeEditor.Nothing");
 }
 
 }  // namespace

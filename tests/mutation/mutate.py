@@ -25,7 +25,7 @@ HERE, SOURCES, BUILD, WORK = ROOT / 'tests/mutation', ROOT / 'src', ROOT / 'buil
 FOLDERS = ['resources', 'settings', 'dialogs', 'recipe', 'editor', 'addin']  # in the order of the layers
 JOBS = os.cpu_count() or 1
 GENERATOR = Path(mutants.__file__).read_bytes()
-LOADED = 'addin/module.cpp'  # the tests load the module as it is shipped
+LOADED = 'addin/posix_module.cpp'  # the tests load the module as it is shipped
 
 
 def parallel(function, items):

@@ -12,6 +12,17 @@ HRESULT ClassFactory::CreateInstance(IUnknown* outer, REFIID iid, void** object)
     return guarded([&] { return make_()->QueryInterface(iid, object); });
 }
 
+HRESULT ClassFactory::CreateLent(const char* make, const host::Services& services, IUnknown** object,
+                                 automation::ObjectRef& direct) {
+    if (makeLent_ == nullptr || std::string_view(make) != makeOfLenders) return E_NOINTERFACE;
+    return guarded([&] {
+        Lent lent = makeLent_(services);
+        direct = std::move(lent.direct);
+        *object = lent.object.release();
+        return S_OK;
+    });
+}
+
 HRESULT ClassFactory::LockServer(BOOL lock) {
     border_.lifetime().locks += lock ? 1 : -1;
     return S_OK;

@@ -32,13 +32,19 @@ std::wstring fileOf(HMODULE module) {
     }
 }
 
+void keepLoaded(const void* address) noexcept {
+    constexpr DWORD how = GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_PIN;
+    HMODULE library = nullptr;
+    GetModuleHandleExW(how, static_cast<LPCWSTR>(address), &library);
+}
+
 HRESULT Server::getClassObject(REFCLSID id, REFIID iid, void** object) noexcept {
     if (object == nullptr) return E_POINTER;
     *object = nullptr;
     return guarded([&] {
         const auto found = std::ranges::find_if(classes_, [&](const Class& one) { return one.id == id; });
         if (found == classes_.end()) return CLASS_E_CLASSNOTAVAILABLE;
-        const auto factory = Pointer<ClassFactory>::adopt(new ClassFactory(found->make, border_));
+        const auto factory = Pointer<ClassFactory>::adopt(new ClassFactory(found->make, found->makeLent, border_));
         return factory->QueryInterface(iid, object);
     });
 }

@@ -14,6 +14,9 @@ namespace hx::com {
 /// The file that a module was loaded from. Throws automation::Error.
 [[nodiscard]] std::wstring fileOf(HMODULE module);
 
+/// From now on the library that an address lies in stays loaded.
+void keepLoaded(const void* address) noexcept;
+
 /// Whether a library describes its interfaces: its first type library is registered with its classes.
 enum class Types { none, own };
 
@@ -26,6 +29,7 @@ class Server {
         std::string programId;
         std::string description;
         ClassFactory::Make make;
+        ClassFactory::MakeLent makeLent = {};
     };
 
     /// `library` is the module that the classes live in.

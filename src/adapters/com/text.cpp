@@ -14,4 +14,6 @@ BSTR makeBstr(std::string_view text) {
     return made != nullptr ? made : throw std::bad_alloc();
 }
 
+Text::~Text() { SysFreeString(text_); }
+
 }  // namespace hx::com

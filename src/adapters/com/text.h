@@ -16,4 +16,17 @@ using hosting::toWide;
 /// For the caller to free; throws std::bad_alloc.
 [[nodiscard]] BSTR makeBstr(std::string_view text);
 
+/// A text for one call.
+class Text {
+  public:
+    explicit Text(std::string_view text) : text_(makeBstr(text)) {}
+    ~Text();
+    Text(const Text&) = delete;
+    Text& operator=(const Text&) = delete;
+    operator BSTR() const { return text_; }
+
+  private:
+    BSTR text_;
+};
+
 }  // namespace hx::com

@@ -18,7 +18,8 @@ class ReportServer {
   public:
     explicit ReportServer(HMODULE library)
         : server_(library, {{reportId, std::string(report::connectProgramId), "Report of a project's recipes",
-                             [this] { return makeReport(); }}}),
+                             [this] { return makeReport(); },
+                             [this](const host::Services& services) { return makeLent(services); }}}),
           sessions_(
               library, [library] { return makeToolkitView(library); }, server_.border()) {}
 
@@ -27,11 +28,21 @@ class ReportServer {
   private:
     [[nodiscard]] com::Pointer<IUnknown> makeReport() {
         const std::shared_ptr<Session> session = sessions_.open();
-        const host::Services& services = session->services();
-        const std::shared_ptr<report::Connect> report(
-            new report::Connect(services, std::make_unique<report::QtViewer>(services)),
-            [session](const report::Connect* ended) { delete ended; });
+        return serve(reportOn(session->services(), session));
+    }
+    [[nodiscard]] com::ClassFactory::Lent makeLent(const host::Services& services) {
+        const std::shared_ptr<const host::Services> lent = sessions_.lent(services);
+        const auto report = reportOn(*lent, lent);
+        return {serve(report), report};
+    }
+    [[nodiscard]] com::Pointer<IUnknown> serve(const std::shared_ptr<report::Connect>& report) {
         return com::Pointer<IUnknown>::adopt(new com::Object(report, server_.border()));
+    }
+    /// `owner` has the services and ends after the report.
+    template <class Owner>
+    [[nodiscard]] static std::shared_ptr<report::Connect> reportOn(const host::Services& services, Owner owner) {
+        return {new report::Connect(services, std::make_unique<report::QtViewer>(services)),
+                [owner](const report::Connect* ended) { delete ended; }};
     }
 
     com::Server server_;

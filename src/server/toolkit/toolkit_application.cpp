@@ -3,6 +3,7 @@
 
 #include <windows.h>
 
+#include "adapters/com/server.h"
 #include "adapters/qt/style.h"
 #include "hosting/windows_text.h"
 
@@ -11,9 +12,7 @@ namespace hx::server {
 void ToolkitApplication::require(const QString& libraryFolder, automation::Language language) {
     static int count = 1;
     // The toolkit knows what this library has brought along, pictures and texts, and does not forget them.
-    HMODULE library = nullptr;
-    GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_PIN,
-                       reinterpret_cast<LPCWSTR>(&count), &library);
+    com::keepLoaded(&count);
     if (instance() != nullptr) return;
     addLibraryPath(libraryFolder);
     static char name[] = "HXRecipeEditor", *arguments[] = {name, nullptr};

@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "host/module.h"
-
 #include <type_traits>
 
 #include "addin/connect.h"
 #include "automation/text.h"
+#include "host/module.h"
 
 /// The module's entry point (host::ModuleEntry).
 extern "C" void hxCreateObject(std::string_view programId, const hx::host::Services& services,

@@ -13,11 +13,9 @@
 
 namespace hx::qt {
 
-/// Creates components from modules: "HXRecipeEditor.Connect" comes from the file HXRecipeEditor.so, on Windows
-/// HXRecipeEditor.dll, in the first of the folders that has it. A module stays loaded.
+/// Creates components from modules, the files that addInFile names. A module stays loaded.
 class ModuleComponents : public host::Components {
   public:
-    static constexpr std::int32_t errClassNotRegistered = automation::hresult(0x80040154);
     static constexpr std::int32_t errModuleNotLoaded = automation::hresult(0x8007007E);
     static constexpr std::int32_t errNoEntry = automation::hresult(0x8007007F);
 
@@ -35,7 +33,6 @@ class ModuleComponents : public host::Components {
         host::Services services;  ///< with the module's own file name
         host::ModuleEntry entry;
     };
-    [[nodiscard]] QString find(const QString& name, std::string_view programId) const;
     [[nodiscard]] const Module& load(const QString& path);
 
     QStringList folders_;
