@@ -22,8 +22,7 @@ class WindowsTest : public Desktop {
         main.setCentralWidget(area);
         main.resize(900, 600);
         main.show();
-        main.activateWindow();
-        ASSERT_TRUE(waitUntil([this] { return main.isActiveWindow(); }));
+        ASSERT_TRUE(activate(main));
     }
     [[nodiscard]] QMdiSubWindow& document() { return *area->subWindowList().at(0); }
     void embed() {
