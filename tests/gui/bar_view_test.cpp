@@ -19,8 +19,7 @@ class BarViewTest : public Desktop {
     void SetUp() override {
         form->fill(3);
         form->show();
-        windowOf(*form).activateWindow();
-        ASSERT_TRUE(waitUntil([this] { return windowOf(*form).isActiveWindow(); }));
+        ASSERT_TRUE(activate(windowOf(*form)));
     }
     [[nodiscard]] QMenuBar& menuBar() { return find<QMenuBar>(windowOf(*form), "abr"); }
     [[nodiscard]] QMenu& openMenu() {

@@ -51,6 +51,14 @@ void handleEvents() {
     }
 }
 
+bool activate(QWidget& window) {
+    window.activateWindow();
+    const auto isActive = [&window] { return window.isActiveWindow(); };
+    if (!waitUntil(isActive)) return false;
+    handleEvents();
+    return waitUntil(isActive);
+}
+
 Once::Once(std::function<bool()> condition, std::function<void()> action)
     : condition_(std::move(condition)), action_(std::move(action)) {
     QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] { look(); });
@@ -60,7 +68,8 @@ Once::Once(std::function<bool()> condition, std::function<void()> action)
 Once::~Once() { EXPECT_TRUE(done_) << "what was waited for did not come"; }
 
 void Once::look() {
-    if (!condition_()) return;
+    held_ = condition_() ? held_ + 1 : 0;
+    if (held_ < 2) return;  // a window that has just come loses the keyboard once more on Windows
     timer_.stop();
     done_ = true;
     action_();

@@ -21,8 +21,12 @@ namespace hx::gui {
 bool waitUntil(const std::function<bool()>& condition);
 /// Handles what waits in the event loop, deletions too.
 void handleEvents();
+/// Gives a window the keyboard, for good: Windows takes it away once more while the window comes to the front. False
+/// when it does not get it within a minute.
+bool activate(QWidget& window);
 
-/// Acts once, as soon as `condition` holds while events are handled. A test in which it never does fails.
+/// Acts once, as soon as `condition` holds, and goes on to, while events are handled. A test in which it never does
+/// fails.
 class Once {
   public:
     Once(std::function<bool()> condition, std::function<void()> action);
@@ -35,6 +39,7 @@ class Once {
     std::function<bool()> condition_;
     std::function<void()> action_;
     QTimer timer_;
+    int held_ = 0;
     bool done_ = false;
 };
 

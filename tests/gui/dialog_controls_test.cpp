@@ -80,8 +80,7 @@ class DialogControlsTest : public Desktop {
 
     void SetUp() override {
         form->show();
-        windowOf(*form).activateWindow();
-        ASSERT_TRUE(waitUntil([this] { return windowOf(*form).isActiveWindow(); }));
+        ASSERT_TRUE(activate(windowOf(*form)));
     }
     template <class W>
     [[nodiscard]] W& widget(const char* name) {

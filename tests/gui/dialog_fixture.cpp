@@ -50,8 +50,7 @@ void DialogFixture::showDuring(forms::Form& dialog, const std::function<void(QWi
     bool ran = false;
     QTimer::singleShot(0, [&] {
         QWidget& window = windowOf(dialog);
-        window.activateWindow();
-        EXPECT_TRUE(waitUntil([&] { return window.isActiveWindow(); })) << dialog.name();
+        EXPECT_TRUE(activate(window)) << dialog.name();
         try {
             action(window);
             ran = true;
@@ -62,15 +61,13 @@ void DialogFixture::showDuring(forms::Form& dialog, const std::function<void(QWi
     });
     dialog.showModal(0);
     EXPECT_TRUE(ran);
-    desk_.activateWindow();
-    EXPECT_TRUE(waitUntil([this] { return desk_.isActiveWindow(); }));
+    EXPECT_TRUE(activate(desk_));
 }
 
 QWidget& DialogFixture::show(forms::Form& dialog) {
     dialog.show();
     QWidget& window = windowOf(dialog);
-    window.activateWindow();
-    EXPECT_TRUE(waitUntil([&] { return window.isActiveWindow(); }));
+    EXPECT_TRUE(activate(window));
     return window;
 }
 

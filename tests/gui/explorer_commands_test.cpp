@@ -141,8 +141,7 @@ TEST_F(ExplorerCommands, OfTheToolBarsBinMeanTheRowOfTheGridThatHasTheKeyboard) 
     handleEvents();
     EXPECT_EQ(texts("Variable"), std::vector<std::string>{"Mischer.Wasser"});
     expectRecipes({"Limonade", "Apfelschorle", "Meyer's Bräu"});
-    window().activateWindow();
-    ASSERT_TRUE(waitUntil([this] { return window().isActiveWindow(); }));
+    ASSERT_TRUE(activate(window()));
     click("Rezepte/Limonade");
     EXPECT_EQ(qt::fromQt(bin.toolTip()), "Löschen: Rezept Limonade");
     edit(0, "Variable", "<b>Tank");

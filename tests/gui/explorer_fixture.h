@@ -88,8 +88,7 @@ class ExplorerTest : public Desktop {
     }
     void showTree() {
         tree.show();
-        tree.activateWindow();
-        ASSERT_TRUE(waitUntil([this] { return tree.isActiveWindow(); }));
+        ASSERT_TRUE(activate(tree));
         tree.setFocus();
     }
     void addRecipes(int count) {

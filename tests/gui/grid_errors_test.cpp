@@ -29,8 +29,7 @@ class GridErrors : public GridFixture {
     }
     /// The user goes on where he was before the message.
     void backToEditor() {
-        windowOf(*form).activateWindow();
-        ASSERT_TRUE(waitUntil([this] { return windowOf(*form).isActiveWindow(); }));
+        ASSERT_TRUE(activate(windowOf(*form)));
         ASSERT_TRUE(editor()->hasFocus());
     }
     [[nodiscard]] QString shown(int row) {

@@ -12,8 +12,7 @@ namespace hx::gui {
 void GridFixture::show(int rows) {
     form->fill(rows);
     form->show();
-    windowOf(*form).activateWindow();
-    ASSERT_TRUE(waitUntil([this] { return windowOf(*form).isActiveWindow(); }));
+    ASSERT_TRUE(activate(windowOf(*form)));
     table().setFocus();
 }
 

@@ -48,8 +48,7 @@ class HelpViewerTest : public Desktop {
         return *found;
     }
     void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
-        window().activateWindow();
-        ASSERT_TRUE(waitUntil([this] { return window().isActiveWindow(); }));
+        ASSERT_TRUE(activate(window()));
         QTest::keyClick(window().windowHandle(), key, modifiers);
         handleEvents();
     }

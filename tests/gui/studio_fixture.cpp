@@ -61,8 +61,7 @@ void StudioTest::start(const QString& modules) {
     preferences_ = std::make_unique<studio::Preferences>(folder.filePath("config"));
     window_ = std::make_unique<studio::MainWindow>(*host_, *preferences_);
     window_->show();
-    window_->activateWindow();
-    ASSERT_TRUE(waitUntil([this] { return window_->isActiveWindow(); }));
+    ASSERT_TRUE(activate(*window_));
 }
 
 void StudioTest::quit() {

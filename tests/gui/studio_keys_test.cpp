@@ -91,8 +91,7 @@ TEST_F(StudioKeysTest, ControlOOpensAProjectWhereverTheKeyboardIs) {
     EXPECT_TRUE(opens(grid()));
     EXPECT_TRUE(opens(find<QLineEdit>(window(), "macroArguments")));
     EXPECT_TRUE(opens(find<QPlainTextEdit>(window(), "macroText")));
-    window().activateWindow();
-    EXPECT_TRUE(waitUntil([this] { return window().isActiveWindow(); }));
+    EXPECT_TRUE(activate(window()));
     EXPECT_TRUE(opens(typeInCell(0, "Variable", "Neu")));
     EXPECT_EQ(texts("Variable")[0], "Neu");
 }
