@@ -16,8 +16,7 @@ namespace {
 // Nothing for a user who has cancelled.
 std::optional<std::string> chosenBy(automation::Dispatch& selection, const LentServices& lent, host::WindowHandle owner,
                                     const std::string& current) {
-    const host::WindowHandle window = lent.windowOf ? lent.windowOf(owner) : owner;
-    const Variant chosen = selection.get("Choose", std::array<Variant, 2>{window, current});
+    const Variant chosen = selection.get("Choose", std::array<Variant, 2>{lent.known(owner), current});
     if (chosen.isEmpty() || chosen.isNull()) return std::nullopt;
     return toText(chosen);
 }
@@ -44,6 +43,7 @@ LentServices LentServices::of(const automation::ObjectRef& services) {
             .iniFile = objectIfThere(*services, "IniFile"),
             .itemSelection = objectIfThere(*services, "ItemSelection"),
             .pathSelection = objectIfThere(*services, "PathSelection"),
+            .multiItems = objectIfThere(*services, "HXMultiItems"),
             .windowOf = {}};
 }
 

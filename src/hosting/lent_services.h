@@ -15,11 +15,16 @@ struct LentServices {
     automation::ObjectRef iniFile;        ///< Read, Write
     automation::ObjectRef itemSelection;  ///< Choose
     automation::ObjectRef pathSelection;  ///< Choose
+    automation::ObjectRef multiItems;     ///< ItemFilter, SelectedItems, Choose
     /// The window that the studio knows for a handle of the add-in's; without it, the handle is that window's.
     std::function<host::WindowHandle(host::WindowHandle)> windowOf;
 
-    /// Those that the object has under the names Registry, IniFile, ItemSelection and PathSelection.
+    /// Those that the object has under the names Registry, IniFile, ItemSelection, PathSelection and HXMultiItems.
     [[nodiscard]] static LentServices of(const automation::ObjectRef& services);
+    /// What the studio knows a window of the add-in's by.
+    [[nodiscard]] host::WindowHandle known(host::WindowHandle window) const {
+        return windowOf ? windowOf(window) : window;
+    }
 };
 
 /// What a member gives that an object may have; empty when it has none, or none that is an object.

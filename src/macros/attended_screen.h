@@ -4,20 +4,21 @@
 #include <functional>
 #include <vector>
 
+#include "forms/relaying_screen.h"
 #include "forms/scripted_user.h"
 #include "macros/attendance.h"
 
 namespace hx::macros {
 
 /// The user's screen, where a macro that runs may answer instead of him.
-class AttendedScreen : public forms::Screen {
+class AttendedScreen : public forms::RelayingScreen {
   public:
     /// Shows a dialog, does the work on it in place of the user, and hides it.
     using ShowFor = std::function<void(forms::Form&, forms::WindowHandle owner, const std::function<void()>& work)>;
 
     /// Screen and attendance are lent.
     AttendedScreen(forms::Screen& user, Attendance& attendance, ShowFor showFor)
-        : user_(user), attendance_(attendance), showFor_(std::move(showFor)) {}
+        : RelayingScreen(user), user_(user), attendance_(attendance), showFor_(std::move(showFor)) {}
 
     /// The latest of the loaded forms of this class; null when there is none.
     [[nodiscard]] forms::Form* find(std::string_view className) const;
@@ -27,16 +28,10 @@ class AttendedScreen : public forms::Screen {
     [[nodiscard]] forms::WindowHandle createWindow(forms::Form& form) override;
     void destroyWindow(forms::Form& form) override;
     void showModal(forms::Form& form, forms::WindowHandle owner) override;
-    void bringToFront(forms::Form& form) override { user_.bringToFront(form); }
     forms::message::Answer messageBox(std::string_view text, std::int32_t style, std::string_view title) override;
     void popUp(forms::Bar& bar, forms::Band& band) override;
     bool chooseFont(forms::Font::Values& font) override;
     void beep() override;
-    [[nodiscard]] forms::Pointer pointer() const override { return user_.pointer(); }
-    void setPointer(forms::Pointer pointer) noexcept override { user_.setPointer(pointer); }
-    void sendKeys(forms::Form& form, std::string_view keys) override { user_.sendKeys(form, keys); }
-    [[nodiscard]] automation::Language language() const override { return user_.language(); }
-    [[nodiscard]] double twipsPerPixel() const override { return user_.twipsPerPixel(); }
 
   private:
     [[nodiscard]] bool isScripted(const forms::Form& form) const;

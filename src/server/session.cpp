@@ -23,13 +23,14 @@ automation::NumberFormat userFormat() {
 
 Session::Session(std::unique_ptr<View> view, host::Components& components, const std::string& libraryFile)
     : view_(std::move(view)),
+      screen_(view_->screen(), lent_),
       registry_(lent_, systemRegistry_),
       iniFile_(lent_, iniTextFile_),
       items_(lent_, view_->items()),
       folders_(lent_, view_->folders()),
       provider_(
           [this] { return sqlite::OpenOptions{.language = view_->screen().language(), .lockWait = longestLockWait}; }),
-      services_{.screen = view_->screen(),
+      services_{.screen = screen_,
                 .database = provider_,
                 .registry = registry_,
                 .iniFile = iniFile_,

@@ -10,6 +10,7 @@
 #include "host/services.h"
 #include "hosting/ini_text_file.h"
 #include "hosting/lent_services.h"
+#include "server/lent_items_screen.h"
 #include "server/view.h"
 
 namespace hx::server {
@@ -31,6 +32,7 @@ class Session {
   private:
     std::unique_ptr<View> view_;
     hosting::LentServices lent_;
+    LentItemsScreen screen_;
     windows::SystemRegistry systemRegistry_;
     hosting::IniTextFile iniTextFile_;
     hosting::LentRegistry registry_;

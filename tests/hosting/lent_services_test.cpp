@@ -88,7 +88,7 @@ TEST_F(LentServicesTest, TheOwnOnesServeWhereNothingIsLent) {
 }
 
 TEST_F(LentServicesTest, TheStudiosAreCalledByName) {
-    lent = {service, service, service, service, {}};
+    lent = {service, service, service, service, {}, {}};
     service->answer = "1031";
     EXPECT_EQ(registry.readString("k", "v", "f"), "1031");
     EXPECT_EQ(registry.readNumber("k", "v", 7), 1031);
@@ -105,7 +105,7 @@ TEST_F(LentServicesTest, TheStudiosAreCalledByName) {
 }
 
 TEST_F(LentServicesTest, AChoiceThatIsCancelledChangesNothing) {
-    lent = {service, service, service, service, {}};
+    lent = {service, service, service, service, {}, {}};
     for (const Variant& nothing : {Variant(), Variant(automation::Null{})}) {
         service->answer = nothing;
         EXPECT_EQ(items.choose(0, "Cola"), "");
@@ -114,7 +114,7 @@ TEST_F(LentServicesTest, AChoiceThatIsCancelledChangesNothing) {
 }
 
 TEST_F(LentServicesTest, TheOwnerIsAWindowThatTheStudioKnows) {
-    lent = {service, service, service, service, [](host::WindowHandle handle) { return handle + 1000; }};
+    lent = {service, service, service, service, {}, [](host::WindowHandle handle) { return handle + 1000; }};
     (void)items.choose(9, "Cola");
     (void)folders.choose(9, "D:");
     EXPECT_THAT(service->calls, testing::ElementsAre("Choose 1009 Cola", "Choose 1009 D:"));

@@ -7,6 +7,7 @@
 #include "com/script_host.h"
 #include "com/server_library.h"
 #include "project/reader.h"
+#include "project/schema.h"
 #include "support/temporary_folder.h"
 
 namespace hx::server {
@@ -24,6 +25,10 @@ TEST(AStudioInAScript, DrivesTheAddInThroughADay) {
     std::vector<std::string> names;
     for (const auto& recipe : reader.recipes()) names.push_back(recipe.name);
     EXPECT_THAT(names, testing::ElementsAre("Kühlen €"));
+    std::vector<std::string> variables;
+    const auto note = [&](project::Row row) { variables.emplace_back(row[0].text); };
+    reader.read(project::schema::memberTable, std::array{project::schema::member::varRecipe}, note);
+    EXPECT_THAT(variables, testing::ElementsAre("Tank.Level", "Tank.Heat"));
 }
 
 }  // namespace

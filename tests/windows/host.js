@@ -66,12 +66,31 @@ function Services() {
     };
     this.ItemSelection = { Choose: function (owner, current) { return "Tank.Level"; } };
     this.PathSelection = { Choose: function (owner, current) { return "D:\\Rezepte"; } };
+    this.HXMultiItems = new MultiItems();
+}
+
+function list(names) {
+    return { Count: names.length, Item: function (number) { return names[number]; } };
+}
+// Takes one variable more each time, and cancels when there are two.
+function MultiItems() {
+    this.ItemFilter = 0;
+    this.SelectedItems = null;
+    this.Choose = function (owner) {
+        var names = [];
+        for (var i = 0; this.SelectedItems && i < this.SelectedItems.Count; i++) names.push(this.SelectedItems.Item(i));
+        asked.push("variables " + this.ItemFilter + " " + names.join());
+        this.SelectedItems = list(names.concat(names.length === 0 ? "Tank.Level" : "Tank.Heat"));
+        return names.length < 2;
+    };
 }
 
 var asked = [];
+var editor = null;
 var answers = {
     Dialog: function (form) {
         asked.push("dialog " + form.Caption);
+        editor = form.Owner;
         form.txtName.Text = "K\u00fchlen \u20ac";
         form.cmdChooseItem(0).Click();
         form.cmdChoosePath.Click();
@@ -120,6 +139,12 @@ function day() {
     connect.NodeMouseUp("Plant", "RCPR1", "", 2, 0, 10, 10);
     expect("what the user was asked", asked.join().split(":")[0].substr(0, 21), "menu mnuRecipe,dialog");
     expect("the renamed node", explorer.nodes.RCPR1, "K\u00fchlen \u20ac");
+
+    asked = [];
+    for (var i = 0; i < 3; i++) editor.mnuRecipeMember(0);
+    editor = null;
+    expect("the choice of variables", asked.join(";"),
+           "variables 256 ;variables 256 Tank.Level;variables 256 Tank.Level,Tank.Heat");
 
     connect.NodeClick("Plant", "RCPR2", "");
     connect.NodeKeyDown("Plant", "RCPR2", "", 46, 2);  // Ctrl+Delete

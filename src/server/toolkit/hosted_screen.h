@@ -5,29 +5,23 @@
 #include <windows.h>
 
 #include "adapters/qt/screen/qt_screen.h"
+#include "forms/relaying_screen.h"
 
 namespace hx::server {
 
 /// The toolkit's windows in a host that knows nothing of it: a form's handle is that of its native window, which the
 /// host can take into a window of its own. While a dialog is open the host's windows take no input.
-class HostedScreen : public forms::Screen {
+class HostedScreen : public forms::RelayingScreen {
   public:
     /// Both are lent.
-    HostedScreen(qt::QtWindows& windows, qt::QtScreen& screen) : windows_(windows), screen_(screen) {}
+    HostedScreen(qt::QtWindows& windows, qt::QtScreen& screen)
+        : RelayingScreen(screen), windows_(windows), screen_(screen) {}
 
     [[nodiscard]] forms::WindowHandle createWindow(forms::Form& form) override;
     void destroyWindow(forms::Form& form) override;
     void showModal(forms::Form& form, forms::WindowHandle owner) override;
-    void bringToFront(forms::Form& form) override { screen_.bringToFront(form); }
     forms::message::Answer messageBox(std::string_view text, std::int32_t style, std::string_view title) override;
-    void popUp(forms::Bar& bar, forms::Band& band) override { screen_.popUp(bar, band); }
     bool chooseFont(forms::Font::Values& font) override;
-    void beep() override { screen_.beep(); }
-    [[nodiscard]] forms::Pointer pointer() const override { return screen_.pointer(); }
-    void setPointer(forms::Pointer pointer) noexcept override { screen_.setPointer(pointer); }
-    void sendKeys(forms::Form& form, std::string_view keys) override { screen_.sendKeys(form, keys); }
-    [[nodiscard]] automation::Language language() const override { return screen_.language(); }
-    [[nodiscard]] double twipsPerPixel() const override { return screen_.twipsPerPixel(); }
 
     /// The toolkit's handle of a form's; 0 for another's.
     [[nodiscard]] forms::WindowHandle toolkitHandle(forms::WindowHandle native) const;
