@@ -51,12 +51,11 @@ void handleEvents() {
     }
 }
 
+bool isActive(const QWidget& window) { return QApplication::activeWindow() == window.window(); }
+
 bool activate(QWidget& window) {
     window.activateWindow();
-    const auto isActive = [&window] { return window.isActiveWindow(); };
-    if (!waitUntil(isActive)) return false;
-    handleEvents();
-    return waitUntil(isActive);
+    return waitUntil([&window] { return isActive(window); });
 }
 
 Once::Once(std::function<bool()> condition, std::function<void()> action)
@@ -68,8 +67,7 @@ Once::Once(std::function<bool()> condition, std::function<void()> action)
 Once::~Once() { EXPECT_TRUE(done_) << "what was waited for did not come"; }
 
 void Once::look() {
-    held_ = condition_() ? held_ + 1 : 0;
-    if (held_ < 2) return;  // a window that has just come loses the keyboard once more on Windows
+    if (!condition_()) return;
     timer_.stop();
     done_ = true;
     action_();

@@ -21,12 +21,13 @@ namespace hx::gui {
 bool waitUntil(const std::function<bool()>& condition);
 /// Handles what waits in the event loop, deletions too.
 void handleEvents();
-/// Gives a window the keyboard, for good: Windows takes it away once more while the window comes to the front. False
-/// when it does not get it within a minute.
+/// Whether the toolkit has given a window the keyboard. QWidget::isActiveWindow() says so on Windows before that, while
+/// shortcuts are still those of another window.
+[[nodiscard]] bool isActive(const QWidget& window);
+/// Gives a window the keyboard. False when it does not get it within a minute.
 bool activate(QWidget& window);
 
-/// Acts once, as soon as `condition` holds, and goes on to, while events are handled. A test in which it never does
-/// fails.
+/// Acts once, as soon as `condition` holds while events are handled. A test in which it never does fails.
 class Once {
   public:
     Once(std::function<bool()> condition, std::function<void()> action);
@@ -39,7 +40,6 @@ class Once {
     std::function<bool()> condition_;
     std::function<void()> action_;
     QTimer timer_;
-    int held_ = 0;
     bool done_ = false;
 };
 
@@ -53,7 +53,7 @@ class NextModal {
   private:
     [[nodiscard]] bool came() const {
         const QWidget* window = QApplication::activeModalWidget();
-        return window != nullptr && window != before_ && window->isVisible() && window->isActiveWindow();
+        return window != nullptr && window != before_ && window->isVisible() && isActive(*window);
     }
     void act() const {
         QWidget* window = QApplication::activeModalWidget();

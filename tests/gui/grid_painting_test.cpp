@@ -116,7 +116,7 @@ TEST_F(GridPainting, TheButtonIsDrawnInTheCurrentRowAndUnderTheMouse) {
     EXPECT_TRUE(buttonAt(picture(), 1));
     EXPECT_FALSE(buttonAt(picture(), 3));
     QTest::mouseMove(table().viewport(), cell(3, "ID").center());
-    EXPECT_TRUE(buttonAt(picture(), 3));
+    EXPECT_TRUE(waitUntil([&] { return buttonAt(picture(), 3); }));
     EXPECT_TRUE(buttonAt(picture(), 1));
 }
 

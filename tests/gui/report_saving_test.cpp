@@ -22,7 +22,7 @@ QByteArray contentOf(const QString& path) {
 /// Whether a file is chosen again, after a message.
 bool choosesAfter(const BoxAnswers& answers) {
     const auto* choice = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-    return !answers.shown().empty() && choice != nullptr && choice->isVisible() && choice->isActiveWindow();
+    return !answers.shown().empty() && choice != nullptr && choice->isVisible() && isActive(*choice);
 }
 
 TEST_F(ReportSaving, IsSavedAsPdf) {

@@ -57,8 +57,7 @@ TEST_F(StudioHelpTest, F1InTheRecipeDialogOpensItsTopicBesideIt) {
             title = qt::fromQt(host().help().window()->windowTitle());
             clickContents(*host().help().window(), "Tasten");
         }
-        dialog.activateWindow();
-        EXPECT_TRUE(waitUntil([&dialog] { return dialog.isActiveWindow(); }));
+        EXPECT_TRUE(activate(dialog));
         QTest::keyClick(&dialog, Qt::Key_Escape);
     });
     QTest::keyClick(&tree(), Qt::Key_F9);

@@ -47,8 +47,7 @@ class StudioKeysTest : public StudioTest {
     }
     /// Whether Ctrl+O, pressed in this widget, asks for a project.
     [[nodiscard]] bool opens(QWidget& widget) {
-        window().activateWindow();  // no window manager does it when a dialog has gone
-        EXPECT_TRUE(waitUntil([this] { return window().isActiveWindow(); }));
+        EXPECT_TRUE(activate(window()));  // no window manager does it when a dialog has gone
         widget.setFocus();
         EXPECT_TRUE(widget.hasFocus()) << qt::fromQt(widget.objectName());
         bool asked = false;
