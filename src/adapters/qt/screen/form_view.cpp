@@ -6,6 +6,7 @@
 #include <QEventLoop>
 #include <QLineEdit>
 #include <QScopedValueRollback>
+#include <QWindow>
 #include <algorithm>
 
 #include "adapters/qt/controls/label_view.h"
@@ -150,11 +151,14 @@ void FormView::openOver(QWidget* window, Qt::WindowModality modality) {
     if (widget_.focusWidget() == nullptr) startKeyboard();
 }
 
-// The owner may end before the form does, and must not take the window along.
+// The owner may end before the form does, and must not take the window along; Windows ends every native window that
+// once stood over another one with it.
 void FormView::closeOver(const QWidget* window) {
     if (form_ == nullptr) return;
     widget_.hide();
-    if (window != nullptr) widget_.setParent(nullptr, dialogFlags);
+    if (window == nullptr) return;
+    widget_.setParent(nullptr, dialogFlags);
+    if (QWindow* native = widget_.windowHandle()) native->destroy();
 }
 
 void FormView::startKeyboard() {
