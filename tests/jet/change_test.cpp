@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: MIT
 
 // Whatever is changed, all that others rely on stays right: rows, indexes, counts and free pages.
+#include <filesystem>
 #include <gtest/gtest.h>
 
 #include "adapters/sqlite/provider.h"
+#include "ado/types.h"
 #include "random_changes.h"
 #include "samples.h"
+#include "support/error_of.h"
 #include "support/jet_judge.h"
 
 namespace hx::jet {
@@ -76,6 +79,26 @@ TEST_P(Changes, ThatAreTakenBackLeaveNoTrace) {
         opened->pages().rollback();
     }
     EXPECT_TRUE(sample.bytes() == before);
+}
+
+// The rest of the file is a hole, which takes no room on the disk.
+TEST(FullProject, RefusesAnotherPageAndStaysAsItIs) {
+    constexpr std::uint64_t most = std::uint64_t{2} * 1024 * 1024 * 1024;
+    const Sample sample("brauerei.hxs");
+    std::filesystem::resize_file(sample.path(), most - 8 * pageSize);
+    Opened opened(sample.path());
+    const auto names = textsOf(*opened, "TrcpRecipe", "Name");
+    opened->pages().beginWrite();
+    (void)opened->table("TrcpRecipeMember")->insert({});
+    const auto error = support::errorOf([&] {
+        for (int i = 0; i < 100; ++i) (void)opened->pages().append();
+    });
+    opened->pages().rollback();
+    EXPECT_EQ(error.number(), ado::dbErrUnspecified);
+    EXPECT_NE(error.description().find("is full: a Jet database holds two gigabytes"), std::string::npos)
+        << error.description();
+    EXPECT_EQ(std::filesystem::file_size(sample.path()), most - 8 * pageSize);
+    EXPECT_EQ(textsOf(*opened, "TrcpRecipe", "Name"), names);
 }
 
 INSTANTIATE_TEST_SUITE_P(Sample, Changes, testing::Values("brauerei.hxs", "leer.hxs", "sonderlich.hxs"));
