@@ -84,9 +84,10 @@ void readValues(const std::string& file, const std::string& text, State& state) 
         const auto equals = line.find('=');
         if (line.starts_with('[') && line.ends_with(']')) section = line;
         else if (equals != std::string::npos) {
-            // How a window lies depends on what it has shown.
+            // How a window lies, and where it goes on at the next start, depends on what it has shown.
+            const bool isPlace = section == "[window]" || section == "[columns]" || section == "[session]";
             state.values[file + section + line.substr(0, equals)] =
-                section == "[window]" ? std::string("there") : line.substr(equals + 1);
+                isPlace ? std::string("there") : line.substr(equals + 1);
         } else if (!line.empty() && !line.starts_with(';')) {
             state.values[file + ": a line that says nothing: " + line] = "";
         }
