@@ -300,6 +300,7 @@ void MainWindow::showProject() {
     fileLabel_.setText(project_ ? QDir::toNativeSeparators(project_->file()) : QString());
     if (!project_) start_.refresh();
     central_.setCurrentWidget(project_ ? static_cast<QWidget*>(&documents_) : &start_);
+    if (!project_) start_.setFocus(Qt::OtherFocusReason);
     menus_.setProjectOpen(project_ != nullptr);
 }
 

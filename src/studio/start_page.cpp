@@ -66,6 +66,7 @@ void StartPage::build(const QList<QAction*>& actions) {
         button->setFocusPolicy(Qt::StrongFocus);
         button->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
         begin->addWidget(button);
+        if (first_ == nullptr) first_ = button;
     }
     begin->addStretch();
     grid->addLayout(begin, 2, 0, 2, 1);
@@ -127,6 +128,8 @@ void StartPage::refresh() {
     }
     none_->setVisible(recent_->count() == 0);
     recent_->setVisible(recent_->count() > 0);
+    recent_->setCurrentRow(0);
+    setFocusProxy(recent_->count() > 0 ? static_cast<QWidget*>(recent_) : first_);
 }
 
 // A click may be the first of two; the list has done with it before the project opens.

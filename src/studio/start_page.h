@@ -35,6 +35,7 @@ class StartPage : public QScrollArea {
     QWidget* content_;
     qt::PlainLabel *title_, *startTitle_, *recentTitle_, *none_;
     QListWidget* recent_;
+    QWidget* first_ = nullptr;  ///< of the buttons
     QAction remove_;
 };
 

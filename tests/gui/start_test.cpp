@@ -49,6 +49,7 @@ TEST_F(StudioStart, ShowsAStartPageWhileNoProjectIsOpen) {
     EXPECT_TRUE(page().isVisible());
     ASSERT_EQ(recent().count(), 1);
     EXPECT_EQ(recent().item(0)->text().section('\n', 0, 0), "Anlage");
+    EXPECT_TRUE(recent().hasFocus());
 }
 
 TEST_F(StudioStart, ARecentProjectOpensByMouseAndByKeyboard) {
