@@ -43,10 +43,11 @@ HRESULT invoke(IDispatch& object, DISPID id, int how, DISPPARAMS parameters, VAR
                          &wrong);
 }
 
-// "Function expected", as scripts say it of a property that is none.
+// "Function expected", as scripts say it of a property that is none; of a plain value those of Wine fail without a
+// word.
 bool refusesToBeCalled(HRESULT code, EXCEPINFO& exception) {
     constexpr auto functionExpected = static_cast<SCODE>(0x800A138A);
-    if (code != DISP_E_EXCEPTION) return code == DISP_E_MEMBERNOTFOUND || code == functionExpected;
+    if (code != DISP_E_EXCEPTION) return code == DISP_E_MEMBERNOTFOUND || code == functionExpected || code == E_FAIL;
     if (exception.scode != functionExpected) return false;
     clear(exception);
     return true;
@@ -84,7 +85,10 @@ automation::Variant ForeignObject::get(std::string_view name, automation::Args a
     };
     HRESULT code = ask(DISPATCH_PROPERTYGET | DISPATCH_METHOD);
     // Some objects take what they could also call for a call alone.
-    if (args.empty() && refusesToBeCalled(code, exception)) code = ask(DISPATCH_PROPERTYGET);
+    if (args.empty() && refusesToBeCalled(code, exception)) {
+        const HRESULT read = ask(DISPATCH_PROPERTYGET);
+        if (code != E_FAIL || SUCCEEDED(read)) code = read;
+    }
     if (FAILED(code)) fail(code, &exception);
     return border_.take(static_cast<const VARIANT&>(result));
 }
