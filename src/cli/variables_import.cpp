@@ -57,8 +57,8 @@ class Importer : public VariableReceiver {
         if (plan_.json) changes_ += (changes_.empty() ? "\n" : ",\n") + jsonLine(objectOf(variable, change));
         else changes_ += lineOf(variable, change);
     }
-    void note(const std::string& text) override {
-        if (notes_.size() < shownNotes) notes_.push_back(text);
+    void note(const automation::Sentence& sentence, std::initializer_list<std::string_view> names) override {
+        if (notes_.size() < shownNotes) notes_.push_back(say(automation::Language::english, sentence, names));
         else ++moreNotes_;
     }
     void reach(std::int64_t done, std::int64_t total) override { progress_->reach(done, total); }
@@ -110,7 +110,7 @@ void importVariables(const VariablesImport& plan, const Output& output) {
     VariableWriter writer(session, plan.project, plan.list,
                           plan.dryRun ? VariableWriter::Mode::practise : VariableWriter::Mode::write);
     Importer importer(writer, plan, output);
-    lists::readVariables(plan.list, plan.encoding, writer.limits(), importer);
+    lists::readVariables(plan.list, {plan.encoding, {}}, writer.limits(), importer);
     importer.requireSome();
     session.commit();
     importer.print();

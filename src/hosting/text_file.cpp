@@ -36,6 +36,15 @@ void Line::fail(const std::string& problem) const {
     refuse(file + ", line " + std::to_string(number) + ": " + problem);
 }
 
+void Line::fail(const automation::Sentence& problem, std::initializer_list<std::string_view> names) const {
+    constexpr automation::Sentence where{"%1, line %2: %3", "%1, Zeile %2: %3"};
+    const auto inWords = [&](automation::Language language) {
+        return say(language, where, {file, std::to_string(number), say(language, problem, names)});
+    };
+    throw automation::Error(automation::errFail, inWords(automation::Language::english),
+                            inWords(automation::Language::german));
+}
+
 std::string readText(const std::string& path) {
     std::string text = contents(path);
     if (text.starts_with(byteOrderMark)) Line{path, 1, {}}.fail("the file begins with a byte order mark");

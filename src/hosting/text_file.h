@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <initializer_list>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "automation/error.h"
@@ -16,6 +18,8 @@ struct Line {
 
     /// Throws an error that names the file and the line.
     [[noreturn]] void fail(const std::string& problem) const;
+    [[noreturn]] void fail(const automation::Sentence& problem,
+                           std::initializer_list<std::string_view> names = {}) const;
 };
 
 /// A UTF-8 file. Throws automation::Error when it cannot be read, has a byte order mark or is not UTF-8.

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "hosting/text_file.h"
+#include "lists/sentences.h"
 
 namespace hx::lists {
 
@@ -37,11 +38,12 @@ struct CsvParser::State {
     bool complete = false;
 };
 
-CsvParser::CsvParser(std::string path, char delimiter, Take take)
+CsvParser::CsvParser(std::string path, char delimiter, Take take, int firstLine)
     : path_(std::move(path)),
       delimiter_(delimiter),
       take_(std::move(take)),
-      state_(std::make_unique<State>(delimiter)) {}
+      state_(std::make_unique<State>(delimiter)),
+      line_(firstLine) {}
 
 CsvParser::~CsvParser() = default;
 
@@ -71,21 +73,20 @@ void CsvParser::feedPiece(std::string_view piece) {
 void CsvParser::parse(std::string_view piece) {
     recordSize_ += piece.size();
     if (recordSize_ > largestRecord) {
-        hosting::Line{path_, recordLine_, {}}.fail("the record is longer than 1 MB; is a quotation mark not closed?");
+        hosting::Line{path_, recordLine_, {}}.fail(sentence::recordTooLong);
     }
     State& state = *state_;
     const std::size_t done =
         csv_parse(&state.parser, piece.data(), piece.size(), State::takeField, State::endRecord, &state);
     if (done != piece.size()) {
-        hosting::Line{path_, line_, {}}.fail(
-            "a quotation mark within a field; the whole field must be in quotation marks, and this one doubled");
+        hosting::Line{path_, line_, {}}.fail(sentence::quoteWithin);
     }
     if (state.complete) giveRecord();
 }
 
 void CsvParser::finish() {
     if (csv_fini(&state_->parser, State::takeField, State::endRecord, state_.get()) != 0) {
-        hosting::Line{path_, recordLine_, {}}.fail("the quotation mark that begins a field is not closed");
+        hosting::Line{path_, recordLine_, {}}.fail(sentence::quoteOpen);
     }
     if (state_->complete) giveRecord();
 }

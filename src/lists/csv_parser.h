@@ -21,7 +21,8 @@ class CsvParser {
   public:
     using Take = std::function<void(const CsvRecord&)>;
 
-    CsvParser(std::string path, char delimiter, Take take);
+    /// The text begins on this line of the file.
+    CsvParser(std::string path, char delimiter, Take take, int firstLine = 1);
     ~CsvParser();
     CsvParser(const CsvParser&) = delete;
     CsvParser& operator=(const CsvParser&) = delete;
@@ -42,7 +43,7 @@ class CsvParser {
     char delimiter_;
     Take take_;
     std::unique_ptr<State> state_;
-    int line_ = 1;
+    int line_;
     int recordLine_ = 1;
     std::size_t recordSize_ = 0;  // bytes
     bool begun_ = false;          // within a record

@@ -3,8 +3,11 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <initializer_list>
 #include <optional>
 #include <string>
+
+#include "automation/sentence.h"
 
 namespace hx::lists {
 
@@ -28,7 +31,7 @@ class VariableReceiver {
     /// Throws automation::Error when the variable is wrong.
     virtual void take(const ListedVariable& variable) = 0;
     /// Something that the user must know but that stops nothing.
-    virtual void note(const std::string& text) = 0;
+    virtual void note(const automation::Sentence& sentence, std::initializer_list<std::string_view> names) = 0;
     /// So much of the list has been read.
     virtual void reach(std::int64_t done, std::int64_t total) = 0;
 };

@@ -6,6 +6,7 @@
 
 #include "automation/text.h"
 #include "hosting/visible.h"
+#include "lists/sentences.h"
 
 namespace hx::lists {
 
@@ -57,7 +58,7 @@ bool isFunctionBlock(const pugi::xml_node& declaration) {
 PlcopenDeclarations::PlcopenDeclarations(const XmlDocument& document) : document_(document) {
     const pugi::xml_node root = document.root();
     if (!isNamed(root, "project")) {
-        document.fail(root, "this is no PLCopen project: the root element is <" + std::string(root.name()) + ">");
+        document.fail(root, sentence::noPlcopen, {root.name()});
     }
     for (pugi::xml_node node = root; node;) {
         collect(node);
@@ -86,9 +87,9 @@ pugi::xml_node PlcopenDeclarations::type(const std::string& name, const pugi::xm
     if (first == last) std::tie(first, last) = types_.equal_range(wanted.substr(wanted.rfind('.') + 1));
     if (first == last) return {};
     if (std::next(first) != last) {
-        document_.fail(user, "the type " + hosting::inQuotes(name) + " is declared more than once: on line " +
-                                 std::to_string(document_.line(first->second)) + " and on line " +
-                                 std::to_string(document_.line(std::next(first)->second)));
+        document_.fail(user, sentence::declaredTwice,
+                       {hosting::inQuotes(name), std::to_string(document_.line(first->second)),
+                        std::to_string(document_.line(std::next(first)->second))});
     }
     return first->second;
 }

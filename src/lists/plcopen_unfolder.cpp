@@ -7,6 +7,7 @@
 
 #include "automation/text.h"
 #include "hosting/visible.h"
+#include "lists/sentences.h"
 
 namespace hx::lists {
 
@@ -48,16 +49,16 @@ void PlcopenUnfolder::run() {
         receiver_.reach(++done, total);
     }
     for (const xml_node& program : declarations_.programs()) {
-        declareLists(requireName(program, "program"), program,
+        declareLists(requireName(program, sentence::programNoName), program,
                      {"localVars", "Vars", "inputVars", "outputVars", "inOutVars", "globalVars"});
         receiver_.reach(++done, total);
     }
     tellNotes();
 }
 
-std::string PlcopenUnfolder::requireName(const xml_node& node, const std::string& what) const {
+std::string PlcopenUnfolder::requireName(const xml_node& node, const automation::Sentence& none) const {
     std::string name(automation::trim(node.attribute("name").value()));
-    if (name.empty()) document_.fail(node, "\"name\": a " + what + " has no name");
+    if (name.empty()) document_.fail(node, none);
     return name;
 }
 
@@ -79,9 +80,9 @@ void PlcopenUnfolder::declareAll(const Place& owner, const xml_node& list) {
 }
 
 void PlcopenUnfolder::declare(const Place& owner, const xml_node& variable) {
-    const std::string name = requireName(variable, "variable");
+    const std::string name = requireName(variable, sentence::variableNoName);
     const xml_node type = childOf(variable, "type");
-    if (!type) document_.fail(variable, "\"type\": the variable " + hosting::inQuotes(name) + " has no type");
+    if (!type) document_.fail(variable, sentence::variableNoType, {hosting::inQuotes(name)});
     const std::string comment = textOf(childOf(variable, "documentation"));
     unfold({owner.name.empty() ? name : owner.name + "." + name, comment.empty() ? owner.comment : comment,
             owner.line == 0 ? document_.line(variable) : owner.line},
@@ -90,9 +91,9 @@ void PlcopenUnfolder::declare(const Place& owner, const xml_node& variable) {
 
 automation::Restore<int> PlcopenUnfolder::step(const xml_node& node) {
     if (++parts_ > most_.parts) {
-        document_.fail(node, "the variables up to here have more than " + std::to_string(most_.parts) + " parts");
+        document_.fail(node, sentence::tooManyParts, {std::to_string(most_.parts)});
     }
-    if (depth_ == deepest) document_.fail(node, "the types are nested too deeply");
+    if (depth_ == deepest) document_.fail(node, sentence::tooDeep);
     return {depth_, depth_ + 1};
 }
 
@@ -102,7 +103,7 @@ void PlcopenUnfolder::unfold(const Place& place, const xml_node& holder) {
     if (const xml_node named = childOf(holder, "TypeName")) return unfoldNamed(place, textOf(named), named);
     if (const xml_node defined = childOf(holder, "InstantlyDefinedType")) return unfoldDefined(place, defined);
     const xml_node type = firstElement(holder);
-    if (!type) document_.fail(holder, "\"type\": " + hosting::inQuotes(place.name) + " has no type");
+    if (!type) document_.fail(holder, sentence::noType, {hosting::inQuotes(place.name)});
     unfoldType(place, type, std::string(localName(type.name())));
 }
 
@@ -129,7 +130,7 @@ void PlcopenUnfolder::unfoldType(const Place& place, const xml_node& type, const
     if (base) return unfold(place, base);  // of a subrange, or what else is built upon one
     if (is("enum") || is("EnumTypeWithNamedValue")) return give(place, "INT");
     if (isElementary(kind)) return give(place, upperCase(kind));
-    leaveOut(place, "its type " + hosting::inQuotes(kind) + " is unknown");
+    leaveOut(place, sentence::typeUnknown, hosting::inQuotes(kind));
 }
 
 std::string PlcopenUnfolder::stringType(const xml_node& type, const std::string& kind) {
@@ -138,7 +139,7 @@ std::string PlcopenUnfolder::stringType(const xml_node& type, const std::string&
 }
 
 void PlcopenUnfolder::unfoldNamed(const Place& place, const std::string& name, const xml_node& user) {
-    if (name.empty()) document_.fail(user, "\"type\": " + hosting::inQuotes(place.name) + " has a type without a name");
+    if (name.empty()) document_.fail(user, sentence::typeNoName, {hosting::inQuotes(place.name)});
     if (isElementary(name)) return give(place, upperCase(name));
     const xml_node declaration = declarations_.type(name, user);
     if (!declaration) {
@@ -150,7 +151,7 @@ void PlcopenUnfolder::unfoldNamed(const Place& place, const std::string& name, c
     if (isFunctionBlock(declaration)) unfoldInstance(place, declaration);
     else if (const xml_node base = childOf(declaration, "baseType")) unfold(place, base);
     else if (const xml_node spec = childOf(declaration, "UserDefinedTypeSpec")) unfoldDefined(place, spec);
-    else document_.fail(declaration, "the type " + hosting::inQuotes(name) + " says nothing about itself");
+    else document_.fail(declaration, sentence::emptyType, {hosting::inQuotes(name)});
     unfolding_.pop_back();
 }
 
@@ -161,7 +162,7 @@ void PlcopenUnfolder::requireNew(const xml_node& declaration) const {
     for (auto at = first; at != unfolding_.end(); ++at)
         chain += hosting::inQuotes(at->attribute("name").value()) + " -> ";
     const std::string name = hosting::inQuotes(declaration.attribute("name").value());
-    document_.fail(declaration, "the type " + name + " contains itself: " + chain + name);
+    document_.fail(declaration, sentence::containsItself, {name, chain + name});
 }
 
 // Inputs and outputs are what can be reached from outside.
@@ -178,7 +179,7 @@ void PlcopenUnfolder::unfoldInstance(const Place& place, const xml_node& block) 
 
 void PlcopenUnfolder::unfoldArray(const Place& place, const xml_node& array) {
     const xml_node base = childOf(array, "baseType");
-    if (!base) document_.fail(array, "\"baseType\": the array " + hosting::inQuotes(place.name) + " has no type");
+    if (!base) document_.fail(array, sentence::arrayNoType, {hosting::inQuotes(place.name)});
     const auto dimensions = dimensionsOf(place, array);
     if (dimensions.empty()) return;
     std::vector<std::int64_t> index;
@@ -210,17 +211,15 @@ std::vector<PlcopenUnfolder::Dimension> PlcopenUnfolder::dimensionsOf(const Plac
         const auto lower = bound(place, range, "lower");
         const auto upper = bound(place, range, "upper");
         if (!lower || !upper) return {};
-        if (*upper < *lower)
-            document_.fail(child, "\"upper\": the array " + hosting::inQuotes(place.name) + " ends before it begins");
+        if (*upper < *lower) document_.fail(child, sentence::arrayEnds, {hosting::inQuotes(place.name)});
         count *= std::min(*upper - *lower + 1, most_.arrayElements + 1);
         if (count > most_.arrayElements) {
-            leaveOut(place, "the array has more than " + std::to_string(most_.arrayElements) + " elements");
+            leaveOut(place, sentence::arrayTooLarge, std::to_string(most_.arrayElements));
             return {};
         }
         dimensions.push_back({*lower, *upper});
     }
-    if (dimensions.empty())
-        document_.fail(array, "\"dimension\": the array " + hosting::inQuotes(place.name) + " has none");
+    if (dimensions.empty()) document_.fail(array, sentence::arrayNoDimension, {hosting::inQuotes(place.name)});
     return dimensions;
 }
 
@@ -229,7 +228,7 @@ std::optional<std::int64_t> PlcopenUnfolder::bound(const Place& place, const xml
     std::int32_t number = 0;
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
     if (error == std::errc() && end == text.data() + text.size()) return number;
-    leaveOut(place, "the bound " + hosting::inQuotes(text) + " of the array is no number");
+    leaveOut(place, sentence::boundNoNumber, hosting::inQuotes(text));
     return std::nullopt;
 }
 
@@ -246,23 +245,21 @@ void PlcopenUnfolder::give(const Place& place, const std::string& type) {
     receiver_.take(variable_);
 }
 
-void PlcopenUnfolder::leaveOut(const Place& place, const std::string& reason) {
-    receiver_.note("line " + std::to_string(place.line) + ": " + hosting::inQuotes(place.name) +
-                   " is left out: " + reason);
+void PlcopenUnfolder::leaveOut(const Place& place, const automation::Sentence& reason, const std::string& detail) {
+    receiver_.note(reason, {std::to_string(place.line), hosting::inQuotes(place.name), detail});
 }
 
 void PlcopenUnfolder::tellNotes() {
     for (const auto& [name, count] : undeclared_) {
-        receiver_.note("the type " + hosting::inQuotes(name) + " is not declared in the file; " +
-                       std::to_string(count) + " of it taken as they are");
+        receiver_.note(sentence::undeclared, {hosting::inQuotes(name), std::to_string(count)});
     }
-    tellCut("types", cutTypes_, limits_.type);
-    tellCut("comments", cutComments_, limits_.comment);
+    tellCut(sentence::cutTypes, cutTypes_, limits_.type);
+    tellCut(sentence::cutComments, cutComments_, limits_.comment);
 }
 
-void PlcopenUnfolder::tellCut(const std::string& what, int count, std::size_t limit) {
+void PlcopenUnfolder::tellCut(const automation::Sentence& what, int count, std::size_t limit) {
     if (count == 0) return;
-    receiver_.note(std::to_string(count) + " " + what + " cut to " + std::to_string(limit) + " characters");
+    receiver_.note(what, {std::to_string(count), std::to_string(limit)});
 }
 
 }  // namespace hx::lists

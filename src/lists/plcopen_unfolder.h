@@ -44,7 +44,7 @@ class PlcopenUnfolder {
         int line;  // of the variable
     };
     using Names = std::initializer_list<std::string_view>;
-    std::string requireName(const pugi::xml_node& node, const std::string& what) const;
+    std::string requireName(const pugi::xml_node& node, const automation::Sentence& none) const;
     void declareLists(const std::string& prefix, const pugi::xml_node& unit, Names lists);
     void declareAll(const Place& owner, const pugi::xml_node& list);
     void declare(const Place& owner, const pugi::xml_node& variable);
@@ -63,9 +63,9 @@ class PlcopenUnfolder {
     std::vector<Dimension> dimensionsOf(const Place& place, const pugi::xml_node& array);
     std::optional<std::int64_t> bound(const Place& place, const pugi::xml_node& range, const char* name);
     void give(const Place& place, const std::string& type);
-    void leaveOut(const Place& place, const std::string& reason);
+    void leaveOut(const Place& place, const automation::Sentence& reason, const std::string& detail);
     void tellNotes();
-    void tellCut(const std::string& what, int count, std::size_t limit);
+    void tellCut(const automation::Sentence& what, int count, std::size_t limit);
 
     const XmlDocument& document_;
     PlcopenDeclarations declarations_;

@@ -11,6 +11,8 @@
 #include "automation/utf8.h"
 #include "hosting/file_bytes.h"
 #include "hosting/text_file.h"
+#include "hosting/visible.h"
+#include "lists/sentences.h"
 
 namespace hx::lists {
 
@@ -21,16 +23,18 @@ namespace fs = std::filesystem;
 constexpr std::size_t blockSize = std::size_t{1} << 18;
 constexpr std::size_t declarationLength = 256;
 
-[[noreturn]] void refuse(const std::string& problem) { throw automation::Error(automation::errFail, problem); }
+[[noreturn]] void refuse(const automation::Sentence& problem, std::initializer_list<std::string_view> names) {
+    throw automation::Error(automation::errFail, problem, names);
+}
 
 std::ifstream openText(const std::string& path) {
     const fs::path place = hosting::fileSystemPath(path);
     std::error_code error;
     const fs::file_status status = fs::status(place, error);
-    if (fs::is_directory(status)) refuse(path + " is a folder, not a file");
-    if (fs::exists(status) && !fs::is_regular_file(status)) refuse(path + " is not a file");
+    if (fs::is_directory(status)) refuse(sentence::isFolder, {path});
+    if (fs::exists(status) && !fs::is_regular_file(status)) refuse(sentence::isNoFile, {path});
     std::ifstream file(place, std::ios::binary);
-    if (!file.is_open()) refuse(path + " cannot be read: " + std::generic_category().message(errno));
+    if (!file.is_open()) refuse(sentence::cannotBeReadFor, {path, std::generic_category().message(errno)});
     return file;
 }
 
@@ -115,7 +119,7 @@ TextDecoder::TextDecoder(std::string path, const Encoding& encoding)
       encoding_(encoding.name),
       file_(openText(path_)),
       converter_(TextConverter::open(encoding_)) {
-    if (!converter_) hosting::Line{path_, 1, {}}.fail("the encoding \"" + encoding_ + "\" is unknown");
+    if (!converter_) hosting::Line{path_, 1, {}}.fail(sentence::unknownEncoding, {hosting::inQuotes(encoding_)});
     file_.exceptions(std::ios::badbit);  // else want of memory would look like the end of the file
     file_.seekg(0, std::ios::end);
     size_ = file_.tellg();
@@ -139,7 +143,7 @@ void TextDecoder::fill() {
     try {
         file_.read(bytes_.data() + kept, static_cast<std::streamsize>(blockSize));
     } catch (const std::ios::failure&) {
-        refuse(path_ + " cannot be read");
+        refuse(sentence::cannotBeRead, {path_});
     }
     const auto count = file_.gcount();
     bytes_.resize(kept + static_cast<std::size_t>(count));
@@ -161,15 +165,15 @@ TextConverter::Result TextDecoder::converted(std::string& piece) {
     try {
         return converter_->convert(bytes_, piece);
     } catch (const std::system_error& error) {
-        refuse(path_ + " cannot be read: " + error.code().message());
+        refuse(sentence::cannotBeReadFor, {path_, error.code().message()});
     }
 }
 
 void TextDecoder::failAtByte(char at) const {
     constexpr std::string_view digits = "0123456789ABCDEF";
     const auto byte = static_cast<unsigned char>(at);
-    hosting::Line{path_, line_, {}}.fail(std::string("the byte 0x") + digits[byte >> 4] + digits[byte & 15] +
-                                         " is no text in " + encoding_);
+    const std::string shown{digits[byte >> 4], digits[byte & 15]};
+    hosting::Line{path_, line_, {}}.fail(sentence::noText, {shown, encoding_});
 }
 
 }  // namespace hx::lists

@@ -9,6 +9,7 @@
 #include "hosting/in_file.h"
 #include "hosting/text_file.h"
 #include "hosting/visible.h"
+#include "lists/sentences.h"
 #include "project/schema.h"
 
 namespace hx::lists {
@@ -25,7 +26,7 @@ std::unique_ptr<ado::Rowset> openList(ado::Session& session, const std::string& 
         return session.open(table, ado::adCmdTable);
     } catch (const automation::Error& error) {
         if (error.number() != ado::dbErrNoTable) throw;
-        throw automation::Error(automation::errFail, "There is no table \"" + std::string(table) + "\" in " + project);
+        throw automation::Error(automation::errFail, sentence::noTable, {table, project});
     }
 }
 
@@ -54,8 +55,7 @@ std::size_t VariableWriter::columnOf(std::string_view name) const {
     const auto named = [&](const ado::Column& column) { return automation::equalIgnoreCase(column.name, name); };
     const auto found = std::ranges::find_if(rows_->columns(), named);
     if (found != rows_->columns().end()) return static_cast<std::size_t>(found - rows_->columns().begin());
-    throw automation::Error(ado::dbErrBadCommand,
-                            "Table \"" + std::string(table) + "\" has no column \"" + std::string(name) + "\".");
+    throw automation::Error(ado::dbErrBadCommand, sentence::noColumn, {table, name});
 }
 
 VariableLimits VariableWriter::limitsOf() const {
@@ -114,14 +114,13 @@ void VariableWriter::check(const ListedVariable& variable) const {
     const hosting::Line line{file_, variable.line, {}};
     const auto field = [&](const char* title, const std::string& text, std::size_t limit, auto isForbidden) {
         if (std::ranges::any_of(text, isForbidden)) {
-            line.fail(hosting::inQuotes(title) + ": " + hosting::inQuotes(text) + " has control characters");
+            line.fail(sentence::controlCharacters, {hosting::inQuotes(title), hosting::inQuotes(text)});
         }
         if (isLongerThan(text, limit)) {
-            line.fail(hosting::inQuotes(title) + ": " + hosting::inQuotes(text) + " is longer than " +
-                      std::to_string(limit) + " characters");
+            line.fail(sentence::tooLong, {hosting::inQuotes(title), hosting::inQuotes(text), std::to_string(limit)});
         }
     };
-    if (variable.name.empty()) line.fail("\"Name\": a name is missing");
+    if (variable.name.empty()) line.fail(sentence::noName);
     field("Name", variable.name, limits_.name, isControl);
     if (variable.type) field("Type", *variable.type, limits_.type, isControl);
     if (variable.comment) field("Comment", *variable.comment, limits_.comment, isControlButBreak);
@@ -150,8 +149,8 @@ VariableChange VariableWriter::takeKnown(Entry& entry, const Row& row, const Lis
     const bool differs =
         variable.type.value_or(row.type) != row.type || variable.comment.value_or(row.comment) != row.comment;
     if (entry.line != 0 && differs) {
-        hosting::Line{file_, variable.line, {}}.fail("\"Name\": " + hosting::inQuotes(variable.name) + " is on line " +
-                                                     std::to_string(entry.line) + " too, with another type or comment");
+        hosting::Line{file_, variable.line, {}}.fail(sentence::givenTwice,
+                                                     {hosting::inQuotes(variable.name), std::to_string(entry.line)});
     }
     if (entry.line != 0) return {Kind::repeated, {}, {}, {}};
     entry.line = variable.line;

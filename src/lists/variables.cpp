@@ -9,14 +9,12 @@
 #include "automation/error.h"
 #include "automation/text.h"
 #include "hosting/file_bytes.h"
-#include "lists/csv_variables.h"
 #include "lists/plcopen_variables.h"
+#include "lists/sentences.h"
 
 namespace hx::lists {
 
-namespace {
-
-bool isXml(const std::string& path) {
+bool isPlcopen(const std::string& path) {
     if (automation::equalIgnoreCase(std::string_view(path).substr(path.size() - std::min<std::size_t>(path.size(), 4)),
                                     ".xml")) {
         return true;
@@ -34,15 +32,13 @@ bool isXml(const std::string& path) {
     return text == begins;
 }
 
-}  // namespace
-
-void readVariables(const std::string& path, const std::string& encoding, const VariableLimits& limits,
+void readVariables(const std::string& path, const CsvChoice& choice, const VariableLimits& limits,
                    VariableReceiver& receiver) {
     if (sqlite::beginsLikeProject(path)) {
-        throw automation::Error(automation::errFail, path + " is a project, not a list of variables");
+        throw automation::Error(automation::errFail, sentence::isProject, {path});
     }
-    if (isXml(path)) readPlcopenVariables(path, limits, receiver);
-    else readCsvVariables(path, encoding, receiver);
+    if (isPlcopen(path)) readPlcopenVariables(path, limits, receiver);
+    else readCsvVariables(path, choice, receiver);
 }
 
 }  // namespace hx::lists

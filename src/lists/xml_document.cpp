@@ -6,6 +6,7 @@
 
 #include "automation/text.h"
 #include "hosting/text_file.h"
+#include "lists/sentences.h"
 #include "lists/text_decoder.h"
 
 namespace hx::lists {
@@ -17,7 +18,7 @@ std::string decoded(const std::string& path) {
     std::string text;
     for (std::string piece; decoder.read(piece);) text += piece;
     if (text.size() > std::numeric_limits<std::uint32_t>::max()) {
-        throw automation::Error(automation::errFail, path + " is larger than 4 GB");
+        throw automation::Error(automation::errFail, sentence::tooLarge, {path});
     }
     return text;
 }
@@ -39,11 +40,12 @@ XmlDocument::XmlDocument(const std::string& path) : path_(path), text_(decoded(p
         document_.load_buffer_inplace(text_.data(), text_.size(), pugi::parse_default, pugi::encoding_utf8);
     if (result) return;
     const int line = result.status == pugi::status_no_document_element ? 1 : lineAt(result.offset);
-    hosting::Line{path_, line, {}}.fail(std::string("this is no XML: ") + result.description());
+    hosting::Line{path_, line, {}}.fail(sentence::noXml, {result.description()});
 }
 
-void XmlDocument::fail(const pugi::xml_node& node, const std::string& problem) const {
-    hosting::Line{path_, line(node), {}}.fail(problem);
+void XmlDocument::fail(const pugi::xml_node& node, const automation::Sentence& problem,
+                       std::initializer_list<std::string_view> names) const {
+    hosting::Line{path_, line(node), {}}.fail(problem, names);
 }
 
 int XmlDocument::lineAt(std::ptrdiff_t offset) const {

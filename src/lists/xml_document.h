@@ -2,10 +2,13 @@
 #pragma once
 
 #include <cstdint>
+#include <initializer_list>
 #include <pugixml.hpp>
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include "automation/sentence.h"
 
 namespace hx::lists {
 
@@ -21,7 +24,8 @@ class XmlDocument {
     [[nodiscard]] pugi::xml_node root() const { return document_.document_element(); }
     [[nodiscard]] int line(const pugi::xml_node& node) const { return lineAt(node.offset_debug()); }
     /// Throws automation::Error with the line of the node.
-    [[noreturn]] void fail(const pugi::xml_node& node, const std::string& problem) const;
+    [[noreturn]] void fail(const pugi::xml_node& node, const automation::Sentence& problem,
+                           std::initializer_list<std::string_view> names = {}) const;
 
   private:
     [[nodiscard]] int lineAt(std::ptrdiff_t offset) const;

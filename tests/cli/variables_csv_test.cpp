@@ -72,6 +72,50 @@ TEST_F(VariablesInCsv, MayHaveFurtherColumnsWithAHeader) {
     EXPECT_EQ(added(), "A|INT|");
 }
 
+TEST_F(VariablesInCsv, ColumnsThatAreNotReadAreNamedInOneLine) {
+    const std::string list = write("list.csv",
+                                   "Tag Name,Address,Data Type,Scan Rate,Description,Low Limit\n"
+                                   "\"Line1.Level\",40001,Float,100,\"litres, at most 5\",0\n");
+    const Result result = import(list);
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(result.problems,
+              "hxrecipe: " + list + ", the columns \"Address\", \"Scan Rate\", \"Low Limit\" are not read\n");
+    EXPECT_EQ(added(), "Line1.Level|Float|litres, at most 5");
+}
+
+TEST_F(VariablesInCsv, MayHaveRemarksAndAVersionBeforeTheHeader) {
+    const std::string list = write("list.csv",
+                                   "// list of the \"wet\" end, as of today, by hand\n\nVersion;1.0\n0.3;;\n"
+                                   "Name;Type;Comment\nA;INT;a\nB;REAL;b\n");
+    const Result result = import(list);
+    EXPECT_EQ(result.status, 0) << result.problems;
+    EXPECT_EQ(result.problems, "hxrecipe: " + list + ", the 3 lines before the header are not read\n");
+    EXPECT_EQ(added(), "A|INT|a,B|REAL|b");
+    EXPECT_EQ(refused("#1\nName;Type\n\n;INT\n"), "line 4: \"Name\": a name is missing\n");
+}
+
+// A variable may be called "Name": what stands before it is no remark.
+TEST_F(VariablesInCsv, ThatStandBeforeALineLikeAHeaderAreRead) {
+    EXPECT_EQ(imported("A;INT;a\nName;Typ;Comment\nB;REAL;b\n"), "A|INT|a,Name|Typ|Comment,B|REAL|b");
+    EXPECT_EQ(imported("A;INT\nName;Typ\nB;REAL\n"), "A|INT|,Name|Typ|,B|REAL|");
+}
+
+TEST_F(VariablesInCsv, AreTheTagsOfAListOfSeveralKinds) {
+    const std::string head =
+        "remark,\"Export\"\r\nremark,\"Version = 20\"\r\n0.3\r\n"
+        "TYPE,SCOPE,NAME,DESCRIPTION,DATATYPE,SPECIFIER,ATTRIBUTES\r\n";
+    const std::string others = "ALIAS,,Inlet,\"\",\"\",\"Rack:1.0\",\"\"\r\nCOMMENT,,Level,\"of\",\"\",\"Level.0\"\r\n";
+    const std::string list = write("list.csv", head + "TAG,,Level,\"litres\",\"REAL\",\"\",\"(Radix := Float)\"\r\n" +
+                                                   others + "TAG,Mixer,Speed,\"\",\"DINT\",\"\",\"\"\r\n");
+    const Result result = import(list);
+    EXPECT_EQ(result.status, 0) << result.problems;
+    EXPECT_EQ(result.problems, "hxrecipe: " + list + ", the 3 lines before the header are not read\nhxrecipe: " + list +
+                                   ", the columns \"SPECIFIER\", \"ATTRIBUTES\" are not read\nhxrecipe: " + list +
+                                   ", lines that are no tags are not read: \"ALIAS\" (1), \"COMMENT\" (1)\n");
+    EXPECT_EQ(added(), "Level|REAL|litres,Mixer.Speed|DINT|");
+    EXPECT_EQ(refused(head + others), "line 4: of no line below the column \"TYPE\" says that it is a tag\n");
+}
+
 TEST_F(VariablesInCsv, AreReadByRfc4180) {
     EXPECT_EQ(imported("\"A\";INT;\"say \"\"hi\"\";\r\nbye\"\r\n\r\n ;;\r\n B ; INT ;  x \r\n"),
               "A|INT|say \"hi\";\r\nbye,B|INT|x");

@@ -16,7 +16,9 @@ namespace {
 class Variables : public lists::VariableReceiver {
   public:
     void take(const lists::ListedVariable& variable) override { require(variable.line > 0, "a variable has a line"); }
-    void note(const std::string& text) override { require(!text.empty(), "a note says something"); }
+    void note(const automation::Sentence& sentence, std::initializer_list<std::string_view> names) override {
+        require(!say(automation::Language::english, sentence, names).empty(), "a note says something");
+    }
     void reach(std::int64_t done, std::int64_t total) override {
         require(done <= total, "no more is read than there is");
     }

@@ -18,7 +18,9 @@ class Received : public VariableReceiver {
     void take(const ListedVariable& variable) override {
         variables.push_back(variable.name + " " + variable.type.value_or("?"));
     }
-    void note(const std::string& text) override { notes.push_back(text); }
+    void note(const automation::Sentence& sentence, std::initializer_list<std::string_view> names) override {
+        notes.push_back(say(automation::Language::english, sentence, names));
+    }
     void reach(std::int64_t done, std::int64_t total) override {
         reached = std::to_string(done) + "/" + std::to_string(total);
     }
