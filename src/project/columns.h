@@ -41,6 +41,9 @@ inline constexpr auto searchedColumns = std::to_array<SearchedColumn>({
     {Table::variables, schema::variable::comment, {"Comment", "Kommentar"}},
 });
 
+/// The types of the variables, in which nothing is looked for.
+inline constexpr SearchedColumn variableTypeColumn{Table::variables, schema::variable::type, {"Type", "Typ"}};
+
 /// What a column of the recipes is called in a dialog; its name when it is none of them.
 [[nodiscard]] constexpr automation::Sentence captionOf(std::string_view recipeColumn) noexcept {
     for (const SearchedColumn& column : searchedColumns) {

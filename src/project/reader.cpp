@@ -68,11 +68,26 @@ std::vector<ado::Column> Reader::columns(std::string_view table) {
 void Reader::read(std::string_view table, std::span<const std::string_view> columns,
                   const ado::StoredRowReceiver& receive, const std::string& condition) {
     const std::string where = condition.empty() ? "" : " WHERE " + condition;
-    const auto rows = session_->open("SELECT * FROM " + std::string(table) + where + " ORDER BY ID", ado::adCmdText);
+    scan(*session_->open("SELECT * FROM " + std::string(table) + where + " ORDER BY ID", ado::adCmdText), table,
+         columns, receive);
+}
+
+void Reader::readKeyed(std::string_view table, std::span<const std::string_view> columns,
+                       const std::function<void(ado::Key key, Row row)>& receive) {
+    const auto rows = session_->open(table, ado::adCmdTable);
+    const ado::RowKeys keys = rows->keys(nullptr);
+    std::size_t at = 0;
+    scan(*rows, table, columns, [&](Row row) {
+        if (at < keys.size()) receive(keys[at++], row);
+    });
+}
+
+void Reader::scan(ado::Rowset& rows, std::string_view table, std::span<const std::string_view> columns,
+                  const ado::StoredRowReceiver& receive) {
     std::vector<std::size_t> numbers;
-    for (const std::string_view column : columns) numbers.push_back(columnOf(rows->columns(), column, table));
-    if (!progress_) return rows->scan(numbers, receive);
-    rows->scan(numbers, [&](Row row) {
+    for (const std::string_view column : columns) numbers.push_back(columnOf(rows.columns(), column, table));
+    if (!progress_) return rows.scan(numbers, receive);
+    rows.scan(numbers, [&](Row row) {
         constexpr std::int64_t between = 1024;
         if (++rows_ % between == 0) progress_(rows_, 0);
         receive(row);

@@ -54,6 +54,10 @@ class Reader {
     [[nodiscard]] const std::string& path() const { return path_; }
     /// Tells how many rows have been read, of a total that nobody knows (0). What it throws ends the reading.
     void tell(std::function<void(std::int64_t done, std::int64_t total)> progress) { progress_ = std::move(progress); }
+    /// For what is done beside the reading.
+    void reach(std::int64_t done, std::int64_t total) const {
+        if (progress_) progress_(done, total);
+    }
     [[nodiscard]] ado::Session& session() { return *session_; }
 
     /// The columns of a table; throws dbErrNoTable.
@@ -62,10 +66,18 @@ class Reader {
     void read(std::string_view table, std::span<const std::string_view> columns, const ado::StoredRowReceiver& receive,
               const std::string& condition = {});
 
+    /// Gives these columns of all rows of a table with the keys by which the rows are changed: not their IDs where the
+    /// table's key is another column.
+    void readKeyed(std::string_view table, std::span<const std::string_view> columns,
+                   const std::function<void(ado::Key key, Row row)>& receive);
+
     [[nodiscard]] std::vector<RecipeEntry> recipes();   ///< by ID
     [[nodiscard]] std::vector<Inclusion> inclusions();  ///< by the member's ID
 
   private:
+    void scan(ado::Rowset& rows, std::string_view table, std::span<const std::string_view> columns,
+              const ado::StoredRowReceiver& receive);
+
     std::shared_ptr<ado::Session> session_;
     std::string path_;
     std::function<void(std::int64_t done, std::int64_t total)> progress_;

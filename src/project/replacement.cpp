@@ -37,7 +37,7 @@ class Writer {
         check(replacement, open);
         try {
             const std::array after{ado::ColumnValue{open.number, replacement.after}};
-            const std::array before{ado::ColumnValue{open.number, replacement.before}};
+            const std::array before{ado::ColumnValue{open.number, asStored(replacement, open)}};
             open.rows->update(replacement.row, after, before);
             return true;
         } catch (const Error& error) {
@@ -66,6 +66,16 @@ class Writer {
             columns, [&](const ado::Column& one) { return automation::equalIgnoreCase(one.name, column.name); });
         const auto number = static_cast<std::size_t>(found - columns.begin());
         return open_.emplace_back(Open{&column, std::move(rows), number});
+    }
+
+    // What is shown as nothing may be missing.
+    static automation::Variant asStored(const Replacement& replacement, const Open& open) {
+        automation::Variant before = replacement.before;
+        if (!replacement.before.empty()) return before;
+        open.rows->readStored({&replacement.row, 1}, [&](std::span<const ado::StoredValue> row) {
+            if (row[open.number].kind == ado::StoredValue::Kind::null) before = automation::Null{};
+        });
+        return before;
     }
 
     static void check(const Replacement& replacement, const Open& open) {
