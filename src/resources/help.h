@@ -15,7 +15,7 @@ inline constexpr std::int32_t recipeDialog = 100030, subRecipeDialog = 100031, i
                               configurationDialog = 100033;
 inline constexpr std::int32_t grid = 100040, keys = 100041;
 inline constexpr std::int32_t overview = 100042, menus = 100043, report = 100044, settings = 100045, messages = 100046;
-inline constexpr std::int32_t history = 100047, find = 100048;  ///< of the studio
+inline constexpr std::int32_t history = 100047, find = 100048, variables = 100049;  ///< of the studio
 }  // namespace help_context
 
 /// The add-in's help file and the calls on it.

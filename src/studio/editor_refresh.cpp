@@ -56,7 +56,11 @@ void EditorRefresh::show(const history::StepName& step) {
         activate(*window);
     }
     const std::string where = branch::keyOf(branch::recipe, step.recipe);
-    const std::string& shown = step.recipe != 0 && isThere(where) ? where : before;
+    // Who works in a list of the studio's own stays there, unless the step was made in the editor.
+    const QModelIndex current = tree_.currentIndex();
+    const bool isElsewhere = step.kind == history::StepName::Kind::named && current.isValid() &&
+                             explorer_.isOwn(explorer_.model().key(current));
+    const std::string& shown = step.recipe != 0 && isThere(where) && !isElsewhere ? where : before;
     if (shown != explorer_.selectedNode().key || step.recipes == 0) showNode(shown);
     if (keyboard) keyboard->setFocus(Qt::OtherFocusReason);
 }

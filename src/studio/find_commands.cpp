@@ -22,11 +22,11 @@ void repaintGrids(const QMainWindow& window) {
 
 FindCommands::FindCommands(QMainWindow& window, ProjectWindow& projects, StudioHost& host, qt::QtExplorer& explorer,
                            qt::ExplorerTree& tree, HistoryCommands& history, Warn warn)
-    : projects_(projects),
-      host_(host),
+    : host_(host),
       explorer_(explorer),
       tree_(tree),
       history_(history),
+      projects_(projects),
       wording_(host.wording()),
       warn_(std::move(warn)),
       menu_(&window),
@@ -48,7 +48,9 @@ FindCommands::FindCommands(QMainWindow& window, ProjectWindow& projects, StudioH
       uses_(window, live_, host.wording(), [this](const Place& place, bool into) { goTo(place, into); }),
       texts_(
           window, live_, host.wording(), [this](const Place& place, bool into) { goTo(place, into); },
-          [this](const auto& replacements, const QString& name) { attempt([&] { store(replacements, name); }); }) {
+          [this](const auto& replacements, const QString& name) { attempt([&] { store(replacements, name); }); }),
+      variable_(window, live_, navigator_, host.wording(),
+                [this](const Place& place, bool into) { goTo(place, into); }) {
     host.screen().setMarks(&known_);
     history_.setWatch([this] { live_.noteChange(); }, [this] { live_.letWrite(); });
     explorer_.model().setRenaming(
@@ -110,7 +112,8 @@ void FindCommands::connectActions() {
 }
 
 QList<QAction*> FindCommands::toggles() {
-    return {problems_.toggleViewAction(), uses_.toggleViewAction(), texts_.toggleViewAction()};
+    return {problems_.toggleViewAction(), uses_.toggleViewAction(), texts_.toggleViewAction(),
+            variable_.toggleViewAction()};
 }
 
 void FindCommands::addTo(QMainWindow& window, QAction* before) {
@@ -122,6 +125,7 @@ void FindCommands::addTo(QMainWindow& window, QAction* before) {
         beside = dock;
         dock->hide();
     }
+    window.addDockWidget(Qt::RightDockWidgetArea, &variable_);
     window.statusBar()->addPermanentWidget(&problems_.count());
 }
 
@@ -142,6 +146,7 @@ void FindCommands::retranslate() {
     problems_.retranslate();
     uses_.retranslate();
     texts_.retranslate();
+    variable_.retranslate();
 }
 
 void FindCommands::open(const QString& file) {
@@ -171,6 +176,7 @@ void FindCommands::showVisited() {
 }
 
 void FindCommands::showWhereUsed() {
+    if (const QString name = variableElsewhere(); !name.isEmpty()) return uses_.showUsesOf(name);
     const Navigator::Here here = navigator_.here();
     if (here.inGrid && here.subRecipe != 0) return uses_.showUsesOf(here.subRecipe);
     if (here.inGrid && !here.variable.empty()) return uses_.showUsesOf(qt::toQt(here.variable));

@@ -10,6 +10,7 @@
 #include "studio/history_commands.h"
 #include "studio/navigator.h"
 #include "studio/problems_dock.h"
+#include "studio/variable_dock.h"
 #include "studio/where_used_dock.h"
 
 namespace hx::studio {
@@ -42,6 +43,12 @@ class FindCommands : public QObject {
     [[nodiscard]] bool sortsByName() const { return sort_.isChecked(); }
     void arrange(const QString& filter, bool byName);
 
+    /// The open project for further lists.
+    [[nodiscard]] LiveProject& live() noexcept { return live_; }
+    void showUsesOf(const QString& name) { uses_.showUsesOf(name); }
+    /// Asked for the variable that the user sees elsewhere than in the editor; empty for none.
+    std::function<QString()> variableElsewhere = [] { return QString(); };
+
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -55,11 +62,11 @@ class FindCommands : public QObject {
     void store(const std::vector<project::Replacement>& replacements, const QString& name);
     void attempt(const std::function<void()>& action);
 
-    ProjectWindow& projects_;
     StudioHost& host_;
     qt::QtExplorer& explorer_;
     qt::ExplorerTree& tree_;
     HistoryCommands& history_;
+    ProjectWindow& projects_;
     const qt::Wording& wording_;
     Warn warn_;
     QMenu menu_;
@@ -71,6 +78,7 @@ class FindCommands : public QObject {
     ProblemsDock problems_;
     WhereUsedDock uses_;
     FindDock texts_;
+    VariableDock variable_;
 };
 
 }  // namespace hx::studio

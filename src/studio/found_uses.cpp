@@ -2,7 +2,6 @@
 #include "studio/found_uses.h"
 
 #include <algorithm>
-#include <numeric>
 
 #include "adapters/qt/text.h"
 #include "project/columns.h"
@@ -11,9 +10,11 @@ namespace hx::studio {
 
 using project::Reference;
 
-FoundUses::FoundUses(project::WhereUsed used, const qt::Wording& wording)
-    : used_(std::move(used)), wording_(wording), inOrder_(used_.references().size()) {
-    std::iota(inOrder_.begin(), inOrder_.end(), 0U);
+FoundUses::FoundUses(project::WhereUsed used, const qt::Wording& wording, std::int64_t except)
+    : used_(std::move(used)), wording_(wording) {
+    for (std::uint32_t number = 0; number < used_.references().size(); ++number) {
+        if (except == 0 || used_.references()[number].recipe != except) inOrder_.push_back(number);
+    }
     std::ranges::stable_sort(inOrder_, {}, [this](std::uint32_t number) { return used_.references()[number].kind; });
     for (std::size_t i = 0; i < inOrder_.size(); ++i) {
         const Reference::Kind kind = reference(i).kind;

@@ -13,8 +13,9 @@ namespace hx::studio {
 /// Where something is used, by kinds, for a list.
 class FoundUses : public FoundThings {
   public:
-    /// Used on another thread: nothing of the wording is asked for here. It is lent.
-    FoundUses(project::WhereUsed used, const qt::Wording& wording);
+    /// Used on another thread: nothing of the wording is asked for here. It is lent. What the recipe `except` uses is
+    /// left out.
+    FoundUses(project::WhereUsed used, const qt::Wording& wording, std::int64_t except = 0);
 
     [[nodiscard]] const project::WhereUsed& used() const noexcept { return used_; }
     [[nodiscard]] std::size_t groups() const override { return groups_.size(); }

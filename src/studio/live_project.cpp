@@ -39,7 +39,7 @@ LiveProject::Stamp LiveProject::stamp() const {
 }
 
 void LiveProject::tell() {
-    if (!isOpen()) return;
+    if (!isOpen() || holds_ > 0) return;
     stamp_ = stamp();
     changed.raise();
 }
@@ -52,7 +52,7 @@ void LiveProject::letWrite() {
     for (const auto& reading : readings_) {
         if (reading) reading->stop();
     }
-    soon_.start();
+    if (isOpen()) soon_.start();
 }
 
 void LiveProject::read(ProjectReading& reading, ProjectReading::Task task, ProjectReading::Failed failed) {

@@ -33,6 +33,19 @@ class LiveProject : public QObject {
     void look();
     /// This program writes now: readers would keep it waiting. They begin again when it has done so.
     void letWrite();
+    /// While it lives, nobody is told of changes: something is written while the window goes on.
+    class Hold {
+      public:
+        explicit Hold(LiveProject& live) : live_(live) { ++live_.holds_; }
+        ~Hold() {
+            if (--live_.holds_ == 0) live_.letWrite();
+        }
+        Hold(const Hold&) = delete;
+        Hold& operator=(const Hold&) = delete;
+
+      private:
+        LiveProject& live_;
+    };
 
     /// Reads it by a reading that belongs to the caller, with errors in the user's language.
     void read(ProjectReading& reading, ProjectReading::Task task, ProjectReading::Failed failed);
@@ -50,6 +63,7 @@ class LiveProject : public QObject {
     QString file_;
     Stamp stamp_;
     QTimer soon_;
+    int holds_ = 0;
     std::vector<QPointer<ProjectReading>> readings_;
 };
 

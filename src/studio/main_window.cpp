@@ -49,6 +49,8 @@ MainWindow::MainWindow(StudioHost& host, Preferences& preferences)
       recipes_(*this, host, explorer_, tree_, history_, find_.navigator(), find_.known(),
                [this](const QString& text) { warn(text); }),
       status_(*statusBar(), explorer_, tree_, find_.navigator(), history_, host.wording()),
+      variables_(*this, documents_, *this, host, explorer_, tree_, history_, find_,
+                 [this](const QString& text) { warn(text); }),
       menus_(*this, *this,
              QList<QAction*>{explorerDock_.toggleViewAction(), &history_.toggleDock(), &macros_.toggleOutput()} +
                  find_.toggles(),
@@ -63,6 +65,8 @@ MainWindow::MainWindow(StudioHost& host, Preferences& preferences)
 
 MainWindow::~MainWindow() {
     recipes_.setProject(nullptr);
+    variables_.finishEdit();
+    variables_.close();
     project_.reset();
     find_.close();
     history_.close();
@@ -92,6 +96,7 @@ void MainWindow::setUp() {
     find_.addTo(*this, menus_.viewMenu());
     recipes_.addTo(*this, menus_.viewMenu());
     macros_.setGoTo([this](const Place& place, bool into) { find_.goTo(place, into); });
+    variables_.addTo(*this, menus_.viewMenu());
     macros_.setRunningChanged([this](const QString& name) { history_.setMacro(name); });
     history_.addTo(*this);
     fileLabel_.setObjectName(QStringLiteral("projectFile"));
@@ -153,6 +158,7 @@ void MainWindow::useLanguage(std::int32_t lcid) {
     history_.retranslate();
     find_.retranslate();
     recipes_.retranslate();
+    variables_.retranslate();
     menus_.retranslate();
     tree_.setAccessibleName(wording_.translate("studio", "Project Explorer"));
     documents_.setAccessibleName(wording_.translate("studio", "Documents"));
@@ -243,6 +249,7 @@ void MainWindow::open(const QString& path) {
     history_.open(*project_);
     startAddIn();
     find_.open(project_->file());
+    variables_.open();
     recipes_.setProject(project_.get());
     history_.tellOfLastSession();
 }
@@ -270,6 +277,8 @@ void MainWindow::startAddIn() {
 void MainWindow::closeProject() {
     if (!project_) return;
     recipes_.setProject(nullptr);
+    variables_.finishEdit();
+    variables_.close();
     project_.reset();
     find_.close();
     history_.close();

@@ -24,6 +24,7 @@
 #include "studio/start_page.h"
 #include "studio/studio_host.h"
 #include "studio/studio_menus.h"
+#include "studio/variables_commands.h"
 
 namespace hx::studio {
 
@@ -106,6 +107,7 @@ class MainWindow : public QMainWindow, private StudioCommands, private ProjectWi
     FindCommands find_;
     RecipeCommands recipes_;
     EditorStatus status_;
+    VariablesCommands variables_;
     StudioMenus menus_;
     HelpCommands help_;
     StartPage start_;

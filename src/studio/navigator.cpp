@@ -51,7 +51,13 @@ Navigator::Navigator(ProjectWindow& window, StudioHost& host, qt::QtExplorer& ex
     // A refresh goes through nodes that nobody visits: what counts is where it ends.
     visitSoon_.setSingleShot(true);
     visitSoon_.setInterval(0);
-    connect(&visitSoon_, &QTimer::timeout, this, [this] { noteVisit(); });
+    connect(&visitSoon_, &QTimer::timeout, this, [this] {
+        noteVisit();
+        followGrid();
+    });
+    movedSoon_.setSingleShot(true);
+    movedSoon_.setInterval(0);
+    connect(&movedSoon_, &QTimer::timeout, this, [this] { moved.raise(); });
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, const QWidget* now) {
         if (now == &tree_) inGrid_ = false;
         for (; now != nullptr && !inGrid_ && now != &tree_; now = now->parentWidget())
@@ -129,6 +135,18 @@ void Navigator::noteVisit() {
     if (visited_.size() > mostVisits) visited_.erase(visited_.begin());
     at_ = visited_.size() - 1;
     visitedChanged();
+}
+
+// The grid is another one when the editor's window has been closed meanwhile.
+void Navigator::followGrid() {
+    movedSoon_.start();
+    const std::shared_ptr<forms::Grid> rows = grid();
+    if (rows == followed_.lock()) return;
+    followed_ = rows;
+    moves_ = {};
+    if (!rows) return;
+    moves_[0] = rows->currentCellChanged.subscribe([this] { movedSoon_.start(); });
+    moves_[1] = rows->rowsChanged.subscribe([this] { movedSoon_.start(); });
 }
 
 // What has been deleted since is passed over.

@@ -3,6 +3,8 @@
 
 #include <QAction>
 #include <QTimer>
+#include <array>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -43,10 +45,13 @@ class Navigator : public QObject {
     [[nodiscard]] std::shared_ptr<forms::Grid> grid() const;
     /// Whether it has the keyboard, and no cell of it is open.
     [[nodiscard]] bool gridHasKeyboard() const;
+    /// Raised when that may be another place.
+    forms::Event<> moved;
 
   private:
     void go(int step);
     void noteVisit();
+    void followGrid();
     [[nodiscard]] bool chooseNode(const std::string& key);
     bool showMember(std::int64_t member, bool into);
     void showColumn(std::string_view column);
@@ -59,6 +64,9 @@ class Navigator : public QObject {
     std::vector<std::string> visited_;  // keys of nodes
     std::size_t at_ = 0;
     bool inGrid_ = false;
+    std::weak_ptr<forms::Grid> followed_;
+    std::array<forms::Subscription, 2> moves_;  // of that grid
+    QTimer movedSoon_;
 };
 
 }  // namespace hx::studio

@@ -30,7 +30,12 @@ Project::~Project() {
     host_.setProjectFile({});
 }
 
-void Project::showNode() { explorer_.openProject(open_.name(), qt::namedIcon("studio/project")); }
+// The add-in's nodes come behind that of the variables: there may be very many.
+void Project::showNode() {
+    explorer_.openProject(open_.name(), qt::namedIcon("studio/project"));
+    explorer_.addOwnNode(variablesKey, qt::fromQt(host_.wording().translate("studio", "Variables")),
+                         qt::namedIcon("studio/variables"));
+}
 
 void Project::endAddIn() {
     host_.screen().settle();

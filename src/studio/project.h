@@ -14,6 +14,9 @@ namespace hx::studio {
 /// An open project: its node in the explorer and its add-in, from Initialize to Terminate.
 class Project {
   public:
+    /// The key of the studio's own node in the explorer, the variable list.
+    static constexpr const char* variablesKey = "HXVARIABLES";
+
     /// Records the project's folder in the registry and shows its node. Both are lent. Throws automation::Error when
     /// the registry cannot be written.
     Project(const QString& file, StudioHost& host, qt::QtExplorer& explorer);

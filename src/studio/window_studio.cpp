@@ -52,9 +52,11 @@ automation::ObjectRef WindowStudio::editorWindow() {
     return window;
 }
 
-// The project's own node is the studio's, not the add-in's.
+// The project's own node is the studio's, not the add-in's, and so is that of the variables.
 std::vector<macros::Node> WindowStudio::nodes() {
-    return macros::nodesBelow(explorer_.model().nodes(), qt::QtExplorer::projectKey);
+    auto nodes = macros::nodesBelow(explorer_.model().nodes(), qt::QtExplorer::projectKey);
+    std::erase_if(nodes, [this](const macros::Node& node) { return explorer_.isOwn(node.key); });
+    return nodes;
 }
 
 }  // namespace hx::studio

@@ -89,11 +89,15 @@ TEST_F(Accessibility, TheWindowAndItsDocksTellWhatTheirControlsAre) {
     find<QAction>(window(), "actionEnglish").trigger();
     handleEvents();
     expectTold(window(), "in English");
+    find<QAction>(window(), "actionVariables").trigger();
+    handleEvents();
+    expectTold(window(), "with the variable list");
 }
 
 TEST_F(Accessibility, TheStudiosDialogsTellWhatTheirControlsAre) {
     showMembers();
-    for (const char* name : {"actionAbout", "actionShortcuts", "actionNew", "actionSeries"}) expectActionTold(name);
+    for (const char* name : {"actionAbout", "actionShortcuts", "actionNew", "actionSeries", "actionNewVariable"})
+        expectActionTold(name);
 }
 
 TEST_F(Accessibility, TheEditorsDialogsTellWhatTheirControlsAre) {

@@ -162,7 +162,7 @@ TEST_F(StudioMacroTest, FollowsTheLanguageOfTheStudio) {
     Texts views;
     for (const QAction* view : find<QMenu>(window(), "menuView").actions()) views.push_back(view->text().toStdString());
     EXPECT_THAT(views, ElementsAre("Project Explorer", "History", "Macro output", "Problems", "Where Used",
-                                   "Find and Replace"));
+                                   "Find and Replace", "Current Variable"));
     run("while true do end", [this] {
         EXPECT_EQ(status(), "test.lua is running… (Shift+F5 stops it)");
         press("actionStopMacro");

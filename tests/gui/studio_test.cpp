@@ -145,7 +145,11 @@ TEST_F(StudioTest, AMissingModuleIsSaidAndTheStudioStaysUsable) {
                                            qt::fromQt(folder.path())),
               std::string::npos)
         << answers.shown()[0].text;
-    EXPECT_EQ(tree().model()->rowCount(tree().model()->index(0, 0)), 0);
+    EXPECT_EQ(tree().model()->rowCount(tree().model()->index(0, 0)), 1);  // the variable list, which needs no editor
+    click("Variablen");
+    auto& variables = find<QTableView>(window(), "variableRows");
+    EXPECT_TRUE(waitUntil([&] { return find<QLabel>(window(), "variableState").text() == "0 Variablen"; }));
+    EXPECT_TRUE(variables.isVisible());
     window().closeProject();
     EXPECT_EQ(window().windowTitle(), "HelvixStudio");
 }
@@ -207,6 +211,9 @@ TEST_F(StudioTest, TheCloseBoxHidesTheEditorAndADoubleClickShowsItAgain) {
 TEST_F(StudioTest, EverythingIsReachedByKeyboard) {
     start();
     open(makeProject());
+    EXPECT_TRUE(tree().hasFocus());
+    QTest::keyClick(&tree(), Qt::Key_Down);
+    EXPECT_TRUE(find<QTableView>(window(), "variableRows").isVisible());
     EXPECT_TRUE(tree().hasFocus());
     QTest::keyClick(&tree(), Qt::Key_Down);
     ASSERT_NE(editorWindow(), nullptr);

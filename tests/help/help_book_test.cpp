@@ -34,7 +34,8 @@ const Titles germanTitles = {{context::root, "Rezepte"},
                              {context::settings, "Einstellungen und Sprache"},
                              {context::messages, "Meldungen und was zu tun ist"},
                              {context::history, "Rückgängig und Verlauf"},
-                             {context::find, "Suchen und Probleme"}};
+                             {context::find, "Suchen und Probleme"},
+                             {context::variables, "Variablenliste"}};
 
 const Titles englishTitles = {{context::root, "Recipes"},
                               {context::recipe, "A Recipe"},
@@ -51,7 +52,8 @@ const Titles englishTitles = {{context::root, "Recipes"},
                               {context::settings, "Settings and Language"},
                               {context::messages, "Messages and What to Do"},
                               {context::history, "Undo and History"},
-                              {context::find, "Search and Problems"}};
+                              {context::find, "Search and Problems"},
+                              {context::variables, "Variable List"}};
 
 QStringList linksOf(const QString& html) {
     static const QRegularExpression pattern(QStringLiteral("\\b(?:href|src)=\"([^\"]*)\""));

@@ -31,9 +31,16 @@ void QtExplorer::openProject(const std::string& name, const QIcon& icon) {
     tree_.expand(model_.find(projectKey));
 }
 
+void QtExplorer::addOwnNode(const std::string& key, const std::string& caption, const QIcon& icon) {
+    own_ = key;
+    model_.setImage(key, icon);
+    model_.add({.parent = projectKey, .caption = caption, .key = key, .tag = {}, .image = key});
+}
+
 void QtExplorer::closeProject() {
     addIn_ = nullptr;
     project_.clear();
+    own_.clear();
     model_.clear();
 }
 
@@ -62,7 +69,9 @@ void QtExplorer::requireRoomBelow(std::string_view key) const {
 
 std::vector<std::string> QtExplorer::childKeys(std::string_view key, std::int32_t levels) const {
     if (levels == 1 && listed) listed();
-    return model_.childKeys(key.empty() ? projectKey : key, levels);
+    std::vector<std::string> keys = model_.childKeys(key.empty() ? projectKey : key, levels);
+    std::erase_if(keys, [this](const std::string& one) { return isOwn(one); });
+    return keys;
 }
 
 void QtExplorer::setNodeProperty(std::string_view key, std::int32_t property, const automation::Variant& value) {
@@ -81,7 +90,7 @@ host::NodeEvent QtExplorer::selectedNode() const {
 }
 
 bool QtExplorer::isAddIns(const QModelIndex& node) const {
-    return addIn_ != nullptr && node.isValid() && node.parent().isValid();
+    return addIn_ != nullptr && node.isValid() && node.parent().isValid() && !isOwn(model_.key(node));
 }
 
 host::NodeEvent QtExplorer::eventOf(const QModelIndex& node) const {
@@ -105,6 +114,7 @@ void QtExplorer::showExpanded(std::string_view key) {
 }
 
 void QtExplorer::nodeClicked(const QModelIndex& node) {
+    if (node.isValid() && isOwn(model_.key(node))) return ownChosen(false);
     if (!isAddIns(node)) return;
     const bool hadKeyboard = tree_.hasFocus();
     addIn_->NodeClick(eventOf(node));
@@ -113,6 +123,7 @@ void QtExplorer::nodeClicked(const QModelIndex& node) {
 }
 
 void QtExplorer::nodeDoubleClicked(const QModelIndex& node) {
+    if (node.isValid() && isOwn(model_.key(node))) return ownChosen(true);
     if (isAddIns(node)) addIn_->NodeDblClick(eventOf(node));
 }
 

@@ -25,6 +25,12 @@ class QtExplorer : public host::ProjectExplorer, private NodeListener {
     ~QtExplorer() override;
 
     void openProject(const std::string& name, const QIcon& icon);
+    /// Puts a node of the studio's own below the project, of which the add-in neither knows nor hears; one at most. Its
+    /// picture is that of its key.
+    void addOwnNode(const std::string& key, const std::string& caption, const QIcon& icon);
+    [[nodiscard]] bool isOwn(std::string_view key) const noexcept { return !own_.empty() && key == own_; }
+    /// The user has chosen that node; `into` by a double click or Enter.
+    std::function<void(bool into)> ownChosen = [](bool) {};
     /// Removes all nodes and forgets the add-in.
     void closeProject();
     /// Who hears of the nodes below the project; lent until the next call. Null: nobody.
@@ -69,7 +75,7 @@ class QtExplorer : public host::ProjectExplorer, private NodeListener {
     host::Clipboard& clipboard_;
     QtScreen& screen_;
     host::CHX4Extensibility* addIn_ = nullptr;
-    std::string project_;
+    std::string project_, own_;
     bool byProgram_ = false;
 };
 

@@ -1214,5 +1214,285 @@ Soll sie ersetzt werden?</translation>
         <source>What the macro has found</source>
         <translation>Was das Makro gefunden hat</translation>
     </message>
+    <message>
+        <source>new</source>
+        <translation>neu</translation>
+    </message>
+    <message>
+        <source>changed</source>
+        <translation>geändert</translation>
+    </message>
+    <message>
+        <source>unchanged</source>
+        <translation>unverändert</translation>
+    </message>
+    <message>
+        <source>Change</source>
+        <translation>Änderung</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Typ</translation>
+    </message>
+    <message>
+        <source>Comment</source>
+        <translation>Kommentar</translation>
+    </message>
+    <message>
+        <source>Variables</source>
+        <translation>Variablen</translation>
+    </message>
+    <message>
+        <source>New Variable</source>
+        <translation>Neue Variable</translation>
+    </message>
+    <message>
+        <source>&amp;Type:</source>
+        <translation>&amp;Typ:</translation>
+    </message>
+    <message>
+        <source>Co&amp;mment:</source>
+        <translation>Ko&amp;mmentar:</translation>
+    </message>
+    <message>
+        <source>There is a variable of this name</source>
+        <translation>Eine Variable dieses Namens gibt es schon</translation>
+    </message>
+    <message>
+        <source>Current Variable</source>
+        <translation>Aktuelle Variable</translation>
+    </message>
+    <message>
+        <source>Other recipes that use it</source>
+        <translation>Andere Rezepte, die sie verwenden</translation>
+    </message>
+    <message>
+        <source>No variable is chosen</source>
+        <translation>Keine Variable gewählt</translation>
+    </message>
+    <message>
+        <source>No other recipe uses it</source>
+        <translation>Kein anderes Rezept verwendet sie</translation>
+    </message>
+    <message>
+        <source>Other uses: %1</source>
+        <translation>Weitere Verwendungen: %1</translation>
+    </message>
+    <message>
+        <source>It is not in the variable list.</source>
+        <translation>Sie steht nicht in der Variablenliste.</translation>
+    </message>
+    <message>
+        <source>Variables: %1 new, %2 changed, %3 unchanged</source>
+        <translation>Variablen: %1 neu, %2 geändert, %3 unverändert</translation>
+    </message>
+    <message>
+        <source>Varia&amp;bles</source>
+        <translation>&amp;Variablen</translation>
+    </message>
+    <message>
+        <source>&amp;Show List</source>
+        <translation>Liste &amp;zeigen</translation>
+    </message>
+    <message>
+        <source>&amp;New Variable…</source>
+        <translation>&amp;Neue Variable …</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Löschen</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>&amp;Einfügen</translation>
+    </message>
+    <message>
+        <source>&amp;Import…</source>
+        <translation>&amp;Importieren …</translation>
+    </message>
+    <message>
+        <source>&amp;Export…</source>
+        <translation>E&amp;xportieren …</translation>
+    </message>
+    <message>
+        <source>Variable “%1” changed in the list</source>
+        <translation>Variable „%1“ in der Liste geändert</translation>
+    </message>
+    <message>
+        <source>One recipe uses the variable “%1”.
+
+Shall it be called “%2” there too?</source>
+        <translation>Ein Rezept verwendet die Variable „%1“.
+
+Soll sie auch dort „%2“ heißen?</translation>
+    </message>
+    <message>
+        <source>%3 recipes use the variable “%1”.
+
+Shall it be called “%2” there too?</source>
+        <translation>%3 Rezepte verwenden die Variable „%1“.
+
+Soll sie auch dort „%2“ heißen?</translation>
+    </message>
+    <message>
+        <source>Variable “%1” renamed to “%2”</source>
+        <translation>Variable „%1“ umbenannt in „%2“</translation>
+    </message>
+    <message>
+        <source>Variable “%1” added to the list</source>
+        <translation>Variable „%1“ in die Liste aufgenommen</translation>
+    </message>
+    <message>
+        <source>Recipes that use the variable “%1”: %2.
+
+Delete it from the list nevertheless?</source>
+        <translation>Rezepte, die die Variable „%1“ verwenden: %2.
+
+Trotzdem aus der Liste löschen?</translation>
+    </message>
+    <message>
+        <source>Of these %1 variables, %2 are used in recipes.
+
+Delete them from the list nevertheless?</source>
+        <translation>Von diesen %1 Variablen werden %2 in Rezepten verwendet.
+
+Trotzdem aus der Liste löschen?</translation>
+    </message>
+    <message>
+        <source>Variable “%1” deleted from the list</source>
+        <translation>Variable „%1“ aus der Liste gelöscht</translation>
+    </message>
+    <message>
+        <source>%1 variables deleted from the list</source>
+        <translation>%1 Variablen aus der Liste gelöscht</translation>
+    </message>
+    <message>
+        <source>Clipboard</source>
+        <translation>Zwischenablage</translation>
+    </message>
+    <message>
+        <source>Variables pasted into the list</source>
+        <translation>Variablen in die Liste eingefügt</translation>
+    </message>
+    <message>
+        <source>Import Variables</source>
+        <translation>Variablen importieren</translation>
+    </message>
+    <message>
+        <source>Variable lists (*.csv *.txt *.xml)</source>
+        <translation>Variablenlisten (*.csv *.txt *.xml)</translation>
+    </message>
+    <message>
+        <source>Variables imported: %1</source>
+        <translation>Variablen importiert: %1</translation>
+    </message>
+    <message>
+        <source>Export Variables</source>
+        <translation>Variablen exportieren</translation>
+    </message>
+    <message>
+        <source>CSV files (*.csv)</source>
+        <translation>CSV-Dateien (*.csv)</translation>
+    </message>
+    <message>
+        <source>%1 variables exported: %2</source>
+        <translation>%1 Variablen exportiert: %2</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filter</translation>
+    </message>
+    <message>
+        <source>Filter: %1</source>
+        <translation>Filter: %1</translation>
+    </message>
+    <message>
+        <source>Shows the variables with all of these words, and none with &quot;-&quot;</source>
+        <translation>Zeigt die Variablen mit all diesen Wörtern und keinem mit „-“</translation>
+    </message>
+    <message>
+        <source>Shows the variables that so many recipes use; 0: the unused ones</source>
+        <translation>Zeigt die Variablen, die so viele Rezepte verwenden; 0: die unbenutzten</translation>
+    </message>
+    <message>
+        <source>&amp;Encoding:</source>
+        <translation>&amp;Kodierung:</translation>
+    </message>
+    <message>
+        <source>(recognised)</source>
+        <translation>(erkannt)</translation>
+    </message>
+    <message>
+        <source>What changes</source>
+        <translation>Was sich ändert</translation>
+    </message>
+    <message>
+        <source>New ones</source>
+        <translation>Neue</translation>
+    </message>
+    <message>
+        <source>Changed ones</source>
+        <translation>Geänderte</translation>
+    </message>
+    <message>
+        <source>Unchanged ones</source>
+        <translation>Unveränderte</translation>
+    </message>
+    <message>
+        <source>Shown variables</source>
+        <translation>Gezeigte Variablen</translation>
+    </message>
+    <message>
+        <source>What the import does</source>
+        <translation>Was der Import bewirkt</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Fortschritt</translation>
+    </message>
+    <message>
+        <source>&amp;Import</source>
+        <translation>&amp;Importieren</translation>
+    </message>
+    <message>
+        <source>Column %1</source>
+        <translation>Spalte %1</translation>
+    </message>
+    <message>
+        <source>(none)</source>
+        <translation>(keine)</translation>
+    </message>
+    <message>
+        <source>Reading …</source>
+        <translation>Liest …</translation>
+    </message>
+    <message>
+        <source>%1 new, %2 changed, %3 unchanged</source>
+        <translation>%1 neu, %2 geändert, %3 unverändert</translation>
+    </message>
+    <message>
+        <source>and %1 more of these</source>
+        <translation>und %1 weitere</translation>
+    </message>
+    <message>
+        <source>Cancelled: nothing was imported</source>
+        <translation>Abgebrochen: Es wurde nichts importiert</translation>
+    </message>
+    <message>
+        <source>1 variable</source>
+        <translation>1 Variable</translation>
+    </message>
+    <message>
+        <source>%1 variables</source>
+        <translation>%1 Variablen</translation>
+    </message>
 </context>
 </TS>
