@@ -48,6 +48,8 @@ class Storage {
     [[nodiscard]] virtual bool exists(const std::string& path) = 0;
     /// Returns when a power failure can no longer bring it back.
     virtual void remove(const std::string& path) = 0;
+    /// The same of a file that is open and locked, and ends that: nobody else gets it in between, where the system can.
+    virtual void removeOpen(std::unique_ptr<File> file, const std::string& path) = 0;
     /// Waits a little because another program is in the way; false when it has been waited for long enough.
     [[nodiscard]] virtual bool wait(int earlierWaits) = 0;
 };

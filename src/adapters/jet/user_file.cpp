@@ -67,9 +67,7 @@ std::unique_ptr<UserFile> UserFile::open(Storage& storage) {
 
 UserFile::~UserFile() {
     try {
-        const bool last = file_->tryLock(File::Lock::exclusive);
-        if (last) storage_.remove(path_);
-        file_->unlock(File::Lock::none);
+        if (file_->tryLock(File::Lock::exclusive)) storage_.removeOpen(std::move(file_), path_);
     } catch (const std::exception&) {
         // It stays, as after a crash: the next program of ours takes it.
     }

@@ -2,6 +2,7 @@
 #include "adapters/sqlite/jet_storage.h"
 
 #include <algorithm>
+#include <filesystem>
 #include <new>
 #include <sqlite3.h>
 #include <vector>
@@ -130,6 +131,13 @@ bool JetStorage::exists(const std::string& path) {
 void JetStorage::remove(const std::string& path) {
     const int code = vfs_->xDelete(vfs_, path.c_str(), 1);
     if (code != SQLITE_IOERR_DELETE_NOENT) check(code);
+}
+
+// On Windows an open file cannot be removed, nor one that another has opened meanwhile.
+void JetStorage::removeOpen(std::unique_ptr<jet::File> file, const std::string& path) {
+    constexpr bool onWindows = std::filesystem::path::preferred_separator != '/';
+    if (onWindows) file.reset();
+    remove(path);
 }
 
 bool JetStorage::wait(int earlierWaits) { return wait_.again(earlierWaits); }

@@ -20,6 +20,7 @@ class JetStorage : public jet::Storage {
     [[nodiscard]] std::unique_ptr<jet::File> open(Kind kind, const std::string& path) override;
     [[nodiscard]] bool exists(const std::string& path) override;
     void remove(const std::string& path) override;
+    void removeOpen(std::unique_ptr<jet::File> file, const std::string& path) override;
     [[nodiscard]] bool wait(int earlierWaits) override;
 
     /// Throws unless the code is SQLITE_OK.
