@@ -77,12 +77,12 @@ void StudioWindow::settle() {
 void StudioWindow::click(const QString& caption) {
     auto& tree = *window_.findChild<QTreeView*>("projectExplorer");
     settle();
-    QModelIndex at = tree.model()->index(0, 0);
-    while (at.isValid() && at.data().toString() != caption) {
-        tree.expand(at);
-        at = tree.model()->index(0, 0, at);
-    }
-    require(at.isValid(), "a node of the explorer is missing");
+    const QAbstractItemModel& model = *tree.model();
+    const auto found =
+        model.match(model.index(0, 0), Qt::DisplayRole, caption, 1, Qt::MatchExactly | Qt::MatchRecursive);
+    require(!found.isEmpty(), "a node of the explorer is missing");
+    const QModelIndex at = found.constFirst();
+    tree.expand(at.parent());
     tree.scrollTo(at);
     clickAt(*tree.viewport(), tree.visualRect(at).center());
     settle();

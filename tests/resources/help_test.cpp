@@ -79,7 +79,8 @@ TEST(Help, KnowsTheTopicsByTheNumbersThatBothHelpFilesAreMadeWith) {
                                                        {"settings", settings},
                                                        {"messages", messages},
                                                        {"history", history},
-                                                       {"find", find}};
+                                                       {"find", find},
+                                                       {"variables", variables}};
     EXPECT_EQ(known, numbersIn(HX_HELP_FOLDER "/de/Rezeptsystem.hhp"));
     EXPECT_EQ(known, numbersIn(HX_HELP_FOLDER "/en/Rezeptsystem.hhp"));
 }
