@@ -29,7 +29,7 @@ class UseCounter {
     /// How many recipes use each.
     [[nodiscard]] std::vector<std::uint32_t> counts() {
         std::ranges::sort(pairs_);
-        pairs_.erase(std::ranges::unique(pairs_).begin(), pairs_.end());
+        pairs_.erase(std::unique(pairs_.begin(), pairs_.end()), pairs_.end());
         std::vector<std::uint32_t> ofName(variables_);
         for (const auto& [number, recipe] : pairs_) ++ofName[number];
         std::vector<std::uint32_t> counts;
